@@ -1,0 +1,182 @@
+#include "funclib/FuncGlobals.h"
+
+#include <cmath>
+
+#include "runtime/Numbers.h"
+
+namespace FuncGlobals {
+
+std::int16_t FunctionId = 0;
+CoefficientSet Coefficients;
+std::int16_t FunctionCount = 0;
+std::int16_t DerivativeCount = 0;
+std::int16_t DxFuncId = 0;
+std::int16_t DyFuncId = 0;
+std::int16_t XtFuncId = 0;
+std::int16_t YtFuncId = 0;
+rt::BoundedArray<std::string, 0, 20> FuncCaption;
+
+using rt::Chk;
+using rt::Div;
+using rt::Pow;
+
+const char* ExplicitCaption(int id)
+{
+    static constexpr const char* captions[ExplicitFamilyCount + 1] = {
+        "",
+        "y = A * (Bx - C)^2 + D",
+        "y = Ax^2 + Bx + C",
+        "y = A(Bx - C)^3 + D",
+        "y = Ax^3 + Bx^2 + Cx + D",
+        "y = A*Sin(Bx + C) + Dx + E",
+        "y = A*Cos(Bx + C) + Dx + E",
+        "y = A*Tan(Bx + C) + Dx + E",
+        "y = A*Ln(Bx + C) + D",
+        "y = A*e^(Bx + C) + D",
+        "y = A /(Bx + C) + D",
+        "y = A(Bx - C)^4 + D",
+        "y = Ax^4 + Bx^3 + Cx^2 + Dx + E",
+        "y = Ax * Sin(Bx + C) + Dx + E",
+        "y = A * x^B + C",
+        "y = A * B^x + C",
+    };
+    return id >= 1 && id <= ExplicitFamilyCount ? captions[id] : "";
+}
+
+double YFunc(const double& x)
+{
+    FunctionCount = 15;
+    const double A = Coefficients.A, B = Coefficients.B, C = Coefficients.C;
+    const double D = Coefficients.D, E = Coefficients.E;
+    switch (FunctionId) {
+    case 1: {
+        const double u = Chk(B * x - C);
+        return Chk(u * A * u + D);
+    }
+    case 2:
+        return Chk(A * x * x + B * x + C);
+    case 3: {
+        const double u = Chk(B * x - C);
+        return Chk(Pow(u, 3.0) * A + D);
+    }
+    case 4:
+        return Chk(Pow(x, 3.0) * A + B * x * x + C * x + D);
+    case 5: {
+        const double u = Chk(B * x + C);
+        return Chk(D * x + A * std::sin(u) + E);
+    }
+    case 6: {
+        const double u = Chk(B * x + C);
+        return Chk(D * x + A * std::cos(u) + E);
+    }
+    case 7: {
+        const double u = Chk(B * x + C);
+        return Chk(D * x + A * std::tan(u) + E);
+    }
+    case 8: {
+        const double u = Chk(B * x + C);
+        if (u <= 0.0)
+            return 0.0;
+        return Chk(A * std::log(u) + D);
+    }
+    case 9: {
+        const double u = Chk(B * x + C);
+        return Chk(A * Chk(std::exp(u)) + D);
+    }
+    case 10: {
+        const double u = Chk(B * x + C);
+        if (u == 0.0)
+            return 0.0;
+        return Chk(Div(A, u) + D);
+    }
+    case 11: {
+        const double u = Chk(B * x - C);
+        return Chk(Pow(u, 4.0) * A + D);
+    }
+    case 12: {
+        const double x3B = Chk(B * Pow(x, 3.0));
+        return Chk(Pow(x, 4.0) * A + x3B + C * x * x + D * x + E);
+    }
+    case 13: {
+        const double u = Chk(B * x + C);
+        return Chk(A * x * std::sin(u) + D * x + E);
+    }
+    case 14:
+        if (x <= 0.0 && (rt::Int(B) != B || B <= 0.0))
+            return 0.0;
+        return Chk(Pow(x, B) * A + C);
+    case 15:
+        if (B <= 0.0)
+            return 0.0;
+        return Chk(Pow(B, x) * A + C);
+    default:
+        return 0.0;
+    }
+}
+
+double YPrimeFunc(const double& x)
+{
+    DerivativeCount = 15;
+    const double A = Coefficients.A, B = Coefficients.B, C = Coefficients.C;
+    const double D = Coefficients.D;
+    switch (FunctionId) {
+    case 1:
+        return Chk((A + A) * B * Chk(B * x - C));
+    case 2:
+        return Chk((A + A) * x + B);
+    case 3:
+        return Chk(Pow(Chk(B * x - C), 2.0) * (A * 3 * B));
+    case 4:
+        return Chk(Pow(x, 2.0) * (A * 3) + (B + B) * x + C);
+    case 5: {
+        const double u = Chk(B * x + C);
+        return Chk(B * A * std::cos(u) + D);
+    }
+    case 6: {
+        const double u = Chk(B * x + C);
+        return Chk(B * A * (-1.0) * std::sin(u) + D);
+    }
+    case 7: {
+        const double u = Chk(B * x + C);
+        return Div(Chk(B * A), Pow(std::cos(u), 2.0));
+    }
+    case 8: {
+        const double u = Chk(B * x + C);
+        if (!(u > 0.0))
+            return 0.0;
+        return Div(Chk(B * A), u);
+    }
+    case 9: {
+        const double u = Chk(B * x + C);
+        return Chk(B * A * Chk(std::exp(u)));
+    }
+    case 10: {
+        const double u = Chk(B * x + C);
+        if (u == 0.0)
+            return 0.0;
+        return Div(Chk(A * (-1.0) * B), Pow(u, 2.0));
+    }
+    case 11:
+        return Chk(Pow(Chk(B * x - C), 3.0) * (B * A * 4));
+    case 12:
+        return Chk(Pow(x, 3.0) * (A * 4) + Pow(x, 2.0) * (B * 3) + (C + C) * x + D);
+    case 13: {
+        const double u = Chk(B * x + C);
+        return Chk(B * A * x * std::cos(u) + A * std::sin(u) + D);
+    }
+    case 14: {
+        const double e = Chk(B - 1.0);
+        if (rt::Int(e) != e && x <= 0.0)
+            return 0.0;
+        return Chk(Pow(x, e) * (B * A));
+    }
+    case 15:
+        if (!(B > 0.0))
+            return 0.0;
+        return Chk(Pow(B, x) * A * std::log(B));
+    default:
+        return 0.0;
+    }
+}
+
+}  // namespace FuncGlobals

@@ -1,0 +1,45 @@
+#pragma once
+// The function library: the catalogue of explicit families with their values and derivatives, and
+// the module state shared by every screen (the selected families and the one set of coefficients).
+// The rate families of the slope field and the parametric families keep their selectors here too.
+#include <cstdint>
+#include <string>
+
+#include "runtime/BoundedArray.h"
+
+namespace FuncGlobals {
+
+struct CoefficientSet {
+    double A = 0, B = 0, C = 0, D = 0, E = 0, F = 0;
+};
+
+// Number of the selected explicit family, 1 to 15; 0 before any family is chosen.
+extern std::int16_t FunctionId;
+// The program's one set of coefficients. Explicit families read A to E; rate and parametric
+// families read A to F.
+extern CoefficientSet Coefficients;
+// The number of explicit families; YFunc stores 15 here on every call.
+extern std::int16_t FunctionCount;
+// The counter YPrimeFunc keeps for itself (nothing reads it).
+extern std::int16_t DerivativeCount;
+// Selected rate families of the slope field and parametric families.
+extern std::int16_t DxFuncId;
+extern std::int16_t DyFuncId;
+extern std::int16_t XtFuncId;
+extern std::int16_t YtFuncId;
+// Captions of the explicit families shown by function menus and labels; 1 to 15 are used.
+extern rt::BoundedArray<std::string, 0, 20> FuncCaption;
+
+constexpr int ExplicitFamilyCount = 15;
+
+// The catalogue caption of explicit family id (1..15); "" for any other number.
+const char* ExplicitCaption(int id);
+
+// Value of the selected explicit family at x; 0 where the point is undefined or no family is
+// selected. Raises Overflow or Division by zero where the arithmetic fails.
+double YFunc(const double& x);
+
+// The exact derivative of the selected explicit family at x; 0 where it is undefined.
+double YPrimeFunc(const double& x);
+
+}  // namespace FuncGlobals

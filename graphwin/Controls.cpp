@@ -1,0 +1,201 @@
+#include "graphwin/Controls.h"
+
+#include <QAction>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+#include "graphwin/Dialogs.h"
+#include "runtime/Numbers.h"
+
+int buttonCode(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::LeftButton: return LeftButton;
+    case Qt::RightButton: return RightButton;
+    case Qt::MiddleButton: return MiddleButton;
+    default: return 0;
+    }
+}
+
+int shiftCode(Qt::KeyboardModifiers modifiers)
+{
+    return (modifiers & Qt::ShiftModifier ? 1 : 0) | (modifiers & Qt::ControlModifier ? 2 : 0) |
+           (modifiers & Qt::AltModifier ? 4 : 0);
+}
+
+TextBox::TextBox(QWidget* parent, const QString& text) : QLineEdit(text, parent)
+{
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (Change)
+            guarded(Change);
+    });
+}
+
+void TextBox::assign(const QString& text)
+{
+    if (text == this->text())
+        return;
+    {
+        QSignalBlocker block(this);
+        setText(text);
+    }
+    if (Change)
+        Change();
+}
+
+double TextBox::value() const { return rt::Val(text().toStdString()); }
+
+ClickLabel::ClickLabel(QWidget* parent, const QString& caption, bool stepper) : QLabel(caption, parent)
+{
+    if (stepper) {
+        setAutoFillBackground(true);
+        QPalette p = palette();
+        p.setColor(QPalette::Window, QColor(0xC0, 0xFF, 0xC0));
+        setPalette(p);
+        setAlignment(Qt::AlignCenter);
+    }
+}
+
+void ClickLabel::mousePressEvent(QMouseEvent* event)
+{
+    releaseEndsDoubleClick_ = false;
+    const int button = buttonCode(event->button());
+    const int shift = shiftCode(event->modifiers());
+    const double x = event->position().x() * 15, y = event->position().y() * 15;
+    if (MouseDown)
+        guarded([&] { MouseDown(button, shift, x, y); });
+}
+
+void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (releaseEndsDoubleClick_) {
+        releaseEndsDoubleClick_ = false;
+        return;
+    }
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && Click)
+        guarded(Click);
+}
+
+void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    releaseEndsDoubleClick_ = true;
+    if (event->button() == Qt::LeftButton && DblClick)
+        guarded(DblClick);
+}
+
+ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(orientation, parent)
+{
+    connect(this, &QAbstractSlider::valueChanged, this, [this](int v) {
+        if (isSliderDown()) {
+            if (Scroll)
+                guarded(Scroll);
+            return;
+        }
+        lastChangeValue_ = v;
+        if (Change)
+            guarded(Change);
+    });
+    connect(this, &QAbstractSlider::sliderReleased, this, [this] {
+        if (value() == lastChangeValue_)
+            return;
+        lastChangeValue_ = value();
+        if (Change)
+            guarded(Change);
+    });
+}
+
+void ScrollBar::setValueChecked(int v)
+{
+    if (v < minimum() || v > maximum())
+        rt::raise(rt::InvalidPropertyValue);
+    if (v == value())
+        return;
+    {
+        QSignalBlocker block(this);
+        setValue(v);
+    }
+    lastChangeValue_ = v;
+    if (Change)
+        Change();
+}
+
+void ScrollBar::setMax(int max)
+{
+    const int before = value();
+    {
+        QSignalBlocker block(this);
+        setMaximum(max);
+    }
+    if (value() != before) {
+        lastChangeValue_ = value();
+        if (Change)
+            Change();
+    }
+}
+
+void ScrollBar::setMin(int min)
+{
+    const int before = value();
+    {
+        QSignalBlocker block(this);
+        setMinimum(min);
+    }
+    if (value() != before) {
+        lastChangeValue_ = value();
+        if (Change)
+            Change();
+    }
+}
+
+CheckBox::CheckBox(QWidget* parent, const QString& caption) : QCheckBox(caption, parent)
+{
+    connect(this, &QAbstractButton::toggled, this, [this] {
+        if (Click)
+            guarded(Click);
+    });
+}
+
+void CheckBox::setValue(bool checked)
+{
+    if (checked == isChecked())
+        return;
+    {
+        QSignalBlocker block(this);
+        setChecked(checked);
+    }
+    if (Click)
+        Click();
+}
+
+OptionButton::OptionButton(QWidget* parent, const QString& caption) : QRadioButton(caption, parent)
+{
+    connect(this, &QAbstractButton::toggled, this, [this](bool on) {
+        if (on && Click)
+            guarded(Click);
+    });
+}
+
+void OptionButton::select()
+{
+    if (isChecked())
+        return;
+    {
+        QSignalBlocker block(this);
+        setChecked(true);
+    }
+    if (Click)
+        Click();
+}
+
+QPushButton* makeButton(QWidget* parent, const QString& caption, std::function<void()> click)
+{
+    auto* button = new QPushButton(caption, parent);
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button, [click = std::move(click)] { guarded(click); });
+    return button;
+}
+
+void onTriggered(QAction* action, std::function<void()> click)
+{
+    QObject::connect(action, &QAction::triggered, action, [click = std::move(click)] { guarded(click); });
+}

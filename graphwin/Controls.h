@@ -1,0 +1,93 @@
+#pragma once
+// Thin wrappers over the Qt controls that give them the classic events. A person's action reaches
+// the handler through the guarded entry point; the program's own write (`assign`, `setValue`, ...)
+// changes the control with Qt's signals blocked and then calls the handler itself, directly, so that
+// a run-time error travels on to the outermost handler of the event.
+#include <functional>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+
+class QAction;
+
+// Button codes and shift bits of the mouse handlers.
+enum MouseButtonCode { LeftButton = 1, RightButton = 2, MiddleButton = 4 };
+
+using MouseHandler = std::function<void(int Button, int Shift, double X, double Y)>;
+
+// The button code and shift state of a Qt mouse event.
+int buttonCode(Qt::MouseButton button);
+int shiftCode(Qt::KeyboardModifiers modifiers);
+
+class TextBox : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit TextBox(QWidget* parent, const QString& text = QString());
+    // The Change handler, run on every change of the text.
+    std::function<void()> Change;
+    // The program's write: sets the text and, when it differs, runs Change directly.
+    void assign(const QString& text);
+    void assign(const std::string& text) { assign(QString::fromStdString(text)); }
+    // Val of the text.
+    double value() const;
+};
+
+// A label with mouse events: MouseDown on a press, Click on the release of a left press over it,
+// DblClick on a double click (whose closing release raises nothing). A stepper label is light green.
+class ClickLabel : public QLabel {
+    Q_OBJECT
+public:
+    ClickLabel(QWidget* parent, const QString& caption, bool stepper = false);
+    MouseHandler MouseDown;
+    std::function<void()> Click;
+    std::function<void()> DblClick;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    bool releaseEndsDoubleClick_ = false;
+};
+
+class ScrollBar : public QScrollBar {
+    Q_OBJECT
+public:
+    ScrollBar(Qt::Orientation orientation, QWidget* parent);
+    std::function<void()> Change;  // arrow or trough click, release of the thumb, program's change
+    std::function<void()> Scroll;  // while the thumb is dragged
+    // The program's writes. Value outside Min..Max raises Invalid property value (380); a change of
+    // Min or Max that moves the value runs Change.
+    void setValueChecked(int value);
+    void setMax(int max);
+    void setMin(int min);
+
+private:
+    int lastChangeValue_ = 0;
+};
+
+class CheckBox : public QCheckBox {
+    Q_OBJECT
+public:
+    CheckBox(QWidget* parent, const QString& caption);
+    std::function<void()> Click;  // on every change of the value
+    void setValue(bool checked);
+};
+
+class OptionButton : public QRadioButton {
+    Q_OBJECT
+public:
+    OptionButton(QWidget* parent, const QString& caption);
+    std::function<void()> Click;  // when the button becomes selected
+    void select();
+};
+
+// A push button whose Click runs the handler through the guarded entry point.
+QPushButton* makeButton(QWidget* parent, const QString& caption, std::function<void()> click);
+// A menu entry whose Click runs the handler through the guarded entry point.
+void onTriggered(QAction* action, std::function<void()> click);

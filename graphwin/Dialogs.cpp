@@ -1,0 +1,79 @@
+#include "graphwin/Dialogs.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QWidget>
+
+namespace {
+
+DialogScript* activeScript = nullptr;
+std::function<void(int)> endHandler;
+
+QWidget* dialogParent()
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return QApplication::activeWindow();
+}
+
+}  // namespace
+
+void setDialogScript(DialogScript* script) { activeScript = script; }
+
+void MsgBox(const QString& prompt, const QString& title)
+{
+    if (activeScript) {
+        activeScript->shown.emplace_back(title, prompt);
+        return;
+    }
+    QMessageBox box(QMessageBox::NoIcon, title, prompt, QMessageBox::Ok, dialogParent());
+    box.exec();
+}
+
+QString InputBox(const QString& prompt, const QString& title, const QString& defaultText, double xTwips,
+                 double yTwips)
+{
+    if (activeScript) {
+        activeScript->shown.emplace_back(title, prompt);
+        if (activeScript->answers.empty())
+            return QString();
+        QString answer = activeScript->answers.front();
+        activeScript->answers.pop_front();
+        return answer;
+    }
+    QInputDialog dialog(dialogParent());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(defaultText);
+    if (xTwips >= 0 && yTwips >= 0)
+        dialog.move(static_cast<int>(xTwips / 15), static_cast<int>(yTwips / 15));
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    return dialog.textValue();
+}
+
+void reportRuntimeError(const rt::RuntimeError& error)
+{
+    const QString text = QStringLiteral("Run-time error '%1':\n\n%2").arg(error.number()).arg(QString::fromUtf8(error.what()));
+    if (activeScript) {
+        activeScript->shown.emplace_back(QStringLiteral("Plotto"), text);
+        activeScript->errors.push_back(error.number());
+        return;
+    }
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Plotto"), text, QMessageBox::Ok, dialogParent());
+    box.exec();
+    endProgram(1);
+}
+
+void endProgram(int exitCode)
+{
+    if (endHandler) {
+        endHandler(exitCode);
+        return;
+    }
+    QApplication::closeAllWindows();
+    QCoreApplication::exit(exitCode);  // leaves every nested event loop as well as the main one
+}
+
+void setProgramEndHandler(std::function<void(int)> handler) { endHandler = std::move(handler); }

@@ -1,0 +1,52 @@
+#pragma once
+// Message boxes, input boxes and the program's one report of an uncaught run-time error.
+// Everything a person does enters the program through `guarded`, which is where an uncaught
+// run-time error is reported and the program ended.
+#include <deque>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include <QString>
+
+#include "runtime/RuntimeError.h"
+
+// A script that stands in for the real dialogs (tests): every box shown is recorded as
+// (title, prompt), input boxes are answered from `answers` (empty text once it runs out), and the
+// number of every run-time error that reaches the report is recorded instead of ending the program.
+struct DialogScript {
+    std::vector<std::pair<QString, QString>> shown;
+    std::deque<QString> answers;
+    std::vector<int> errors;
+};
+
+void setDialogScript(DialogScript* script);
+
+// A modal message box with an OK button only.
+void MsgBox(const QString& prompt, const QString& title);
+
+// A modal input box; returns the typed text, or "" on Cancel. A negative position centres it.
+QString InputBox(const QString& prompt, const QString& title, const QString& defaultText = QString(),
+                 double xTwips = -1, double yTwips = -1);
+
+// Shows "Run-time error 'N':", a blank line and the message, then ends the program (with a script
+// set, records the box and the number and returns).
+void reportRuntimeError(const rt::RuntimeError& error);
+
+// Ends the program at once: every window closes and the event loops return.
+void endProgram(int exitCode);
+
+// Replaces what endProgram does (tests); nullptr restores the real ending.
+void setProgramEndHandler(std::function<void(int)> handler);
+
+// The one entry point of every user action: runs the handler and reports an uncaught run-time
+// error. Run-time errors never travel through the toolkit's own frames.
+template <class Handler>
+void guarded(Handler&& handler)
+{
+    try {
+        handler();
+    } catch (const rt::RuntimeError& error) {
+        reportRuntimeError(error);
+    }
+}

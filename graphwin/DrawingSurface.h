@@ -1,0 +1,96 @@
+#pragma once
+// The client area of a screen, addressed in twips (x to the right, y downwards, 15 twips to a
+// logical pixel). Everything drawn is kept in a backing image until the next Cls. Lines and points
+// are set straight into the image; only text and circles go through a painter.
+#include <functional>
+#include <vector>
+
+#include <QFont>
+#include <QImage>
+#include <QString>
+#include <QWidget>
+
+#include "graphwin/Controls.h"
+
+struct DrawOp {
+    enum Kind { Line, PSet, Circle, Text } kind;
+    double x1, y1, x2, y2;
+    QRgb color;
+    int width;
+    QString text;
+};
+
+// 0xRRGGBB (as the run time's colours are written) to an opaque QRgb.
+inline QRgb rgbColor(std::uint32_t rgb) { return 0xFF000000u | rgb; }
+
+class DrawingSurface : public QWidget {
+    Q_OBJECT
+public:
+    DrawingSurface(double widthTwips, double heightTwips, QWidget* parent = nullptr);
+
+    // Clears the whole surface to the background colour and moves the current point to (0, 0).
+    void Cls();
+    // A line between two points, both ends included; the current point moves to the second.
+    void Line(double x1, double y1, double x2, double y2, QRgb color);
+    // A line from (x1, y1) by the offset (dx, dy).
+    void LineStep(double x1, double y1, double dx, double dy, QRgb color) { Line(x1, y1, x1 + dx, y1 + dy, color); }
+    // The pixel under a twip point, as wide as the drawing width; the current point moves there.
+    void PSet(double x, double y, QRgb color);
+    // A circle outline of radius r twips around (x, y).
+    void Circle(double x, double y, double r, QRgb color);
+    // Text at the current point, top left. With newline the current point goes to the start of the
+    // next line (x = 0); otherwise it moves to the end of the text.
+    void Print(const QString& text, bool newline = true);
+    double TextWidth(const QString& text) const;
+    double TextHeight(const QString& text) const;
+
+    double CurrentX = 0;
+    double CurrentY = 0;
+    QRgb ForeColor = 0xFF000000u;
+    QRgb BackColor = 0xFFFFFFFFu;
+
+    int drawWidth() const { return drawWidth_; }
+    void setDrawWidth(int width);
+    void setFontSize(double points);
+    void setFontUnderline(bool underline);
+    QFont textFont() const { return font_; }
+
+    // Recording of every operation since the last Cls (tests and tools).
+    void setRecording(bool on) { recording_ = on; }
+    const std::vector<DrawOp>& ops() const { return ops_; }
+
+    // The colour shown at a twip point now.
+    QRgb pixel(double xTwips, double yTwips) const;
+    // Repaints at once (the animation shows each frame as it is drawn).
+    void refreshNow();
+
+    double widthTwips() const { return widthTwips_; }
+    double heightTwips() const { return heightTwips_; }
+
+    MouseHandler MouseDown;
+    MouseHandler MouseMove;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    void plot(long px, long py, QRgb color);
+    void rasterLine(double x1, double y1, double x2, double y2, QRgb color);
+    void record(DrawOp::Kind kind, double x1, double y1, double x2, double y2, QRgb color, const QString& text = {});
+    void touched();
+    QFont scaledFont() const;
+
+    double widthTwips_, heightTwips_;
+    double scale_;  // device pixels per logical pixel
+    QImage image_;
+    QRgb* bits_ = nullptr;
+    long stride_ = 0, widthPx_ = 0, heightPx_ = 0;
+    int drawWidth_ = 1;
+    int penPx_ = 1;  // drawing width in device pixels
+    QFont font_;
+    bool recording_ = false;
+    bool dirty_ = false;
+    std::vector<DrawOp> ops_;
+};

@@ -1,0 +1,429 @@
+#include "graphwin/GraphScreen.h"
+
+#include <cmath>
+
+#include <QAction>
+#include <QFrame>
+#include <QMenu>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
+
+namespace {
+
+constexpr double kBoxWidth = 600, kBoxHeight = 300, kArrowWidth = 180;
+constexpr const char* kCoefficientNames = "ABCDEF";
+
+}  // namespace
+
+void placeTwips(QWidget* widget, double left, double top, double width, double height)
+{
+    widget->setGeometry(static_cast<int>(std::lround(left / 15)), static_cast<int>(std::lround(top / 15)),
+                        static_cast<int>(std::lround(width / 15)), static_cast<int>(std::lround(height / 15)));
+}
+
+GraphScreen::GraphScreen(Config config) : config_(std::move(config))
+{
+    setWindowTitle(config_.caption);
+    setFont(QFont(QStringLiteral("Times New Roman"), 10));
+
+    surface = new DrawingSurface(config_.surfaceWidth, config_.surfaceHeight, this);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    menuBar = new QMenuBar(this);
+    layout->setMenuBar(menuBar);
+    layout->addWidget(surface);
+
+    auto* square = new QFrame(surface);
+    square->setFrameStyle(QFrame::Box | QFrame::Plain);
+    square->setAttribute(Qt::WA_TransparentForMouseEvents);
+    placeTwips(square, config_.squareLeft, 100, 6405, 6405);
+    shpSquare = square;
+
+    buildLimits();
+    buildCoefficients();
+    buildButtons();
+    buildMenus();
+}
+
+GraphScreen::~GraphScreen() = default;
+
+ClickLabel* GraphScreen::makeLabel(const QString& caption, double left, double top, double width, double height)
+{
+    auto* label = new ClickLabel(surface, caption);
+    placeTwips(label, left, top, width, height);
+    return label;
+}
+
+void GraphScreen::buildLimits()
+{
+    const double L = config_.squareLeft;
+    auto makeLimit = [this](const char* text, double left, double top, ClickLabel*& lower, ClickLabel*& upper) {
+        auto* box = new TextBox(surface, QString::fromLatin1(text));
+        placeTwips(box, left, top, kBoxWidth, kBoxHeight);
+        lower = new ClickLabel(surface, QStringLiteral("<"), true);
+        placeTwips(lower, left - kArrowWidth, top, kArrowWidth, kBoxHeight);
+        upper = new ClickLabel(surface, QStringLiteral(">"), true);
+        placeTwips(upper, left + kBoxWidth, top, kArrowWidth, kBoxHeight);
+        return box;
+    };
+    txtXmin = makeLimit("-10", L - 240, 3240, lblXminL, lblXminR);
+    txtXmax = makeLimit("10", L + 6240, 3240, lblXmaxL, lblXmaxR);
+    txtYmin = makeLimit("-10", L + 2880, 6360, lblYminL, lblYminR);
+    txtYmax = makeLimit("10", L + 3000, 0, lblYmaxL, lblYmaxR);
+
+    txtXmin->Change = [this] { txtXmin_Change(); };
+    txtXmax->Change = [this] { txtXmax_Change(); };
+    txtYmin->Change = [this] { txtYmin_Change(); };
+    txtYmax->Change = [this] { txtYmax_Change(); };
+    lblXminL->Click = [this] { lblXminL_Click(); };
+    lblXminR->Click = [this] { lblXminR_Click(); };
+    lblXmaxL->Click = [this] { lblXmaxL_Click(); };
+    lblXmaxR->Click = [this] { lblXmaxR_Click(); };
+    lblYminL->Click = [this] { lblYminL_Click(); };
+    lblYminR->Click = [this] { lblYminR_Click(); };
+    lblYmaxL->Click = [this] { lblYmaxL_Click(); };
+    lblYmaxR->Click = [this] { lblYmaxR_Click(); };
+    lblXminL->DblClick = [this] { lblXminL_DblClick(); };
+    lblXminR->DblClick = [this] { lblXminR_DblClick(); };
+    lblXmaxL->DblClick = [this] { lblXmaxL_DblClick(); };
+    lblXmaxR->DblClick = [this] { lblXmaxR_DblClick(); };
+    lblYminL->DblClick = [this] { lblYminL_DblClick(); };
+    lblYminR->DblClick = [this] { lblYminR_DblClick(); };
+    lblYmaxL->DblClick = [this] { lblYmaxL_DblClick(); };
+    lblYmaxR->DblClick = [this] { lblYmaxR_DblClick(); };
+}
+
+void GraphScreen::buildCoefficients()
+{
+    lblVariables = makeLabel(QStringLiteral("Variables"), 120, 600, 1455, 300);
+    lblVariables->setAlignment(Qt::AlignCenter);
+    TextBox** boxes[6] = {&txtA, &txtB, &txtC, &txtD, &txtE, &txtF};
+    ClickLabel** labels[6] = {&lblA, &lblB, &lblC, &lblD, &lblE, &lblF};
+    for (int i = 0; i < config_.coefficientCount; ++i) {
+        const double top = 960 + 360 * i;
+        auto* box = new TextBox(surface, QString::fromLatin1(config_.coefficientDefaults[i]));
+        placeTwips(box, 840, top, 1215, kBoxHeight);
+        box->Change = [this, i] { coefficientEdited(i); };
+        auto* label = new ClickLabel(surface, QStringLiteral("%1=").arg(QChar::fromLatin1(kCoefficientNames[i])), true);
+        placeTwips(label, 240, top, 495, kBoxHeight);
+        label->MouseDown = [this, i](int Button, int, double, double) { stepCoefficient(i, Button); };
+        *boxes[i] = box;
+        *labels[i] = label;
+    }
+    if (config_.functionMenu) {
+        lblFunc = makeLabel(config_.functionLabelCaption, 120, 960 + 360 * config_.coefficientCount + 120, 1800, 660);
+        lblFunc->setWordWrap(true);
+        lblFunc->setAlignment(Qt::AlignCenter);
+        lblFunc->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        lblFunc->MouseDown = [this](int Button, int Shift, double X, double Y) { lblFunc_MouseDown(Button, Shift, X, Y); };
+    }
+}
+
+void GraphScreen::buildButtons()
+{
+    const double left = config_.squareLeft + 6400 + 600, width = config_.surfaceWidth - left - 120;
+    auto button = [&](const QString& caption, double top, std::function<void()> click) {
+        QPushButton* b = makeButton(surface, caption, std::move(click));
+        placeTwips(b, left, top, width, 420);
+        return b;
+    };
+    cmdPlotto = button(config_.plotCaption, 600, [this] { cmdPlotto_Click(); });
+    cmdClean = button(config_.cleanCaption, 1200, [this] { cmdClean_Click(); });
+    cmdZoomIn = button(config_.zoomCaption, 1800, [this] { cmdZoomIn_Click(); });
+    cmdSetDefault = button(config_.defaultsCaption, 2400, [this] { cmdSetDefault_Click(); });
+    cmdExit = button(QStringLiteral("E&xit"), 6000, [this] { cmdExit_Click(); });
+}
+
+QMenu* GraphScreen::addMenu(const QString& caption) { return menuBar->addMenu(caption); }
+
+void GraphScreen::buildMenus()
+{
+    QMenu* file = addMenu(QStringLiteral("&File"));
+    mnuFile = file->menuAction();
+    mnuAbout = file->addAction(QStringLiteral("&About"));
+    sep1 = file->addSeparator();
+    mnuExit = file->addAction(QStringLiteral("E&xit"));
+    onTriggered(mnuAbout, [this] { mnuAbout_Click(); });
+    onTriggered(mnuExit, [this] { mnuExit_Click(); });
+    if (config_.functionMenu) {
+        QMenu* select = addMenu(config_.functionMenuCaption);
+        mnuSelect = select->menuAction();
+        QAction* design = select->addAction(QStringLiteral("-"));
+        design->setVisible(false);
+        mnuFunc.push_back(design);
+    }
+}
+
+void GraphScreen::loadFunctionMenu()
+{
+    using namespace FuncGlobals;
+    FunctionId = 1;
+    FunctionCount = 15;
+    for (int i = 1; i <= ExplicitFamilyCount; ++i)
+        FuncCaption[i] = ExplicitCaption(i);
+    QMenu* select = mnuSelect->menu();
+    for (int i = 1; i <= ExplicitFamilyCount; ++i) {
+        if (static_cast<int>(mnuFunc.size()) <= i) {
+            QAction* entry = select->addAction(QString());
+            onTriggered(entry, [this, i] { mnuFunc_Click(i); });
+            mnuFunc.push_back(entry);
+        }
+        mnuFunc[i]->setText(QString::fromStdString(FuncCaption[i]));
+    }
+}
+
+void GraphScreen::Form_Load()
+{
+    if (config_.functionMenu)
+        loadFunctionMenu();
+}
+
+void GraphScreen::Form_Activate()
+{
+    CleanGraph();
+    for (int i = 0; i < config_.coefficientCount; ++i)
+        copyCoefficient(i);
+}
+
+void GraphScreen::CleanGraph()
+{
+    using rt::Chk;
+    using rt::Div;
+    using rt::Int;
+    const QRgb black = rgbColor(rt::QBColor(0));
+    const double L = config_.squareLeft;
+    surface->Cls();
+
+    const double xmin = txtXmin->value();
+    graph.XRange = Chk(txtXmax->value() - xmin);
+    graph.XOrigin = rt::CLng(Int(Chk(L - Div(Chk(xmin * 6400), graph.XRange))));
+    const double ymin = txtYmin->value(), ymax = txtYmax->value();
+    graph.YRange = Chk(ymax - ymin);
+    graph.YOrigin = rt::CLng(Int(Chk(Div(Chk(ymax * 6400), graph.YRange) + 100)));
+
+    // The counted tick loops run with a 16-bit counter from the start down to the edge. A step of 0
+    // (a range wider than 6400) would draw the same tick for ever; one pass draws the same picture.
+    auto ticks = [](std::int16_t start, std::int16_t step, int edge, auto&& draw) {
+        for (int t = start; t >= edge; t += step) {
+            draw(t);
+            if (step == 0)
+                break;
+        }
+    };
+
+    if (txtXmin->value() <= 0 && txtXmax->value() >= 0) {
+        if (graph.YRange > 1) {
+            const std::int16_t step = rt::CInt(-Int(Div(6400, graph.YRange)));
+            const std::int16_t start =
+                rt::CInt(graph.YOrigin - Int(Div(Chk(Int(txtYmin->value()) * 6400), graph.YRange)));
+            ticks(start, step, 100, [&](int ty) {
+                surface->LineStep(graph.XOrigin - GraphWindow::TickHalf, ty, 2 * GraphWindow::TickHalf, 0, black);
+            });
+        }
+        surface->LineStep(graph.XOrigin, 101, 0, 6399, black);
+    }
+    if (txtYmin->value() <= 0 && txtYmax->value() >= 0) {
+        if (graph.XRange > 1) {
+            const std::int16_t step = rt::CInt(-Int(Div(6400, graph.XRange)));
+            const std::int16_t start =
+                rt::CInt(Chk(Int(Div(Chk(Int(txtXmax->value()) * 6400), graph.XRange)) + graph.XOrigin));
+            ticks(start, step, config_.squareLeft, [&](int tx) {
+                surface->LineStep(tx, graph.YOrigin - GraphWindow::TickHalf, 0, 2 * GraphWindow::TickHalf, black);
+            });
+        }
+        surface->LineStep(L + 1, graph.YOrigin, 6399, 0, black);
+    }
+}
+
+void GraphScreen::plotFunction()
+{
+    const int first = config_.squareLeft + 1, last = config_.squareLeft + 6399;
+    QRgb colour = 0;
+    bool haveColour = false;
+    for (int c = first; c <= last; ++c) {
+        const double x = graph.worldX(c);
+        const double y = FuncGlobals::YFunc(x);
+        const double ty = rt::Chk(graph.YOrigin - rt::Div(rt::Chk(y * 6400), graph.YRange));
+        if (ty >= 100 && ty <= 6500) {
+            if (!haveColour) {
+                colour = rgbColor(rt::QBColor(rt::Mod(FuncGlobals::FunctionId, 7)));
+                haveColour = true;
+            }
+            surface->PSet(c, ty, colour);
+        }
+    }
+}
+
+void GraphScreen::cmdPlotto_Click() { plotFunction(); }
+
+void GraphScreen::cmdClean_Click() { CleanGraph(); }
+
+void GraphScreen::limitChanged(TextBox* minBox, TextBox* maxBox)
+{
+    if (config_.validatingLimits && minBox->value() >= maxBox->value()) {
+        MsgBox(QStringLiteral("You graphing window is compromised.  It will be reset to the defaults."),
+               QStringLiteral("Error"));
+        cmdSetDefault_Click();
+        return;
+    }
+    CleanGraph();
+}
+
+void GraphScreen::txtXmin_Change() { limitChanged(txtXmin, txtXmax); }
+void GraphScreen::txtXmax_Change() { limitChanged(txtXmin, txtXmax); }
+void GraphScreen::txtYmin_Change() { limitChanged(txtYmin, txtYmax); }
+void GraphScreen::txtYmax_Change() { limitChanged(txtYmin, txtYmax); }
+
+void GraphScreen::stepLimit(TextBox* box, double delta, bool narrows, TextBox* minBox, TextBox* maxBox)
+{
+    if (narrows && config_.validatingLimits && !(minBox->value() + std::fabs(delta) < maxBox->value()))
+        return;
+    box->assign(rt::CStr(rt::Chk(box->value() + delta)));
+}
+
+void GraphScreen::lblXminL_Click() { stepLimit(txtXmin, -1, false, txtXmin, txtXmax); }
+void GraphScreen::lblXminR_Click() { stepLimit(txtXmin, 1, true, txtXmin, txtXmax); }
+void GraphScreen::lblXmaxL_Click() { stepLimit(txtXmax, -1, true, txtXmin, txtXmax); }
+void GraphScreen::lblXmaxR_Click() { stepLimit(txtXmax, 1, false, txtXmin, txtXmax); }
+void GraphScreen::lblYminL_Click() { stepLimit(txtYmin, -1, false, txtYmin, txtYmax); }
+void GraphScreen::lblYminR_Click() { stepLimit(txtYmin, 1, true, txtYmin, txtYmax); }
+void GraphScreen::lblYmaxL_Click() { stepLimit(txtYmax, -1, true, txtYmin, txtYmax); }
+void GraphScreen::lblYmaxR_Click() { stepLimit(txtYmax, 1, false, txtYmin, txtYmax); }
+void GraphScreen::lblXminL_DblClick() { stepLimit(txtXmin, -4, false, txtXmin, txtXmax); }
+void GraphScreen::lblXminR_DblClick() { stepLimit(txtXmin, 4, true, txtXmin, txtXmax); }
+void GraphScreen::lblXmaxL_DblClick() { stepLimit(txtXmax, -4, true, txtXmin, txtXmax); }
+void GraphScreen::lblXmaxR_DblClick() { stepLimit(txtXmax, 4, false, txtXmin, txtXmax); }
+void GraphScreen::lblYminL_DblClick() { stepLimit(txtYmin, -4, false, txtYmin, txtYmax); }
+void GraphScreen::lblYminR_DblClick() { stepLimit(txtYmin, 4, true, txtYmin, txtYmax); }
+void GraphScreen::lblYmaxL_DblClick() { stepLimit(txtYmax, -4, true, txtYmin, txtYmax); }
+void GraphScreen::lblYmaxR_DblClick() { stepLimit(txtYmax, 4, false, txtYmin, txtYmax); }
+
+void GraphScreen::zoomLimits()
+{
+    using rt::Chk;
+    using rt::CStr;
+    if (config_.zoom == Zoom::TowardsOrigin) {
+        for (TextBox* box : {txtXmin, txtXmax, txtYmin, txtYmax})
+            box->assign(CStr(box->value() / 2));
+        return;
+    }
+    const double xrange = Chk(txtXmax->value() - txtXmin->value());
+    txtXmin->assign(CStr(Chk(txtXmin->value() + xrange / 4)));
+    txtXmax->assign(CStr(Chk(txtXmax->value() - xrange / 4)));
+    const double yrange = Chk(txtYmax->value() - txtYmin->value());
+    txtYmin->assign(CStr(Chk(txtYmin->value() + yrange / 4)));
+    txtYmax->assign(CStr(Chk(txtYmax->value() - yrange / 4)));
+}
+
+void GraphScreen::cmdZoomIn_Click()
+{
+    zoomLimits();
+    CleanGraph();
+    cmdPlotto_Click();
+}
+
+void GraphScreen::writeDefaultLimits()
+{
+    txtXmin->assign(QStringLiteral("-10"));
+    txtXmax->assign(QStringLiteral("10"));
+    txtYmin->assign(QStringLiteral("-10"));
+    txtYmax->assign(QStringLiteral("10"));
+}
+
+void GraphScreen::cmdSetDefault_Click()
+{
+    writeDefaultLimits();
+    CleanGraph();
+    cmdPlotto_Click();
+}
+
+TextBox* GraphScreen::coefficientBox(int index) const
+{
+    TextBox* const boxes[6] = {txtA, txtB, txtC, txtD, txtE, txtF};
+    return index >= 0 && index < 6 ? boxes[index] : nullptr;
+}
+
+void GraphScreen::copyCoefficient(int index)
+{
+    TextBox* box = coefficientBox(index);
+    if (!box)
+        return;
+    double* const targets[6] = {&FuncGlobals::Coefficients.A, &FuncGlobals::Coefficients.B,
+                              &FuncGlobals::Coefficients.C, &FuncGlobals::Coefficients.D,
+                              &FuncGlobals::Coefficients.E, &FuncGlobals::Coefficients.F};
+    *targets[index] = box->value();
+}
+
+void GraphScreen::coefficientEdited(int index)
+{
+    if (!coefficientBox(index))
+        return;
+    copyCoefficient(index);
+    coefficientChanged(index);
+}
+
+void GraphScreen::coefficientChanged(int) {}
+
+void GraphScreen::stepCoefficient(int index, int Button)
+{
+    TextBox* box = coefficientBox(index);
+    if (!box)
+        return;
+    if (Button == LeftButton)
+        box->assign(rt::CStr(rt::Chk(box->value() + 1)));
+    else if (Button == RightButton)
+        box->assign(rt::CStr(rt::Chk(box->value() - 1)));
+}
+
+void GraphScreen::txtA_Change() { coefficientEdited(0); }
+void GraphScreen::txtB_Change() { coefficientEdited(1); }
+void GraphScreen::txtC_Change() { coefficientEdited(2); }
+void GraphScreen::txtD_Change() { coefficientEdited(3); }
+void GraphScreen::txtE_Change() { coefficientEdited(4); }
+void GraphScreen::txtF_Change() { coefficientEdited(5); }
+void GraphScreen::lblA_MouseDown(int Button, int, double, double) { stepCoefficient(0, Button); }
+void GraphScreen::lblB_MouseDown(int Button, int, double, double) { stepCoefficient(1, Button); }
+void GraphScreen::lblC_MouseDown(int Button, int, double, double) { stepCoefficient(2, Button); }
+void GraphScreen::lblD_MouseDown(int Button, int, double, double) { stepCoefficient(3, Button); }
+void GraphScreen::lblE_MouseDown(int Button, int, double, double) { stepCoefficient(4, Button); }
+void GraphScreen::lblF_MouseDown(int Button, int, double, double) { stepCoefficient(5, Button); }
+
+void GraphScreen::lblFunc_MouseDown(int Button, int, double, double)
+{
+    using namespace FuncGlobals;
+    if (Button == LeftButton)
+        FunctionId = rt::CInt(rt::Mod(FunctionId + 1, FunctionCount));
+    else if (Button == RightButton)
+        FunctionId = rt::CInt(rt::Mod(FunctionId - 1, FunctionCount));
+    else
+        return;
+    if (FunctionId == 0)
+        FunctionId = FunctionCount;
+    mnuFunc_Click(FunctionId);
+}
+
+void GraphScreen::mnuFunc_Click(int Index)
+{
+    using namespace FuncGlobals;
+    FunctionId = rt::CInt(Index);
+    const std::string& caption = FuncCaption[FunctionId];
+    if (lblFunc)
+        lblFunc->setText(QString::fromStdString(caption));
+}
+
+void GraphScreen::showHelp(std::initializer_list<std::pair<const char*, const char*>> boxes)
+{
+    for (const auto& [title, text] : boxes)
+        MsgBox(QString::fromUtf8(text), QString::fromUtf8(title));
+}
+
+void GraphScreen::cmdExit_Click() { mnuExit_Click(); }
+
+void GraphScreen::mnuExit_Click() { hide(); }

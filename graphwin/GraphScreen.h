@@ -1,0 +1,165 @@
+#pragma once
+// The machinery every demonstration screen shares: the graph square with its window mapping, axes
+// and ticks, the plot of the selected explicit family, the four limit boxes with their arrow labels,
+// zoom and defaults, the coefficient panel and the function menu with its cycling label.
+// Screens differ only in the documented ways, which the Config states; a screen adds its own
+// controls and overrides the handlers whose behaviour it changes.
+#include <array>
+#include <cstdint>
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+#include <QDialog>
+#include <QString>
+
+#include "graphwin/Controls.h"
+#include "graphwin/DrawingSurface.h"
+#include "graphwin/GraphWindow.h"
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+// Places a widget at a position and size given in twips.
+void placeTwips(QWidget* widget, double left, double top, double width, double height);
+
+class GraphScreen : public QDialog {
+    Q_OBJECT
+public:
+    enum class Zoom { AboutCentre, TowardsOrigin };
+
+    struct Config {
+        QString caption;
+        double surfaceWidth = 11235;
+        double surfaceHeight = 7140;
+        int squareLeft = 2400;
+        Zoom zoom = Zoom::AboutCentre;
+        bool validatingLimits = false;  // refuse a window whose minimum is not below its maximum
+        int coefficientCount = 5;       // 5 (A to E) or 6 (A to F)
+        std::array<const char*, 6> coefficientDefaults{"1", "1", "0", "0", "0", "0"};
+        bool functionMenu = true;  // the explicit families' menu and function label
+        QString functionMenuCaption = QStringLiteral("&Select Function");
+        QString functionLabelCaption = QStringLiteral("y = A(Bx - C)^2 + D");
+        QString plotCaption = QStringLiteral("&Plotto!");
+        QString cleanCaption = QStringLiteral("&Erase Graph");
+        QString zoomCaption = QStringLiteral("&Zoom In");
+        QString defaultsCaption = QStringLiteral("&Reset to Default");
+    };
+
+    ~GraphScreen() override;
+
+    // The drawing surface (the window's client area) and the square's frame.
+    DrawingSurface* surface = nullptr;
+    QWidget* shpSquare = nullptr;
+    GraphWindow graph;
+
+    // Window limits and their arrow labels.
+    TextBox *txtXmin = nullptr, *txtXmax = nullptr, *txtYmin = nullptr, *txtYmax = nullptr;
+    ClickLabel *lblXminL = nullptr, *lblXminR = nullptr, *lblXmaxL = nullptr, *lblXmaxR = nullptr;
+    ClickLabel *lblYminL = nullptr, *lblYminR = nullptr, *lblYmaxL = nullptr, *lblYmaxR = nullptr;
+
+    // Coefficient panel; txtF and lblF exist only on screens with six coefficients.
+    ClickLabel* lblVariables = nullptr;
+    TextBox *txtA = nullptr, *txtB = nullptr, *txtC = nullptr, *txtD = nullptr, *txtE = nullptr, *txtF = nullptr;
+    ClickLabel *lblA = nullptr, *lblB = nullptr, *lblC = nullptr, *lblD = nullptr, *lblE = nullptr, *lblF = nullptr;
+    ClickLabel* lblFunc = nullptr;
+
+    QPushButton *cmdPlotto = nullptr, *cmdClean = nullptr, *cmdZoomIn = nullptr, *cmdSetDefault = nullptr;
+    QPushButton* cmdExit = nullptr;
+
+    QMenuBar* menuBar = nullptr;
+    QAction *mnuFile = nullptr, *mnuAbout = nullptr, *sep1 = nullptr, *mnuExit = nullptr;
+    QAction* mnuSelect = nullptr;
+    std::vector<QAction*> mnuFunc;  // index 0 is the design entry; 1 to 15 the families
+
+    // Graph window and plotting.
+    virtual void CleanGraph();
+    virtual void cmdPlotto_Click();
+    void cmdClean_Click();
+
+    // Window limits.
+    void txtXmin_Change();
+    void txtXmax_Change();
+    void txtYmin_Change();
+    void txtYmax_Change();
+    void lblXminL_Click();
+    void lblXminR_Click();
+    void lblXmaxL_Click();
+    void lblXmaxR_Click();
+    void lblYminL_Click();
+    void lblYminR_Click();
+    void lblYmaxL_Click();
+    void lblYmaxR_Click();
+    void lblXminL_DblClick();
+    void lblXminR_DblClick();
+    void lblXmaxL_DblClick();
+    void lblXmaxR_DblClick();
+    void lblYminL_DblClick();
+    void lblYminR_DblClick();
+    void lblYmaxL_DblClick();
+    void lblYmaxR_DblClick();
+    virtual void cmdZoomIn_Click();
+    virtual void cmdSetDefault_Click();
+
+    // Coefficient panel and function menu.
+    void txtA_Change();
+    void txtB_Change();
+    void txtC_Change();
+    void txtD_Change();
+    void txtE_Change();
+    void txtF_Change();
+    void lblA_MouseDown(int Button, int Shift, double X, double Y);
+    void lblB_MouseDown(int Button, int Shift, double X, double Y);
+    void lblC_MouseDown(int Button, int Shift, double X, double Y);
+    void lblD_MouseDown(int Button, int Shift, double X, double Y);
+    void lblE_MouseDown(int Button, int Shift, double X, double Y);
+    void lblF_MouseDown(int Button, int Shift, double X, double Y);
+    void lblFunc_MouseDown(int Button, int Shift, double X, double Y);
+    virtual void mnuFunc_Click(int Index);
+
+    // Life of the screen.
+    virtual void Form_Load();
+    virtual void Form_Activate();
+    virtual void mnuAbout_Click() = 0;
+    void cmdExit_Click();
+    void mnuExit_Click();
+
+protected:
+    explicit GraphScreen(Config config);
+
+    const Config& config() const { return config_; }
+    int squareLeft() const { return config_.squareLeft; }
+
+    // The explicit family's plot over the square's columns, in QBColor(FunctionId mod 7).
+    void plotFunction();
+    // Fills the function captions and the menu, and selects a family.
+    void loadFunctionMenu();
+    // Writes the default limits "-10", "10", "-10", "10".
+    void writeDefaultLimits();
+    // Moves the four limits as the screen's zoom does (each write fires its box's Change).
+    void zoomLimits();
+    // Runs after the program or a person changed coefficient box `index` (0 = A) and the coefficient
+    // was copied; a screen that must react to it overrides this.
+    virtual void coefficientChanged(int index);
+    // Shows a help sequence of (title, text) message boxes.
+    void showHelp(std::initializer_list<std::pair<const char*, const char*>> boxes);
+    // Adds a top-level menu to the menu bar.
+    QMenu* addMenu(const QString& caption);
+    // A plain label on the surface.
+    ClickLabel* makeLabel(const QString& caption, double left, double top, double width, double height);
+
+private:
+    void buildLimits();
+    void buildCoefficients();
+    void buildButtons();
+    void buildMenus();
+    void limitChanged(TextBox* minBox, TextBox* maxBox);
+    void stepLimit(TextBox* box, double delta, bool narrows, TextBox* minBox, TextBox* maxBox);
+    void copyCoefficient(int index);
+    void coefficientEdited(int index);
+    void stepCoefficient(int index, int Button);
+    TextBox* coefficientBox(int index) const;
+
+    Config config_;
+};

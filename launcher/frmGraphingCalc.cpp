@@ -1,0 +1,86 @@
+#include "launcher/frmGraphingCalc.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "graphwin/Controls.h"
+#include "graphwin/Dialogs.h"
+#include "screens/frmClasses.h"
+
+frmGraphingCalc::frmGraphingCalc()
+{
+    setWindowTitle(QStringLiteral("Plotto!   Calculus Calculator"));
+    setFont(QFont(QStringLiteral("Times New Roman"), 11));
+
+    auto* layout = new QVBoxLayout(this);
+    menuBar = new QMenuBar(this);
+    layout->setMenuBar(menuBar);
+
+    QMenu* file = menuBar->addMenu(QStringLiteral("&File"));
+    mnuFile = file->menuAction();
+    mnuAbout = file->addAction(QStringLiteral("&About"));
+    Sep1 = file->addSeparator();
+    mnuExit = file->addAction(QStringLiteral("&Quit"));
+    onTriggered(mnuAbout, [this] { mnuAbout_Click(); });
+    onTriggered(mnuExit, [this] { mnuExit_Click(); });
+
+    QMenu* select = menuBar->addMenu(QStringLiteral("&Selections"));
+    mnuSelect = select->menuAction();
+    mnuGrapher = select->addAction(QStringLiteral("&Function Grapher"));
+    onTriggered(mnuGrapher, [this] { mnuGrapher_Click(); });
+
+    auto* heading = new QLabel(QStringLiteral("Choose a demonstration"), this);
+    heading->setAlignment(Qt::AlignCenter);
+    layout->addWidget(heading);
+
+    auto* grid = new QGridLayout;
+    layout->addLayout(grid);
+    cmdFuncClasses = makeButton(this, QStringLiteral("Graph Classes of &Functions"), [this] { cmdFuncClasses_Click(); });
+    grid->addWidget(cmdFuncClasses, 0, 0);
+    cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
+    layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
+
+    for (QPushButton* b : findChildren<QPushButton*>())
+        b->setMinimumSize(240, 40);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+frmGraphingCalc::~frmGraphingCalc() = default;
+
+void frmGraphingCalc::showScreen(GraphScreen& screen)
+{
+    screen.Form_Activate();
+    screen.exec();
+}
+
+frmClasses& frmGraphingCalc::classesScreen()
+{
+    if (!classes_)
+        classes_ = std::make_unique<frmClasses>();
+    return *classes_;
+}
+
+void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(classesScreen()); }
+void frmGraphingCalc::mnuGrapher_Click() { cmdFuncClasses_Click(); }
+
+void frmGraphingCalc::cmdExit_Click() { mnuExit_Click(); }
+void frmGraphingCalc::mnuExit_Click() { endProgram(0); }
+
+void frmGraphingCalc::mnuAbout_Click()
+{
+    MsgBox(QStringLiteral("This program was made to graphically illustrate a few Calculus concepts.  They are shown on "
+                          "the buttons and the pull down menu.  The 'About' menu option for each screen will explain "
+                          "the use of that screen."),
+           QStringLiteral("Calculus Demonstrations"));
+    MsgBox(QStringLiteral("This program is free.  Give it to your Calculus students or whoever could benefit from its "
+                          "use.  Send your questions and suggestions to the Plotto issue tracker."),
+           QStringLiteral("Distribute Freely"));
+    MsgBox(QStringLiteral("Read the ABOUTs on each screen.  There are handy things to know about clicking labels on the "
+                          "screens....."),
+           QStringLiteral("More ABOUTs"));
+}

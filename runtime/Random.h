@@ -1,0 +1,14 @@
+#pragma once
+// The run time's random generator: a 24-bit linear congruential sequence that always starts from the
+// same state, so every run of the program draws the same numbers.
+#include <cstdint>
+
+namespace rt {
+
+// The next value in [0, 1), as a single.
+float Rnd();
+
+// Puts the generator back at its start-up state (the program never does this; tests do).
+void resetRnd();
+
+}  // namespace rt

@@ -1,0 +1,24 @@
+#include "runtime/RuntimeError.h"
+
+namespace rt {
+
+const char* errorMessage(int number)
+{
+    switch (number) {
+    case InvalidProcedureCall: return "Invalid procedure call or argument";
+    case Overflow: return "Overflow";
+    case SubscriptOutOfRange: return "Subscript out of range";
+    case DivisionByZero: return "Division by zero";
+    case TypeMismatch: return "Type mismatch";
+    case InvalidPropertyValue: return "Invalid property value";
+    default: return "Application-defined or object-defined error";
+    }
+}
+
+RuntimeError::RuntimeError(int number) : number_(number) {}
+
+const char* RuntimeError::what() const noexcept { return errorMessage(number_); }
+
+void raise(int number) { throw RuntimeError(number); }
+
+}  // namespace rt
