@@ -21,6 +21,9 @@ struct GraphWindow {
     // World x of twip column c: (c - XOrigin) * XRange / 6400, the difference formed as a 32-bit integer.
     double worldX(std::int32_t c) const
     {
-        return rt::Chk(static_cast<double>(rt::CLng(static_cast<double>(c) - XOrigin)) * XRange) / Side;
+        const std::int64_t difference = static_cast<std::int64_t>(c) - XOrigin;
+        if (difference < INT32_MIN || difference > INT32_MAX) [[unlikely]]
+            rt::raise(rt::Overflow);
+        return rt::Chk(static_cast<double>(difference) * XRange) / Side;
     }
 };

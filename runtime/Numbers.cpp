@@ -211,18 +211,35 @@ double Sqr(double v)
     return std::sqrt(Chk(v));
 }
 
+namespace {
+
+// Rounds half to even without a library call: adding and taking away 1.5 * 2^52 leaves the value
+// rounded to a whole number in the default rounding mode. Valid for magnitudes below 2^51.
+inline double roundHalfEven(double v)
+{
+    constexpr double magic = 6755399441055744.0;
+    volatile double shifted = v + magic;  // kept apart so that the two steps are not folded away
+    return shifted - magic;
+}
+
+}  // namespace
+
 std::int16_t CInt(double v)
 {
-    double r = std::nearbyint(v);  // the default rounding mode rounds halves to even
-    if (!(r >= -32768.0 && r <= 32767.0))
+    if (!(v > -32769.0 && v < 32768.0))
+        raise(Overflow);
+    const double r = roundHalfEven(v);
+    if (r < -32768.0 || r > 32767.0)
         raise(Overflow);
     return static_cast<std::int16_t>(r);
 }
 
 std::int32_t CLng(double v)
 {
-    double r = std::nearbyint(v);
-    if (!(r >= -2147483648.0 && r <= 2147483647.0))
+    if (!(v > -2147483649.0 && v < 2147483648.0))
+        raise(Overflow);
+    const double r = roundHalfEven(v);
+    if (r < -2147483648.0 || r > 2147483647.0)
         raise(Overflow);
     return static_cast<std::int32_t>(r);
 }
