@@ -1,6 +1,8 @@
 #include "graphwin/Controls.h"
 
 #include <QAction>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
@@ -119,12 +121,12 @@ void ScrollBar::setValueChecked(int v)
         Change();
 }
 
-void ScrollBar::setMax(int max)
+void ScrollBar::changeLimit(const std::function<void()>& write)
 {
     const int before = value();
     {
         QSignalBlocker block(this);
-        setMaximum(max);
+        write();
     }
     if (value() != before) {
         lastChangeValue_ = value();
@@ -133,19 +135,9 @@ void ScrollBar::setMax(int max)
     }
 }
 
-void ScrollBar::setMin(int min)
-{
-    const int before = value();
-    {
-        QSignalBlocker block(this);
-        setMinimum(min);
-    }
-    if (value() != before) {
-        lastChangeValue_ = value();
-        if (Change)
-            Change();
-    }
-}
+void ScrollBar::setMax(int max) { changeLimit([&] { setMaximum(max); }); }
+
+void ScrollBar::setMin(int min) { changeLimit([&] { setMinimum(min); }); }
 
 CheckBox::CheckBox(QWidget* parent, const QString& caption) : QCheckBox(caption, parent)
 {
@@ -198,4 +190,14 @@ QPushButton* makeButton(QWidget* parent, const QString& caption, std::function<v
 void onTriggered(QAction* action, std::function<void()> click)
 {
     QObject::connect(action, &QAction::triggered, action, [click = std::move(click)] { guarded(click); });
+}
+
+FileMenu addFileMenu(QMenuBar* bar, const QString& exitCaption, std::function<void()> about, std::function<void()> exit)
+{
+    QMenu* file = bar->addMenu(QStringLiteral("&File"));
+    FileMenu m{file->menuAction(), file->addAction(QStringLiteral("&About")), file->addSeparator(),
+               file->addAction(exitCaption)};
+    onTriggered(m.about, std::move(about));
+    onTriggered(m.exit, std::move(exit));
+    return m;
 }

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 
 class QAction;
+class QMenuBar;
 
 // Button codes and shift bits of the mouse handlers.
 enum MouseButtonCode { LeftButton = 1, RightButton = 2, MiddleButton = 4 };
@@ -68,6 +69,8 @@ public:
     void setMin(int min);
 
 private:
+    // Runs a change of Min or Max with signals blocked; runs Change when it moved the value.
+    void changeLimit(const std::function<void()>& write);
     int lastChangeValue_ = 0;
 };
 
@@ -91,3 +94,10 @@ public:
 QPushButton* makeButton(QWidget* parent, const QString& caption, std::function<void()> click);
 // A menu entry whose Click runs the handler through the guarded entry point.
 void onTriggered(QAction* action, std::function<void()> click);
+
+// The "&File" menu every window has: "&About", a separator and the leaving entry.
+struct FileMenu {
+    QAction *menu, *about, *separator, *exit;
+};
+FileMenu addFileMenu(QMenuBar* bar, const QString& exitCaption, std::function<void()> about,
+                     std::function<void()> exit);

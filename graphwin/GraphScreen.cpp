@@ -145,13 +145,12 @@ QMenu* GraphScreen::addMenu(const QString& caption) { return menuBar->addMenu(ca
 
 void GraphScreen::buildMenus()
 {
-    QMenu* file = addMenu(QStringLiteral("&File"));
-    mnuFile = file->menuAction();
-    mnuAbout = file->addAction(QStringLiteral("&About"));
-    sep1 = file->addSeparator();
-    mnuExit = file->addAction(QStringLiteral("E&xit"));
-    onTriggered(mnuAbout, [this] { mnuAbout_Click(); });
-    onTriggered(mnuExit, [this] { mnuExit_Click(); });
+    const FileMenu file =
+        addFileMenu(menuBar, QStringLiteral("E&xit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
+    mnuFile = file.menu;
+    mnuAbout = file.about;
+    sep1 = file.separator;
+    mnuExit = file.exit;
     if (config_.functionMenu) {
         QMenu* select = addMenu(config_.functionMenuCaption);
         mnuSelect = select->menuAction();

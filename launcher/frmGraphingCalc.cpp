@@ -21,13 +21,12 @@ frmGraphingCalc::frmGraphingCalc()
     menuBar = new QMenuBar(this);
     layout->setMenuBar(menuBar);
 
-    QMenu* file = menuBar->addMenu(QStringLiteral("&File"));
-    mnuFile = file->menuAction();
-    mnuAbout = file->addAction(QStringLiteral("&About"));
-    Sep1 = file->addSeparator();
-    mnuExit = file->addAction(QStringLiteral("&Quit"));
-    onTriggered(mnuAbout, [this] { mnuAbout_Click(); });
-    onTriggered(mnuExit, [this] { mnuExit_Click(); });
+    const FileMenu file =
+        addFileMenu(menuBar, QStringLiteral("&Quit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
+    mnuFile = file.menu;
+    mnuAbout = file.about;
+    Sep1 = file.separator;
+    mnuExit = file.exit;
 
     QMenu* select = menuBar->addMenu(QStringLiteral("&Selections"));
     mnuSelect = select->menuAction();

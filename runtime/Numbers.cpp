@@ -5,6 +5,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <locale.h>
 
 namespace rt {
@@ -222,27 +223,24 @@ inline double roundHalfEven(double v)
     return shifted - magic;
 }
 
+// Rounds half to even into an integer type, Overflow outside its range (and for NaN or infinity).
+template <class Integer>
+Integer toInteger(double v)
+{
+    constexpr double lo = static_cast<double>(std::numeric_limits<Integer>::min());
+    constexpr double hi = static_cast<double>(std::numeric_limits<Integer>::max());
+    if (!(v > lo - 1.0 && v < hi + 1.0))
+        raise(Overflow);
+    const double r = roundHalfEven(v);
+    if (r < lo || r > hi)
+        raise(Overflow);
+    return static_cast<Integer>(r);
+}
+
 }  // namespace
 
-std::int16_t CInt(double v)
-{
-    if (!(v > -32769.0 && v < 32768.0))
-        raise(Overflow);
-    const double r = roundHalfEven(v);
-    if (r < -32768.0 || r > 32767.0)
-        raise(Overflow);
-    return static_cast<std::int16_t>(r);
-}
-
-std::int32_t CLng(double v)
-{
-    if (!(v > -2147483649.0 && v < 2147483648.0))
-        raise(Overflow);
-    const double r = roundHalfEven(v);
-    if (r < -2147483648.0 || r > 2147483647.0)
-        raise(Overflow);
-    return static_cast<std::int32_t>(r);
-}
+std::int16_t CInt(double v) { return toInteger<std::int16_t>(v); }
+std::int32_t CLng(double v) { return toInteger<std::int32_t>(v); }
 
 float CSng(double v)
 {
