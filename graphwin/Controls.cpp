@@ -27,10 +27,19 @@ int shiftCode(Qt::KeyboardModifiers modifiers)
 
 TextBox::TextBox(QWidget* parent, const QString& text) : QLineEdit(text, parent)
 {
-    connect(this, &QLineEdit::textChanged, this, [this] {
-        if (Change)
-            guarded(Change);
-    });
+    connect(this, &QLineEdit::textChanged, this, [this] { guarded([this] { runChange(); }); });
+}
+
+void TextBox::runChange()
+{
+    if (!Change)
+        return;
+    struct Depth {
+        int& d;
+        explicit Depth(int& depth) : d(++depth) {}
+        ~Depth() { --d; }
+    } depth(changeDepth_);
+    Change();
 }
 
 void TextBox::assign(const QString& text)
@@ -41,8 +50,8 @@ void TextBox::assign(const QString& text)
         QSignalBlocker block(this);
         setText(text);
     }
-    if (Change)
-        Change();
+    if (changeDepth_ < kMaxNestedChanges)
+        runChange();
 }
 
 double TextBox::value() const { return rt::Val(text().toStdString()); }

@@ -30,11 +30,18 @@ public:
     explicit TextBox(QWidget* parent, const QString& text = QString());
     // The Change handler, run on every change of the text.
     std::function<void()> Change;
-    // The program's write: sets the text and, when it differs, runs Change directly.
+    // The program's write: sets the text and, when it differs, runs Change directly. A Change handler
+    // that keeps rewriting its own box (two corrections that undo each other) is not followed deeper
+    // than kMaxNestedChanges: the text is then written without running Change again.
     void assign(const QString& text);
     void assign(const std::string& text) { assign(QString::fromStdString(text)); }
     // Val of the text.
     double value() const;
+    static constexpr int kMaxNestedChanges = 16;
+
+private:
+    void runChange();
+    int changeDepth_ = 0;
 };
 
 // A label with mouse events: MouseDown on a press, Click on the release of a left press over it,

@@ -11,6 +11,7 @@
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
 #include "screens/frmClasses.h"
+#include "screens/frmRiemann.h"
 
 frmGraphingCalc::frmGraphingCalc()
 {
@@ -28,19 +29,19 @@ frmGraphingCalc::frmGraphingCalc()
     Sep1 = file.separator;
     mnuExit = file.exit;
 
-    QMenu* select = menuBar->addMenu(QStringLiteral("&Selections"));
-    mnuSelect = select->menuAction();
-    mnuGrapher = select->addAction(QStringLiteral("&Function Grapher"));
-    onTriggered(mnuGrapher, [this] { mnuGrapher_Click(); });
+    selections_ = menuBar->addMenu(QStringLiteral("&Selections"));
+    mnuSelect = selections_->menuAction();
 
     auto* heading = new QLabel(QStringLiteral("Choose a demonstration"), this);
     heading->setAlignment(Qt::AlignCenter);
     layout->addWidget(heading);
 
-    auto* grid = new QGridLayout;
-    layout->addLayout(grid);
-    cmdFuncClasses = makeButton(this, QStringLiteral("Graph Classes of &Functions"), [this] { cmdFuncClasses_Click(); });
-    grid->addWidget(cmdFuncClasses, 0, 0);
+    grid_ = new QGridLayout;
+    layout->addLayout(grid_);
+    cmdSums = addScreen(QStringLiteral("&Riemann Sums + Others"), QStringLiteral("&Riemann Sums +"), mnuRiemann,
+                        &frmGraphingCalc::cmdSums_Click);
+    cmdFuncClasses = addScreen(QStringLiteral("Graph Classes of &Functions"), QStringLiteral("&Function Grapher"),
+                               mnuGrapher, &frmGraphingCalc::cmdFuncClasses_Click);
     cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
     layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
 
@@ -51,21 +52,27 @@ frmGraphingCalc::frmGraphingCalc()
 
 frmGraphingCalc::~frmGraphingCalc() = default;
 
+QPushButton* frmGraphingCalc::addScreen(const QString& button, const QString& entry, QAction*& action,
+                                        void (frmGraphingCalc::*open)())
+{
+    const int index = grid_->count();
+    QPushButton* b = makeButton(this, button, [this, open] { (this->*open)(); });
+    grid_->addWidget(b, index / 2, index % 2);
+    action = selections_->addAction(entry);
+    onTriggered(action, [this, open] { (this->*open)(); });
+    return b;
+}
+
 void frmGraphingCalc::showScreen(GraphScreen& screen)
 {
     screen.Form_Activate();
     screen.exec();
 }
 
-frmClasses& frmGraphingCalc::classesScreen()
-{
-    if (!classes_)
-        classes_ = std::make_unique<frmClasses>();
-    return *classes_;
-}
-
 void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(classesScreen()); }
+void frmGraphingCalc::cmdSums_Click() { showScreen(riemannScreen()); }
 void frmGraphingCalc::mnuGrapher_Click() { cmdFuncClasses_Click(); }
+void frmGraphingCalc::mnuRiemann_Click() { cmdSums_Click(); }
 
 void frmGraphingCalc::cmdExit_Click() { mnuExit_Click(); }
 void frmGraphingCalc::mnuExit_Click() { endProgram(0); }

@@ -6,11 +6,13 @@
 
 #include <QWidget>
 
+#include "screens/frmClasses.h"
+#include "screens/frmRiemann.h"
+
 class QAction;
 class QMenuBar;
 class QPushButton;
 class GraphScreen;
-class frmClasses;
 
 class frmGraphingCalc : public QWidget {
     Q_OBJECT
@@ -19,24 +21,41 @@ public:
     ~frmGraphingCalc() override;
 
     QPushButton* cmdFuncClasses = nullptr;
+    QPushButton* cmdSums = nullptr;
     QPushButton* cmdExit = nullptr;
 
     QMenuBar* menuBar = nullptr;
     QAction *mnuFile = nullptr, *mnuAbout = nullptr, *Sep1 = nullptr, *mnuExit = nullptr;
     QAction* mnuSelect = nullptr;
+    QAction* mnuRiemann = nullptr;
     QAction* mnuGrapher = nullptr;
 
     void cmdFuncClasses_Click();
+    void cmdSums_Click();
     void mnuGrapher_Click();
+    void mnuRiemann_Click();
     void cmdExit_Click();
     void mnuExit_Click();
     void mnuAbout_Click();
 
-    // The screen, created (loaded) on first use.
-    frmClasses& classesScreen();
+    // The screens, each created (loaded) on first use.
+    frmClasses& classesScreen() { return screen(classes_); }
+    frmRiemann& riemannScreen() { return screen(riemann_); }
 
 private:
+    template <class Screen>
+    Screen& screen(std::unique_ptr<Screen>& slot)
+    {
+        if (!slot)
+            slot = std::make_unique<Screen>();
+        return *slot;
+    }
     void showScreen(GraphScreen& screen);
+    // Adds a screen's button to the grid and its entry to the Selections menu.
+    QPushButton* addScreen(const QString& button, const QString& entry, QAction*& action, void (frmGraphingCalc::*open)());
 
+    class QGridLayout* grid_ = nullptr;
+    class QMenu* selections_ = nullptr;
     std::unique_ptr<frmClasses> classes_;
+    std::unique_ptr<frmRiemann> riemann_;
 };

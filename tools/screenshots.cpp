@@ -7,6 +7,7 @@
 #include "funclib/FuncGlobals.h"
 #include "launcher/frmGraphingCalc.h"
 #include "screens/frmClasses.h"
+#include "screens/frmRiemann.h"
 
 namespace {
 
@@ -44,5 +45,21 @@ int main(int argc, char* argv[])
     grapher.txtC->setText(QStringLiteral("0"));
     grapher.cmdPlotto_Click();
     save(grapher, dir, QStringLiteral("grapher.png"));
+    grapher.hide();
+
+    // The sums screen: y = x^2 on [-2, 2] with eight partitions and every method checked.
+    frmRiemann& sums = launcher.riemannScreen();
+    sums.Form_Activate();
+    sums.txtParts->setText(QStringLiteral("8"));
+    for (CheckBox* c : {sums.chkLeft, sums.chkRight, sums.chkMid, sums.chkTrap, sums.chkRandom, sums.chkSimpson,
+                        sums.chkRiemann})
+        c->setChecked(true);
+    sums.cmdGraphNow_Click();
+    sums.cmdParts_Click();
+    save(sums, dir, QStringLiteral("sums.png"));
+    sums.txtParts->setText(QStringLiteral("32000"));
+    sums.cmdCleanParts_Click();
+    sums.cmdParts_Click();
+    save(sums, dir, QStringLiteral("sums-32000.png"));
     return 0;
 }

@@ -116,3 +116,17 @@ TEST_F(Controls, ButtonsAndMenusRunGuarded)
     button->click();
     EXPECT_EQ(script.errors, std::vector<int>{6});
 }
+
+TEST_F(Controls, TwoCorrectionsThatUndoEachOtherDoNotRecurseForever)
+{
+    QWidget parent;
+    TextBox box(&parent, QStringLiteral("0"));
+    int runs = 0;
+    box.Change = [&] {
+        ++runs;
+        box.assign(box.text() == QStringLiteral("0") ? QStringLiteral("-5") : QStringLiteral("0"));
+    };
+    box.setText(QStringLiteral("3"));
+    EXPECT_EQ(runs, TextBox::kMaxNestedChanges);
+    EXPECT_TRUE(script.errors.empty());
+}

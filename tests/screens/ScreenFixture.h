@@ -10,6 +10,9 @@
 #include "graphwin/Dialogs.h"
 #include "runtime/QBColor.h"
 
+// Readable failure messages for texts.
+inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
 template <class Screen>
 struct ScreenFixture : ::testing::Test {
     DialogScript script;

@@ -1,0 +1,58 @@
+// The sums screen's Graph Partitions with all seven methods at 32000 partitions, against the same
+// seven sums computed with nothing drawn, in the same run.
+#include <benchmark/benchmark.h>
+
+#include "funclib/FuncGlobals.h"
+#include "runtime/Random.h"
+#include "screens/frmRiemann.h"
+
+namespace {
+
+void prepare(frmRiemann& screen)
+{
+    screen.Form_Activate();
+    screen.txtA->setText(QStringLiteral("1"));
+    screen.txtB->setText(QStringLiteral("0"));
+    screen.txtC->setText(QStringLiteral("0"));
+    screen.txtLBound->setText(QStringLiteral("-2"));
+    screen.txtRBound->setText(QStringLiteral("2"));
+    screen.txtParts->setText(QStringLiteral("32000"));
+    FuncGlobals::FunctionId = 2;
+}
+
+void BM_GraphPartitionsAllMethods(benchmark::State& state)
+{
+    frmRiemann screen;
+    prepare(screen);
+    for (CheckBox* c : {screen.chkLeft, screen.chkRight, screen.chkMid, screen.chkTrap, screen.chkRandom,
+                        screen.chkSimpson, screen.chkRiemann})
+        c->setChecked(true);
+    screen.cmdGraphNow_Click();
+    for (auto _ : state)
+        screen.cmdParts_Click();
+}
+BENCHMARK(BM_GraphPartitionsAllMethods)->Unit(benchmark::kMillisecond);
+
+void BM_SevenSumsWithoutDrawing(benchmark::State& state)
+{
+    using namespace RiemannSums;
+    frmRiemann screen;
+    prepare(screen);
+    auto f = [](double x) { return FuncGlobals::YFunc(x); };
+    auto none = [](auto...) {};
+    const double L = -2, R = 2, dx = (R - L) / 32000;
+    float total = 0;
+    for (auto _ : state) {
+        total += leftEndpoint(f, L, dx, 32000, none).area;
+        total += rightEndpoint(f, L, dx, 32000, none).area;
+        total += midpoint(f, L, dx, 32000, none).area;
+        total += trapezoidal(f, L, dx, 32000, none).area;
+        total += randomPoint(f, L, dx, 32000, none).area;
+        total += simpson(f, L, dx, 32000, none).area;
+        total += randomWidths(f, L, R, 32000, screen.RandomPoints, none).area;
+    }
+    benchmark::DoNotOptimize(total);
+}
+BENCHMARK(BM_SevenSumsWithoutDrawing)->Unit(benchmark::kMillisecond);
+
+}  // namespace

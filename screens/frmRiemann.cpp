@@ -1,0 +1,334 @@
+#include "screens/frmRiemann.h"
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
+
+namespace {
+
+GraphScreen::Config riemannConfig()
+{
+    GraphScreen::Config c;
+    c.caption = QStringLiteral("Riemann and Other Sums");
+    c.surfaceWidth = 14400;
+    c.squareLeft = 1800;
+    c.zoom = GraphScreen::Zoom::TowardsOrigin;
+    c.validatingLimits = true;
+    c.coefficientDefaults = {"1", "0", "0", "0", "0", "0"};
+    c.functionMenuCaption = QStringLiteral("&Select a Function");
+    c.functionLabelCaption = QStringLiteral("y=x^2 +1");
+    c.cleanCaption = QStringLiteral("&Clear Graph");
+    c.defaultsCaption = QStringLiteral("&Set to Defaults");
+    return c;
+}
+
+constexpr double kPanel = 8940, kPanelWidth = 1800, kSums = 10920, kSumsWidth = 3360;
+const QString kAreaText = QStringLiteral("Area=");
+
+}  // namespace
+
+frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
+{
+    // The square starts at 1800 here, so the coefficient panel is narrower than the grapher's.
+    placeTwips(lblVariables, 60, 600, 1620, 300);
+    TextBox* boxes[] = {txtA, txtB, txtC, txtD, txtE};
+    ClickLabel* labels[] = {lblA, lblB, lblC, lblD, lblE};
+    for (int i = 0; i < 5; ++i) {
+        placeTwips(labels[i], 60, 960 + 360 * i, 420, 300);
+        placeTwips(boxes[i], 540, 960 + 360 * i, 1080, 300);
+    }
+    placeTwips(lblFunction, 60, 2800, 1620, 420);
+    placeTwips(cmdExit, 60, 6300, 1560, 420);
+
+    QPushButton* const column[] = {cmdGraphNow, cmdErase, cmdZoomIn, cmdReset};
+    const double tops[] = {600, 1680, 2220, 2760};
+    for (int i = 0; i < 4; ++i)
+        placeTwips(column[i], kPanel, tops[i], kPanelWidth, 420);
+    cmdZoomIn->setToolTip(QStringLiteral("Cut the scale in half"));
+    buildSumsPanel();
+    Form_Load();
+}
+
+void frmRiemann::buildSumsPanel()
+{
+    auto button = [this](const QString& caption, double top, std::function<void()> click) {
+        QPushButton* b = makeButton(surface, caption, std::move(click));
+        placeTwips(b, kPanel, top, kPanelWidth, 420);
+        return b;
+    };
+    auto box = [this](const char* text, double top) {
+        auto* b = new TextBox(surface, QString::fromLatin1(text));
+        placeTwips(b, kPanel, top, kPanelWidth, 300);
+        return b;
+    };
+    auto stepper = [this](const char* caption, double top) {
+        auto* l = new ClickLabel(surface, QString::fromLatin1(caption), true);
+        placeTwips(l, kPanel, top, kPanelWidth, 300);
+        return l;
+    };
+
+    cmdCleanParts = button(QStringLiteral("&Erase Partitions"), 1140, [this] { cmdCleanParts_Click(); });
+    lblPartitions = stepper("Number of Partitions", 3420);
+    txtParts = box("1", 3720);
+    cmdDouble = button(QStringLiteral("&Double Partitions"), 4140, [this] { cmdDouble_Click(); });
+    cmdDouble->setToolTip(QStringLiteral("Automatically double Number of Partitions"));
+    cmdParts = button(QStringLiteral("Graph &Partitions"), 4680, [this] { cmdParts_Click(); });
+    cmdParts->setToolTip(QStringLiteral("See the partitions from the Riemann Sums"));
+    lblLBound = stepper("Left Boundary", 5340);
+    txtLBound = box("-2", 5640);
+    lblRBound = stepper("Right Boundary", 6060);
+    txtRBound = box("2", 6360);
+
+    txtParts->Change = [this] { txtParts_Change(); };
+    txtLBound->Change = [this] { txtLBound_Change(); };
+    txtRBound->Change = [this] { txtRBound_Change(); };
+    lblPartitions->MouseDown = [this](int b, int s, double x, double y) { lblPartitions_MouseDown(b, s, x, y); };
+    lblLBound->MouseDown = [this](int b, int s, double x, double y) { lblLBound_MouseDown(b, s, x, y); };
+    lblRBound->MouseDown = [this](int b, int s, double x, double y) { lblRBound_MouseDown(b, s, x, y); };
+
+    lblAreas = makeLabel(QStringLiteral("AREA"), kSums, 240, kSumsWidth, 300);
+    lblAreas->setAlignment(Qt::AlignCenter);
+    fraSums = new QGroupBox(QStringLiteral("Area Sums"), surface);
+    fraSums->setToolTip(QStringLiteral("Check one to see partitions when clicking Graph Partitions"));
+    placeTwips(fraSums, kSums, 600, kSumsWidth, 3300);
+    struct Row {
+        CheckBox** check;
+        ClickLabel** result;
+        const char* caption;
+        const char* tip;
+    };
+    const Row rows[] = {
+        {&chkLeft, &lblLeftE, "Left Endpoint", nullptr},
+        {&chkRight, &lblRightE, "Right Endpoint", nullptr},
+        {&chkMid, &lblMid, "Midpoint", nullptr},
+        {&chkTrap, &lblTrap, "Trapezoidal", nullptr},
+        {&chkRandom, &lblRnd, "Random point", "A random point is picked on the equal width intervals "},
+        {&chkSimpson, &lblSimpson, "Simpson's", nullptr},
+        {&chkRiemann, &lblRiemann, "Riemann", "Random width Interval and point on it"},
+    };
+    double top = 360;
+    for (const Row& row : rows) {
+        auto* check = new CheckBox(fraSums, QString::fromLatin1(row.caption));
+        placeTwips(check, 120, top, 1620, 360);
+        if (row.tip)
+            check->setToolTip(QString::fromLatin1(row.tip));
+        auto* result = new ClickLabel(fraSums, kAreaText);
+        placeTwips(result, 1800, top, 1500, 360);
+        *row.check = check;
+        *row.result = result;
+        top += 420;
+    }
+}
+
+void frmRiemann::Form_Load()
+{
+    PartitionCount = 1;
+    txtParts->assign(QStringLiteral("1"));
+    loadFunctionMenu();
+    mnuFunc_Click(2);
+}
+
+void frmRiemann::cmdGraphNow_Click()
+{
+    CleanGraph();
+    plotFunction();
+}
+
+void frmRiemann::cmdCleanParts_Click()
+{
+    CleanGraph();
+    cmdGraphNow_Click();
+}
+
+void frmRiemann::cmdErase_Click() { CleanGraph(); }
+
+void frmRiemann::cmdReset_Click()
+{
+    writeDefaultLimits();
+    cmdGraphNow_Click();
+}
+
+void frmRiemann::cmdZoomIn_Click()
+{
+    zoomLimits();
+    cmdGraphNow_Click();
+}
+
+void frmRiemann::mnuFunc_Click(int Index)
+{
+    if (Index != FuncGlobals::FunctionId)
+        for (ClickLabel* label : {lblLeftE, lblRightE, lblMid, lblTrap, lblRnd, lblRiemann})
+            label->setText(kAreaText);
+    GraphScreen::mnuFunc_Click(Index);
+}
+
+void frmRiemann::showResult(ClickLabel* label, const RiemannSums::Result& result)
+{
+    label->setText(result.error ? QStringLiteral("= error!") : QStringLiteral("= ") + QString::fromStdString(rt::Str(result.area)));
+}
+
+void frmRiemann::cmdParts_Click()
+{
+    using namespace RiemannSums;
+    lblAreas->setText(QStringLiteral("Working"));
+    lblAreas->repaint();
+
+    const double L = txtLBound->value(), R = txtRBound->value();
+    const std::int32_t n = PartitionCount;
+    const double dx = rt::Div(rt::Chk(R - L), n);
+    const double left = squareLeft(), right = left + 6400;
+    const double Y0 = graph.YOrigin;
+    auto f = [](double x) { return FuncGlobals::YFunc(x); };
+    auto inside = [&](double a, double b, double t) { return left < a && a < right && left < b && b < right && 100 < t && t < 6500; };
+    auto barsIn = [&](int colourNumber) {
+        const QRgb colour = rgbColor(rt::QBColor(colourNumber));
+        return [this, &inside, Y0, colour](double xa, double xb, double y) {
+            const double a = graph.column(xa), b = graph.column(xb), t = graph.row(y);
+            if (!inside(a, b, t))
+                return;
+            surface->Line(a, Y0, a, t, colour);
+            surface->Line(a, t, b, t, colour);
+            surface->Line(b, t, b, Y0, colour);
+        };
+    };
+
+    if (chkLeft->isChecked())
+        showResult(lblLeftE, leftEndpoint(f, L, dx, n, barsIn(2)));
+    if (chkRight->isChecked())
+        showResult(lblRightE, rightEndpoint(f, L, dx, n, barsIn(1)));
+    if (chkMid->isChecked())
+        showResult(lblMid, midpoint(f, L, dx, n, barsIn(4)));
+    if (chkTrap->isChecked()) {
+        const QRgb colour = rgbColor(rt::QBColor(5));
+        showResult(lblTrap, trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
+                       const double a = graph.column(xa), b = graph.column(xb), t1 = graph.row(y1), t2 = graph.row(y2);
+                       if (!inside(a, b, t1))  // only the left height is tested
+                           return;
+                       surface->Line(a, Y0, a, t1, colour);
+                       surface->Line(a, t1, b, t2, colour);
+                       surface->Line(b, t2, b, Y0, colour);
+                   }));
+    }
+    if (chkRandom->isChecked())
+        showResult(lblRnd, randomPoint(f, L, dx, n, barsIn(6)));
+    if (chkSimpson->isChecked()) {
+        const QRgb colour = rgbColor(rt::QBColor(3));
+        const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
+        const Result r = simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
+            const double a = graph.column(xa), c = graph.column(xc);
+            const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
+            if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
+                return;
+            const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
+            surface->Line(a, Y0, a, t0, colour);
+            surface->Line(a, t0, a1, t0, colour);
+            surface->Line(a1, t0, a1, t1, colour);
+            surface->Line(a1, t1, a5, t1, colour);
+            surface->Line(a5, t1, a5, t2, colour);
+            surface->Line(a5, t2, c, t2, colour);
+            surface->Line(c, t2, c, Y0, colour);
+        });
+        if (r.odd)
+            lblSimpson->setText(QStringLiteral("Parts not even #"));
+        else
+            showResult(lblSimpson, r);
+    }
+    if (chkRiemann->isChecked())
+        showResult(lblRiemann, randomWidths(f, L, R, n, RandomPoints, barsIn(7)));
+
+    lblAreas->setText(QStringLiteral("Area"));
+}
+
+void frmRiemann::txtParts_Change()
+{
+    const double v = txtParts->value();
+    if (v <= 32000) {
+        if (!(v >= 1)) {
+            MsgBox(QStringLiteral("Partitions must be a positive number"), QStringLiteral("Positive only"));
+            txtParts->assign(QStringLiteral("1"));
+        }
+        PartitionCount = rt::CLng(rt::Int(txtParts->value()));
+    } else {
+        MsgBox(QStringLiteral("The limit to the number of partitions is 32000"), QStringLiteral("Limit Reached"));
+        PartitionCount = 32000;
+        txtParts->assign(QStringLiteral("32000"));
+    }
+}
+
+void frmRiemann::cmdDouble_Click()
+{
+    PartitionCount = rt::CLng(PartitionCount * 2.0);
+    txtParts->assign(rt::CStr(PartitionCount));
+}
+
+void frmRiemann::lblPartitions_MouseDown(int Button, int, double, double)
+{
+    if (Button == LeftButton)
+        txtParts->assign(rt::Str(rt::Chk(txtParts->value() + 1)));
+    else if (Button == RightButton)
+        txtParts->assign(rt::Str(rt::Chk(txtParts->value() - 1)));
+    if (txtParts->value() < 1)
+        txtParts->assign(QStringLiteral("1"));
+}
+
+void frmRiemann::stepBound(TextBox* box, int Button)
+{
+    if (Button == LeftButton)
+        box->assign(rt::Str(rt::Chk(box->value() + 1)));
+    else if (Button == RightButton)
+        box->assign(rt::Str(rt::Chk(box->value() - 1)));
+}
+
+void frmRiemann::lblLBound_MouseDown(int Button, int, double, double) { stepBound(txtLBound, Button); }
+void frmRiemann::lblRBound_MouseDown(int Button, int, double, double) { stepBound(txtRBound, Button); }
+
+void frmRiemann::txtLBound_Change()
+{
+    if (txtXmin->value() > txtLBound->value())
+        txtLBound->assign(txtXmin->text());
+    if (txtRBound->value() < txtLBound->value())
+        txtLBound->assign(txtRBound->text());
+}
+
+void frmRiemann::txtRBound_Change()
+{
+    if (txtRBound->value() > txtXmax->value())
+        txtRBound->assign(txtXmax->text());
+    if (txtLBound->value() > txtRBound->value())
+        txtRBound->assign(txtLBound->text());
+}
+
+void frmRiemann::mnuAbout_Click()
+{
+    showHelp({
+        {"What is this?",
+         "This form was written to demonstrate various Riemann and other Sums used to find areas under functions."},
+        {"Plotting a function and Sizing",
+         "Select a Function from the functions menu.  Click [Plotto!] to see it in the window.  Set the window size "
+         "by entering values for Xmin, Xmax, Ymin, and Ymax or in the boxes around the window."},
+        {"Plotto! , Zoom In and Set to Defaults",
+         "You must [Plotto!] after selecting a function to see it.  This also clears the window.  The [Zoom In] button "
+         "reduces each edge in half and re-graphs the function. The [Set to Defaults] are -10 by 10."},
+        {"Riemann choices and [Graph Partitions]",
+         "Check the box for a Riemann Sum method at the right.  The rectangles and the computed areas will appear "
+         "after clicking the [Graph Partitions] Button.  You may click one, many or all the check boxes to see the "
+         "various area values."},
+        {"Partitions for the Riemann Sums",
+         "You may type in up to 32000 for the number of partitions.  You may also automatically double the number of "
+         "partitions with the [Double Partitions] button.  The number of partitions determines the width of each "
+         "interval except for the Riemann method.  The Riemann method breaks the total interval into random width "
+         "sub-intervals and selects random points in each sub-interval.  The Riemann method only uses a maximum of "
+         "2000 partitions."},
+        {"Left and Right Boundaries",
+         "The Left boundary and Right boundary determine the width of the interval for the area.  The Boundaries must "
+         "be in the window.  If the y value is outside the window the partition will not show up on the graph but the "
+         "area will be computed correctly."},
+        {"Clicking light green labels",
+         "As for most of the light green labels in this program, you may left click to increase the box by one or "
+         "right click to decreased it by one."},
+        {"Window limit changes < , >",
+         "Notice the < and > green labels next to the window limits.  Clicking on the Arrows will increase or decrease "
+         "the window limit by one.  Double clicking will increase or decrease it by 5."},
+    });
+}

@@ -1,0 +1,62 @@
+#pragma once
+// Riemann and other sums: the area under the selected explicit function between two boundaries,
+// approximated by up to seven methods at once, each drawn in its own colour.
+#include <cstdint>
+
+#include <QGroupBox>
+
+#include "graphwin/GraphScreen.h"
+#include "screens/RiemannSums.h"
+
+class frmRiemann : public GraphScreen {
+    Q_OBJECT
+public:
+    frmRiemann();
+
+    // This screen's names for the shared controls.
+    QPushButton*& cmdGraphNow = cmdPlotto;
+    QPushButton*& cmdReset = cmdSetDefault;
+    QPushButton*& cmdErase = cmdClean;
+    ClickLabel*& lblFunction = lblFunc;
+    QAction*& mnuFunction = mnuSelect;
+
+    QPushButton *cmdCleanParts = nullptr, *cmdDouble = nullptr, *cmdParts = nullptr;
+    TextBox *txtRBound = nullptr, *txtLBound = nullptr, *txtParts = nullptr;
+    QGroupBox* fraSums = nullptr;
+    CheckBox *chkSimpson = nullptr, *chkRiemann = nullptr, *chkRandom = nullptr, *chkTrap = nullptr;
+    CheckBox *chkMid = nullptr, *chkRight = nullptr, *chkLeft = nullptr;
+    ClickLabel *lblSimpson = nullptr, *lblRiemann = nullptr, *lblRnd = nullptr, *lblTrap = nullptr;
+    ClickLabel *lblMid = nullptr, *lblRightE = nullptr, *lblLeftE = nullptr;
+    ClickLabel *lblAreas = nullptr, *lblRBound = nullptr, *lblLBound = nullptr, *lblPartitions = nullptr;
+    QWidget*& shpRect = shpSquare;
+
+    // The number of partitions n, 1 to 32000.
+    std::int32_t PartitionCount = 1;
+    // The division points of the last random-width run.
+    RiemannSums::RandomPointArray RandomPoints;
+
+    void cmdParts_Click();
+    void cmdGraphNow_Click();
+    void cmdCleanParts_Click();
+    void cmdErase_Click();
+    void cmdReset_Click();
+    void cmdDouble_Click();
+    void txtParts_Change();
+    void txtLBound_Change();
+    void txtRBound_Change();
+    void lblPartitions_MouseDown(int Button, int Shift, double X, double Y);
+    void lblLBound_MouseDown(int Button, int Shift, double X, double Y);
+    void lblRBound_MouseDown(int Button, int Shift, double X, double Y);
+
+    void cmdPlotto_Click() override { cmdGraphNow_Click(); }
+    void cmdSetDefault_Click() override { cmdReset_Click(); }
+    void cmdZoomIn_Click() override;
+    void mnuFunc_Click(int Index) override;
+    void Form_Load() override;
+    void mnuAbout_Click() override;
+
+private:
+    void buildSumsPanel();
+    void showResult(ClickLabel* label, const RiemannSums::Result& result);
+    void stepBound(TextBox* box, int Button);
+};
