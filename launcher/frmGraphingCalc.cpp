@@ -38,9 +38,9 @@ frmGraphingCalc::frmGraphingCalc()
 
     grid_ = new QGridLayout;
     layout->addLayout(grid_);
-    cmdSums = addScreen(QStringLiteral("&Riemann Sums + Others"), QStringLiteral("&Riemann Sums +"), mnuRiemann,
+    cmdSums = addScreen(2, QStringLiteral("&Riemann Sums + Others"), QStringLiteral("&Riemann Sums +"), mnuRiemann,
                         &frmGraphingCalc::cmdSums_Click);
-    cmdFuncClasses = addScreen(QStringLiteral("Graph Classes of &Functions"), QStringLiteral("&Function Grapher"),
+    cmdFuncClasses = addScreen(0, QStringLiteral("Graph Classes of &Functions"), QStringLiteral("&Function Grapher"),
                                mnuGrapher, &frmGraphingCalc::cmdFuncClasses_Click);
     cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
     layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
@@ -52,10 +52,10 @@ frmGraphingCalc::frmGraphingCalc()
 
 frmGraphingCalc::~frmGraphingCalc() = default;
 
-QPushButton* frmGraphingCalc::addScreen(const QString& button, const QString& entry, QAction*& action,
+QPushButton* frmGraphingCalc::addScreen(int place, const QString& button, const QString& entry, QAction*& action,
                                         void (frmGraphingCalc::*open)())
 {
-    const int index = grid_->count();
+    const int index = place;
     QPushButton* b = makeButton(this, button, [this, open] { (this->*open)(); });
     grid_->addWidget(b, index / 2, index % 2);
     action = selections_->addAction(entry);

@@ -52,7 +52,9 @@ private:
     }
     void showScreen(GraphScreen& screen);
     // Adds a screen's button to the grid and its entry to the Selections menu.
-    QPushButton* addScreen(const QString& button, const QString& entry, QAction*& action, void (frmGraphingCalc::*open)());
+    // Buttons stand in teaching order, two to a row.
+    QPushButton* addScreen(int place, const QString& button, const QString& entry, QAction*& action,
+                           void (frmGraphingCalc::*open)());
 
     class QGridLayout* grid_ = nullptr;
     class QMenu* selections_ = nullptr;
