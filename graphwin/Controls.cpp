@@ -1,6 +1,7 @@
 #include "graphwin/Controls.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -55,6 +56,51 @@ void TextBox::assign(const QString& text)
 }
 
 double TextBox::value() const { return rt::Val(text().toStdString()); }
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && Click)
+        guarded(Click);
+}
+
+Grid::Grid(QWidget* parent, int rows, int columns) : QTableWidget(rows, columns, parent)
+{
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    QFont small = font();
+    small.setPointSizeF(8.25);
+    setFont(small);
+    setTextElideMode(Qt::ElideNone);
+    setWordWrap(false);
+    verticalHeader()->setDefaultSectionSize(17);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    for (int r = 0; r < rows; ++r)
+        for (int c = 0; c < columns; ++c)
+            setItem(r, c, new QTableWidgetItem);
+}
+
+void Grid::setCell(int row, int column, const QString& text)
+{
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
+        rt::raise(rt::SubscriptOutOfRange);
+    item(row, column)->setText(text);
+}
+
+QString Grid::cell(int row, int column) const
+{
+    const QTableWidgetItem* i = item(row, column);
+    return i ? i->text() : QString();
+}
+
+void Grid::setColumnWidthTwips(int column, double twips) { setColumnWidth(column, static_cast<int>(twips / 15)); }
+
+void Grid::setColumnAlignment(int column, Qt::Alignment alignment)
+{
+    for (int r = 0; r < rowCount(); ++r)
+        item(r, column)->setTextAlignment(alignment);
+}
 
 ClickLabel::ClickLabel(QWidget* parent, const QString& caption, bool stepper) : QLabel(caption, parent)
 {

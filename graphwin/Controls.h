@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTableWidget>
 
 class QAction;
 class QMenuBar;
@@ -30,6 +31,8 @@ public:
     explicit TextBox(QWidget* parent, const QString& text = QString());
     // The Change handler, run on every change of the text.
     std::function<void()> Change;
+    // The Click handler, run when a left press over the box is released.
+    std::function<void()> Click;
     // The program's write: sets the text and, when it differs, runs Change directly. A Change handler
     // that keeps rewriting its own box (two corrections that undo each other) is not followed deeper
     // than kMaxNestedChanges: the text is then written without running Change again.
@@ -39,9 +42,24 @@ public:
     double value() const;
     static constexpr int kMaxNestedChanges = 16;
 
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
 private:
     void runChange();
     int changeDepth_ = 0;
+};
+
+// A grid of text cells addressed by row and column, row 0 included (it holds the headings); widths
+// are given in twips.
+class Grid : public QTableWidget {
+    Q_OBJECT
+public:
+    Grid(QWidget* parent, int rows, int columns);
+    void setCell(int row, int column, const QString& text);
+    QString cell(int row, int column) const;
+    void setColumnWidthTwips(int column, double twips);
+    void setColumnAlignment(int column, Qt::Alignment alignment);
 };
 
 // A label with mouse events: MouseDown on a press, Click on the release of a left press over it,

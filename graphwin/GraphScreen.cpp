@@ -126,19 +126,27 @@ void GraphScreen::buildCoefficients()
     }
 }
 
+QPushButton* GraphScreen::addButton(const QString& caption, double top, std::function<void()> click)
+{
+    QPushButton* b = makeButton(surface, caption, std::move(click));
+    placeTwips(b, config_.squareLeft + 6400 + 600, top, 1680, 420);
+    return b;
+}
+
+TextBox* GraphScreen::makeBox(const QString& text, double left, double top, double width, double height)
+{
+    auto* box = new TextBox(surface, text);
+    placeTwips(box, left, top, width, height);
+    return box;
+}
+
 void GraphScreen::buildButtons()
 {
-    const double left = config_.squareLeft + 6400 + 600, width = config_.surfaceWidth - left - 120;
-    auto button = [&](const QString& caption, double top, std::function<void()> click) {
-        QPushButton* b = makeButton(surface, caption, std::move(click));
-        placeTwips(b, left, top, width, 420);
-        return b;
-    };
-    cmdPlotto = button(config_.plotCaption, 600, [this] { cmdPlotto_Click(); });
-    cmdClean = button(config_.cleanCaption, 1200, [this] { cmdClean_Click(); });
-    cmdZoomIn = button(config_.zoomCaption, 1800, [this] { cmdZoomIn_Click(); });
-    cmdSetDefault = button(config_.defaultsCaption, 2400, [this] { cmdSetDefault_Click(); });
-    cmdExit = button(QStringLiteral("E&xit"), 6000, [this] { cmdExit_Click(); });
+    cmdPlotto = addButton(config_.plotCaption, 600, [this] { cmdPlotto_Click(); });
+    cmdClean = addButton(config_.cleanCaption, 1200, [this] { cmdClean_Click(); });
+    cmdZoomIn = addButton(config_.zoomCaption, 1800, [this] { cmdZoomIn_Click(); });
+    cmdSetDefault = addButton(config_.defaultsCaption, 2400, [this] { cmdSetDefault_Click(); });
+    cmdExit = addButton(QStringLiteral("E&xit"), 6000, [this] { cmdExit_Click(); });
 }
 
 QMenu* GraphScreen::addMenu(const QString& caption) { return menuBar->addMenu(caption); }
@@ -241,14 +249,14 @@ void GraphScreen::CleanGraph()
     }
 }
 
-void GraphScreen::plotFunction()
+void GraphScreen::plotColumns(double (*evaluate)(const double&))
 {
     const int first = config_.squareLeft + 1, last = config_.squareLeft + 6399;
     QRgb colour = 0;
     bool haveColour = false;
     for (int c = first; c <= last; ++c) {
         const double x = graph.worldX(c);
-        const double y = FuncGlobals::YFunc(x);
+        const double y = evaluate(x);
         const double ty = rt::Chk(graph.YOrigin - rt::Div(rt::Chk(y * 6400), graph.YRange));
         if (ty >= 100 && ty <= 6500) {
             if (!haveColour) {

@@ -13,6 +13,7 @@
 #include <QDialog>
 #include <QString>
 
+#include "funclib/FuncGlobals.h"
 #include "graphwin/Controls.h"
 #include "graphwin/DrawingSurface.h"
 #include "graphwin/GraphWindow.h"
@@ -132,7 +133,13 @@ protected:
     int squareLeft() const { return config_.squareLeft; }
 
     // The explicit family's plot over the square's columns, in QBColor(FunctionId mod 7).
-    void plotFunction();
+    void plotFunction() { plotColumns(FuncGlobals::YFunc); }
+    // The same column walk for any evaluator of the selected family (the derivative, say).
+    void plotColumns(double (*evaluate)(const double&));
+    // Places a button in the screen's right-hand column of buttons, at the given top.
+    QPushButton* addButton(const QString& caption, double top, std::function<void()> click);
+    // A text box on the surface.
+    TextBox* makeBox(const QString& text, double left, double top, double width, double height = 300);
     // Fills the function captions and the menu, and selects a family.
     void loadFunctionMenu();
     // Writes the default limits "-10", "10", "-10", "10".

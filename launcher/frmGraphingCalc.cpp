@@ -42,6 +42,12 @@ frmGraphingCalc::frmGraphingCalc()
                         &frmGraphingCalc::cmdSums_Click);
     cmdFuncClasses = addScreen(0, QStringLiteral("Graph Classes of &Functions"), QStringLiteral("&Function Grapher"),
                                mnuGrapher, &frmGraphingCalc::cmdFuncClasses_Click);
+    cmdNewton = addScreen(3, QStringLiteral("&Newton's Method"), QStringLiteral("&Newton's Method"), mnuNewton,
+                          &frmGraphingCalc::cmdNewton_Click);
+    cmdTangent = addScreen(5, QStringLiteral("&Tangent Line Problem"), QStringLiteral("&Tangent Problem"), mnuTangent,
+                           &frmGraphingCalc::cmdTangent_Click);
+    cmdMVT = addScreen(6, QStringLiteral("The &Mean Value Theorem"), QStringLiteral("&Mean Value Theorem"), mnuMVT,
+                       &frmGraphingCalc::cmdMVT_Click);
     cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
     layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
 
@@ -73,6 +79,12 @@ void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(classesScreen()); }
 void frmGraphingCalc::cmdSums_Click() { showScreen(riemannScreen()); }
 void frmGraphingCalc::mnuGrapher_Click() { cmdFuncClasses_Click(); }
 void frmGraphingCalc::mnuRiemann_Click() { cmdSums_Click(); }
+void frmGraphingCalc::cmdNewton_Click() { showScreen(newtonScreen()); }
+void frmGraphingCalc::mnuNewton_Click() { cmdNewton_Click(); }
+void frmGraphingCalc::cmdTangent_Click() { showScreen(tangentScreen()); }
+void frmGraphingCalc::mnuTangent_Click() { cmdTangent_Click(); }
+void frmGraphingCalc::cmdMVT_Click() { showScreen(mvtScreen()); }
+void frmGraphingCalc::mnuMVT_Click() { cmdMVT_Click(); }
 
 void frmGraphingCalc::cmdExit_Click() { mnuExit_Click(); }
 void frmGraphingCalc::mnuExit_Click() { endProgram(0); }

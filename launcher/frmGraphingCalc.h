@@ -7,7 +7,10 @@
 #include <QWidget>
 
 #include "screens/frmClasses.h"
+#include "screens/frmMVT.h"
+#include "screens/frmNewton.h"
 #include "screens/frmRiemann.h"
+#include "screens/frmTangent.h"
 
 class QAction;
 class QMenuBar;
@@ -22,6 +25,9 @@ public:
 
     QPushButton* cmdFuncClasses = nullptr;
     QPushButton* cmdSums = nullptr;
+    QPushButton* cmdNewton = nullptr;
+    QPushButton* cmdTangent = nullptr;
+    QPushButton* cmdMVT = nullptr;
     QPushButton* cmdExit = nullptr;
 
     QMenuBar* menuBar = nullptr;
@@ -29,11 +35,20 @@ public:
     QAction* mnuSelect = nullptr;
     QAction* mnuRiemann = nullptr;
     QAction* mnuGrapher = nullptr;
+    QAction* mnuNewton = nullptr;
+    QAction* mnuTangent = nullptr;
+    QAction* mnuMVT = nullptr;
 
     void cmdFuncClasses_Click();
     void cmdSums_Click();
     void mnuGrapher_Click();
     void mnuRiemann_Click();
+    void cmdNewton_Click();
+    void mnuNewton_Click();
+    void cmdTangent_Click();
+    void mnuTangent_Click();
+    void cmdMVT_Click();
+    void mnuMVT_Click();
     void cmdExit_Click();
     void mnuExit_Click();
     void mnuAbout_Click();
@@ -41,6 +56,9 @@ public:
     // The screens, each created (loaded) on first use.
     frmClasses& classesScreen() { return screen(classes_); }
     frmRiemann& riemannScreen() { return screen(riemann_); }
+    frmNewton& newtonScreen() { return screen(newton_); }
+    frmTangent& tangentScreen() { return screen(tangent_); }
+    frmMVT& mvtScreen() { return screen(mvt_); }
 
 private:
     template <class Screen>
@@ -60,4 +78,7 @@ private:
     class QMenu* selections_ = nullptr;
     std::unique_ptr<frmClasses> classes_;
     std::unique_ptr<frmRiemann> riemann_;
+    std::unique_ptr<frmNewton> newton_;
+    std::unique_ptr<frmTangent> tangent_;
+    std::unique_ptr<frmMVT> mvt_;
 };

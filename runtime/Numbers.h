@@ -33,8 +33,16 @@ inline std::string CStr(int v) { return CStr(static_cast<double>(v)); }
 // Removes blanks at both ends.
 std::string Trim(std::string_view text);
 
-// Floor: Int(-8.4) = -9.
-inline double Int(double v) { return std::floor(v); }
+// Floor: Int(-8.4) = -9. Whole-number conversion in registers for the magnitudes the program meets
+// in its loops; the library floor for the rest (and for NaN and infinities).
+inline double Int(double v)
+{
+    if (v > -4503599627370496.0 && v < 4503599627370496.0) {
+        const double t = static_cast<double>(static_cast<long long>(v));
+        return t > v ? t - 1.0 : t;
+    }
+    return std::floor(v);
+}
 
 // Raises Overflow (6) for an infinite or NaN value; returns the value otherwise. Every computed value
 // passes through this before it is stored, compared or converted, as the classic run time checks

@@ -6,8 +6,6 @@
 
 #include "funclib/FuncGlobals.h"
 #include "launcher/frmGraphingCalc.h"
-#include "screens/frmClasses.h"
-#include "screens/frmRiemann.h"
 
 namespace {
 
@@ -61,5 +59,41 @@ int main(int argc, char* argv[])
     sums.cmdCleanParts_Click();
     sums.cmdParts_Click();
     save(sums, dir, QStringLiteral("sums-32000.png"));
+    sums.hide();
+
+    // Newton's method on y = x^2 - 4 from 1, three steps, with the derivative.
+    frmNewton& newton = launcher.newtonScreen();
+    newton.Form_Activate();
+    newton.mnuFunc_Click(2);
+    newton.txtB->setText(QStringLiteral("0"));
+    newton.txtC->setText(QStringLiteral("-4"));
+    newton.cmdPlotto_Click();
+    newton.txtGuess->setText(QStringLiteral("1"));
+    for (int i = 0; i < 3; ++i)
+        newton.cmdApply_Click();
+    newton.cmdDeriv_Click();
+    save(newton, dir, QStringLiteral("newton.png"));
+    newton.hide();
+
+    // Secants of y = x^2 at 1 closing in on the tangent.
+    frmTangent& tangent = launcher.tangentScreen();
+    tangent.Form_Activate();
+    tangent.txtB->setText(QStringLiteral("1"));
+    tangent.cmdPlotto_Click();
+    for (int v : {2000, 1500, 1250, 1100})
+        tangent.hscDx->setValue(v);
+    save(tangent, dir, QStringLiteral("tangent.png"));
+    tangent.hide();
+
+    // The mean value theorem for y = x^2 on [0, 2]: c = 1.
+    frmMVT& mvt = launcher.mvtScreen();
+    mvt.Form_Activate();
+    mvt.cmdPlotto_Click();
+    mvt.txtX1->setText(QStringLiteral("0"));
+    mvt.txtX2->setText(QStringLiteral("2"));
+    mvt.cmdApplyMVT_Click();
+    mvt.HscMVT->setValue(5000);
+    mvt.cmdAnimateIt_Click();
+    save(mvt, dir, QStringLiteral("mvt.png"));
     return 0;
 }

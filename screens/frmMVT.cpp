@@ -1,0 +1,263 @@
+#include "screens/frmMVT.h"
+
+#include <cmath>
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
+
+namespace {
+
+GraphScreen::Config mvtConfig()
+{
+    GraphScreen::Config c;
+    c.caption = QStringLiteral("The Mean Value Theorem");
+    c.surfaceWidth = 13920;
+    c.surfaceHeight = 9000;
+    c.coefficientCount = 6;
+    return c;
+}
+
+constexpr double kLeft = 11220, kWidth = 2580, kInner = 2340;
+constexpr int kScanSteps = 200000;
+constexpr int kGridRows = 20;
+
+QString str(double v) { return QString::fromStdString(rt::Str(v)); }
+QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
+// Rounded half up to the given scale: Int(v * scale + 0.5) / scale.
+double rounded(double v, double scale) { return rt::Int(rt::Chk(rt::Chk(v * scale) + 0.5)) / scale; }
+
+}  // namespace
+
+frmMVT::frmMVT() : GraphScreen(mvtConfig())
+{
+    auto label = [](QWidget* parent, const char* caption, double left, double top, double width) {
+        auto* l = new ClickLabel(parent, QString::fromLatin1(caption));
+        placeTwips(l, left, top, width, 300);
+        return l;
+    };
+    fraMVTSet = new QGroupBox(QStringLiteral("MVT Set Up"), surface);
+    placeTwips(fraMVTSet, kLeft, 120, kWidth, 3120);
+    lblX1 = label(fraMVTSet, "Left endpt", 120, 330, 1080);
+    txtX1 = new TextBox(fraMVTSet, QStringLiteral("a"));
+    placeTwips(txtX1, 1260, 330, 1200, 300);
+    lblX2 = label(fraMVTSet, "Right endpt", 120, 690, 1080);
+    txtX2 = new TextBox(fraMVTSet, QStringLiteral("b"));
+    placeTwips(txtX2, 1260, 690, 1200, 300);
+    cmdApplyMVT = makeButton(fraMVTSet, QStringLiteral("Apply to Graph"), [this] { cmdApplyMVT_Click(); });
+    placeTwips(cmdApplyMVT, 120, 1080, kInner, 420);
+    lblPt1 = label(fraMVTSet, "( _______ , _______)", 120, 1590, kInner);
+    lblto = label(fraMVTSet, "to", 120, 1890, kInner);
+    lblto->setAlignment(Qt::AlignCenter);
+    lblPt2 = label(fraMVTSet, "( _______ , _______)", 120, 2190, kInner);
+    lblSlope1 = label(fraMVTSet, "Slope", 120, 2580, kInner);
+
+    fraFindPt = new QGroupBox(QStringLiteral("Find c"), surface);
+    placeTwips(fraFindPt, kLeft, 3360, kWidth, 5520);
+    lblSlideIt = label(fraFindPt, "Use the Slider", 120, 300, kInner);
+    lblSlideIt->setAlignment(Qt::AlignCenter);
+    HscMVT = new ScrollBar(Qt::Horizontal, fraFindPt);
+    HscMVT->setRange(0, 20000);
+    HscMVT->setPageStep(100);
+    HscMVT->setSingleStep(1);
+    placeTwips(HscMVT, 120, 600, kInner, 255);
+    lbl1 = label(fraFindPt, "a", 120, 900, 1100);
+    lbl2 = label(fraFindPt, "b", 1360, 900, 1100);
+    lbl2->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    lblFindc = label(fraFindPt, "x =", 120, 1230, kInner);
+    lblFindc->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    lblSlope2 = label(fraFindPt, "Slope = ", 120, 1560, kInner);
+    cmdAnimateIt = makeButton(fraFindPt, QStringLiteral("Find c"), [this] { cmdAnimateIt_Click(); });
+    placeTwips(cmdAnimateIt, 120, 1920, kInner, 420);
+    gridC = new Grid(fraFindPt, kGridRows, 3);
+    placeTwips(gridC, 120, 2460, kInner, 2940);
+
+    txtX1->Change = [this] { txtX1_Change(); };
+    txtX2->Change = [this] { txtX2_Change(); };
+    HscMVT->Change = [this] { HscMVT_Change(); };
+    lblFindc->Click = [this] { lblFindc_Click(); };
+    Form_Load();
+}
+
+void frmMVT::Form_Load()
+{
+    GraphScreen::Form_Load();
+    SetColWidth();
+}
+
+void frmMVT::SetColWidth()
+{
+    for (int c = 0; c < 3; ++c) {
+        gridC->setColumnWidthTwips(c, 700);
+        gridC->setColumnAlignment(c, Qt::AlignCenter);
+    }
+}
+
+void frmMVT::cmdPlotto_Click()
+{
+    CleanGraph();
+    plotFunction();
+}
+
+void frmMVT::cmdApplyMVT_Click()
+{
+    using rt::Chk;
+    const double a = txtX1->value();
+    const double fa = FuncGlobals::YFunc(a);
+    const double ca = graph.column(a), ra = graph.row(fa);
+    const double b = txtX2->value();
+    const double fb = FuncGlobals::YFunc(b);
+    const double cb = graph.column(b), rb = graph.row(fb);
+    if (b == a) {
+        lblSlope1->setText(QStringLiteral("ERROR!  0/0"));
+        return;
+    }
+    SecantSlope = rt::Div(Chk(fb - fa), Chk(b - a));
+    const QRgb red = rgbColor(rt::QBColor(4));
+    surface->Circle(ca, ra, 50, red);
+    surface->Circle(cb, rb, 50, red);
+
+    // The secant across the whole width, dotted column by column in the curve's colour.
+    const double k = Chk(fb - Chk(SecantSlope * b));
+    QRgb colour = 0;
+    bool haveColour = false;
+    for (int column = squareLeft() + 1; column <= squareLeft() + 6399; ++column) {
+        const double x = graph.worldX(column);
+        const double row = graph.row(Chk(Chk(SecantSlope * x) + k));
+        if (100 <= row && row < 6500) {
+            if (!haveColour) {
+                colour = rgbColor(rt::QBColor(rt::Mod(FuncGlobals::FunctionId, 7)));
+                haveColour = true;
+            }
+            surface->PSet(column, row, colour);
+        }
+    }
+    auto R4 = [](double v) { return str(rounded(v, 10000)); };
+    lblPt1->setText(QStringLiteral("(") + R4(a) + QStringLiteral(",") + R4(fa) + QStringLiteral(")"));
+    lblPt2->setText(QStringLiteral("(") + R4(b) + QStringLiteral(",") + R4(fb) + QStringLiteral(")"));
+    lblSlope1->setText(QStringLiteral("slope = ") + trimmedStr(rounded(SecantSlope, 100000)));
+}
+
+void frmMVT::HscMVT_Change()
+{
+    using rt::Chk;
+    const double a = txtX1->value(), b = txtX2->value();
+    const double c = Chk(a + rt::Div(Chk(Chk(b - a) * HscMVT->value()), HscMVT->maximum()));
+    lblFindc->setText(QStringLiteral("x = ") + str(rounded(c, 10000)));
+    const double slope = FuncGlobals::YPrimeFunc(c);
+    lblSlope2->setText(QStringLiteral("Slope =") + str(rounded(slope, 10000)));
+    const double fc = FuncGlobals::YFunc(c);
+
+    QRgb colour = 0;
+    bool haveColour = false;
+    for (int column = squareLeft(); column <= squareLeft() + 6400; ++column) {
+        const double x = graph.worldX(column);
+        const double row = graph.row(Chk(Chk(slope * Chk(x - c)) + fc));
+        if (100 <= row && row < 6500) {
+            if (!haveColour) {
+                // Not reduced: family 15 asks for colour 16, which does not exist.
+                colour = rgbColor(rt::QBColor(FuncGlobals::FunctionId + 1));
+                haveColour = true;
+            }
+            surface->PSet(column, row, colour);
+        }
+    }
+}
+
+void frmMVT::lblFindc_Click()
+{
+    const QString answer = InputBox(QStringLiteral("Enter an x value to check"), QStringLiteral("Enter X"));
+    if (answer.isEmpty())
+        return;
+    const float x = rt::CSng(rt::Val(answer.toStdString()));
+    const float a = rt::CSng(txtX1->value()), b = rt::CSng(txtX2->value());
+    if (!(a < x && x < b))
+        return;
+    const float position = rt::CSng(rt::CSng(rt::CSng(x - a) / rt::CSng(b - a)) * static_cast<float>(HscMVT->maximum()));
+    HscMVT->setValueChecked(rt::CInt(position));
+}
+
+void frmMVT::cmdAnimateIt_Click()
+{
+    using rt::Chk;
+    double last = txtXmin->value();
+    const double a = txtX1->value(), b = txtX2->value();
+    if (!(a < b))
+        return;
+    for (int r = 1; r < kGridRows; ++r)
+        for (int c = 0; c < 3; ++c)
+            gridC->setCell(r, c, QString());
+    gridC->setCell(0, 0, QStringLiteral("c"));
+    gridC->setCell(0, 1, QStringLiteral("f(c)"));
+    gridC->setCell(0, 2, QStringLiteral("m"));
+
+    const double h = Chk(b - a) / kScanSteps;
+    // Two slopes rounded to thousandths are equal exactly when their whole numbers of thousandths are.
+    auto thousandths = [](double v) { return rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)); };
+    const double target = thousandths(SecantSlope);
+    std::int16_t count = 0;
+    for (double x = a; x <= b;) {
+        const double slope = FuncGlobals::YPrimeFunc(x);
+        if (thousandths(slope) == target) {
+            const double fx = FuncGlobals::YFunc(x);
+            surface->setDrawWidth(3);
+            surface->PSet(graph.column(x), graph.row(fx), surface->ForeColor);
+            surface->setDrawWidth(1);
+            if (std::fabs(Chk(last - x)) > 0.1) {
+                count = rt::CInt(count + 1.0);
+                if (count < kGridRows) {
+                    last = x;
+                    gridC->setCell(count, 0, trimmedStr(rounded(x, 1000)));
+                    gridC->setCell(count, 1, trimmedStr(rounded(fx, 1000)));
+                    gridC->setCell(count, 2, trimmedStr(rounded(slope, 1000)));
+                }
+            }
+        }
+        const double next = Chk(x + h);
+        if (next == x)  // a step too small to move x any further would never reach b
+            break;
+        x = next;
+    }
+}
+
+void frmMVT::keepInWindow(TextBox* box, ClickLabel* echo)
+{
+    if (box->value() < txtXmin->value())
+        box->assign(txtXmin->text());
+    if (box->value() > txtXmax->value())
+        box->assign(txtXmax->text());
+    const double v = box->value();
+    if (txtXmin->value() <= v && v <= txtXmax->value())
+        echo->setText(box->text());
+}
+
+void frmMVT::txtX1_Change() { keepInWindow(txtX1, lbl1); }
+void frmMVT::txtX2_Change() { keepInWindow(txtX2, lbl2); }
+
+void frmMVT::mnuAbout_Click()
+{
+    showHelp({
+        {"What is this?",
+         "This screen is to demonstrate the Mean Value Theorem.  Most of the function selections are continuous so it "
+         "may be applied to most of them, at least you can define a continuous interval."},
+        {"Get Started",
+         "To get started, select a function from the pull down menu or click on the function to get another one.  "
+         "Select the values for A to E for the function and [Plotto].  The right side of the screen is to setup the "
+         "interval or a and b end points.  Once you have entered the end points, Click [Apply to Graph].  This will "
+         "plot the line and calculate the points and slope."},
+        {"Find c --- Three Ways",
+         "There are many ways to find c, the value guaranteed by the MVT.  1)Use the Slider to approximate where c "
+         "would be on the (a,b) interval.  Each time you move the slider or click on the arrow the tangent line will "
+         "be graphed and its slope determined at the point.  You can keep moving the slider until the slope from the "
+         "setup matches the slope at the point. 2) Click on the 'x =' label.  You will be asked to enter a value for "
+         "x.  The slider will automatically move to the point and show the tangent line and its slope.  3) Click on "
+         "[Find c].  This button will find all points(up to 20) on the graph having the same slope as the secant "
+         "line.  They are listed in a chart."},
+        {"Accuracy Problems",
+         "There are some accuracy considerations when using [Find c].  The slopes are compared to the nearest 0.001.  "
+         "The calculated slope from the end points may differ from the slope of the tangent line.  Some MVT points "
+         "may be missed due the accuracy when scannning through the function for the points.  This usually does not "
+         "happen unless your interval is wide and there are rapid fluctuations like sin(20x)."},
+    });
+}

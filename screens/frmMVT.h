@@ -1,0 +1,40 @@
+#pragma once
+// The mean value theorem: the secant over [a, b], the tangent at any point of the interval by
+// slider or typed x, and a scan that lists the points c whose slope matches the secant's.
+#include <QGroupBox>
+
+#include "graphwin/GraphScreen.h"
+
+class frmMVT : public GraphScreen {
+    Q_OBJECT
+public:
+    frmMVT();
+
+    QGroupBox *fraMVTSet = nullptr, *fraFindPt = nullptr;
+    ClickLabel *lblX1 = nullptr, *lblX2 = nullptr;
+    TextBox *txtX1 = nullptr, *txtX2 = nullptr;
+    QPushButton* cmdApplyMVT = nullptr;
+    ClickLabel *lblPt1 = nullptr, *lblto = nullptr, *lblPt2 = nullptr, *lblSlope1 = nullptr;
+    ClickLabel* lblSlideIt = nullptr;
+    ScrollBar* HscMVT = nullptr;
+    ClickLabel *lbl1 = nullptr, *lbl2 = nullptr, *lblFindc = nullptr, *lblSlope2 = nullptr;
+    Grid* gridC = nullptr;
+    QPushButton* cmdAnimateIt = nullptr;
+
+    // The slope of the last secant drawn; 0 until the first.
+    double SecantSlope = 0;
+
+    void SetColWidth();
+    void cmdApplyMVT_Click();
+    void HscMVT_Change();
+    void lblFindc_Click();
+    void cmdAnimateIt_Click();
+    void txtX1_Change();
+    void txtX2_Change();
+    void cmdPlotto_Click() override;
+    void Form_Load() override;
+    void mnuAbout_Click() override;
+
+private:
+    void keepInWindow(TextBox* box, ClickLabel* echo);
+};

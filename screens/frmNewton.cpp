@@ -1,0 +1,128 @@
+#include "screens/frmNewton.h"
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "runtime/Numbers.h"
+
+namespace {
+
+GraphScreen::Config newtonConfig()
+{
+    GraphScreen::Config c;
+    c.caption = QStringLiteral("Newton's Method and Derivatives");
+    c.surfaceWidth = 13800;
+    return c;
+}
+
+constexpr int kGridRows = 15;
+
+QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
+
+}  // namespace
+
+frmNewton::frmNewton() : GraphScreen(newtonConfig())
+{
+    const double left = squareLeft() + 6400 + 600;
+    lblNewtonMethod = makeLabel(QStringLiteral("Newton's Method"), left, 3060, 1680, 300);
+    lblNewtonMethod->setAlignment(Qt::AlignCenter);
+    lblGuess = makeLabel(QStringLiteral("Guess:"), left, 3420, 1680, 300);
+    txtGuess = makeBox(QStringLiteral("FirstGuess"), left, 3720, 1680);
+    txtGuess->Click = [this] { txtGuess_Click(); };
+    cmdApply = addButton(QStringLiteral("Apply Newton's"), 4140, [this] { cmdApply_Click(); });
+    cmdDeriv = addButton(QStringLiteral("Graph &Derivative"), 4680, [this] { cmdDeriv_Click(); });
+    grdGuess = new Grid(surface, kGridRows, 2);
+    placeTwips(grdGuess, 11220, 600, 2460, 4500);
+    Form_Load();
+}
+
+void frmNewton::Form_Load()
+{
+    GraphScreen::Form_Load();
+    grdGuess->setCell(0, 0, QStringLiteral("Guess #"));
+    grdGuess->setCell(0, 1, QStringLiteral("Value"));
+    grdGuess->setColumnWidthTwips(0, 670);
+    grdGuess->setColumnWidthTwips(1, 1500);
+    for (int k = 1; k < kGridRows; ++k)
+        grdGuess->setCell(k, 0, QString::number(k));
+}
+
+void frmNewton::Form_Activate()
+{
+    GraphScreen::Form_Activate();
+    NewSequence = true;
+    GuessNumber = 1;
+}
+
+void frmNewton::mnuFunc_Click(int Index)
+{
+    if (Index != FuncGlobals::FunctionId) {
+        NewSequence = true;
+        GuessNumber = 1;
+    }
+    GraphScreen::mnuFunc_Click(Index);
+}
+
+void frmNewton::coefficientChanged(int) { NewSequence = true; }
+
+void frmNewton::txtGuess_Click() { txtGuess->setSelection(0, static_cast<int>(txtGuess->text().size())); }
+
+void frmNewton::cmdApply_Click()
+{
+    using rt::Chk;
+    const QRgb black = 0xFF000000u;
+    if (NewSequence) {
+        for (int k = 1; k < kGridRows; ++k)
+            grdGuess->setCell(k, 1, QString());
+        grdGuess->setCell(1, 1, txtGuess->text());
+        GuessNumber = 1;
+    }
+    const double x = txtGuess->value();
+    const double c = graph.column(x);
+    const double y = FuncGlobals::YFunc(x);
+    const double r = graph.row(y);
+    const double Y0 = graph.YOrigin;
+    if (100 < r && r < 6500) {
+        surface->Line(c, Y0, c, r, black);
+        const QString label = QStringLiteral("x1");
+        surface->CurrentX = Chk(c - surface->TextWidth(label) / 2);
+        surface->CurrentY = Y0;
+        if (NewSequence)
+            surface->Print(label);
+    }
+    NewSequence = false;
+    const double s = FuncGlobals::YPrimeFunc(x);
+    if (s != 0) {
+        const double next = Chk(x - rt::Div(y, s));
+        surface->Line(c, r, graph.column(next), Y0, black);
+        txtGuess->assign(trimmedStr(next));
+    } else {
+        MsgBox(QStringLiteral("This guess failed due to zero for the slope"), QStringLiteral("Division by zero"));
+    }
+    if (GuessNumber < kGridRows)
+        grdGuess->setCell(GuessNumber, 1, trimmedStr(x));
+    GuessNumber = rt::CInt(GuessNumber + 1.0);
+}
+
+void frmNewton::cmdDeriv_Click() { plotColumns(FuncGlobals::YPrimeFunc); }
+
+void frmNewton::mnuAbout_Click()
+{
+    showHelp({
+        {"What is this?",
+         "This screen is used to demonstrate Newton's method for finding roots(x-intercepts) of functions.  Along the "
+         "way you can graph the derivatives of functions too."},
+        {"Newton's Method",
+         "Newton's method simple takes a guess, uses the slope of the function at the (x={guess},y) point to plot "
+         "where this tangent line will intercept the x-axis.  This becomes the second guess and is used in the same "
+         "procedure to find the third and so on...  As your guesses get closer to the root, the function appears more "
+         "linear like so you get very close."},
+        {"Failures",
+         "There may be some cases where Newton's Method fails.   This may be due to the nature of the function or "
+         "the guess."},
+        {"[Apply Newton's]",
+         "To try Newton's method: select a function and the variables A to E.  Select a first guess at the right.  "
+         "Click [Apply Newton's].  You should see the line drawn from your (x-guess, y) to the x-axis.  The second "
+         "guess will appear in the guess box so you can [Apply Newton's] again."},
+        {"Change and Continue", "Zoom in or change the window and Apply again."},
+    });
+}

@@ -1,0 +1,164 @@
+#include "screens/frmTangent.h"
+
+#include "funclib/FuncGlobals.h"
+#include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
+
+namespace {
+
+GraphScreen::Config tangentConfig()
+{
+    GraphScreen::Config c;
+    c.caption = QStringLiteral("The Tangent Line Problem");
+    c.surfaceWidth = 13800;
+    return c;
+}
+
+constexpr double kLeft = 11220, kWidth = 2460;
+
+QString str(double v) { return QString::fromStdString(rt::Str(v)); }
+QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
+
+// Cut (towards minus infinity) to `places` decimals: Int(v * 10^places) / 10^places.
+double cut(double v, double scale) { return rt::Int(rt::Chk(v * scale)) / scale; }
+
+// The label rule of the coefficient panel, with the result written back by Str.
+void stepByStr(TextBox* box, int Button)
+{
+    if (Button == LeftButton)
+        box->assign(rt::Str(rt::Chk(box->value() + 1)));
+    else if (Button == RightButton)
+        box->assign(rt::Str(rt::Chk(box->value() - 1)));
+}
+
+}  // namespace
+
+frmTangent::frmTangent() : GraphScreen(tangentConfig())
+{
+    lblTan = makeLabel(QStringLiteral("Tangent Problem Set up"), kLeft, 240, kWidth, 300);
+    lblTan->setAlignment(Qt::AlignCenter);
+    lblXat = new ClickLabel(surface, QStringLiteral("Tangent at x ="), true);
+    placeTwips(lblXat, kLeft, 600, 1380, 300);
+    txtX = makeBox(QStringLiteral("1"), kLeft + 1440, 600, kWidth - 1440);
+    lblDeltaX = new ClickLabel(surface, QStringLiteral("Delta x"), true);
+    placeTwips(lblDeltaX, kLeft, 960, 1380, 300);
+    txtDeltaX = makeBox(QStringLiteral("1"), kLeft + 1440, 960, kWidth - 1440);
+    cmdApply = makeButton(surface, QStringLiteral("&Apply to graph"), [this] { cmdApply_Click(); });
+    placeTwips(cmdApply, kLeft, 1380, kWidth, 420);
+    cmdHalfDx = makeButton(surface, QStringLiteral("Half Delta x"), [this] { cmdHalfDx_Click(); });
+    placeTwips(cmdHalfDx, kLeft, 1860, kWidth, 420);
+
+    lblSlide = makeLabel(QStringLiteral("Delta X slider"), kLeft, 2460, kWidth, 300);
+    lblSlide->setAlignment(Qt::AlignCenter);
+    hscDx = new ScrollBar(Qt::Horizontal, surface);
+    hscDx->setRange(0, 2000);
+    hscDx->setPageStep(100);
+    hscDx->setSingleStep(1);
+    hscDx->setValue(2000);
+    placeTwips(hscDx, kLeft, 2760, kWidth, 255);
+    lblxminuDx = makeLabel(QStringLiteral("x-dx"), kLeft, 3060, 600, 300);
+    lblHsc = makeLabel(QStringLiteral("x=1"), kLeft + 630, 3060, 1200, 300);
+    lblHsc->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    lblXaddDx = makeLabel(QStringLiteral("x+dx"), kLeft + kWidth - 600, 3060, 600, 300);
+    lblXaddDx->setAlignment(Qt::AlignRight | Qt::AlignTop);
+
+    fraApply = new QGroupBox(QStringLiteral("Secant Line Results"), surface);
+    placeTwips(fraApply, kLeft - 120, 3540, kWidth + 240, 1500);
+    lblPoints = new ClickLabel(fraApply, QStringLiteral("( ___, ___ ) to ( ___ , ___ )"));
+    placeTwips(lblPoints, 120, 360, kWidth, 420);
+    lblPoints->setWordWrap(true);
+    lblTLine = new ClickLabel(fraApply, QStringLiteral("Line Equation"));
+    placeTwips(lblTLine, 120, 900, kWidth, 420);
+    lblTLine->setWordWrap(true);
+
+    txtX->Change = [this] { txtX_Change(); };
+    hscDx->Change = [this] { hscDx_Change(); };
+    lblXat->MouseDown = [this](int b, int s, double x, double y) { lblXat_MouseDown(b, s, x, y); };
+    lblDeltaX->MouseDown = [this](int b, int s, double x, double y) { lblDeltaX_MouseDown(b, s, x, y); };
+    Form_Load();
+}
+
+void frmTangent::DrawSecant(double dx)
+{
+    using rt::Chk;
+    using rt::Div;
+    const double x1 = txtX->value();
+    const double y1 = FuncGlobals::YFunc(x1);
+    const double c1 = graph.column(x1), r1 = graph.row(y1);
+    const double x2 = Chk(x1 + dx);
+    const double y2 = FuncGlobals::YFunc(x2);
+    const double c2 = graph.column(x2), r2 = graph.row(y2);
+    if (x2 == x1) {
+        lblTLine->setText(QStringLiteral("ERROR!  0/0"));
+        return;
+    }
+    const double m = Div(Chk(y2 - y1), Chk(x2 - x1));
+    const double b = Chk(y2 - Chk(m * x2));
+
+    // Where the line leaves the window on the right, then on the left.
+    double ymax = txtYmax->value(), ymin = txtYmin->value();
+    const double xmax = txtXmax->value();
+    double rightX = xmax, rightY = Chk(Chk(m * xmax) + b);
+    if (!(ymin <= rightY && rightY <= ymax)) {
+        rightY = m < 0 ? ymin : ymax;
+        rightX = Div(Chk(rightY - b), m);
+    }
+    ymax = txtYmax->value();
+    ymin = txtYmin->value();
+    const double xmin = txtXmin->value();
+    double leftX = xmin, leftY = Chk(Chk(m * xmin) + b);
+    if (!(ymin <= leftY && leftY <= ymax)) {
+        leftY = m <= 0 ? ymax : ymin;
+        leftX = Div(Chk(leftY - b), m);
+    }
+    const double cr = graph.column(rightX), rr = graph.row(rightY);
+    const double cl = graph.column(leftX), rl = graph.row(leftY);
+
+    const QRgb red = rgbColor(rt::QBColor(4));
+    surface->Line(c1, r1, c2, r2, red);
+    surface->Line(cr, rr, cl, rl, red);
+
+    auto P = [](double v) { return str(cut(v, 10000)); };
+    lblPoints->setText(QStringLiteral("(") + P(x1) + QStringLiteral(",") + P(y1) + QStringLiteral(") to (") + P(x2) +
+                       QStringLiteral(",") + P(y2) + QStringLiteral(")"));
+    lblTLine->setText(QStringLiteral("y = ") + trimmedStr(cut(m, 100000)) + QStringLiteral("x + ") +
+                      trimmedStr(cut(b, 1000)));
+}
+
+void frmTangent::cmdApply_Click() { DrawSecant(txtDeltaX->value()); }
+
+void frmTangent::cmdHalfDx_Click() { txtDeltaX->assign(rt::Str(txtDeltaX->value() / 2)); }
+
+void frmTangent::hscDx_Change()
+{
+    const std::int16_t offset = rt::CInt(hscDx->value() - 1000.0);
+    DrawSecant(rt::Chk(offset * txtDeltaX->value()) / 1000);
+}
+
+void frmTangent::txtX_Change() { lblHsc->setText(txtX->text()); }
+
+void frmTangent::lblXat_MouseDown(int Button, int, double, double) { stepByStr(txtX, Button); }
+
+void frmTangent::lblDeltaX_MouseDown(int Button, int, double, double) { stepByStr(txtDeltaX, Button); }
+
+void frmTangent::mnuAbout_Click()
+{
+    showHelp({
+        {"What is this?",
+         "This screen is to demonstrate the classic slope of the tangent line problem.  You may select any function "
+         "from the menu.  Choose values for the A,B,...,E variables for your function and Plotto."},
+        {"Tangent Set up Selections",
+         "The secant lines will be graphed using the buttons, text boxes and glider at the right.  Select the initial "
+         "point for the secant line by placing a value in the 'Tangent at x =' box.  Choose the Delta x.  This the "
+         "distance from your choice of x and is the longest distance for the slider.  The delta x may be negative.  "
+         "The slider may be scrolled to either side of your initial x."},
+        {"Show the secants and the results",
+         "Clicking on [Apply It] will draw the secant line and show the points on the graph and the equation of the "
+         "line.  If you click on [Half Delta x], your delta x will be cut in half.  You may click [Apply It] to see "
+         "the new line."},
+        {"Slider",
+         "Clicking or scrolling the slider will change delta x and graph the secant line when releasing the mouse "
+         "button.  You may see the points and the equation for each new change of the slider.  Notice the x-dx, x=  , "
+         "and x+dx at the bottom of the slider.  This should help to know which way your secant line is going."},
+    });
+}

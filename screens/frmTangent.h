@@ -1,0 +1,29 @@
+#pragma once
+// The tangent line as the limit of secants: the secant through (x, f(x)) and (x + dx, f(x + dx)),
+// drawn across the window, with its points and equation; Delta x halved or swept with a slider.
+#include <QGroupBox>
+
+#include "graphwin/GraphScreen.h"
+
+class frmTangent : public GraphScreen {
+    Q_OBJECT
+public:
+    frmTangent();
+
+    ClickLabel *lblTan = nullptr, *lblXat = nullptr, *lblDeltaX = nullptr, *lblSlide = nullptr;
+    TextBox *txtX = nullptr, *txtDeltaX = nullptr;
+    QPushButton *cmdApply = nullptr, *cmdHalfDx = nullptr;
+    ScrollBar* hscDx = nullptr;
+    ClickLabel *lblxminuDx = nullptr, *lblHsc = nullptr, *lblXaddDx = nullptr;
+    QGroupBox* fraApply = nullptr;
+    ClickLabel *lblPoints = nullptr, *lblTLine = nullptr;
+
+    void DrawSecant(double dx);
+    void cmdApply_Click();
+    void cmdHalfDx_Click();
+    void hscDx_Change();
+    void txtX_Change();
+    void lblXat_MouseDown(int Button, int Shift, double X, double Y);
+    void lblDeltaX_MouseDown(int Button, int Shift, double X, double Y);
+    void mnuAbout_Click() override;
+};
