@@ -1,5 +1,6 @@
 // The launcher: its caption and About sequence, opening a screen modally and finding it as it was
 // left, and Quit.
+#include <QMenu>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -23,7 +24,7 @@ struct LauncherTest : ::testing::Test {
         setProgramEndHandler(nullptr);
     }
     // Runs `inside` while the screen is shown modally, then leaves it by its Exit button.
-    static void whileShown(frmClasses& screen, std::function<void()> inside)
+    static void whileShown(GraphScreen& screen, std::function<void()> inside)
     {
         QTimer::singleShot(0, &screen, [&screen, inside] {
             inside();
@@ -97,4 +98,39 @@ TEST_F(LauncherTest, AnErrorInsideAModalScreenReachesTheOneReport)
     EXPECT_EQ(script.errors, std::vector<int>{11});
     EXPECT_EQ(script.shown.back(), std::make_pair(QStringLiteral("Plotto"),
                                                   QStringLiteral("Run-time error '11':\n\nDivision by zero")));
+}
+
+TEST_F(LauncherTest, EveryScreenOpensFromItsButtonAndItsMenuEntry)
+{
+    frmGraphingCalc launcher;
+    struct Entry {
+        QPushButton* button;
+        QAction* action;
+        GraphScreen& screen;
+        const char* title;
+    };
+    const Entry entries[] = {
+        {launcher.cmdFuncClasses, launcher.mnuGrapher, launcher.classesScreen(), "Graphing Classes of Functions"},
+        {launcher.cmdSums, launcher.mnuRiemann, launcher.riemannScreen(), "Riemann and Other Sums"},
+        {launcher.cmdNewton, launcher.mnuNewton, launcher.newtonScreen(), "Newton's Method and Derivatives"},
+        {launcher.cmdTangent, launcher.mnuTangent, launcher.tangentScreen(), "The Tangent Line Problem"},
+        {launcher.cmdMVT, launcher.mnuMVT, launcher.mvtScreen(), "The Mean Value Theorem"},
+    };
+    for (const Entry& e : entries) {
+        int shown = 0;
+        whileShown(e.screen, [&] { shown += e.screen.isVisible() ? 1 : 0; });
+        e.button->click();
+        whileShown(e.screen, [&] { shown += e.screen.isVisible() ? 1 : 0; });
+        e.action->trigger();
+        EXPECT_EQ(shown, 2) << e.title;
+        EXPECT_EQ(e.screen.windowTitle(), QString::fromUtf8(e.title));
+    }
+    const QString menu[] = {QStringLiteral("&Riemann Sums +"), QStringLiteral("&Function Grapher"),
+                            QStringLiteral("&Newton's Method"), QStringLiteral("&Tangent Problem"),
+                            QStringLiteral("&Mean Value Theorem")};
+    const QList<QAction*> actions = launcher.mnuSelect->menu()->actions();
+    ASSERT_EQ(actions.size(), 5);
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(actions[i]->text(), menu[i]);
+    EXPECT_TRUE(script.errors.empty());
 }
