@@ -1,5 +1,7 @@
 #include "launcher/frmGraphingCalc.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QGridLayout>
 #include <QLabel>
@@ -61,9 +63,20 @@ frmGraphingCalc::~frmGraphingCalc() = default;
 QPushButton* frmGraphingCalc::addScreen(int place, const QString& button, const QString& entry, QAction*& action,
                                         void (frmGraphingCalc::*open)())
 {
-    const int index = place;
     QPushButton* b = makeButton(this, button, [this, open] { (this->*open)(); });
-    grid_->addWidget(b, index / 2, index % 2);
+    // Keep the buttons in teaching order, two to a row, whichever screens exist.
+    b->setProperty("place", place);
+    QList<QPushButton*> buttons;
+    for (int i = 0; i < grid_->count(); ++i)
+        buttons.append(static_cast<QPushButton*>(grid_->itemAt(i)->widget()));
+    buttons.append(b);
+    std::stable_sort(buttons.begin(), buttons.end(), [](QPushButton* x, QPushButton* y) {
+        return x->property("place").toInt() < y->property("place").toInt();
+    });
+    for (QPushButton* existing : buttons)
+        grid_->removeWidget(existing);
+    for (int i = 0; i < buttons.size(); ++i)
+        grid_->addWidget(buttons[i], i / 2, i % 2);
     action = selections_->addAction(entry);
     onTriggered(action, [this, open] { (this->*open)(); });
     return b;

@@ -70,7 +70,7 @@ private:
     }
     void showScreen(GraphScreen& screen);
     // Adds a screen's button to the grid and its entry to the Selections menu.
-    // Buttons stand in teaching order, two to a row.
+    // Buttons stand in teaching order (`place`), two to a row.
     QPushButton* addScreen(int place, const QString& button, const QString& entry, QAction*& action,
                            void (frmGraphingCalc::*open)());
 
