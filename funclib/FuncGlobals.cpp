@@ -179,4 +179,122 @@ double YPrimeFunc(const double& x)
     }
 }
 
+const char* DyCaption(int id)
+{
+    static constexpr const char* captions[RateFamilyCount + 1] = {
+        "",
+        "dy = Ax + By + C",
+        "dy = Ax + Bsin(Cx)",
+        "dy = Ax + Bcos(Cx)",
+        "dy = Ax + Bsin(Cy)",
+        "dy = Ay + Bsin(Cx)",
+        "dy = Ay + Bsin(Cy)",
+        "dy = Ax + BxSin(Cx)",
+        "dy = Ay + BxSin(Cy)",
+        "dy = Ax + By + C*e^x",
+        "dy = Ax + B*ln(x) + C",
+        "dy = Axy + Bx^2*y + Cxy^2",
+        "dy = Ax^2 + Bx + C",
+        "dy = Ay^2 + By + C",
+        "dy = Ax^3 + Bx^2 + Cx",
+        "dy = Ay^3 + By^2 + Cy",
+    };
+    return id >= 1 && id <= RateFamilyCount ? captions[id] : "";
+}
+
+const char* DxCaption(int id)
+{
+    static constexpr const char* captions[RateFamilyCount + 1] = {
+        "",
+        "dx = Dx + Ey + F",
+        "dx = Dx + Esin(Fx)",
+        "dx = Dx + Ecos(Fx)",
+        "dx = Dx + Esin(Fy)",
+        "dx = Dy + Esin(Fx)",
+        "dx = Dy + Esin(Fy)",
+        "dx = Dx + ExSin(Fx)",
+        "dx = Dy + Exsin(Fy)",
+        "dx = Dx + Ey + C*e^y",
+        "dx = Dx + E*ln(y) + F",
+        "dx = Dxy + Ex^2*y + Fxy^2",
+        "dx = Dx^2 + Ex + F",
+        "dx = Dy^2 + Ey + F",
+        "dx = Dx^3 + Ex^2 + Fx",
+        "dx = Dy^3 + Ey^2 + Fy",
+    };
+    return id >= 1 && id <= RateFamilyCount ? captions[id] : "";
+}
+
+namespace {
+
+// One rate family with coefficients (p, q, r) at (x, y), as the dy column writes it. The dx column
+// has the same formulas with D, E, F, except families 9 and 10, which read y where dy reads x
+// (`dxColumn`).
+double rate(int id, double x, double y, double p, double q, double r, bool dxColumn = false)
+{
+    if (id == 1)
+        return Chk(Chk(p * x) + Chk(q * y) + r);
+    if (id < 2 || id > RateFamilyCount)
+        return 0.0;
+    if (p == 0.0 && q == 0.0 && r == 0.0)
+        return 1.0;
+    switch (id) {
+    case 2: return Chk(Chk(p * x) + Chk(q * std::sin(Chk(r * x))));
+    case 3: return Chk(Chk(p * x) + Chk(q * std::cos(Chk(r * x))));
+    case 4: return Chk(Chk(p * x) + Chk(q * std::sin(Chk(r * y))));
+    case 5: return Chk(Chk(p * y) + Chk(q * std::sin(Chk(r * x))));
+    case 6: return Chk(Chk(p * y) + Chk(q * std::sin(Chk(r * y))));
+    case 7: return Chk(Chk(p * x) + Chk(Chk(q * x) * std::sin(Chk(r * x))));
+    case 8: return Chk(Chk(p * y) + Chk(Chk(q * x) * std::sin(Chk(r * y))));
+    case 9: return Chk(Chk(p * x) + Chk(q * y) + Chk(r * Chk(std::exp(dxColumn ? y : x))));
+    case 10: {
+        const double argument = dxColumn ? y : x;
+        if (!(argument > 0.0))
+            return 0.0;
+        return Chk(Chk(p * x) + Chk(q * std::log(argument)) + r);
+    }
+    case 11: return Chk(Chk(Chk(p * x) * y) + Chk(Chk(q * Pow(x, 2)) * y) + Chk(Chk(r * x) * Pow(y, 2)));
+    case 12: return Chk(Chk(p * Pow(x, 2)) + Chk(q * x) + r);
+    case 13: return Chk(Chk(p * Pow(y, 2)) + Chk(q * y) + r);
+    case 14: return Chk(Chk(p * Pow(x, 3)) + Chk(q * Pow(x, 2)) + Chk(r * x));
+    default: return Chk(Chk(p * Pow(y, 3)) + Chk(q * Pow(y, 2)) + Chk(r * y));
+    }
+}
+
+// The slope increment of one stage: the change of y over a change h of x along the field.
+double increment(double u, double v, double h)
+{
+    const double dy = DyFunc(u, v);
+    return rt::Div(Chk(dy * h), DxFunc(u, v));
+}
+
+}  // namespace
+
+double DyFunc(const double& x, const double& y)
+{
+    const auto& k = Coefficients;
+    return rate(DyFuncId, x, y, k.A, k.B, k.C);
+}
+
+double DxFunc(const double& x, const double& y)
+{
+    const auto& k = Coefficients;
+    return rate(DxFuncId, x, y, k.D, k.E, k.F, true);
+}
+
+double Runga2Step(const double& x, const double& y, const double& h)
+{
+    const double k1 = increment(x, y, h);
+    return increment(Chk(x + h / 2), Chk(y + k1 / 2), h);
+}
+
+double Runga4Step(const double& x, const double& y, const double& h)
+{
+    const double k1 = increment(x, y, h);
+    const double k2 = increment(Chk(x + h / 2), Chk(y + k1 / 2), h);
+    const double k3 = increment(Chk(x + h / 2), Chk(y + k2 / 2), h);
+    const double k4 = increment(Chk(x + h), Chk(y + k3), h);
+    return Chk(Chk(Chk(k2 / 3 + k1 / 6) + k3 / 3) + k4 / 6);
+}
+
 }  // namespace FuncGlobals

@@ -42,4 +42,20 @@ double YFunc(const double& x);
 // The exact derivative of the selected explicit family at x; 0 where it is undefined.
 double YPrimeFunc(const double& x);
 
+// The rate families of the slope field: captions of family id (1..15), "" for any other number.
+constexpr int RateFamilyCount = 15;
+const char* DyCaption(int id);
+const char* DxCaption(int id);
+
+// dy of family DyFuncId with A, B, C and dx of family DxFuncId with D, E, F at (x, y). Families 2 to
+// 15 give 1 when their three coefficients are all 0; the logarithm families give 0 where their
+// argument is not positive; a number outside 1..15 gives 0.
+double DyFunc(const double& x, const double& y);
+double DxFunc(const double& x, const double& y);
+
+// The increment of y over one step h in x along the field, by the midpoint rule and by the classical
+// fourth-order rule. A zero dx divides by zero: Division by zero, or Overflow for 0 / 0.
+double Runga2Step(const double& x, const double& y, const double& h);
+double Runga4Step(const double& x, const double& y, const double& h);
+
 }  // namespace FuncGlobals

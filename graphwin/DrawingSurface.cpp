@@ -193,6 +193,16 @@ void DrawingSurface::Circle(double x, double y, double r, QRgb color)
     touched();
 }
 
+void DrawingSurface::clearArea(double left, double top, double width, double height)
+{
+    QPainter painter(&image_);
+    painter.fillRect(QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel, height / kTwipsPerPixel),
+                     QColor(BackColor));
+    painter.end();
+    bits_ = reinterpret_cast<QRgb*>(image_.bits());
+    touched();
+}
+
 QFont DrawingSurface::scaledFont() const
 {
     QFont f = font_;

@@ -38,6 +38,8 @@ public:
     void PSet(double x, double y, QRgb color);
     // A circle outline of radius r twips around (x, y).
     void Circle(double x, double y, double r, QRgb color);
+    // Paints a rectangle with the background colour (a shape's area being refreshed).
+    void clearArea(double left, double top, double width, double height);
     // Text at the current point, top left. With newline the current point goes to the start of the
     // next line (x = 0); otherwise it moves to the end of the text.
     void Print(const QString& text, bool newline = true);

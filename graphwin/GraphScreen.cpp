@@ -195,6 +195,11 @@ void GraphScreen::Form_Load()
 void GraphScreen::Form_Activate()
 {
     CleanGraph();
+    copyCoefficients();
+}
+
+void GraphScreen::copyCoefficients()
+{
     for (int i = 0; i < config_.coefficientCount; ++i)
         copyCoefficient(i);
 }

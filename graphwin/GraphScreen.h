@@ -146,6 +146,8 @@ protected:
     void writeDefaultLimits();
     // Moves the four limits as the screen's zoom does (each write fires its box's Change).
     void zoomLimits();
+    // Copies every coefficient box into the module's coefficients, without the change hook.
+    void copyCoefficients();
     // Runs after the program or a person changed coefficient box `index` (0 = A) and the coefficient
     // was copied; a screen that must react to it overrides this.
     virtual void coefficientChanged(int index);

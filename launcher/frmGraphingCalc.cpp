@@ -44,6 +44,8 @@ frmGraphingCalc::frmGraphingCalc()
                         &frmGraphingCalc::cmdSums_Click);
     cmdFuncClasses = addScreen(0, QStringLiteral("Graph Classes of &Functions"), QStringLiteral("&Function Grapher"),
                                mnuGrapher, &frmGraphingCalc::cmdFuncClasses_Click);
+    cmdSlopeField = addScreen(4, QStringLiteral("&Slope Fields"), QStringLiteral("&Slope Fields"), mnuSlopeField,
+                              &frmGraphingCalc::cmdSlopeField_Click);
     cmdNewton = addScreen(3, QStringLiteral("&Newton's Method"), QStringLiteral("&Newton's Method"), mnuNewton,
                           &frmGraphingCalc::cmdNewton_Click);
     cmdTangent = addScreen(5, QStringLiteral("&Tangent Line Problem"), QStringLiteral("&Tangent Problem"), mnuTangent,
@@ -92,6 +94,8 @@ void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(classesScreen()); }
 void frmGraphingCalc::cmdSums_Click() { showScreen(riemannScreen()); }
 void frmGraphingCalc::mnuGrapher_Click() { cmdFuncClasses_Click(); }
 void frmGraphingCalc::mnuRiemann_Click() { cmdSums_Click(); }
+void frmGraphingCalc::cmdSlopeField_Click() { showScreen(slopeFieldScreen()); }
+void frmGraphingCalc::mnuSlopeField_Click() { cmdSlopeField_Click(); }
 void frmGraphingCalc::cmdNewton_Click() { showScreen(newtonScreen()); }
 void frmGraphingCalc::mnuNewton_Click() { cmdNewton_Click(); }
 void frmGraphingCalc::cmdTangent_Click() { showScreen(tangentScreen()); }

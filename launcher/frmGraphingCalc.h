@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "screens/frmClasses.h"
+#include "screens/frmFlowField.h"
 #include "screens/frmMVT.h"
 #include "screens/frmNewton.h"
 #include "screens/frmRiemann.h"
@@ -26,6 +27,7 @@ public:
     QPushButton* cmdFuncClasses = nullptr;
     QPushButton* cmdSums = nullptr;
     QPushButton* cmdNewton = nullptr;
+    QPushButton* cmdSlopeField = nullptr;
     QPushButton* cmdTangent = nullptr;
     QPushButton* cmdMVT = nullptr;
     QPushButton* cmdExit = nullptr;
@@ -35,6 +37,7 @@ public:
     QAction* mnuSelect = nullptr;
     QAction* mnuRiemann = nullptr;
     QAction* mnuGrapher = nullptr;
+    QAction* mnuSlopeField = nullptr;
     QAction* mnuNewton = nullptr;
     QAction* mnuTangent = nullptr;
     QAction* mnuMVT = nullptr;
@@ -43,6 +46,8 @@ public:
     void cmdSums_Click();
     void mnuGrapher_Click();
     void mnuRiemann_Click();
+    void cmdSlopeField_Click();
+    void mnuSlopeField_Click();
     void cmdNewton_Click();
     void mnuNewton_Click();
     void cmdTangent_Click();
@@ -57,6 +62,7 @@ public:
     frmClasses& classesScreen() { return screen(classes_); }
     frmRiemann& riemannScreen() { return screen(riemann_); }
     frmNewton& newtonScreen() { return screen(newton_); }
+    frmFlowField& slopeFieldScreen() { return screen(flowField_); }
     frmTangent& tangentScreen() { return screen(tangent_); }
     frmMVT& mvtScreen() { return screen(mvt_); }
 
@@ -79,6 +85,7 @@ private:
     std::unique_ptr<frmClasses> classes_;
     std::unique_ptr<frmRiemann> riemann_;
     std::unique_ptr<frmNewton> newton_;
+    std::unique_ptr<frmFlowField> flowField_;
     std::unique_ptr<frmTangent> tangent_;
     std::unique_ptr<frmMVT> mvt_;
 };

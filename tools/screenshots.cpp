@@ -95,5 +95,25 @@ int main(int argc, char* argv[])
     mvt.HscMVT->setValue(5000);
     mvt.cmdAnimateIt_Click();
     save(mvt, dir, QStringLiteral("mvt.png"));
+    mvt.hide();
+
+    // The circle field dy/dx = -x/y with its forty curves, then approximations from (4, 3).
+    frmFlowField& field = launcher.slopeFieldScreen();
+    field.Form_Activate();
+    field.cmdShowFlow_Click();
+    field.cmdPlotto_Click();
+    save(field, dir, QStringLiteral("slope-field.png"));
+    field.CleanGraph();
+    field.cmdShowFlow_Click();
+    field.optApprox->setChecked(true);
+    field.txtDelta->setText(QStringLiteral("1"));
+    field.txtCurvePoints->setText(QStringLiteral("3"));
+    for (OptionButton* method : {field.optEuler, field.optRunga2, field.optRunga4}) {
+        method->setChecked(true);
+        field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
+    }
+    field.optCurve->setChecked(true);
+    field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
+    save(field, dir, QStringLiteral("slope-field-approximations.png"));
     return 0;
 }

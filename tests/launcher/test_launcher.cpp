@@ -112,6 +112,7 @@ TEST_F(LauncherTest, EveryScreenOpensFromItsButtonAndItsMenuEntry)
     const Entry entries[] = {
         {launcher.cmdFuncClasses, launcher.mnuGrapher, launcher.classesScreen(), "Graphing Classes of Functions"},
         {launcher.cmdSums, launcher.mnuRiemann, launcher.riemannScreen(), "Riemann and Other Sums"},
+        {launcher.cmdSlopeField, launcher.mnuSlopeField, launcher.slopeFieldScreen(), "Slope Fields"},
         {launcher.cmdNewton, launcher.mnuNewton, launcher.newtonScreen(), "Newton's Method and Derivatives"},
         {launcher.cmdTangent, launcher.mnuTangent, launcher.tangentScreen(), "The Tangent Line Problem"},
         {launcher.cmdMVT, launcher.mnuMVT, launcher.mvtScreen(), "The Mean Value Theorem"},
@@ -126,11 +127,11 @@ TEST_F(LauncherTest, EveryScreenOpensFromItsButtonAndItsMenuEntry)
         EXPECT_EQ(e.screen.windowTitle(), QString::fromUtf8(e.title));
     }
     const QString menu[] = {QStringLiteral("&Riemann Sums +"), QStringLiteral("&Function Grapher"),
-                            QStringLiteral("&Newton's Method"), QStringLiteral("&Tangent Problem"),
-                            QStringLiteral("&Mean Value Theorem")};
+                            QStringLiteral("&Slope Fields"), QStringLiteral("&Newton's Method"),
+                            QStringLiteral("&Tangent Problem"), QStringLiteral("&Mean Value Theorem")};
     const QList<QAction*> actions = launcher.mnuSelect->menu()->actions();
-    ASSERT_EQ(actions.size(), 5);
-    for (int i = 0; i < 5; ++i)
+    ASSERT_EQ(actions.size(), 6);
+    for (int i = 0; i < 6; ++i)
         EXPECT_EQ(actions[i]->text(), menu[i]);
     EXPECT_TRUE(script.errors.empty());
 }

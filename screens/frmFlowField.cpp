@@ -1,0 +1,576 @@
+#include "screens/frmFlowField.h"
+
+#include <cmath>
+
+#include <QMenu>
+#include <QMenuBar>
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
+
+namespace {
+
+GraphScreen::Config flowConfig()
+{
+    GraphScreen::Config c;
+    c.caption = QStringLiteral("Slope Fields");
+    c.surfaceWidth = 13920;
+    c.coefficientCount = 6;
+    c.coefficientDefaults = {"-1", "0", "0", "0", "1", "0"};
+    c.functionMenu = false;
+    return c;
+}
+
+constexpr double kOptions = 11220, kOptionsWidth = 2580;
+constexpr double kLeft = 2400, kRight = 8800, kTop = 100, kBottom = 6500;
+const QString kNoStart = QStringLiteral("Start( _____, _____ )");
+
+QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
+
+// Writes a number into a box by the plain conversion.
+void write(TextBox* box, double v) { box->assign(rt::CStr(v)); }
+
+void stepPlain(TextBox* box, int Button)
+{
+    if (Button == LeftButton)
+        write(box, rt::Chk(box->value() + 1));
+    else if (Button == RightButton)
+        write(box, rt::Chk(box->value() - 1));
+}
+
+// Splits "Ax + By + C" into its terms.
+std::vector<std::string> terms(std::string_view formula)
+{
+    std::vector<std::string> out;
+    std::size_t start = 0;
+    for (;;) {
+        const std::size_t plus = formula.find(" + ", start);
+        out.emplace_back(formula.substr(start, plus == std::string_view::npos ? std::string_view::npos : plus - start));
+        if (plus == std::string_view::npos)
+            return out;
+        start = plus + 3;
+    }
+}
+
+}  // namespace
+
+std::string FormulaWithCoefficients(std::string_view formula, std::string_view letters,
+                                    const std::array<double, 3>& values, int family)
+{
+    if (family >= 2 && family <= 15 && values[0] == 0 && values[1] == 0 && values[2] == 0)
+        return "1";
+    // The value of a coefficient letter; a letter outside the family's three (the irregular "C*e^y"
+    // of the dx catalogue, which evaluates with F) stands for the third.
+    auto valueOf = [&](char letter, double& v) {
+        const std::size_t i = letters.find(letter);
+        if (i != std::string_view::npos) {
+            v = values[i];
+            return true;
+        }
+        if (letter >= 'A' && letter <= 'F') {
+            v = values[2];
+            return true;
+        }
+        return false;
+    };
+    auto number = [](double v) { return rt::Trim(rt::Str(v)); };
+    std::string out;
+    for (const std::string& term : terms(formula)) {
+        if (term.empty())
+            continue;
+        double lead = 0;
+        std::string body;
+        std::size_t from = 0;
+        if (!valueOf(term[0], lead))
+            lead = 1;  // a term without a coefficient letter
+        else
+            from = 1;
+        if (lead == 0)
+            continue;
+        for (std::size_t i = from; i < term.size(); ++i) {
+            double v = 0;
+            if (valueOf(term[i], v))
+                body += v == 1 ? std::string() : number(v);
+            else
+                body += term[i];
+        }
+        if (lead == 1 && !body.empty() && body[0] == '*')
+            body.erase(0, 1);
+        std::string text = lead == 1 ? (body.empty() ? std::string("1") : body) : number(lead) + body;
+        if (out.empty())
+            out = text;
+        else if (text[0] == '-')
+            out += " - " + text.substr(1);
+        else
+            out += " + " + text;
+    }
+    return out.empty() ? std::string("0") : out;
+}
+
+frmFlowField::frmFlowField() : GraphScreen(flowConfig())
+{
+    // Left panel: rate labels, the formula display, the start and end points.
+    lbldy = new ClickLabel(surface, QStringLiteral("dy = Ax + By + C"), true);
+    placeTwips(lbldy, 60, 3180, 1860, 300);
+    lbldx = new ClickLabel(surface, QStringLiteral("dx = Dx + Ey + F"), true);
+    placeTwips(lbldx, 60, 3540, 1860, 300);
+    auto* shape = new QFrame(surface);
+    shape->setFrameStyle(QFrame::Box | QFrame::Plain);
+    shape->setAttribute(Qt::WA_TransparentForMouseEvents);
+    placeTwips(shape, 60, 3900, 2280, 900);
+    shpDyDx = shape;
+    lblIntegral = makeLabel(QStringLiteral("Click in the graph to generate an integral curve."), 60, 4920, 2280, 600);
+    lblIntegral->setWordWrap(true);
+    lblPos = makeLabel(QStringLiteral("Start (____, ____)"), 60, 5640, 2280, 300);
+    lblPos->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    lblEndpt = makeLabel(QStringLiteral("Endpt ( ____, ____ )"), 60, 6060, 2280, 300);
+
+    cmdShowFlow = addButton(QStringLiteral("&Show Slope Field"), 3000, [this] { cmdShowFlow_Click(); });
+
+    // Right panel: purpose, method and the plot button's settings.
+    fraPurpose = new QGroupBox(QStringLiteral("Purpose"), surface);
+    placeTwips(fraPurpose, kOptions, 120, kOptionsWidth, 1080);
+    optApprox = new OptionButton(fraPurpose, QStringLiteral("Find &Appoximation"));
+    placeTwips(optApprox, 120, 330, kOptionsWidth - 240, 300);
+    optCurve = new OptionButton(fraPurpose, QStringLiteral("See smooth &curve"));
+    placeTwips(optCurve, 120, 660, kOptionsWidth - 240, 300);
+    optCurve->setChecked(true);
+
+    fraMethod = new QGroupBox(QStringLiteral("Method Options"), surface);
+    placeTwips(fraMethod, kOptions, 1320, kOptionsWidth, 1380);
+    optRunga4 = new OptionButton(fraMethod, QStringLiteral("Runga-Kutta &4"));
+    placeTwips(optRunga4, 120, 330, kOptionsWidth - 240, 300);
+    optRunga2 = new OptionButton(fraMethod, QStringLiteral("Runga-Kutta &2"));
+    placeTwips(optRunga2, 120, 660, kOptionsWidth - 240, 300);
+    optEuler = new OptionButton(fraMethod, QStringLiteral("Euler's Metho&d"));
+    placeTwips(optEuler, 120, 990, kOptionsWidth - 240, 300);
+    optEuler->setChecked(true);
+
+    fraPlotto = new QGroupBox(QStringLiteral("Plotto Options"), surface);
+    placeTwips(fraPlotto, kOptions, 2820, kOptionsWidth, 4080);
+    auto row = [this](const char* caption, const char* text, double top, ClickLabel*& label) {
+        label = new ClickLabel(fraPlotto, QString::fromLatin1(caption), true);
+        placeTwips(label, 120, top, kOptionsWidth - 240, 300);
+        auto* box = new TextBox(fraPlotto, QString::fromLatin1(text));
+        placeTwips(box, 120, top + 330, kOptionsWidth - 240, 300);
+        return box;
+    };
+    txtHorShift = row("Horizontal Shift", "0", 300, lblHorShift);
+    txtVerShift = row("Vertical Shift", "0", 1020, lblVerShift);
+    chkBiDirect = new CheckBox(fraPlotto, QStringLiteral("Bi-directional"));
+    placeTwips(chkBiDirect, 120, 1740, kOptionsWidth - 240, 300);
+    txtCurvePoints = row("Number of Curve Points", "500", 2160, lblplots);
+    lblplots->setToolTip(QStringLiteral("Maximum of 10000 points"));
+    txtDelta = row("Delta x = ", "0.02", 2880, lblDeltaX);
+    lblDeltaX->setToolTip(QStringLiteral("This value is used in Euler's Method to find succeeding points."));
+
+    // The two rate menus after the File menu.
+    dyMenu_ = addMenu(QStringLiteral("Select d&y - Function"));
+    mnuSelectdy = dyMenu_->menuAction();
+    dxMenu_ = addMenu(QStringLiteral("Select d&x - Function"));
+    mnuseldx = dxMenu_->menuAction();
+    for (auto [menu, entries] : {std::pair{dyMenu_, &mnuDy}, std::pair{dxMenu_, &mnuDx}}) {
+        QAction* design = menu->addAction(QStringLiteral("-"));
+        design->setVisible(false);
+        entries->push_back(design);
+    }
+
+    optApprox->Click = [this] { optApprox_Click(); };
+    optCurve->Click = [this] { optCurve_Click(); };
+    optEuler->Click = [this] { optEuler_Click(); };
+    optRunga2->Click = [this] { optRunga2_Click(); };
+    optRunga4->Click = [this] { optRunga4_Click(); };
+    txtCurvePoints->Change = [this] { txtCurvePoints_Change(); };
+    lbldy->MouseDown = [this](int b, int s, double x, double y) { lbldy_MouseDown(b, s, x, y); };
+    lbldx->MouseDown = [this](int b, int s, double x, double y) { lbldx_MouseDown(b, s, x, y); };
+    lblplots->MouseDown = [this](int b, int s, double x, double y) { lblplots_MouseDown(b, s, x, y); };
+    lblHorShift->MouseDown = [this](int b, int s, double x, double y) { lblHorShift_MouseDown(b, s, x, y); };
+    lblVerShift->MouseDown = [this](int b, int s, double x, double y) { lblVerShift_MouseDown(b, s, x, y); };
+    lblDeltaX->MouseDown = [this](int b, int s, double x, double y) { lblDeltaX_MouseDown(b, s, x, y); };
+    lblPos->Click = [this] { lblPos_Click(); };
+    surface->MouseDown = [this](int b, int s, double x, double y) { Form_MouseDown(b, s, x, y); };
+    surface->MouseMove = [this](int b, int s, double x, double y) { Form_MouseMove(b, s, x, y); };
+    Form_Load();
+}
+
+void frmFlowField::Form_Load()
+{
+    using namespace FuncGlobals;
+    DxFuncId = 1;
+    DyFuncId = 1;
+    FamilyCount = 15;
+    Coefficients = {1, 0, 0, 1, 0, 0};
+    for (int i = 1; i <= RateFamilyCount; ++i) {
+        DyCaptions[i] = DyCaption(i);
+        DxCaptions[i] = DxCaption(i);
+    }
+    for (int i = static_cast<int>(mnuDy.size()); i <= RateFamilyCount; ++i) {
+        QAction* dy = dyMenu_->addAction(QString::fromStdString(DyCaptions[i]));
+        onTriggered(dy, [this, i] { mnuDy_Click(i); });
+        mnuDy.push_back(dy);
+        QAction* dx = dxMenu_->addAction(QString::fromStdString(DxCaptions[i]));
+        onTriggered(dx, [this, i] { mnuDx_Click(i); });
+        mnuDx.push_back(dx);
+    }
+}
+
+void frmFlowField::Form_Activate()
+{
+    copyCoefficients();
+    CleanGraph();
+    MethodColour = 5;
+}
+
+void frmFlowField::CleanGraph()
+{
+    GraphScreen::CleanGraph();
+    ShowDyDx();
+}
+
+void frmFlowField::coefficientChanged(int) { ShowDyDx(); }
+
+void frmFlowField::ShowDyDx()
+{
+    const QRect r = shpDyDx->geometry();
+    const double left = r.x() * 15.0, top = r.y() * 15.0;
+    surface->clearArea(left + 15, top + 15, r.width() * 15.0 - 30, r.height() * 15.0 - 30);
+    surface->setFontSize(8);
+    const QRgb ink = surface->ForeColor;
+    const double lineHeight = surface->TextHeight(QStringLiteral("d"));
+    const double x0 = left + 90, y0 = top + 90;
+
+    surface->setFontUnderline(true);
+    surface->CurrentX = x0;
+    surface->CurrentY = y0;
+    surface->Print(QStringLiteral("dy "));
+    surface->setFontUnderline(false);
+    surface->CurrentX = x0;
+    surface->CurrentY = y0 + lineHeight;
+    surface->Print(QStringLiteral("dx"));
+    const double equals = x0 + surface->TextWidth(QStringLiteral("dy  "));
+    surface->CurrentX = equals;
+    surface->CurrentY = y0 + lineHeight / 2;
+    surface->Print(QStringLiteral("="), false);
+
+    using namespace FuncGlobals;
+    const auto& k = Coefficients;
+    const std::string dyCaption = DyCaption(DyFuncId), dxCaption = DxCaption(DxFuncId);
+    const std::string dy = FormulaWithCoefficients(std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())),
+                                                   "ABC", {k.A, k.B, k.C}, DyFuncId);
+    const std::string dx = FormulaWithCoefficients(std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())),
+                                                   "DEF", {k.D, k.E, k.F}, DxFuncId);
+    const double formula = equals + surface->TextWidth(QStringLiteral("= "));
+    surface->setFontUnderline(true);
+    surface->CurrentX = formula;
+    surface->CurrentY = y0;
+    surface->Print(QString::fromStdString(dy));
+    surface->setFontUnderline(false);
+    surface->CurrentX = formula;
+    surface->CurrentY = y0 + lineHeight;
+    surface->Print(QString::fromStdString(dx));
+    surface->ForeColor = ink;
+}
+
+void frmFlowField::mnuDy_Click(int Index)
+{
+    using namespace FuncGlobals;
+    DyFuncId = rt::CInt(Index);
+    lbldx->setText(QString::fromStdString(DxCaptions[DxFuncId]));
+    lbldy->setText(QString::fromStdString(DyCaptions[DyFuncId]));
+    ShowDyDx();
+}
+
+void frmFlowField::mnuDx_Click(int Index)
+{
+    using namespace FuncGlobals;
+    DxFuncId = rt::CInt(Index);
+    lbldx->setText(QString::fromStdString(DxCaptions[DxFuncId]));
+    lbldy->setText(QString::fromStdString(DyCaptions[DyFuncId]));
+    ShowDyDx();
+}
+
+void frmFlowField::lbldy_MouseDown(int Button, int, double, double)
+{
+    using namespace FuncGlobals;
+    if (Button == LeftButton)
+        DyFuncId = rt::CInt(rt::Mod(DyFuncId + 1, FamilyCount));
+    else if (Button == RightButton)
+        DyFuncId = rt::CInt(rt::Mod(DyFuncId - 1, FamilyCount));
+    else
+        return;
+    if (DyFuncId == 0)
+        DyFuncId = 15;
+    mnuDy_Click(DyFuncId);
+}
+
+void frmFlowField::lbldx_MouseDown(int Button, int, double, double)
+{
+    using namespace FuncGlobals;
+    if (Button == LeftButton)
+        DxFuncId = rt::CInt(rt::Mod(DxFuncId + 1, FamilyCount));
+    else if (Button == RightButton)
+        DxFuncId = rt::CInt(rt::Mod(DxFuncId - 1, FamilyCount));
+    else
+        return;
+    if (DyFuncId == 0)  // the dy number, deliberately: dx can be left at 0
+        DxFuncId = 15;
+    mnuDx_Click(DxFuncId);
+}
+
+void frmFlowField::lblplots_MouseDown(int Button, int, double, double) { stepPlain(txtCurvePoints, Button); }
+void frmFlowField::lblHorShift_MouseDown(int Button, int, double, double) { stepPlain(txtHorShift, Button); }
+void frmFlowField::lblVerShift_MouseDown(int Button, int, double, double) { stepPlain(txtVerShift, Button); }
+
+void frmFlowField::lblDeltaX_MouseDown(int Button, int, double, double)
+{
+    if (Button == LeftButton)
+        write(txtDelta, txtDelta->value() / 2);
+    else if (Button == RightButton)
+        write(txtDelta, rt::Chk(txtDelta->value() * 2));
+}
+
+void frmFlowField::cmdShowFlow_Click()
+{
+    using rt::Chk;
+    const double xmin = txtXmin->value(), xmax = txtXmax->value();
+    const double ymin = txtYmin->value(), ymax = txtYmax->value();
+    const double W = Chk(xmax - xmin), H = Chk(ymax - ymin);
+    const double sx = W / 20, sy = H / 20;
+    // A counted loop on a double, end included. A step of 0 (equal limits) or one too small to move
+    // the counter would never reach the end: nothing more is drawn then.
+    auto counted = [](double from, double to, double step, auto&& body) {
+        if (step == 0)
+            return;
+        for (double v = from; step > 0 ? v <= to : v >= to;) {
+            body(v);
+            const double next = Chk(v + step);
+            if (next == v)
+                return;
+            v = next;
+        }
+    };
+    const QRgb blue = rgbColor(rt::QBColor(1));
+    counted(Chk(xmin + sx), Chk(xmax - sx), sx, [&](double x) {
+        counted(Chk(ymin + sy), Chk(ymax - sy), sy, [&](double y) {
+            const double p = FuncGlobals::DxFunc(x, y), q = FuncGlobals::DyFunc(x, y);
+            const double m = rt::Pow(Chk(rt::Pow(p, 2) + rt::Pow(q, 2)), 0.5);
+            if (m == 0)
+                return;
+            const double u = Chk(rt::Div(p, m) * W) / 40, v = Chk(rt::Div(q, m) * H) / 40;
+            surface->Line(graph.column(x), graph.row(y), graph.column(Chk(x + u)), graph.row(Chk(y + v)), blue);
+        });
+    });
+}
+
+IntegralCurves::Settings frmFlowField::settings() const
+{
+    IntegralCurves::Settings s;
+    s.smooth = optCurve->isChecked();
+    s.method = optEuler->isChecked()    ? IntegralCurves::Method::Euler
+               : optRunga2->isChecked() ? IntegralCurves::Method::Midpoint
+                                        : IntegralCurves::Method::FourthOrder;
+    s.xmin = txtXmin->value();
+    s.xmax = txtXmax->value();
+    s.ymin = txtYmin->value();
+    s.ymax = txtYmax->value();
+    s.points = txtCurvePoints->value();
+    return s;
+}
+
+bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X < kRight && kTop < Y && Y < kBottom; }
+
+void frmFlowField::drawSegment(double x1, double y1, double x2, double y2)
+{
+    surface->Line(graph.column(x1), graph.row(y1), graph.column(x2), graph.row(y2), rgbColor(rt::QBColor(MethodColour)));
+}
+
+void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
+{
+    using rt::Chk;
+    StepH = txtDelta->value();
+    if (Button != LeftButton && Button != RightButton)
+        return;
+    if (Button == RightButton)
+        StepH = -StepH;
+    IntegralCurves::Step st;
+    if (insideGraph(X, Y)) {
+        const double W = Chk(txtXmax->value() - txtXmin->value()), H = Chk(txtYmax->value() - txtYmin->value());
+        CurrentX = Chk(Chk(X - graph.XOrigin) * W) / 6400;
+        CurrentY = Chk(Chk(graph.YOrigin - Y) * H) / 6400;
+        const IntegralCurves::Settings s = settings();
+        st = IntegralCurves::step(s, CurrentX, CurrentY, StepH);
+        if (!s.smooth && st.vertical)
+            return;
+        const double ny = Chk(CurrentY + st.dy);
+        if (txtYmin->value() <= ny && ny <= txtYmax->value())
+            surface->Line(X, Y, graph.column(Chk(CurrentX + st.dx)), graph.row(ny), rgbColor(rt::QBColor(MethodColour)));
+    }
+    PointCounter = 1;
+    double x = Chk(CurrentX + st.dx), y = Chk(CurrentY + st.dy);
+    if (Button == LeftButton)
+        FollowCurveForward(x, y);
+    else
+        FollowCurveBackward(x, y);
+}
+
+void frmFlowField::followCurve(double& x, double& y, bool backward)
+{
+    const double h = backward ? -txtDelta->value() : txtDelta->value();
+    const bool reachedEnd = IntegralCurves::follow(settings(), h, backward, x, y, PointCounter,
+                                                   [this](double x1, double y1, double x2, double y2) {
+                                                       drawSegment(x1, y1, x2, y2);
+                                                   });
+    if (!reachedEnd)
+        return;
+    auto end = [](double v) { return QString::fromStdString(rt::Str(rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)) / 1000)); };
+    lblEndpt->setText(QStringLiteral("EndPt (") + end(x) + QStringLiteral(",") + end(y));
+}
+
+void frmFlowField::FollowCurveForward(double& x, double& y) { followCurve(x, y, false); }
+void frmFlowField::FollowCurveBackward(double& x, double& y) { followCurve(x, y, true); }
+
+void frmFlowField::Form_MouseMove(int, int, double X, double Y)
+{
+    using rt::Chk;
+    if (!insideGraph(X, Y)) {
+        lblPos->setText(kNoStart);
+        return;
+    }
+    const double W = Chk(txtXmax->value() - txtXmin->value()), H = Chk(txtYmax->value() - txtYmin->value());
+    CurrentX = rt::Int(Chk(Chk(X - graph.XOrigin) * W) / 64) / 100;
+    CurrentY = rt::Int(Chk(Chk(graph.YOrigin - Y) * H) / 64) / 100;
+    lblPos->setText(QStringLiteral("Start( ") + trimmedStr(CurrentX) + QStringLiteral(" , ") + trimmedStr(CurrentY) +
+                    QStringLiteral(" ) "));
+}
+
+void frmFlowField::lblPos_Click()
+{
+    double x = rt::Val(InputBox(QStringLiteral("Enter x coordinate:"), QStringLiteral("X ="), QStringLiteral("3"), 4000, 4000)
+                           .toStdString());
+    double y = rt::Val(InputBox(QStringLiteral("Enter y coordinate:"), QStringLiteral("Y ="), QStringLiteral("4"), 4000, 4000)
+                           .toStdString());
+    lblPos->setText(QStringLiteral("Start( ") + trimmedStr(x) + QStringLiteral(" , ") + trimmedStr(y) + QStringLiteral(" ) "));
+    PointCounter = 0;
+    FollowCurveForward(x, y);
+}
+
+void frmFlowField::cmdPlotto_Click()
+{
+    using rt::Chk;
+    MethodColour = optEuler->isChecked() ? 2 : optRunga2->isChecked() ? 3 : 4;
+    const double W = Chk(txtXmax->value() - txtXmin->value());
+    const float sx = rt::CSng(rt::Div(Chk(txtHorShift->value() * 6400), W));
+    const float sy = rt::CSng(rt::Div(Chk(-txtVerShift->value() * 6400), W));
+    auto press = [&](double X, double Y) {
+        const double px = rt::CSng(X), py = rt::CSng(Y);
+        Form_MouseDown(LeftButton, 1, px, py);
+        if (chkBiDirect->isChecked())
+            Form_MouseDown(RightButton, 1, px, py);
+    };
+    for (int X0 = 2401; X0 < 8800; X0 += 320)
+        press(X0 + static_cast<double>(sx), graph.YOrigin + static_cast<double>(sy));
+    for (int Y0 = 101; Y0 <= 6399; Y0 += 320)
+        press(graph.XOrigin + static_cast<double>(sx), Y0 + static_cast<double>(sy));
+}
+
+void frmFlowField::cmdSetDefault_Click()
+{
+    writeDefaultLimits();
+    txtDelta->assign(QStringLiteral("0.1"));
+    CleanGraph();
+    cmdPlotto_Click();
+}
+
+void frmFlowField::cmdZoomIn_Click()
+{
+    write(txtDelta, txtDelta->value() / 2);
+    zoomLimits();
+    CleanGraph();
+    cmdPlotto_Click();
+}
+
+void frmFlowField::optApprox_Click()
+{
+    lblDeltaX->setText(QStringLiteral("Delta x="));
+    txtCurvePoints->assign(QStringLiteral("4"));
+    txtDelta->assign(QStringLiteral(".5"));
+}
+
+void frmFlowField::optCurve_Click()
+{
+    lblDeltaX->setText(QStringLiteral("Delta Vmag="));
+    txtCurvePoints->assign(QStringLiteral("1000"));
+    txtDelta->assign(QStringLiteral(".02"));
+    optEuler->select();
+}
+
+void frmFlowField::optEuler_Click() { MethodColour = 5; }
+
+void frmFlowField::refuseMethod()
+{
+    if (!optCurve->isChecked())
+        return;
+    MsgBox(QStringLiteral("In the curve option, Euler is the only method for calculating points."), QStringLiteral("Sorry"));
+    optEuler->select();
+}
+
+void frmFlowField::optRunga2_Click()
+{
+    refuseMethod();
+    MethodColour = 3;
+}
+
+void frmFlowField::optRunga4_Click()
+{
+    refuseMethod();
+    MethodColour = 4;
+}
+
+void frmFlowField::txtCurvePoints_Change()
+{
+    if (txtCurvePoints->value() >= 10000) {
+        MsgBox(QStringLiteral("The maximum for the points graphed is 10000"), QStringLiteral("Max Points Met-Plus"));
+        txtCurvePoints->assign(QStringLiteral("10000"));
+    }
+}
+
+void frmFlowField::mnuAbout_Click()
+{
+    showHelp({
+        {"Slope Fields, Integral Curves, or Approximations",
+         "This screen allows you to see Slope Fields, see integral curves, or to use various methods to find "
+         "approximations."},
+        {"Graph Slope Fields",
+         "Select dx and dy functions from the menus.  Select the values of the coefficients.  Click on [Graph Slope "
+         "Fields] to see the slopes at all the integral values of the -10 by 10 screen.  You may resize the screen.  "
+         "The vectors start at the integers so you can determine the direction from where it is supposed to start."},
+        {"Left or Right Click in the Graphing screen",
+         "Clicking on the graphing part of the screen will start the plot of an integral curve or can be used to find "
+         "the endpoint approximation from that initial point.  The graph will follow the slope field smoothly or "
+         "acording to the Delta x from left to right.  If the curve leaves the area, the curve will not come back "
+         "onto the screen.  If you right click the slope field will go in the opposite direction.  You may select the "
+         "number of points to plot and the change in x(Delta x) for the Method used in the computation of "
+         "approximation.  The number of points and Delta x are used by the Plotto button also."},
+        {"Purpose? - Find an endpoint or See the curve",
+         "The purpose may be confusing to some.  The best way to deal with this is a circle dy/dx = -x/y.  If you "
+         "started at (4,3) and wanted a y value at x=6 using 3 steps, you would get a value.  If you followed the "
+         "slope field you shouldn't get there since the radius is 5.  The circle would not have an x=6.  Finding the "
+         "approximation is achieved since you do not hit a vertical slope and delta x stays positive making the slope "
+         "change orientation(it goes up-right instead of down-left).  This should graph a 'V' or non-differential "
+         "point.  The smooth curve is achieved by using dy and dx separately in a vector plot.  The delta x is no "
+         "longer the change in x.  Delta x is the length of each the vector used in plotting the curve."},
+        {"I want an exact point to Start?",
+         "You may not be able to move the cursor to the point you want.  You may click on the Start(___,___) label box "
+         "to enter your points.  As soon as you enter the y coordinate the graph will show your plot and the endpoint "
+         "will show the final value.  If your plot goes off the graph window the program at that point for your "
+         "endpoint.  Change the window so it will fit."},
+        {"Plotto!",
+         "Clicking on [Plotto] will set in motion the plotting of the integral curves from 20 points on the x-axis and "
+         "20 points on the y-axis.  These would be at the integer points for the default -10 by 10 screen.  You may "
+         "shift these points by entering a value in the Horizontal Shift or Vertical Shift boxes at the right.  You "
+         "may also make the plotting Bi-Directional by checking that box.  You may have to wait for the screen to "
+         "change since it will graph all at once."},
+    });
+}

@@ -1,0 +1,94 @@
+#pragma once
+// Slope fields of a pair of rates dy and dx, integral curves from a pressed or typed point, Euler and
+// Runge-Kutta approximations of an end point, and forty curves at once from the plot button.
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <QGroupBox>
+#include <QMenu>
+
+#include "graphwin/GraphScreen.h"
+#include "runtime/BoundedArray.h"
+#include "screens/IntegralCurves.h"
+
+// A rate formula with the coefficient values put in place of their letters: a coefficient of 1 drops
+// its letter, a term whose coefficient is 0 is left out, any other value is written in. `formula` is
+// the caption without its "dy = " or "dx = "; `letters` names the three coefficients and `values`
+// holds them. Families 2 to 15 whose coefficients are all 0 read "1", as they evaluate.
+std::string FormulaWithCoefficients(std::string_view formula, std::string_view letters,
+                                    const std::array<double, 3>& values, int family);
+
+class frmFlowField : public GraphScreen {
+    Q_OBJECT
+public:
+    frmFlowField();
+
+    QGroupBox *fraPurpose = nullptr, *fraMethod = nullptr, *fraPlotto = nullptr;
+    OptionButton *optApprox = nullptr, *optCurve = nullptr;
+    OptionButton *optRunga4 = nullptr, *optRunga2 = nullptr, *optEuler = nullptr;
+    TextBox *txtHorShift = nullptr, *txtVerShift = nullptr, *txtCurvePoints = nullptr, *txtDelta = nullptr;
+    ClickLabel *lblHorShift = nullptr, *lblVerShift = nullptr, *lblplots = nullptr, *lblDeltaX = nullptr;
+    CheckBox* chkBiDirect = nullptr;
+    QPushButton* cmdShowFlow = nullptr;
+    ClickLabel *lblEndpt = nullptr, *lblPos = nullptr, *lblIntegral = nullptr;
+    ClickLabel *lbldy = nullptr, *lbldx = nullptr;
+    QWidget* shpDyDx = nullptr;
+    QAction *mnuSelectdy = nullptr, *mnuseldx = nullptr;
+    std::vector<QAction*> mnuDy, mnuDx;  // index 0 is the design entry; 1 to 15 the families
+
+    // The colour number of the segments (the method's number).
+    std::int16_t MethodColour = 5;
+    // The current point in window units, the step of the last press and the segment counter.
+    double CurrentX = 0, CurrentY = 0;
+    double StepH = 0;
+    std::int16_t PointCounter = 0;
+    // Captions of the rate families by number (0 is empty).
+    rt::BoundedArray<std::string, 0, 15> DyCaptions, DxCaptions;
+    std::int16_t FamilyCount = 15;
+
+    void cmdShowFlow_Click();
+    void ShowDyDx();
+    void mnuDy_Click(int Index);
+    void mnuDx_Click(int Index);
+    void lbldy_MouseDown(int Button, int Shift, double X, double Y);
+    void lbldx_MouseDown(int Button, int Shift, double X, double Y);
+    void lblplots_MouseDown(int Button, int Shift, double X, double Y);
+    void lblHorShift_MouseDown(int Button, int Shift, double X, double Y);
+    void lblVerShift_MouseDown(int Button, int Shift, double X, double Y);
+    void lblDeltaX_MouseDown(int Button, int Shift, double X, double Y);
+    void Form_MouseDown(int Button, int Shift, double X, double Y);
+    void Form_MouseMove(int Button, int Shift, double X, double Y);
+    void FollowCurveForward(double& x, double& y);
+    void FollowCurveBackward(double& x, double& y);
+    void lblPos_Click();
+    void optApprox_Click();
+    void optCurve_Click();
+    void optEuler_Click();
+    void optRunga2_Click();
+    void optRunga4_Click();
+    void txtCurvePoints_Change();
+
+    void cmdPlotto_Click() override;
+    void cmdSetDefault_Click() override;
+    void cmdZoomIn_Click() override;
+    void CleanGraph() override;
+    void Form_Load() override;
+    void Form_Activate() override;
+    void mnuAbout_Click() override;
+
+protected:
+    void coefficientChanged(int index) override;
+
+private:
+    IntegralCurves::Settings settings() const;
+    void followCurve(double& x, double& y, bool backward);
+    void drawSegment(double x1, double y1, double x2, double y2);
+    bool insideGraph(double X, double Y) const;
+    void refuseMethod();
+
+    QMenu* dyMenu_ = nullptr;
+    QMenu* dxMenu_ = nullptr;
+};
