@@ -297,4 +297,83 @@ double Runga4Step(const double& x, const double& y, const double& h)
     return Chk(Chk(Chk(k2 / 3 + k1 / 6) + k3 / 3) + k4 / 6);
 }
 
+const char* XtCaption(int id)
+{
+    static constexpr const char* captions[ParametricFamilyCount + 1] = {
+        "",
+        "x = At^2 + Bt + C",
+        "x = At^3 + Bt + C",
+        "x = At^3 + Bt^2 + Ct",
+        "x = A*Sin(Bt) + C",
+        "x = A*Cos(Bt) + C",
+        "x = A*Tan(Bt) + C",
+        "x = A*Sin(Bt) + Ct",
+        "x = A*Cos(Bt) + Ct",
+        "x = A*t*Sin(Bt) + C",
+        "x = A*t*Cos(Bt) + C",
+        "x = A*e^(Bt) + C",
+        "x = A /(Bt + C)",
+    };
+    return id >= 1 && id <= ParametricFamilyCount ? captions[id] : "";
+}
+
+const char* YtCaption(int id)
+{
+    static constexpr const char* captions[ParametricFamilyCount + 1] = {
+        "",
+        "y = Dt^2 + Et + F",
+        "y = Dt^3 + Et + F",
+        "y = Dt^3 + Et^2 + Ft",
+        "y = D*Sin(Et) + F",
+        "y = D*Cos(Et) + F",
+        "y = D*Tan(Et) + F",
+        "y = D*Sin(Et) + Ft",
+        "y = D*Cos(Et) + Ft",
+        "y = D*t*Sin(Et) + F",
+        "y = D*t*Cos(Et) + F",
+        "y = D*e^(Et) + F",
+        "y = D /(Et + F)",
+    };
+    return id >= 1 && id <= ParametricFamilyCount ? captions[id] : "";
+}
+
+namespace {
+
+// One parametric family with coefficients (p, q, r); both catalogues have the same formulas.
+double parametric(int id, double t, double p, double q, double r)
+{
+    switch (id) {
+    case 1: return Chk(Chk(p * Pow(t, 2)) + Chk(q * t) + r);
+    case 2: return Chk(Chk(p * Pow(t, 3)) + Chk(q * t) + r);
+    case 3: return Chk(Chk(p * Pow(t, 3)) + Chk(q * Pow(t, 2)) + Chk(r * t));
+    case 4: return Chk(Chk(p * std::sin(Chk(q * t))) + r);
+    case 5: return Chk(Chk(p * std::cos(Chk(q * t))) + r);
+    case 6: return Chk(Chk(p * std::tan(Chk(q * t))) + r);
+    case 7: return Chk(Chk(r * t) + Chk(p * std::sin(Chk(q * t))));
+    case 8: return Chk(Chk(r * t) + Chk(p * std::cos(Chk(q * t))));
+    case 9: return Chk(Chk(Chk(t * p) * std::sin(Chk(q * t))) + r);
+    case 10: return Chk(Chk(Chk(t * p) * std::cos(Chk(q * t))) + r);
+    case 11: return Chk(Chk(p * Chk(std::exp(Chk(q * t)))) + r);
+    case 12: {
+        const double denominator = Chk(Chk(q * t) + r);
+        return denominator == 0.0 ? 0.0 : Div(p, denominator);
+    }
+    default: return 0.0;
+    }
+}
+
+}  // namespace
+
+double XtFunc(const float& t)
+{
+    const auto& k = Coefficients;
+    return parametric(XtFuncId, static_cast<double>(t), k.A, k.B, k.C);
+}
+
+double YtFunc(const float& t)
+{
+    const auto& k = Coefficients;
+    return parametric(YtFuncId, static_cast<double>(t), k.D, k.E, k.F);
+}
+
 }  // namespace FuncGlobals

@@ -58,4 +58,15 @@ double DxFunc(const double& x, const double& y);
 double Runga2Step(const double& x, const double& y, const double& h);
 double Runga4Step(const double& x, const double& y, const double& h);
 
+// The parametric families: x(t) with A, B, C and y(t) with D, E, F; captions of family id (1..12), ""
+// for any other number.
+constexpr int ParametricFamilyCount = 12;
+const char* XtCaption(int id);
+const char* YtCaption(int id);
+
+// x(t) of family XtFuncId and y(t) of family YtFuncId, computed in double precision from the single t;
+// 0 for a number outside 1..12 and where family 12's denominator is 0.
+double XtFunc(const float& t);
+double YtFunc(const float& t);
+
 }  // namespace FuncGlobals

@@ -142,6 +142,15 @@ void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
 
 ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(orientation, parent)
 {
+    min_ = minimum();
+    max_ = maximum();
+    // A range set through Qt's own API (a test, say) becomes Min and Max as they are.
+    connect(this, &QAbstractSlider::rangeChanged, this, [this](int lo, int hi) {
+        if (applyingRange_)
+            return;
+        min_ = lo;
+        max_ = hi;
+    });
     connect(this, &QAbstractSlider::valueChanged, this, [this](int v) {
         if (isSliderDown()) {
             if (Scroll)
@@ -190,9 +199,26 @@ void ScrollBar::changeLimit(const std::function<void()>& write)
     }
 }
 
-void ScrollBar::setMax(int max) { changeLimit([&] { setMaximum(max); }); }
+void ScrollBar::applyRange()
+{
+    applyingRange_ = true;
+    setRange(std::min(min_, max_), std::max(min_, max_));
+    applyingRange_ = false;
+    setInvertedAppearance(max_ < min_);
+    setInvertedControls(max_ < min_);
+}
 
-void ScrollBar::setMin(int min) { changeLimit([&] { setMinimum(min); }); }
+void ScrollBar::setMax(int max)
+{
+    max_ = max;
+    changeLimit([this] { applyRange(); });
+}
+
+void ScrollBar::setMin(int min)
+{
+    min_ = min;
+    changeLimit([this] { applyRange(); });
+}
 
 CheckBox::CheckBox(QWidget* parent, const QString& caption) : QCheckBox(caption, parent)
 {

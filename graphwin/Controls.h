@@ -88,12 +88,18 @@ public:
     std::function<void()> Change;  // arrow or trough click, release of the thumb, program's change
     std::function<void()> Scroll;  // while the thumb is dragged
     // The program's writes. Value outside Min..Max raises Invalid property value (380); a change of
-    // Min or Max that moves the value runs Change.
+    // Min or Max that moves the value runs Change. Max may lie below Min: the bar then runs the other
+    // way, from Min at its start to Max at its end.
     void setValueChecked(int value);
     void setMax(int max);
     void setMin(int min);
+    int Max() const { return max_; }
+    int Min() const { return min_; }
 
 private:
+    void applyRange();
+    int min_ = 0, max_ = 99;
+    bool applyingRange_ = false;
     // Runs a change of Min or Max with signals blocked; runs Change when it moved the value.
     void changeLimit(const std::function<void()>& write);
     int lastChangeValue_ = 0;

@@ -82,14 +82,6 @@ void DrawingSurface::record(DrawOp::Kind kind, double x1, double y1, double x2, 
     ops_.push_back(DrawOp{kind, x1, y1, x2, y2, color, drawWidth_, text});
 }
 
-void DrawingSurface::touched()
-{
-    if (!dirty_) {
-        dirty_ = true;
-        update();
-    }
-}
-
 void DrawingSurface::plot(long px, long py, QRgb color)
 {
     if (penPx_ == 1) {
@@ -106,12 +98,10 @@ void DrawingSurface::plot(long px, long py, QRgb color)
             bits_[y * stride_ + x] = color;
 }
 
-void DrawingSurface::PSet(double x, double y, QRgb color)
+void DrawingSurface::setPoint(double x, double y, QRgb color)
 {
     if (recording_)
         record(DrawOp::PSet, x, y, x, y, color);
-    CurrentX = x;
-    CurrentY = y;
     const double fx = std::floor(x * scale_ / kTwipsPerPixel);
     const double fy = std::floor(y * scale_ / kTwipsPerPixel);
     const double margin = penPx_;

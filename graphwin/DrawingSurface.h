@@ -35,7 +35,19 @@ public:
     // A line from (x1, y1) by the offset (dx, dy).
     void LineStep(double x1, double y1, double dx, double dy, QRgb color) { Line(x1, y1, x1 + dx, y1 + dy, color); }
     // The pixel under a twip point, as wide as the drawing width; the current point moves there.
-    void PSet(double x, double y, QRgb color);
+    // One-pixel points inside the image, the common case of every plot, are set here directly.
+    void PSet(double x, double y, QRgb color)
+    {
+        CurrentX = x;
+        CurrentY = y;
+        const double fx = x * scale_ / 15, fy = y * scale_ / 15;
+        if (!recording_ && penPx_ == 1 && fx >= 0 && fy >= 0 && fx < widthPx_ && fy < heightPx_) {
+            bits_[static_cast<long>(fy) * stride_ + static_cast<long>(fx)] = color;
+            touched();
+            return;
+        }
+        setPoint(x, y, color);
+    }
     // A circle outline of radius r twips around (x, y).
     void Circle(double x, double y, double r, QRgb color);
     // Paints a rectangle with the background colour (a shape's area being refreshed).
@@ -79,9 +91,16 @@ protected:
 
 private:
     void plot(long px, long py, QRgb color);
+    void setPoint(double x, double y, QRgb color);
     void rasterLine(double x1, double y1, double x2, double y2, QRgb color);
     void record(DrawOp::Kind kind, double x1, double y1, double x2, double y2, QRgb color, const QString& text = {});
-    void touched();
+    void touched()
+    {
+        if (!dirty_) {
+            dirty_ = true;
+            update();
+        }
+    }
     QFont scaledFont() const;
 
     double widthTwips_, heightTwips_;

@@ -44,6 +44,8 @@ frmGraphingCalc::frmGraphingCalc()
                         &frmGraphingCalc::cmdSums_Click);
     cmdFuncClasses = addScreen(0, QStringLiteral("Graph Classes of &Functions"), QStringLiteral("&Function Grapher"),
                                mnuGrapher, &frmGraphingCalc::cmdFuncClasses_Click);
+    cmdAnimate = addScreen(1, QStringLiteral("&Animate Graphs"), QStringLiteral("&Animate Functions"), mnuAnimate,
+                           &frmGraphingCalc::cmdAnimate_Click);
     cmdSlopeField = addScreen(4, QStringLiteral("&Slope Fields"), QStringLiteral("&Slope Fields"), mnuSlopeField,
                               &frmGraphingCalc::cmdSlopeField_Click);
     cmdNewton = addScreen(3, QStringLiteral("&Newton's Method"), QStringLiteral("&Newton's Method"), mnuNewton,
@@ -52,6 +54,8 @@ frmGraphingCalc::frmGraphingCalc()
                            &frmGraphingCalc::cmdTangent_Click);
     cmdMVT = addScreen(6, QStringLiteral("The &Mean Value Theorem"), QStringLiteral("&Mean Value Theorem"), mnuMVT,
                        &frmGraphingCalc::cmdMVT_Click);
+    cmdParam = addScreen(7, QStringLiteral("&Parametric Graphing"), QStringLiteral("&Parametric Graphs"), mnuParam,
+                         &frmGraphingCalc::cmdParam_Click);
     cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
     layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
 
@@ -94,6 +98,10 @@ void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(classesScreen()); }
 void frmGraphingCalc::cmdSums_Click() { showScreen(riemannScreen()); }
 void frmGraphingCalc::mnuGrapher_Click() { cmdFuncClasses_Click(); }
 void frmGraphingCalc::mnuRiemann_Click() { cmdSums_Click(); }
+void frmGraphingCalc::cmdAnimate_Click() { showScreen(animateScreen()); }
+void frmGraphingCalc::mnuAnimate_Click() { cmdAnimate_Click(); }
+void frmGraphingCalc::cmdParam_Click() { showScreen(paramScreen()); }
+void frmGraphingCalc::mnuParam_Click() { cmdParam_Click(); }
 void frmGraphingCalc::cmdSlopeField_Click() { showScreen(slopeFieldScreen()); }
 void frmGraphingCalc::mnuSlopeField_Click() { cmdSlopeField_Click(); }
 void frmGraphingCalc::cmdNewton_Click() { showScreen(newtonScreen()); }

@@ -7,9 +7,11 @@
 #include <QWidget>
 
 #include "screens/frmClasses.h"
+#include "screens/frmAnimate.h"
 #include "screens/frmFlowField.h"
 #include "screens/frmMVT.h"
 #include "screens/frmNewton.h"
+#include "screens/frmParam.h"
 #include "screens/frmRiemann.h"
 #include "screens/frmTangent.h"
 
@@ -26,6 +28,8 @@ public:
 
     QPushButton* cmdFuncClasses = nullptr;
     QPushButton* cmdSums = nullptr;
+    QPushButton* cmdAnimate = nullptr;
+    QPushButton* cmdParam = nullptr;
     QPushButton* cmdNewton = nullptr;
     QPushButton* cmdSlopeField = nullptr;
     QPushButton* cmdTangent = nullptr;
@@ -37,7 +41,9 @@ public:
     QAction* mnuSelect = nullptr;
     QAction* mnuRiemann = nullptr;
     QAction* mnuGrapher = nullptr;
+    QAction* mnuAnimate = nullptr;
     QAction* mnuSlopeField = nullptr;
+    QAction* mnuParam = nullptr;
     QAction* mnuNewton = nullptr;
     QAction* mnuTangent = nullptr;
     QAction* mnuMVT = nullptr;
@@ -46,6 +52,10 @@ public:
     void cmdSums_Click();
     void mnuGrapher_Click();
     void mnuRiemann_Click();
+    void cmdAnimate_Click();
+    void mnuAnimate_Click();
+    void cmdParam_Click();
+    void mnuParam_Click();
     void cmdSlopeField_Click();
     void mnuSlopeField_Click();
     void cmdNewton_Click();
@@ -63,6 +73,8 @@ public:
     frmRiemann& riemannScreen() { return screen(riemann_); }
     frmNewton& newtonScreen() { return screen(newton_); }
     frmFlowField& slopeFieldScreen() { return screen(flowField_); }
+    frmAnimate& animateScreen() { return screen(animate_); }
+    frmParam& paramScreen() { return screen(param_); }
     frmTangent& tangentScreen() { return screen(tangent_); }
     frmMVT& mvtScreen() { return screen(mvt_); }
 
@@ -86,6 +98,8 @@ private:
     std::unique_ptr<frmRiemann> riemann_;
     std::unique_ptr<frmNewton> newton_;
     std::unique_ptr<frmFlowField> flowField_;
+    std::unique_ptr<frmAnimate> animate_;
+    std::unique_ptr<frmParam> param_;
     std::unique_ptr<frmTangent> tangent_;
     std::unique_ptr<frmMVT> mvt_;
 };

@@ -115,5 +115,22 @@ int main(int argc, char* argv[])
     field.optCurve->setChecked(true);
     field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
     save(field, dir, QStringLiteral("slope-field-approximations.png"));
+    field.hide();
+
+    // The default parametric figure x = 4 sin 3t, y = 3 cos 2t, as points and traced at t = 1.
+    frmParam& param = launcher.paramScreen();
+    param.Form_Activate();
+    param.cmdPlotto_Click();
+    param.HscT->setValue(160);
+    save(param, dir, QStringLiteral("parametric.png"));
+    param.hide();
+
+    // Animating A of the parabola from -2 to 2 in 41 steps.
+    frmAnimate& animate = launcher.animateScreen();
+    animate.Form_Activate();
+    animate.mnuFunc_Click(2);
+    animate.txtB->setText(QStringLiteral("0"));
+    animate.cmdAnimate_Click();
+    save(animate, dir, QStringLiteral("animate.png"));
     return 0;
 }

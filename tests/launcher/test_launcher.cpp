@@ -112,10 +112,12 @@ TEST_F(LauncherTest, EveryScreenOpensFromItsButtonAndItsMenuEntry)
     const Entry entries[] = {
         {launcher.cmdFuncClasses, launcher.mnuGrapher, launcher.classesScreen(), "Graphing Classes of Functions"},
         {launcher.cmdSums, launcher.mnuRiemann, launcher.riemannScreen(), "Riemann and Other Sums"},
+        {launcher.cmdAnimate, launcher.mnuAnimate, launcher.animateScreen(), "Animate Classes of Functions"},
         {launcher.cmdSlopeField, launcher.mnuSlopeField, launcher.slopeFieldScreen(), "Slope Fields"},
         {launcher.cmdNewton, launcher.mnuNewton, launcher.newtonScreen(), "Newton's Method and Derivatives"},
         {launcher.cmdTangent, launcher.mnuTangent, launcher.tangentScreen(), "The Tangent Line Problem"},
         {launcher.cmdMVT, launcher.mnuMVT, launcher.mvtScreen(), "The Mean Value Theorem"},
+        {launcher.cmdParam, launcher.mnuParam, launcher.paramScreen(), "Parametric Equation graphing"},
     };
     for (const Entry& e : entries) {
         int shown = 0;
@@ -126,12 +128,13 @@ TEST_F(LauncherTest, EveryScreenOpensFromItsButtonAndItsMenuEntry)
         EXPECT_EQ(shown, 2) << e.title;
         EXPECT_EQ(e.screen.windowTitle(), QString::fromUtf8(e.title));
     }
-    const QString menu[] = {QStringLiteral("&Riemann Sums +"), QStringLiteral("&Function Grapher"),
-                            QStringLiteral("&Slope Fields"), QStringLiteral("&Newton's Method"),
-                            QStringLiteral("&Tangent Problem"), QStringLiteral("&Mean Value Theorem")};
+    const QString menu[] = {QStringLiteral("&Riemann Sums +"),   QStringLiteral("&Function Grapher"),
+                            QStringLiteral("&Animate Functions"), QStringLiteral("&Slope Fields"),
+                            QStringLiteral("&Newton's Method"),   QStringLiteral("&Tangent Problem"),
+                            QStringLiteral("&Mean Value Theorem"), QStringLiteral("&Parametric Graphs")};
     const QList<QAction*> actions = launcher.mnuSelect->menu()->actions();
-    ASSERT_EQ(actions.size(), 6);
-    for (int i = 0; i < 6; ++i)
+    ASSERT_EQ(actions.size(), 8);
+    for (int i = 0; i < 8; ++i)
         EXPECT_EQ(actions[i]->text(), menu[i]);
     EXPECT_TRUE(script.errors.empty());
 }

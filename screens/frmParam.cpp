@@ -1,0 +1,284 @@
+#include "screens/frmParam.h"
+
+#include <QMenu>
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
+
+namespace {
+
+GraphScreen::Config paramConfig()
+{
+    GraphScreen::Config c;
+    c.caption = QStringLiteral("Parametric Equation graphing");
+    c.surfaceWidth = 13920;
+    c.coefficientCount = 6;
+    c.coefficientDefaults = {"4", "3", "0", "3", "2", "0"};
+    c.functionMenu = false;
+    return c;
+}
+
+constexpr double kPanel = 11220, kPanelWidth = 2580, kInner = 2340;
+
+QString str(float v) { return QString::fromStdString(rt::Str(v)); }
+
+void stepPlain(TextBox* box, int Button)
+{
+    if (Button == LeftButton)
+        box->assign(rt::CStr(rt::Chk(box->value() + 1)));
+    else if (Button == RightButton)
+        box->assign(rt::CStr(rt::Chk(box->value() - 1)));
+}
+
+// Cut to four decimals in single precision: Int(v * 10000) / 10000.
+float cut4(float v) { return rt::CSng(rt::Int(rt::CSng(static_cast<double>(v) * 10000)) / 10000); }
+
+}  // namespace
+
+frmParam::frmParam() : GraphScreen(paramConfig())
+{
+    lblXPar = new ClickLabel(surface, QStringLiteral("x = A*Sin(Bt) + C"), true);
+    placeTwips(lblXPar, 60, 3180, 1860, 300);
+    lblYPar = new ClickLabel(surface, QStringLiteral("y = D*Cos(Et) + F"), true);
+    placeTwips(lblYPar, 60, 3540, 1860, 300);
+    lblInstruct = makeLabel(QStringLiteral("Select x && y functions and enter their constants."), 60, 3960, 2280, 600);
+    lblInstruct->setWordWrap(true);
+    lblInstruct->setBuddy(lblXPar);  // so that "&&" shows as one ampersand
+    cmdZout = addButton(QStringLiteral("Zoom &Out"), 3000, [this] { cmdZout_Click(); });
+
+    auto label = [](QWidget* parent, const char* caption, double top, bool stepper) {
+        auto* l = new ClickLabel(parent, QString::fromLatin1(caption), stepper);
+        placeTwips(l, 120, top, 1440, 300);
+        return l;
+    };
+    auto box = [](QWidget* parent, const char* text, double top) {
+        auto* b = new TextBox(parent, QString::fromLatin1(text));
+        placeTwips(b, 1620, top, 840, 300);
+        return b;
+    };
+    fraSetup = new QGroupBox(QStringLiteral("Graphing Set up"), surface);
+    placeTwips(fraSetup, kPanel, 120, kPanelWidth, 2280);
+    lblT0 = label(fraSetup, "Initial  t =", 330, true);
+    txtT0 = box(fraSetup, "0", 330);
+    lblFinalT = label(fraSetup, "Final  t =", 690, true);
+    txtTn = box(fraSetup, "6.3", 690);
+    lblTstep = label(fraSetup, "Number of Steps", 1050, true);
+    txtTstep = box(fraSetup, "1000", 1050);
+    optCont = new OptionButton(fraSetup, QStringLiteral("Connected Points"));
+    placeTwips(optCont, 120, 1440, kInner, 300);
+    optPoints = new OptionButton(fraSetup, QStringLiteral("Separate Points"));
+    placeTwips(optPoints, 120, 1800, kInner, 300);
+    optPoints->setChecked(true);
+
+    fraTrace = new QGroupBox(QStringLiteral("Trace"), surface);
+    placeTwips(fraTrace, kPanel, 2520, kPanelWidth, 2400);
+    lbltTrace = label(fraTrace, "Trace at t =", 330, true);
+    txtT = box(fraTrace, "0", 330);
+    lblXY = new ClickLabel(fraTrace, QStringLiteral("( ______ , _______ )"));
+    placeTwips(lblXY, 120, 720, kInner, 300);
+    lblTslide = new ClickLabel(fraTrace, QStringLiteral("t - slider"));
+    placeTwips(lblTslide, 120, 1140, kInner, 300);
+    lblTslide->setAlignment(Qt::AlignCenter);
+    HscT = new ScrollBar(Qt::Horizontal, fraTrace);
+    HscT->setMin(0);
+    HscT->setMax(1000);
+    HscT->setPageStep(20);
+    HscT->setSingleStep(1);
+    placeTwips(HscT, 120, 1470, kInner, 255);
+    lblTmin = new ClickLabel(fraTrace, QStringLiteral("0"));
+    placeTwips(lblTmin, 120, 1800, 1100, 300);
+    lblTmax = new ClickLabel(fraTrace, QStringLiteral("6.3"));
+    placeTwips(lblTmax, 1360, 1800, 1100, 300);
+    lblTmax->setAlignment(Qt::AlignRight | Qt::AlignTop);
+
+    xMenu_ = addMenu(QStringLiteral("Select &x Function"));
+    mnuSelectX = xMenu_->menuAction();
+    yMenu_ = addMenu(QStringLiteral("Select &y Function"));
+    mnuSelectY = yMenu_->menuAction();
+    for (auto [menu, entries] : {std::pair{xMenu_, &mnuXFunc}, std::pair{yMenu_, &mnuYFunc}}) {
+        QAction* design = menu->addAction(QStringLiteral("-"));
+        design->setVisible(false);
+        entries->push_back(design);
+    }
+
+    lblXPar->MouseDown = [this](int b, int s, double x, double y) { lblXPar_MouseDown(b, s, x, y); };
+    lblYPar->MouseDown = [this](int b, int s, double x, double y) { lblYPar_MouseDown(b, s, x, y); };
+    lblT0->MouseDown = [this](int b, int s, double x, double y) { lblT0_MouseDown(b, s, x, y); };
+    lblFinalT->MouseDown = [this](int b, int s, double x, double y) { lblFinalT_MouseDown(b, s, x, y); };
+    lblTstep->MouseDown = [this](int b, int s, double x, double y) { lblTstep_MouseDown(b, s, x, y); };
+    lbltTrace->MouseDown = [this](int b, int s, double x, double y) { lbltTrace_MouseDown(b, s, x, y); };
+    txtT0->Change = [this] { txtT0_Change(); };
+    txtTn->Change = [this] { txtTn_Change(); };
+    txtTstep->Change = [this] { txtTstep_Change(); };
+    txtT->Change = [this] { txtT_Change(); };
+    HscT->Change = [this] { HscT_Change(); };
+    Form_Load();
+}
+
+void frmParam::Form_Load()
+{
+    using namespace FuncGlobals;
+    XtFuncId = 4;
+    YtFuncId = 5;
+    XFuncCount = 12;
+    YFuncCount = 12;
+    for (int i = 1; i <= ParametricFamilyCount; ++i) {
+        XCaptions[i] = XtCaption(i);
+        YCaptions[i] = YtCaption(i);
+    }
+    for (int i = static_cast<int>(mnuXFunc.size()); i <= ParametricFamilyCount; ++i) {
+        QAction* x = xMenu_->addAction(QString::fromStdString(XCaptions[i]));
+        onTriggered(x, [this, i] { mnuXFunc_Click(i); });
+        mnuXFunc.push_back(x);
+        QAction* y = yMenu_->addAction(QString::fromStdString(YCaptions[i]));
+        onTriggered(y, [this, i] { mnuYFunc_Click(i); });
+        mnuYFunc.push_back(y);
+    }
+}
+
+void frmParam::mnuXFunc_Click(int Index)
+{
+    FuncGlobals::XtFuncId = rt::CInt(Index);
+    lblXPar->setText(QString::fromStdString(XCaptions[FuncGlobals::XtFuncId]));
+}
+
+void frmParam::mnuYFunc_Click(int Index)
+{
+    FuncGlobals::YtFuncId = rt::CInt(Index);
+    lblYPar->setText(QString::fromStdString(YCaptions[FuncGlobals::YtFuncId]));
+}
+
+void frmParam::lblXPar_MouseDown(int, int, double, double)
+{
+    mnuXFunc_Click(rt::Mod(FuncGlobals::XtFuncId, XFuncCount) + 1);
+}
+
+void frmParam::lblYPar_MouseDown(int, int, double, double)
+{
+    mnuYFunc_Click(rt::Mod(FuncGlobals::YtFuncId, YFuncCount) + 1);
+}
+
+void frmParam::lblT0_MouseDown(int Button, int, double, double) { stepPlain(txtT0, Button); }
+void frmParam::lblFinalT_MouseDown(int Button, int, double, double) { stepPlain(txtTn, Button); }
+void frmParam::lblTstep_MouseDown(int Button, int, double, double) { stepPlain(txtTstep, Button); }
+void frmParam::lbltTrace_MouseDown(int Button, int, double, double) { stepPlain(txtT, Button); }
+
+void frmParam::txtT0_Change() { lblTmin->setText(txtT0->text()); }
+void frmParam::txtTn_Change() { lblTmax->setText(txtTn->text()); }
+
+void frmParam::txtTstep_Change()
+{
+    if (txtTstep->value() > 32000) {
+        MsgBox(QStringLiteral("The maximum number of steps is 32000"), QStringLiteral("Exceeded Maximum"));
+        txtTstep->assign(QStringLiteral("32000"));
+    }
+    const double steps = txtTstep->value();
+    HscT->setMax(rt::CInt(steps));
+    if (steps > 49)
+        HscT->setPageStep(rt::CInt(rt::Int(steps / 50)));
+    else if (steps > 0)
+        HscT->setPageStep(rt::CInt(steps));
+}
+
+void frmParam::HscT_Change()
+{
+    const float span = rt::CSng(txtTn->value() - txtT0->value());
+    const float perStep = rt::CSng(rt::Div(span, HscT->Max()));
+    const float along = rt::CSng(static_cast<double>(perStep) * HscT->value());
+    const double t = rt::Int(rt::Chk(rt::Chk(along + txtT0->value()) * 10000)) / 10000;
+    txtT->assign(rt::CStr(t));
+}
+
+bool frmParam::inside(double column, double row) const
+{
+    return 100 <= row && row <= 6500 && 2400 < column && column < 8800;
+}
+
+void frmParam::txtT_Change()
+{
+    using namespace FuncGlobals;
+    const float t = rt::CSng(txtT->value());
+    const float x = rt::CSng(XtFunc(t)), y = rt::CSng(YtFunc(t));
+    lblXY->setText(QStringLiteral("(") + str(cut4(x)) + QStringLiteral(",") + str(cut4(y)) + QStringLiteral(")"));
+    const double column = graph.column(x), row = graph.row(y);
+    if (!inside(column, row))
+        return;
+    surface->setDrawWidth(3);
+    surface->PSet(column, row, rgbColor(rt::QBColor(rt::Mod(XtFuncId + 2, 7))));
+    surface->setDrawWidth(1);
+}
+
+void frmParam::cmdPlotto_Click()
+{
+    using namespace FuncGlobals;
+    const float t0 = rt::CSng(txtT0->value()), tn = rt::CSng(txtTn->value());
+    const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
+    const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
+    double c0 = graph.column(XtFunc(t0)), r0 = graph.row(YtFunc(t0));
+    const bool points = optPoints->isChecked();
+    QRgb colour = 0;
+    bool haveColour = false;
+    auto ink = [&] {
+        if (!haveColour) {
+            colour = rgbColor(rt::QBColor(rt::Mod(XtFuncId, 7)));
+            haveColour = true;
+        }
+        return colour;
+    };
+    for (std::int32_t i = 1; i <= n; ++i) {
+        const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
+        const double c1 = graph.column(XtFunc(t)), r1 = graph.row(YtFunc(t));
+        if (points) {
+            if (i == 1)
+                surface->PSet(c0, r0, ink());
+            if (inside(c1, r1))
+                surface->PSet(c1, r1, ink());
+        } else if (inside(c1, r1)) {
+            surface->Line(c0, r0, c1, r1, ink());
+        }
+        c0 = c1;
+        r0 = r1;
+    }
+}
+
+void frmParam::cmdZout_Click()
+{
+    using rt::Chk;
+    const double w = Chk(txtXmax->value() - txtXmin->value()), h = Chk(txtYmax->value() - txtYmin->value());
+    txtXmin->assign(rt::Str(Chk(txtXmin->value() - w / 2)));
+    txtXmax->assign(rt::Str(Chk(txtXmax->value() + w / 2)));
+    txtYmin->assign(rt::Str(Chk(txtYmin->value() - h / 2)));
+    txtYmax->assign(rt::Str(Chk(txtYmax->value() + h / 2)));
+    CleanGraph();
+    cmdPlotto_Click();
+}
+
+void frmParam::mnuAbout_Click()
+{
+    showHelp({
+        {"What is this?",
+         "This screen allows you to graph parametric equations by defining the function for the x value and another "
+         "equation for the y value.  The x and y values are functions of the variable t."},
+        {"How do I graph things?",
+         "After selecting the functions by using the pull down menus for the x and y functions, enter the values you "
+         "want for A...F.  You may click [Plotto!] to see what it looks like."},
+        {"Graph Set Up",
+         "Graphing Set Up at the right allows you to change the range of t, the number of steps used, and whether you "
+         "want the points connected or not.  The initial set up is for a trig function and 1000 steps.  You may use "
+         "any range and up to 32000 steps"},
+        {"Trace?",
+         "Trace allows you to look at the point produced by any particular t value.  You may click in the box to "
+         "change the value. As soon as you do you will see the (x,y) value below and the point appear on the graph.  "
+         "You may also use the slider at the bottom to scroll to different values or even click on the slide or "
+         "arrows to move the trace point on the graph.  THe slider does not show the t= value or change the box above "
+         "it."},
+        {"Left or Right clicks",
+         "You may left click of right click on the labels for the entry boxes to raise of lower their values by 1."},
+        {"Change the size of the window?",
+         "The buttons below [Plotto!] are what they say.  Zoom in will reduce the size by a factor of 2.  Zoom Out will "
+         "enlarge the size by a factor of 2.  You may change the window size by clicking on any of the boxes showing "
+         "teh ranges for x and y."},
+    });
+}

@@ -1,0 +1,54 @@
+#pragma once
+// Parametric curves x(t), y(t) from two catalogues of twelve families, drawn as points or joined,
+// and traced by a t typed into a box or chosen with a slider.
+#include <string>
+#include <vector>
+
+#include <QGroupBox>
+
+#include "graphwin/GraphScreen.h"
+#include "runtime/BoundedArray.h"
+
+class frmParam : public GraphScreen {
+    Q_OBJECT
+public:
+    frmParam();
+
+    QAction *mnuSelectX = nullptr, *mnuSelectY = nullptr;
+    std::vector<QAction*> mnuXFunc, mnuYFunc;  // index 0 is the design entry; 1 to 12 the families
+    ClickLabel *lblXPar = nullptr, *lblYPar = nullptr, *lblInstruct = nullptr;
+    QGroupBox *fraSetup = nullptr, *fraTrace = nullptr;
+    ClickLabel *lblT0 = nullptr, *lblFinalT = nullptr, *lblTstep = nullptr, *lbltTrace = nullptr;
+    TextBox *txtT0 = nullptr, *txtTn = nullptr, *txtTstep = nullptr, *txtT = nullptr;
+    OptionButton *optCont = nullptr, *optPoints = nullptr;
+    ClickLabel *lblXY = nullptr, *lblTslide = nullptr, *lblTmin = nullptr, *lblTmax = nullptr;
+    ScrollBar* HscT = nullptr;
+    QPushButton* cmdZout = nullptr;
+
+    // Captions of the families by number (0 is empty) and the size of each catalogue.
+    rt::BoundedArray<std::string, 0, 12> XCaptions, YCaptions;
+    std::int16_t XFuncCount = 12, YFuncCount = 12;
+
+    void mnuXFunc_Click(int Index);
+    void mnuYFunc_Click(int Index);
+    void lblXPar_MouseDown(int Button, int Shift, double X, double Y);
+    void lblYPar_MouseDown(int Button, int Shift, double X, double Y);
+    void lblT0_MouseDown(int Button, int Shift, double X, double Y);
+    void lblFinalT_MouseDown(int Button, int Shift, double X, double Y);
+    void lblTstep_MouseDown(int Button, int Shift, double X, double Y);
+    void lbltTrace_MouseDown(int Button, int Shift, double X, double Y);
+    void txtT0_Change();
+    void txtTn_Change();
+    void txtTstep_Change();
+    void HscT_Change();
+    void txtT_Change();
+    void cmdZout_Click();
+    void cmdPlotto_Click() override;
+    void Form_Load() override;
+    void mnuAbout_Click() override;
+
+private:
+    bool inside(double column, double row) const;
+    QMenu* xMenu_ = nullptr;
+    QMenu* yMenu_ = nullptr;
+};
