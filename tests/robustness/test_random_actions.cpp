@@ -1,0 +1,298 @@
+// A seeded, bounded random walk through the whole program: every screen, every box typed into with
+// hostile texts, every button, label, option, check box, scroll bar, menu entry and the drawing
+// surfaces pressed and moved over, input boxes answered or cancelled. Every run-time error met must
+// be one the program allows for that action; after one, the program is started afresh.
+//
+// PLOTTO_SEED and PLOTTO_ACTIONS choose the walk (defaults 20261122 and 20000).
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <memory>
+#include <random>
+#include <set>
+#include <thread>
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "launcher/frmGraphingCalc.h"
+#include "runtime/Random.h"
+
+namespace {
+
+const std::vector<QString>& corpus()
+{
+    static const std::vector<QString> texts = [] {
+        std::vector<QString> t;
+        for (const char* s : {"", "-", ".", "1e", "1e308", "-1e308", "1e-320", "nan", "inf", "1.2.3", " 5", "&H7FFF",
+                              "99999999999999999999", " ", "0", "1", "2", "-1", "-2", "3", "0.5", "-0.5", "10", "-10",
+                              "4", "1000", "32000", "40000", "10000", "9999", "1e10", "-1e10", "0.001", "25", "2.5"})
+            t.push_back(QString::fromLatin1(s));
+        t.push_back(QString(400, QLatin1Char('9')));
+        t.push_back(QStringLiteral("0.") + QString(300, QLatin1Char('1')));
+        t.push_back(QString::fromUtf8("\xc3\xa9t\xc3\xa9 \xe2\x88\x9e \xe6\xbc\xa2\xe5\xad\x97"));
+        return t;
+    }();
+    return texts;
+}
+
+struct Control {
+    enum Kind { Box, Button, Label, Check, Option, Scroll, Menu, Surface } kind;
+    QObject* object;
+    QString name;
+};
+
+struct Walk {
+    std::mt19937_64 rng;
+    DialogScript script;
+    std::vector<std::function<std::unique_ptr<GraphScreen>()>> factories;
+    std::vector<std::unique_ptr<GraphScreen>> screens;
+    std::vector<std::vector<Control>> controls;
+    std::vector<std::string> log;
+    std::map<int, long> errorsByNumber;
+    long actions = 0, restarts = 0;
+
+    explicit Walk(std::uint64_t seed) : rng(seed)
+    {
+        factories = {
+            [] { return std::make_unique<frmClasses>(); },   [] { return std::make_unique<frmRiemann>(); },
+            [] { return std::make_unique<frmAnimate>(); },   [] { return std::make_unique<frmNewton>(); },
+            [] { return std::make_unique<frmFlowField>(); }, [] { return std::make_unique<frmTangent>(); },
+            [] { return std::make_unique<frmMVT>(); },       [] { return std::make_unique<frmParam>(); },
+        };
+        screens.resize(factories.size());
+        controls.resize(factories.size());
+        restartProgram();
+    }
+
+    // The program started again: fresh module state, every screen loaded anew.
+    void restartProgram()
+    {
+        FuncGlobals::FunctionId = 0;
+        FuncGlobals::FunctionCount = 0;
+        FuncGlobals::Coefficients = {};
+        FuncGlobals::DxFuncId = FuncGlobals::DyFuncId = FuncGlobals::XtFuncId = FuncGlobals::YtFuncId = 0;
+        rt::resetRnd();
+        for (std::size_t i = 0; i < factories.size(); ++i)
+            start(i);
+    }
+
+    int pick(int n) { return std::uniform_int_distribution<int>(0, n - 1)(rng); }
+    const QString& text() { return corpus()[pick(static_cast<int>(corpus().size()))]; }
+
+    // A freshly loaded screen with the list of its controls.
+    void start(std::size_t i)
+    {
+        screens[i] = factories[i]();
+        GraphScreen& s = *screens[i];
+        std::vector<Control>& list = controls[i];
+        list.clear();
+        for (TextBox* w : s.findChildren<TextBox*>())
+            list.push_back({Control::Box, w, w->text()});
+        for (QPushButton* w : s.findChildren<QPushButton*>())
+            list.push_back({Control::Button, w, w->text()});
+        for (ClickLabel* w : s.findChildren<ClickLabel*>())
+            list.push_back({Control::Label, w, w->text()});
+        for (CheckBox* w : s.findChildren<CheckBox*>())
+            list.push_back({Control::Check, w, w->text()});
+        for (OptionButton* w : s.findChildren<OptionButton*>())
+            list.push_back({Control::Option, w, w->text()});
+        for (ScrollBar* w : s.findChildren<ScrollBar*>())
+            list.push_back({Control::Scroll, w, QStringLiteral("scroll bar")});
+        for (QAction* menu : s.menuBar->actions())
+            for (QAction* entry : menu->menu()->actions())
+                if (!entry->isSeparator() && entry->isVisible())
+                    list.push_back({Control::Menu, entry, entry->text()});
+        list.push_back({Control::Surface, s.surface, QStringLiteral("surface")});
+        s.Form_Activate();
+    }
+
+    // The run-time errors the program may raise for an action on this control: arithmetic faults and
+    // numbers too large wherever a box is read or a computation runs, plus each screen's own.
+    std::set<int> allowed(std::size_t screen, const Control& c) const
+    {
+        if (c.kind == Control::Check || c.kind == Control::Option)
+            return {};
+        if (c.kind == Control::Menu) {
+            const QString t = static_cast<QAction*>(c.object)->text();
+            if (t == QStringLiteral("&About") || t == QStringLiteral("E&xit"))
+                return {};
+            return {};  // choosing a family only sets a caption
+        }
+        std::set<int> ok{rt::Overflow, rt::DivisionByZero};
+        GraphScreen* s = screens[screen].get();
+        if (auto* mvt = dynamic_cast<frmMVT*>(s); mvt && (c.object == mvt->HscMVT || c.object == mvt->lblFindc))
+            ok.insert(rt::InvalidProcedureCall);  // family 15's tangent colour
+        if (auto* field = dynamic_cast<frmFlowField*>(s); field && c.object == field->lbldx)
+            ok.insert(rt::SubscriptOutOfRange);  // dx family -1
+        if (auto* animate = dynamic_cast<frmAnimate*>(s); animate && c.object == animate->cmdAnimate) {
+            ok.insert(rt::TypeMismatch);
+            ok.insert(rt::InvalidPropertyValue);
+        }
+        return ok;
+    }
+
+    // Performs one action; returns its description.
+    std::string act(std::size_t screen, const Control& c)
+    {
+        GraphScreen& s = *screens[screen];
+        QWidget* w = qobject_cast<QWidget*>(c.object);
+        std::string what = std::string(s.metaObject()->className()) + " ";
+        switch (c.kind) {
+        case Control::Box: {
+            auto* box = static_cast<TextBox*>(c.object);
+            const QString t = text();
+            what += "types \"" + t.left(24).toStdString() + "\" into box \"" + c.name.toStdString() + "\"";
+            const bool ascii = std::all_of(t.begin(), t.end(), [](QChar ch) { return ch.unicode() < 128; });
+            if (ascii && pick(4) == 0) {  // keystroke by keystroke
+                box->clear();
+                QTest::keyClicks(box, t.left(12));
+            } else {
+                box->setText(t);
+            }
+            break;
+        }
+        case Control::Button:
+            what += "clicks \"" + c.name.toStdString() + "\"";
+            static_cast<QPushButton*>(c.object)->click();
+            break;
+        case Control::Label: {
+            const int how = pick(3);
+            what += std::string(how == 0 ? "left-clicks" : how == 1 ? "right-clicks" : "double-clicks") + " label \"" +
+                    c.name.toStdString() + "\"";
+            if (how == 0)
+                QTest::mouseClick(w, Qt::LeftButton);
+            else if (how == 1)
+                QTest::mouseClick(w, Qt::RightButton);
+            else {
+                QTest::mouseClick(w, Qt::LeftButton);
+                QTest::mouseDClick(w, Qt::LeftButton);
+            }
+            break;
+        }
+        case Control::Check:
+        case Control::Option:
+            what += "clicks \"" + c.name.toStdString() + "\"";
+            static_cast<QAbstractButton*>(c.object)->click();
+            break;
+        case Control::Scroll: {
+            auto* bar = static_cast<ScrollBar*>(c.object);
+            const int where = pick(3);
+            const int v = where == 0 ? bar->minimum() : where == 1 ? bar->maximum()
+                                                                   : bar->minimum() + pick(std::max(1, bar->maximum() - bar->minimum() + 1));
+            what += "moves a scroll bar to " + std::to_string(v);
+            bar->setValue(v);
+            break;
+        }
+        case Control::Menu:
+            what += "chooses \"" + c.name.toStdString() + "\"";
+            static_cast<QAction*>(c.object)->trigger();
+            break;
+        case Control::Surface: {
+            const QPoint at(pick(w->width()), pick(w->height()));
+            const int how = pick(3);
+            what += std::string(how == 0 ? "presses left" : how == 1 ? "presses right" : "moves") + " on the surface at " +
+                    std::to_string(at.x()) + "," + std::to_string(at.y());
+            if (how == 2)
+                QTest::mouseMove(w, at);
+            else
+                QTest::mouseClick(w, how == 0 ? Qt::LeftButton : Qt::RightButton, Qt::NoModifier, at);
+            break;
+        }
+        }
+        return what;
+    }
+};
+
+std::uint64_t envNumber(const char* name, std::uint64_t fallback)
+{
+    const char* v = std::getenv(name);
+    return v && *v ? std::strtoull(v, nullptr, 10) : fallback;
+}
+
+}  // namespace
+
+TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
+{
+    const std::uint64_t seed = envNumber("PLOTTO_SEED", 20261122);
+    const long total = static_cast<long>(envNumber("PLOTTO_ACTIONS", 20000));
+    Walk walk(seed);
+    setDialogScript(&walk.script);
+
+    // A watchdog: an action that does not end within a minute is a hang.
+    std::atomic<long> progress{0};
+    std::atomic<bool> done{false};
+    std::thread watchdog([&] {
+        long last = -1;
+        auto since = std::chrono::steady_clock::now();
+        while (!done) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(200));
+            if (progress != last) {
+                last = progress;
+                since = std::chrono::steady_clock::now();
+            } else if (std::chrono::steady_clock::now() - since > std::chrono::seconds(60)) {
+                std::fprintf(stderr, "hang: seed %llu, action %ld\n", static_cast<unsigned long long>(seed), last);
+                std::abort();
+            }
+        }
+    });
+
+    std::size_t current = 0;
+    for (long n = 0; n < total; ++n) {
+        progress = n;
+        if (walk.pick(40) == 0) {  // the launcher shows another screen
+            current = static_cast<std::size_t>(walk.pick(static_cast<int>(walk.screens.size())));
+            walk.screens[current]->Form_Activate();
+            walk.log.push_back("shows screen " + std::to_string(current));
+        }
+        walk.script.answers.clear();
+        for (int i = 0; i < 2; ++i)
+            if (walk.pick(4) != 0)
+                walk.script.answers.push_back(walk.text());
+        walk.script.shown.clear();
+        walk.script.errors.clear();
+        const std::vector<Control>& list = walk.controls[current];
+        const Control control = list[static_cast<std::size_t>(walk.pick(static_cast<int>(list.size())))];
+        const std::set<int> ok = walk.allowed(current, control);
+        walk.log.push_back(walk.act(current, control));
+        ++walk.actions;
+        if (walk.script.errors.empty())
+            continue;
+        for (int e : walk.script.errors) {
+            ++walk.errorsByNumber[e];
+            if (!ok.count(e)) {
+                std::string replay;
+                for (std::size_t i = walk.log.size() > 40 ? walk.log.size() - 40 : 0; i < walk.log.size(); ++i)
+                    replay += "  " + walk.log[i] + "\n";
+                ADD_FAILURE() << "run-time error " << e << " is not allowed here. Seed " << seed << ", action " << n
+                              << "; the last actions:\n"
+                              << replay;
+                done = true;
+                watchdog.join();
+                setDialogScript(nullptr);
+                return;
+            }
+        }
+        walk.restartProgram();
+        ++walk.restarts;
+        walk.log.push_back("starts the program afresh on screen " + std::to_string(current));
+    }
+    done = true;
+    watchdog.join();
+    setDialogScript(nullptr);
+    std::string summary;
+    for (const auto& [number, count] : walk.errorsByNumber)
+        summary += " error " + std::to_string(number) + ": " + std::to_string(count) + ";";
+    std::printf("random walk: seed %llu, %ld actions, %ld restarts;%s\n", static_cast<unsigned long long>(seed),
+                walk.actions, walk.restarts, summary.c_str());
+    EXPECT_EQ(walk.actions, total);
+}
