@@ -4,7 +4,10 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
 #include <QSignalBlocker>
 
 #include "graphwin/Dialogs.h"
@@ -138,6 +141,35 @@ void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
     releaseEndsDoubleClick_ = true;
     if (event->button() == Qt::LeftButton && DblClick)
         guarded(DblClick);
+}
+
+void ClickLabel::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    const bool left = key == Qt::Key_Up || key == Qt::Key_Right || key == Qt::Key_Plus || key == Qt::Key_Space ||
+                      key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool right = key == Qt::Key_Down || key == Qt::Key_Left || key == Qt::Key_Minus;
+    if (!interactive() || !(left || right) || event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) {
+        QLabel::keyPressEvent(event);
+        return;
+    }
+    const double x = width() * 7.5, y = height() * 7.5;  // the middle of the label, in twips
+    if (MouseDown)
+        guarded([&] { MouseDown(left ? LeftButton : RightButton, shiftCode(event->modifiers()), x, y); });
+    if (left && Click)
+        guarded(Click);
+}
+
+void ClickLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = rect().adjusted(1, 1, -1, -1);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
 ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(orientation, parent)

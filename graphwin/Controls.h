@@ -72,10 +72,17 @@ public:
     std::function<void()> Click;
     std::function<void()> DblClick;
 
+    // True when the label answers the mouse (and so, when focused, the keyboard too).
+    bool interactive() const { return MouseDown || Click || DblClick; }
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    // From the keyboard: Up, Right, +, Space and Enter act as a left click (MouseDown, then Click);
+    // Down, Left and - as a right press (MouseDown with the right button).
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     bool releaseEndsDoubleClick_ = false;

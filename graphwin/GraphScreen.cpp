@@ -1,9 +1,13 @@
 #include "graphwin/GraphScreen.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QAction>
 #include <QFrame>
+#include <QGroupBox>
+#include <QScrollBar>
+#include <QTableWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QVBoxLayout>
@@ -439,3 +443,107 @@ void GraphScreen::showHelp(std::initializer_list<std::pair<const char*, const ch
 void GraphScreen::cmdExit_Click() { mnuExit_Click(); }
 
 void GraphScreen::mnuExit_Click() { hide(); }
+
+namespace {
+
+// A caption as a screen reader should say it: no mnemonic marks, no trailing "=" or ":".
+QString spoken(QString text)
+{
+    text.replace(QStringLiteral("&&"), QStringLiteral("\x1f"));
+    text.remove(QLatin1Char('&'));
+    text.replace(QStringLiteral("\x1f"), QStringLiteral("&"));
+    text = text.trimmed();
+    while (text.endsWith(QLatin1Char('=')) || text.endsWith(QLatin1Char(':')))
+        text.chop(1);
+    return text.trimmed();
+}
+
+// The label that names a control: the nearest one on its left in the same row, else the nearest one
+// above it, in the same parent.
+QLabel* labelFor(QWidget* control)
+{
+    QLabel* best = nullptr;
+    int bestDistance = 1 << 30;
+    const QRect r = control->geometry();
+    for (QLabel* label : control->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
+        const QRect l = label->geometry();
+        int distance = 1 << 30;
+        if (l.right() <= r.left() + 2 && l.bottom() > r.top() && l.top() < r.bottom())
+            distance = r.left() - l.right();
+        else if (l.bottom() <= r.top() + 2 && l.right() > r.left() && l.left() < r.right())
+            distance = 2 * (r.top() - l.bottom()) + 1;
+        if (distance < bestDistance && !spoken(label->text()).isEmpty()) {
+            bestDistance = distance;
+            best = label;
+        }
+    }
+    return bestDistance < 60 ? best : nullptr;
+}
+
+}  // namespace
+
+void GraphScreen::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!arranged_) {
+        arrangeForKeyboard();
+        arranged_ = true;
+    }
+}
+
+void GraphScreen::arrangeForKeyboard()
+{
+    // Names that no caption gives.
+    const std::pair<TextBox*, const char*> limits[] = {
+        {txtXmin, "Xmin"}, {txtXmax, "Xmax"}, {txtYmin, "Ymin"}, {txtYmax, "Ymax"}};
+    for (const auto& [box, name] : limits) {
+        box->setAccessibleName(QString::fromLatin1(name));
+        box->setToolTip(QString::fromLatin1(name));
+    }
+    const std::tuple<ClickLabel*, const char*, const char*> arrows[] = {
+        {lblXminL, "lower", "Xmin"}, {lblXminR, "raise", "Xmin"}, {lblXmaxL, "lower", "Xmax"}, {lblXmaxR, "raise", "Xmax"},
+        {lblYminL, "lower", "Ymin"}, {lblYminR, "raise", "Ymin"}, {lblYmaxL, "lower", "Ymax"}, {lblYmaxR, "raise", "Ymax"}};
+    for (const auto& [label, verb, limit] : arrows)
+        label->setAccessibleName(QStringLiteral("%1 %2 by one").arg(QString::fromLatin1(verb), QString::fromLatin1(limit)));
+    surface->setAccessibleName(QStringLiteral("Graph"));
+    surface->setAccessibleDescription(QStringLiteral("The graph square and its drawings"));
+
+    std::vector<QWidget*> focusable;
+    for (QWidget* w : surface->findChildren<QWidget*>()) {
+        if (auto* label = qobject_cast<ClickLabel*>(w)) {
+            if (label->accessibleName().isEmpty())
+                label->setAccessibleName(spoken(label->text()));
+            if (label->interactive()) {
+                label->setFocusPolicy(Qt::StrongFocus);
+                focusable.push_back(label);
+            }
+        } else if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+            if (button->accessibleName().isEmpty())
+                button->setAccessibleName(spoken(button->text()));
+            focusable.push_back(button);
+        } else if (qobject_cast<QLineEdit*>(w) || qobject_cast<QScrollBar*>(w) || qobject_cast<QTableWidget*>(w)) {
+            if (w->accessibleName().isEmpty()) {
+                if (QLabel* label = labelFor(w))
+                    w->setAccessibleName(spoken(label->text()));
+            }
+            if (auto* bar = qobject_cast<QScrollBar*>(w))
+                bar->setFocusPolicy(Qt::StrongFocus);
+            focusable.push_back(w);
+        } else if (auto* frame = qobject_cast<QGroupBox*>(w)) {
+            frame->setAccessibleName(spoken(frame->title()));
+        }
+    }
+    // The order of the panels: left of the square, the square with its limit boxes, then each
+    // column on the right; within a panel from top to bottom, then from left to right.
+    const int squareLeftPx = config_.squareLeft / 15, squareRightPx = (config_.squareLeft + 6400) / 15;
+    auto place = [&](QWidget* w) {
+        const QPoint p = w->mapTo(surface, QPoint(0, 0));
+        const int centre = p.x() + w->width() / 2;
+        // The limit boxes and their arrows stand astride the square's edges, wider on the right.
+        const int panel = centre < squareLeftPx - 30 ? 0 : centre <= squareRightPx + 60 ? 1 : 2 + (p.x() - squareRightPx) / 120;
+        return std::tuple(panel, p.y(), p.x());
+    };
+    std::stable_sort(focusable.begin(), focusable.end(), [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
+    for (std::size_t i = 1; i < focusable.size(); ++i)
+        QWidget::setTabOrder(focusable[i - 1], focusable[i]);
+}

@@ -126,7 +126,15 @@ public:
     void cmdExit_Click();
     void mnuExit_Click();
 
+    // Makes the screen usable from the keyboard and by a screen reader: every control gets an
+    // accessible name (its caption, or for a box the label beside or above it), the labels that answer
+    // the mouse take the focus, and Tab runs through the panels in order (left panel, the window
+    // limits, then the columns on the right, each from top to bottom). Runs when the screen is first
+    // shown.
+    void arrangeForKeyboard();
+
 protected:
+    void showEvent(QShowEvent* event) override;
     explicit GraphScreen(Config config);
 
     const Config& config() const { return config_; }
@@ -171,4 +179,5 @@ private:
     TextBox* coefficientBox(int index) const;
 
     Config config_;
+    bool arranged_ = false;
 };

@@ -61,6 +61,16 @@ frmGraphingCalc::frmGraphingCalc()
 
     for (QPushButton* b : findChildren<QPushButton*>())
         b->setMinimumSize(240, 40);
+    // Tab follows the buttons in teaching order, Quit last.
+    QWidget* previous = nullptr;
+    for (int i = 0; i < grid_->count(); ++i) {
+        QWidget* b = grid_->itemAt(i)->widget();
+        if (previous)
+            QWidget::setTabOrder(previous, b);
+        previous = b;
+    }
+    if (previous)
+        QWidget::setTabOrder(previous, cmdExit);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -8,7 +8,7 @@ PACKAGES=(
   qt6-base-dev libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-liberation fonts-dejavu-core
-  xvfb xauth imagemagick
+  xvfb xauth imagemagick python3
 )
 
 missing=()
