@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/TestSupport.h"
+
 #include "funclib/FuncGlobals.h"
 #include "runtime/RuntimeError.h"
 
@@ -16,15 +18,6 @@ void select(int id, double a, double b, double c, double d = 0, double e = 0)
     Coefficients = {a, b, c, d, e, 0};
 }
 
-int errorOf(auto&& f)
-{
-    try {
-        f();
-    } catch (const rt::RuntimeError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 }  // namespace
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/TestSupport.h"
+
 #include "funclib/FuncGlobals.h"
 #include "runtime/RuntimeError.h"
 
@@ -17,15 +19,6 @@ void rates(int dy, int dx, CoefficientSet k)
     Coefficients = k;
 }
 
-int errorOf(auto&& f)
-{
-    try {
-        f();
-    } catch (const rt::RuntimeError& e) {
-        return e.number();
-    }
-    return 0;
-}
 
 }  // namespace
 

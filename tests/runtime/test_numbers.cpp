@@ -7,23 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/TestSupport.h"
+
 #include "runtime/Numbers.h"
 
 using namespace rt;
-
-namespace {
-
-int errorOf(auto&& f)
-{
-    try {
-        f();
-    } catch (const RuntimeError& e) {
-        return e.number();
-    }
-    return 0;
-}
-
-}  // namespace
 
 TEST(Val, ReadsTheLongestLeadingNumber)
 {
