@@ -53,6 +53,7 @@ DrawingSurface::DrawingSurface(double widthTwips, double heightTwips, QWidget* p
     : QWidget(parent), widthTwips_(widthTwips), heightTwips_(heightTwips)
 {
     scale_ = std::max(1.0, qApp ? qApp->devicePixelRatio() : 1.0);
+    pxPerTwip_ = scale_ / kTwipsPerPixel;
     const int w = static_cast<int>(std::ceil(widthTwips / kTwipsPerPixel));
     const int h = static_cast<int>(std::ceil(heightTwips / kTwipsPerPixel));
     setFixedSize(w, h);
@@ -102,8 +103,8 @@ void DrawingSurface::setPoint(double x, double y, QRgb color)
 {
     if (recording_)
         record(DrawOp::PSet, x, y, x, y, color);
-    const double fx = std::floor(x * scale_ / kTwipsPerPixel);
-    const double fy = std::floor(y * scale_ / kTwipsPerPixel);
+    const double fx = std::floor(toPx(x));
+    const double fy = std::floor(toPx(y));
     const double margin = penPx_;
     if (fx >= -margin && fx < widthPx_ + margin && fy >= -margin && fy < heightPx_ + margin)
         plot(static_cast<long>(fx), static_cast<long>(fy), color);
@@ -116,8 +117,7 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
         record(DrawOp::Line, x1, y1, x2, y2, color);
     CurrentX = x2;
     CurrentY = y2;
-    rasterLine(x1 * scale_ / kTwipsPerPixel, y1 * scale_ / kTwipsPerPixel, x2 * scale_ / kTwipsPerPixel,
-               y2 * scale_ / kTwipsPerPixel, color);
+    rasterLine(toPx(x1), toPx(y1), toPx(x2), toPx(y2), color);
     touched();
 }
 
@@ -245,7 +245,7 @@ void DrawingSurface::setFontUnderline(bool underline) { font_.setUnderline(under
 
 QRgb DrawingSurface::pixel(double xTwips, double yTwips) const
 {
-    const double fx = std::floor(xTwips * scale_ / kTwipsPerPixel), fy = std::floor(yTwips * scale_ / kTwipsPerPixel);
+    const double fx = std::floor(toPx(xTwips)), fy = std::floor(toPx(yTwips));
     if (!(fx >= 0 && fx < widthPx_ && fy >= 0 && fy < heightPx_))
         return 0;
     return bits_[static_cast<long>(fy) * stride_ + static_cast<long>(fx)];

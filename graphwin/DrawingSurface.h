@@ -40,7 +40,7 @@ public:
     {
         CurrentX = x;
         CurrentY = y;
-        const double fx = x * scale_ / 15, fy = y * scale_ / 15;
+        const double fx = toPx(x), fy = toPx(y);
         if (!recording_ && penPx_ == 1 && fx >= 0 && fy >= 0 && fx < widthPx_ && fy < heightPx_) {
             bits_[static_cast<long>(fy) * stride_ + static_cast<long>(fx)] = color;
             touched();
@@ -90,6 +90,9 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
+    // A twip coordinate in device pixels. Multiplying by the reciprocal leaves multiples of 15 an
+    // ulp short of their whole pixel; the small bias puts them back on it.
+    double toPx(double twips) const { return twips * pxPerTwip_ + 1e-7; }
     void plot(long px, long py, QRgb color);
     void setPoint(double x, double y, QRgb color);
     void rasterLine(double x1, double y1, double x2, double y2, QRgb color);
@@ -105,6 +108,7 @@ private:
 
     double widthTwips_, heightTwips_;
     double scale_;  // device pixels per logical pixel
+    double pxPerTwip_;
     QImage image_;
     QRgb* bits_ = nullptr;
     long stride_ = 0, widthPx_ = 0, heightPx_ = 0;
