@@ -178,3 +178,11 @@ TEST_F(Grapher, ArithmeticFaultsEndTheActionWithTheirNumbers)
     EXPECT_EQ(script.errors, (std::vector<int>{6, 11}));
     EXPECT_EQ(script.shown.back().second, QStringLiteral("Run-time error '11':\n\nDivision by zero"));
 }
+
+TEST_F(Grapher, ARangeWiderThanTheSquareDrawsItsOneTickOnce)
+{
+    screen->txtYmin->setText(QStringLiteral("-5000"));
+    screen->txtYmax->setText(QStringLiteral("5000"));  // ticks closer than a twip: a step of 0
+    EXPECT_EQ(count(DrawOp::Line), 2 + 21 + 1);
+    EXPECT_TRUE(script.errors.empty());
+}

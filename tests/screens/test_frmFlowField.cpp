@@ -259,3 +259,12 @@ TEST(FormulaDisplay, CoefficientsTakeThePlaceOfTheirLetters)
     EXPECT_EQ(FormulaWithCoefficients("Dx + Ey + C*e^y", "DEF", {0, 0, 1}, 9), "e^y");
     EXPECT_EQ(FormulaWithCoefficients("", "DEF", {1, 1, 1}, 0), "0");
 }
+
+TEST_F(Field, AFieldWhoseStepCannotMoveItsCounterEnds)
+{
+    screen->txtXmax->setText(QStringLiteral("100000000000000040"));
+    screen->txtXmin->setText(QStringLiteral("1e17"));  // a 32-bit origin is out of reach: Overflow
+    EXPECT_EQ(script.errors, std::vector<int>{rt::Overflow});
+    screen->cmdShowFlow_Click();  // x + W/20 == x at 1e17: the loop ends instead of spinning
+    EXPECT_EQ(script.errors.size(), 1u);
+}
