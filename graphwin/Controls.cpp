@@ -12,6 +12,7 @@
 
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
 
 int buttonCode(Qt::MouseButton button)
 {
@@ -313,4 +314,50 @@ FileMenu addFileMenu(QMenuBar* bar, const QString& exitCaption, std::function<vo
     onTriggered(m.about, std::move(about));
     onTriggered(m.exit, std::move(exit));
     return m;
+}
+
+void stepBox(TextBox* box, int Button, StepText text)
+{
+    double delta = 0;
+    if (Button == LeftButton)
+        delta = 1;
+    else if (Button == RightButton)
+        delta = -1;
+    else
+        return;
+    const double v = rt::Chk(box->value() + delta);
+    box->assign(text == StepText::WithStr ? rt::Str(v) : rt::CStr(v));
+}
+
+QString qStr(double v) { return QString::fromStdString(rt::Str(v)); }
+QString qStr(float v) { return QString::fromStdString(rt::Str(v)); }
+QString qTrimStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
+
+void startMenuArray(QMenu* menu, std::vector<QAction*>& entries)
+{
+    QAction* design = menu->addAction(QStringLiteral("-"));
+    design->setVisible(false);
+    entries.push_back(design);
+}
+
+void fillMenuArray(QMenu* menu, std::vector<QAction*>& entries, int count, const std::function<QString(int)>& caption,
+                   const std::function<void(int)>& click)
+{
+    for (int i = 1; i <= count; ++i) {
+        if (static_cast<int>(entries.size()) <= i) {
+            QAction* entry = menu->addAction(QString());
+            onTriggered(entry, [click, i] { click(i); });
+            entries.push_back(entry);
+        }
+        entries[static_cast<std::size_t>(i)]->setText(caption(i));
+    }
+}
+
+QRgb FirstUseColour::get()
+{
+    if (!known_) {
+        colour_ = 0xFF000000u | rt::QBColor(number_());
+        known_ = true;
+    }
+    return colour_;
 }

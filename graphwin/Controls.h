@@ -4,6 +4,7 @@
 // changes the control with Qt's signals blocked and then calls the handler itself, directly, so that
 // a run-time error travels on to the outermost handler of the event.
 #include <functional>
+#include <vector>
 
 #include <QCheckBox>
 #include <QLabel>
@@ -14,6 +15,7 @@
 #include <QTableWidget>
 
 class QAction;
+class QMenu;
 class QMenuBar;
 
 // Button codes and shift bits of the mouse handlers.
@@ -126,6 +128,37 @@ public:
     OptionButton(QWidget* parent, const QString& caption);
     std::function<void()> Click;  // when the button becomes selected
     void select();
+};
+
+// The rule of the light-green labels: a left press adds 1 to the box, a right press subtracts 1,
+// other buttons do nothing. The result is written back by the plain conversion, or by Str (with its
+// leading blank) where a screen asks for that.
+enum class StepText { Plain, WithStr };
+void stepBox(TextBox* box, int Button, StepText text = StepText::Plain);
+
+// Numbers as label and box texts: Str, and Str without its blanks.
+QString qStr(double v);
+QString qStr(float v);
+QString qTrimStr(double v);
+
+// A menu array: a menu whose entry 0 is the hidden design entry and whose entries 1..count are added
+// at load time. `startMenuArray` adds the design entry; `fillMenuArray` adds the missing entries with
+// their captions and sends each choice to `click` with its index.
+void startMenuArray(QMenu* menu, std::vector<QAction*>& entries);
+void fillMenuArray(QMenu* menu, std::vector<QAction*>& entries, int count, const std::function<QString(int)>& caption,
+                   const std::function<void(int)>& click);
+
+// A plot colour looked up when the first point is drawn, not before: a colour number that does not
+// exist raises its error only if something is drawn in it.
+class FirstUseColour {
+public:
+    explicit FirstUseColour(std::function<int()> number) : number_(std::move(number)) {}
+    QRgb get();
+
+private:
+    std::function<int()> number_;
+    QRgb colour_ = 0;
+    bool known_ = false;
 };
 
 // A push button whose Click runs the handler through the guarded entry point.

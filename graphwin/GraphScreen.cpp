@@ -166,9 +166,7 @@ void GraphScreen::buildMenus()
     if (config_.functionMenu) {
         QMenu* select = addMenu(config_.functionMenuCaption);
         mnuSelect = select->menuAction();
-        QAction* design = select->addAction(QStringLiteral("-"));
-        design->setVisible(false);
-        mnuFunc.push_back(design);
+        startMenuArray(select, mnuFunc);
     }
 }
 
@@ -179,15 +177,9 @@ void GraphScreen::loadFunctionMenu()
     FunctionCount = 15;
     for (int i = 1; i <= ExplicitFamilyCount; ++i)
         FuncCaption[i] = ExplicitCaption(i);
-    QMenu* select = mnuSelect->menu();
-    for (int i = 1; i <= ExplicitFamilyCount; ++i) {
-        if (static_cast<int>(mnuFunc.size()) <= i) {
-            QAction* entry = select->addAction(QString());
-            onTriggered(entry, [this, i] { mnuFunc_Click(i); });
-            mnuFunc.push_back(entry);
-        }
-        mnuFunc[i]->setText(QString::fromStdString(FuncCaption[i]));
-    }
+    fillMenuArray(
+        mnuSelect->menu(), mnuFunc, ExplicitFamilyCount,
+        [](int i) { return QString::fromStdString(FuncCaption[i]); }, [this](int i) { mnuFunc_Click(i); });
 }
 
 void GraphScreen::Form_Load()
@@ -261,19 +253,13 @@ void GraphScreen::CleanGraph()
 void GraphScreen::plotColumns(double (*evaluate)(const double&))
 {
     const int first = config_.squareLeft + 1, last = config_.squareLeft + 6399;
-    QRgb colour = 0;
-    bool haveColour = false;
+    FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     for (int c = first; c <= last; ++c) {
         const double x = graph.worldX(c);
         const double y = evaluate(x);
         const double ty = rt::Chk(graph.YOrigin - rt::Div(rt::Chk(y * 6400), graph.YRange));
-        if (ty >= 100 && ty <= 6500) {
-            if (!haveColour) {
-                colour = rgbColor(rt::QBColor(rt::Mod(FuncGlobals::FunctionId, 7)));
-                haveColour = true;
-            }
-            surface->PSet(c, ty, colour);
-        }
+        if (ty >= 100 && ty <= 6500)
+            surface->PSet(c, ty, colour.get());
     }
 }
 
@@ -389,13 +375,8 @@ void GraphScreen::coefficientChanged(int) {}
 
 void GraphScreen::stepCoefficient(int index, int Button)
 {
-    TextBox* box = coefficientBox(index);
-    if (!box)
-        return;
-    if (Button == LeftButton)
-        box->assign(rt::CStr(rt::Chk(box->value() + 1)));
-    else if (Button == RightButton)
-        box->assign(rt::CStr(rt::Chk(box->value() - 1)));
+    if (TextBox* box = coefficientBox(index))
+        stepBox(box, Button);
 }
 
 void GraphScreen::txtA_Change() { coefficientEdited(0); }

@@ -198,20 +198,6 @@ double Pow(double a, double b)
     return Chk(std::pow(a, b));
 }
 
-double Ln(double v)
-{
-    if (!(v > 0.0))
-        raise(InvalidProcedureCall);
-    return Chk(std::log(v));
-}
-
-double Sqr(double v)
-{
-    if (!(v >= 0.0))
-        raise(InvalidProcedureCall);
-    return std::sqrt(Chk(v));
-}
-
 namespace {
 
 // Rounds half to even without a library call: adding and taking away 1.5 * 2^52 leaves the value

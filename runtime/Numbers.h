@@ -68,10 +68,6 @@ inline double Div(double a, double b)
 // Invalid procedure call (5); a result too large is Overflow (6).
 double Pow(double a, double b);
 
-// Natural logarithm and square root, Invalid procedure call (5) outside their domains.
-double Ln(double v);
-double Sqr(double v);
-
 // Conversions to 16-bit and 32-bit integers: round half to even, Overflow (6) out of range.
 std::int16_t CInt(double v);
 std::int32_t CLng(double v);

@@ -92,7 +92,7 @@ std::int16_t frmAnimate::steps() const
 
 void frmAnimate::showValue(double value)
 {
-    lblSlide->setText(QString::fromStdString(rt::Trim(rt::Str(rt::Int(rt::Chk(value * 1000)) / 1000))));
+    lblSlide->setText(qTrimStr(rt::Int(rt::Chk(value * 1000)) / 1000));
 }
 
 void frmAnimate::setTickedCoefficients(double value)

@@ -27,18 +27,8 @@ constexpr double kOptions = 11220, kOptionsWidth = 2580;
 constexpr double kLeft = 2400, kRight = 8800, kTop = 100, kBottom = 6500;
 const QString kNoStart = QStringLiteral("Start( _____, _____ )");
 
-QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
-
 // Writes a number into a box by the plain conversion.
 void write(TextBox* box, double v) { box->assign(rt::CStr(v)); }
-
-void stepPlain(TextBox* box, int Button)
-{
-    if (Button == LeftButton)
-        write(box, rt::Chk(box->value() + 1));
-    else if (Button == RightButton)
-        write(box, rt::Chk(box->value() - 1));
-}
 
 // Splits "Ax + By + C" into its terms.
 std::vector<std::string> terms(std::string_view formula)
@@ -171,11 +161,8 @@ frmFlowField::frmFlowField() : GraphScreen(flowConfig())
     mnuSelectdy = dyMenu_->menuAction();
     dxMenu_ = addMenu(QStringLiteral("Select d&x - Function"));
     mnuseldx = dxMenu_->menuAction();
-    for (auto [menu, entries] : {std::pair{dyMenu_, &mnuDy}, std::pair{dxMenu_, &mnuDx}}) {
-        QAction* design = menu->addAction(QStringLiteral("-"));
-        design->setVisible(false);
-        entries->push_back(design);
-    }
+    startMenuArray(dyMenu_, mnuDy);
+    startMenuArray(dxMenu_, mnuDx);
 
     optApprox->Click = [this] { optApprox_Click(); };
     optCurve->Click = [this] { optCurve_Click(); };
@@ -206,14 +193,12 @@ void frmFlowField::Form_Load()
         DyCaptions[i] = DyCaption(i);
         DxCaptions[i] = DxCaption(i);
     }
-    for (int i = static_cast<int>(mnuDy.size()); i <= RateFamilyCount; ++i) {
-        QAction* dy = dyMenu_->addAction(QString::fromStdString(DyCaptions[i]));
-        onTriggered(dy, [this, i] { mnuDy_Click(i); });
-        mnuDy.push_back(dy);
-        QAction* dx = dxMenu_->addAction(QString::fromStdString(DxCaptions[i]));
-        onTriggered(dx, [this, i] { mnuDx_Click(i); });
-        mnuDx.push_back(dx);
-    }
+    fillMenuArray(
+        dyMenu_, mnuDy, RateFamilyCount, [this](int i) { return QString::fromStdString(DyCaptions[i]); },
+        [this](int i) { mnuDy_Click(i); });
+    fillMenuArray(
+        dxMenu_, mnuDx, RateFamilyCount, [this](int i) { return QString::fromStdString(DxCaptions[i]); },
+        [this](int i) { mnuDx_Click(i); });
 }
 
 void frmFlowField::Form_Activate()
@@ -319,9 +304,9 @@ void frmFlowField::lbldx_MouseDown(int Button, int, double, double)
     mnuDx_Click(DxFuncId);
 }
 
-void frmFlowField::lblplots_MouseDown(int Button, int, double, double) { stepPlain(txtCurvePoints, Button); }
-void frmFlowField::lblHorShift_MouseDown(int Button, int, double, double) { stepPlain(txtHorShift, Button); }
-void frmFlowField::lblVerShift_MouseDown(int Button, int, double, double) { stepPlain(txtVerShift, Button); }
+void frmFlowField::lblplots_MouseDown(int Button, int, double, double) { stepBox(txtCurvePoints, Button); }
+void frmFlowField::lblHorShift_MouseDown(int Button, int, double, double) { stepBox(txtHorShift, Button); }
+void frmFlowField::lblVerShift_MouseDown(int Button, int, double, double) { stepBox(txtVerShift, Button); }
 
 void frmFlowField::lblDeltaX_MouseDown(int Button, int, double, double)
 {
@@ -424,7 +409,7 @@ void frmFlowField::followCurve(double& x, double& y, bool backward)
                                                    });
     if (!reachedEnd)
         return;
-    auto end = [](double v) { return QString::fromStdString(rt::Str(rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)) / 1000)); };
+    auto end = [](double v) { return qStr(rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)) / 1000); };
     lblEndpt->setText(QStringLiteral("EndPt (") + end(x) + QStringLiteral(",") + end(y));
 }
 
@@ -441,7 +426,7 @@ void frmFlowField::Form_MouseMove(int, int, double X, double Y)
     const double W = Chk(txtXmax->value() - txtXmin->value()), H = Chk(txtYmax->value() - txtYmin->value());
     CurrentX = rt::Int(Chk(Chk(X - graph.XOrigin) * W) / 64) / 100;
     CurrentY = rt::Int(Chk(Chk(graph.YOrigin - Y) * H) / 64) / 100;
-    lblPos->setText(QStringLiteral("Start( ") + trimmedStr(CurrentX) + QStringLiteral(" , ") + trimmedStr(CurrentY) +
+    lblPos->setText(QStringLiteral("Start( ") + qTrimStr(CurrentX) + QStringLiteral(" , ") + qTrimStr(CurrentY) +
                     QStringLiteral(" ) "));
 }
 
@@ -451,7 +436,7 @@ void frmFlowField::lblPos_Click()
                            .toStdString());
     double y = rt::Val(InputBox(QStringLiteral("Enter y coordinate:"), QStringLiteral("Y ="), QStringLiteral("4"), 4000, 4000)
                            .toStdString());
-    lblPos->setText(QStringLiteral("Start( ") + trimmedStr(x) + QStringLiteral(" , ") + trimmedStr(y) + QStringLiteral(" ) "));
+    lblPos->setText(QStringLiteral("Start( ") + qTrimStr(x) + QStringLiteral(" , ") + qTrimStr(y) + QStringLiteral(" ) "));
     PointCounter = 0;
     FollowCurveForward(x, y);
 }

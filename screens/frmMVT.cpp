@@ -23,8 +23,6 @@ constexpr double kLeft = 11220, kWidth = 2580, kInner = 2340;
 constexpr int kScanSteps = 200000;
 constexpr int kGridRows = 20;
 
-QString str(double v) { return QString::fromStdString(rt::Str(v)); }
-QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
 // Rounded half up to the given scale: Int(v * scale + 0.5) / scale.
 double rounded(double v, double scale) { return rt::Int(rt::Chk(rt::Chk(v * scale) + 0.5)) / scale; }
 
@@ -120,23 +118,17 @@ void frmMVT::cmdApplyMVT_Click()
 
     // The secant across the whole width, dotted column by column in the curve's colour.
     const double k = Chk(fb - Chk(SecantSlope * b));
-    QRgb colour = 0;
-    bool haveColour = false;
+    FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     for (int column = squareLeft() + 1; column <= squareLeft() + 6399; ++column) {
         const double x = graph.worldX(column);
         const double row = graph.row(Chk(Chk(SecantSlope * x) + k));
-        if (100 <= row && row < 6500) {
-            if (!haveColour) {
-                colour = rgbColor(rt::QBColor(rt::Mod(FuncGlobals::FunctionId, 7)));
-                haveColour = true;
-            }
-            surface->PSet(column, row, colour);
-        }
+        if (100 <= row && row < 6500)
+            surface->PSet(column, row, colour.get());
     }
-    auto R4 = [](double v) { return str(rounded(v, 10000)); };
+    auto R4 = [](double v) { return qStr(rounded(v, 10000)); };
     lblPt1->setText(QStringLiteral("(") + R4(a) + QStringLiteral(",") + R4(fa) + QStringLiteral(")"));
     lblPt2->setText(QStringLiteral("(") + R4(b) + QStringLiteral(",") + R4(fb) + QStringLiteral(")"));
-    lblSlope1->setText(QStringLiteral("slope = ") + trimmedStr(rounded(SecantSlope, 100000)));
+    lblSlope1->setText(QStringLiteral("slope = ") + qTrimStr(rounded(SecantSlope, 100000)));
 }
 
 void frmMVT::HscMVT_Change()
@@ -144,24 +136,18 @@ void frmMVT::HscMVT_Change()
     using rt::Chk;
     const double a = txtX1->value(), b = txtX2->value();
     const double c = Chk(a + rt::Div(Chk(Chk(b - a) * HscMVT->value()), HscMVT->maximum()));
-    lblFindc->setText(QStringLiteral("x = ") + str(rounded(c, 10000)));
+    lblFindc->setText(QStringLiteral("x = ") + qStr(rounded(c, 10000)));
     const double slope = FuncGlobals::YPrimeFunc(c);
-    lblSlope2->setText(QStringLiteral("Slope =") + str(rounded(slope, 10000)));
+    lblSlope2->setText(QStringLiteral("Slope =") + qStr(rounded(slope, 10000)));
     const double fc = FuncGlobals::YFunc(c);
 
-    QRgb colour = 0;
-    bool haveColour = false;
+    // Not reduced: family 15 asks for colour 16, which does not exist.
+    FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
     for (int column = squareLeft(); column <= squareLeft() + 6400; ++column) {
         const double x = graph.worldX(column);
         const double row = graph.row(Chk(Chk(slope * Chk(x - c)) + fc));
-        if (100 <= row && row < 6500) {
-            if (!haveColour) {
-                // Not reduced: family 15 asks for colour 16, which does not exist.
-                colour = rgbColor(rt::QBColor(FuncGlobals::FunctionId + 1));
-                haveColour = true;
-            }
-            surface->PSet(column, row, colour);
-        }
+        if (100 <= row && row < 6500)
+            surface->PSet(column, row, colour.get());
     }
 }
 
@@ -208,9 +194,9 @@ void frmMVT::cmdAnimateIt_Click()
                 count = rt::CInt(count + 1.0);
                 if (count < kGridRows) {
                     last = x;
-                    gridC->setCell(count, 0, trimmedStr(rounded(x, 1000)));
-                    gridC->setCell(count, 1, trimmedStr(rounded(fx, 1000)));
-                    gridC->setCell(count, 2, trimmedStr(rounded(slope, 1000)));
+                    gridC->setCell(count, 0, qTrimStr(rounded(x, 1000)));
+                    gridC->setCell(count, 1, qTrimStr(rounded(fx, 1000)));
+                    gridC->setCell(count, 2, qTrimStr(rounded(slope, 1000)));
                 }
             }
         }

@@ -16,8 +16,6 @@ GraphScreen::Config newtonConfig()
 
 constexpr int kGridRows = 15;
 
-QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
-
 }  // namespace
 
 frmNewton::frmNewton() : GraphScreen(newtonConfig())
@@ -94,12 +92,12 @@ void frmNewton::cmdApply_Click()
     if (s != 0) {
         const double next = Chk(x - rt::Div(y, s));
         surface->Line(c, r, graph.column(next), Y0, black);
-        txtGuess->assign(trimmedStr(next));
+        txtGuess->assign(qTrimStr(next));
     } else {
         MsgBox(QStringLiteral("This guess failed due to zero for the slope"), QStringLiteral("Division by zero"));
     }
     if (GuessNumber < kGridRows)
-        grdGuess->setCell(GuessNumber, 1, trimmedStr(x));
+        grdGuess->setCell(GuessNumber, 1, qTrimStr(x));
     GuessNumber = rt::CInt(GuessNumber + 1.0);
 }
 

@@ -22,16 +22,6 @@ GraphScreen::Config paramConfig()
 
 constexpr double kPanel = 11220, kPanelWidth = 2580, kInner = 2340;
 
-QString str(float v) { return QString::fromStdString(rt::Str(v)); }
-
-void stepPlain(TextBox* box, int Button)
-{
-    if (Button == LeftButton)
-        box->assign(rt::CStr(rt::Chk(box->value() + 1)));
-    else if (Button == RightButton)
-        box->assign(rt::CStr(rt::Chk(box->value() - 1)));
-}
-
 // Cut to four decimals in single precision: Int(v * 10000) / 10000.
 float cut4(float v) { return rt::CSng(rt::Int(rt::CSng(static_cast<double>(v) * 10000)) / 10000); }
 
@@ -97,11 +87,8 @@ frmParam::frmParam() : GraphScreen(paramConfig())
     mnuSelectX = xMenu_->menuAction();
     yMenu_ = addMenu(QStringLiteral("Select &y Function"));
     mnuSelectY = yMenu_->menuAction();
-    for (auto [menu, entries] : {std::pair{xMenu_, &mnuXFunc}, std::pair{yMenu_, &mnuYFunc}}) {
-        QAction* design = menu->addAction(QStringLiteral("-"));
-        design->setVisible(false);
-        entries->push_back(design);
-    }
+    startMenuArray(xMenu_, mnuXFunc);
+    startMenuArray(yMenu_, mnuYFunc);
 
     lblXPar->MouseDown = [this](int b, int s, double x, double y) { lblXPar_MouseDown(b, s, x, y); };
     lblYPar->MouseDown = [this](int b, int s, double x, double y) { lblYPar_MouseDown(b, s, x, y); };
@@ -128,14 +115,12 @@ void frmParam::Form_Load()
         XCaptions[i] = XtCaption(i);
         YCaptions[i] = YtCaption(i);
     }
-    for (int i = static_cast<int>(mnuXFunc.size()); i <= ParametricFamilyCount; ++i) {
-        QAction* x = xMenu_->addAction(QString::fromStdString(XCaptions[i]));
-        onTriggered(x, [this, i] { mnuXFunc_Click(i); });
-        mnuXFunc.push_back(x);
-        QAction* y = yMenu_->addAction(QString::fromStdString(YCaptions[i]));
-        onTriggered(y, [this, i] { mnuYFunc_Click(i); });
-        mnuYFunc.push_back(y);
-    }
+    fillMenuArray(
+        xMenu_, mnuXFunc, ParametricFamilyCount, [this](int i) { return QString::fromStdString(XCaptions[i]); },
+        [this](int i) { mnuXFunc_Click(i); });
+    fillMenuArray(
+        yMenu_, mnuYFunc, ParametricFamilyCount, [this](int i) { return QString::fromStdString(YCaptions[i]); },
+        [this](int i) { mnuYFunc_Click(i); });
 }
 
 void frmParam::mnuXFunc_Click(int Index)
@@ -160,10 +145,10 @@ void frmParam::lblYPar_MouseDown(int, int, double, double)
     mnuYFunc_Click(rt::Mod(FuncGlobals::YtFuncId, YFuncCount) + 1);
 }
 
-void frmParam::lblT0_MouseDown(int Button, int, double, double) { stepPlain(txtT0, Button); }
-void frmParam::lblFinalT_MouseDown(int Button, int, double, double) { stepPlain(txtTn, Button); }
-void frmParam::lblTstep_MouseDown(int Button, int, double, double) { stepPlain(txtTstep, Button); }
-void frmParam::lbltTrace_MouseDown(int Button, int, double, double) { stepPlain(txtT, Button); }
+void frmParam::lblT0_MouseDown(int Button, int, double, double) { stepBox(txtT0, Button); }
+void frmParam::lblFinalT_MouseDown(int Button, int, double, double) { stepBox(txtTn, Button); }
+void frmParam::lblTstep_MouseDown(int Button, int, double, double) { stepBox(txtTstep, Button); }
+void frmParam::lbltTrace_MouseDown(int Button, int, double, double) { stepBox(txtT, Button); }
 
 void frmParam::txtT0_Change() { lblTmin->setText(txtT0->text()); }
 void frmParam::txtTn_Change() { lblTmax->setText(txtTn->text()); }
@@ -201,7 +186,7 @@ void frmParam::txtT_Change()
     using namespace FuncGlobals;
     const float t = rt::CSng(txtT->value());
     const float x = rt::CSng(XtFunc(t)), y = rt::CSng(YtFunc(t));
-    lblXY->setText(QStringLiteral("(") + str(cut4(x)) + QStringLiteral(",") + str(cut4(y)) + QStringLiteral(")"));
+    lblXY->setText(QStringLiteral("(") + qStr(cut4(x)) + QStringLiteral(",") + qStr(cut4(y)) + QStringLiteral(")"));
     const double column = graph.column(x), row = graph.row(y);
     if (!inside(column, row))
         return;
@@ -218,25 +203,17 @@ void frmParam::cmdPlotto_Click()
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
     double c0 = graph.column(XtFunc(t0)), r0 = graph.row(YtFunc(t0));
     const bool points = optPoints->isChecked();
-    QRgb colour = 0;
-    bool haveColour = false;
-    auto ink = [&] {
-        if (!haveColour) {
-            colour = rgbColor(rt::QBColor(rt::Mod(XtFuncId, 7)));
-            haveColour = true;
-        }
-        return colour;
-    };
+    FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
     for (std::int32_t i = 1; i <= n; ++i) {
         const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
         const double c1 = graph.column(XtFunc(t)), r1 = graph.row(YtFunc(t));
         if (points) {
             if (i == 1)
-                surface->PSet(c0, r0, ink());
+                surface->PSet(c0, r0, colour.get());
             if (inside(c1, r1))
-                surface->PSet(c1, r1, ink());
+                surface->PSet(c1, r1, colour.get());
         } else if (inside(c1, r1)) {
-            surface->Line(c0, r0, c1, r1, ink());
+            surface->Line(c0, r0, c1, r1, colour.get());
         }
         c0 = c1;
         r0 = r1;

@@ -57,11 +57,7 @@ void frmRiemann::buildSumsPanel()
         placeTwips(b, kPanel, top, kPanelWidth, 420);
         return b;
     };
-    auto box = [this](const char* text, double top) {
-        auto* b = new TextBox(surface, QString::fromLatin1(text));
-        placeTwips(b, kPanel, top, kPanelWidth, 300);
-        return b;
-    };
+    auto box = [this](const char* text, double top) { return makeBox(QString::fromLatin1(text), kPanel, top, kPanelWidth); };
     auto stepper = [this](const char* caption, double top) {
         auto* l = new ClickLabel(surface, QString::fromLatin1(caption), true);
         placeTwips(l, kPanel, top, kPanelWidth, 300);
@@ -165,7 +161,7 @@ void frmRiemann::mnuFunc_Click(int Index)
 
 void frmRiemann::showResult(ClickLabel* label, const RiemannSums::Result& result)
 {
-    label->setText(result.error ? QStringLiteral("= error!") : QStringLiteral("= ") + QString::fromStdString(rt::Str(result.area)));
+    label->setText(result.error ? QStringLiteral("= error!") : QStringLiteral("= ") + qStr(result.area));
 }
 
 void frmRiemann::cmdParts_Click()
@@ -264,24 +260,13 @@ void frmRiemann::cmdDouble_Click()
 
 void frmRiemann::lblPartitions_MouseDown(int Button, int, double, double)
 {
-    if (Button == LeftButton)
-        txtParts->assign(rt::Str(rt::Chk(txtParts->value() + 1)));
-    else if (Button == RightButton)
-        txtParts->assign(rt::Str(rt::Chk(txtParts->value() - 1)));
+    stepBox(txtParts, Button, StepText::WithStr);
     if (txtParts->value() < 1)
         txtParts->assign(QStringLiteral("1"));
 }
 
-void frmRiemann::stepBound(TextBox* box, int Button)
-{
-    if (Button == LeftButton)
-        box->assign(rt::Str(rt::Chk(box->value() + 1)));
-    else if (Button == RightButton)
-        box->assign(rt::Str(rt::Chk(box->value() - 1)));
-}
-
-void frmRiemann::lblLBound_MouseDown(int Button, int, double, double) { stepBound(txtLBound, Button); }
-void frmRiemann::lblRBound_MouseDown(int Button, int, double, double) { stepBound(txtRBound, Button); }
+void frmRiemann::lblLBound_MouseDown(int Button, int, double, double) { stepBox(txtLBound, Button, StepText::WithStr); }
+void frmRiemann::lblRBound_MouseDown(int Button, int, double, double) { stepBox(txtRBound, Button, StepText::WithStr); }
 
 void frmRiemann::txtLBound_Change()
 {

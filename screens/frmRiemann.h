@@ -58,5 +58,4 @@ public:
 private:
     void buildSumsPanel();
     void showResult(ClickLabel* label, const RiemannSums::Result& result);
-    void stepBound(TextBox* box, int Button);
 };

@@ -16,20 +16,8 @@ GraphScreen::Config tangentConfig()
 
 constexpr double kLeft = 11220, kWidth = 2460;
 
-QString str(double v) { return QString::fromStdString(rt::Str(v)); }
-QString trimmedStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
-
 // Cut (towards minus infinity) to `places` decimals: Int(v * 10^places) / 10^places.
 double cut(double v, double scale) { return rt::Int(rt::Chk(v * scale)) / scale; }
-
-// The label rule of the coefficient panel, with the result written back by Str.
-void stepByStr(TextBox* box, int Button)
-{
-    if (Button == LeftButton)
-        box->assign(rt::Str(rt::Chk(box->value() + 1)));
-    else if (Button == RightButton)
-        box->assign(rt::Str(rt::Chk(box->value() - 1)));
-}
 
 }  // namespace
 
@@ -118,11 +106,11 @@ void frmTangent::DrawSecant(double dx)
     surface->Line(c1, r1, c2, r2, red);
     surface->Line(cr, rr, cl, rl, red);
 
-    auto P = [](double v) { return str(cut(v, 10000)); };
+    auto P = [](double v) { return qStr(cut(v, 10000)); };
     lblPoints->setText(QStringLiteral("(") + P(x1) + QStringLiteral(",") + P(y1) + QStringLiteral(") to (") + P(x2) +
                        QStringLiteral(",") + P(y2) + QStringLiteral(")"));
-    lblTLine->setText(QStringLiteral("y = ") + trimmedStr(cut(m, 100000)) + QStringLiteral("x + ") +
-                      trimmedStr(cut(b, 1000)));
+    lblTLine->setText(QStringLiteral("y = ") + qTrimStr(cut(m, 100000)) + QStringLiteral("x + ") +
+                      qTrimStr(cut(b, 1000)));
 }
 
 void frmTangent::cmdApply_Click() { DrawSecant(txtDeltaX->value()); }
@@ -137,9 +125,9 @@ void frmTangent::hscDx_Change()
 
 void frmTangent::txtX_Change() { lblHsc->setText(txtX->text()); }
 
-void frmTangent::lblXat_MouseDown(int Button, int, double, double) { stepByStr(txtX, Button); }
+void frmTangent::lblXat_MouseDown(int Button, int, double, double) { stepBox(txtX, Button, StepText::WithStr); }
 
-void frmTangent::lblDeltaX_MouseDown(int Button, int, double, double) { stepByStr(txtDeltaX, Button); }
+void frmTangent::lblDeltaX_MouseDown(int Button, int, double, double) { stepBox(txtDeltaX, Button, StepText::WithStr); }
 
 void frmTangent::mnuAbout_Click()
 {

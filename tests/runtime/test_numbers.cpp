@@ -175,7 +175,7 @@ TEST(Arithmetic, DivisionTellsZeroOverZeroFromDivisionByZero)
     EXPECT_EQ(errorOf([] { Div(1e308, 1e-308); }), Overflow);
 }
 
-TEST(Arithmetic, PowerLogarithmAndRoot)
+TEST(Arithmetic, PowerAndOverflow)
 {
     EXPECT_EQ(Pow(-2, 3), -8);
     EXPECT_EQ(Pow(0, 0), 1);
@@ -183,9 +183,6 @@ TEST(Arithmetic, PowerLogarithmAndRoot)
     EXPECT_EQ(errorOf([] { Pow(0, -1); }), DivisionByZero);
     EXPECT_EQ(errorOf([] { Pow(-8, 1.0 / 3); }), InvalidProcedureCall);
     EXPECT_EQ(errorOf([] { Pow(10, 400); }), Overflow);
-    EXPECT_EQ(Ln(1), 0);
-    EXPECT_EQ(errorOf([] { Ln(0); }), InvalidProcedureCall);
-    EXPECT_EQ(errorOf([] { Sqr(-1); }), InvalidProcedureCall);
     EXPECT_EQ(errorOf([] { Chk(std::exp(1000.0)); }), Overflow);
 }
 
