@@ -9,43 +9,11 @@
 #include <QPainter>
 
 #include "graphwin/Dialogs.h"
+#include "graphwin/Raster.h"
 
 namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
-
-// Clips the segment (x1, y1)-(x2, y2) to the rectangle [lo, hiX] x [lo, hiY] (Liang-Barsky).
-// Returns false when nothing of it is inside.
-bool clipSegment(double& x1, double& y1, double& x2, double& y2, double lo, double hiX, double hiY)
-{
-    double t0 = 0.0, t1 = 1.0;
-    const double dx = x2 - x1, dy = y2 - y1;
-    const double p[4] = {-dx, dx, -dy, dy};
-    const double q[4] = {x1 - lo, hiX - x1, y1 - lo, hiY - y1};
-    for (int i = 0; i < 4; ++i) {
-        if (p[i] == 0.0) {
-            if (q[i] < 0.0)
-                return false;
-            continue;
-        }
-        const double r = q[i] / p[i];
-        if (p[i] < 0.0) {
-            if (r > t1)
-                return false;
-            t0 = std::max(t0, r);
-        } else {
-            if (r < t0)
-                return false;
-            t1 = std::min(t1, r);
-        }
-    }
-    const double ox = x1, oy = y1;
-    x1 = ox + t0 * dx;
-    y1 = oy + t0 * dy;
-    x2 = ox + t1 * dx;
-    y2 = oy + t1 * dy;
-    return true;
-}
 
 }  // namespace
 
@@ -83,31 +51,11 @@ void DrawingSurface::record(DrawOp::Kind kind, double x1, double y1, double x2, 
     ops_.push_back(DrawOp{kind, x1, y1, x2, y2, color, drawWidth_, text});
 }
 
-void DrawingSurface::plot(long px, long py, QRgb color)
-{
-    if (penPx_ == 1) {
-        if (px >= 0 && px < widthPx_ && py >= 0 && py < heightPx_)
-            bits_[py * stride_ + px] = color;
-        return;
-    }
-    // A wide pen: a square of the pen's width centred on the point.
-    const long half = penPx_ / 2;
-    const long x0 = std::max(0L, px - half), x1 = std::min(widthPx_ - 1, px - half + penPx_ - 1);
-    const long y0 = std::max(0L, py - half), y1 = std::min(heightPx_ - 1, py - half + penPx_ - 1);
-    for (long y = y0; y <= y1; ++y)
-        for (long x = x0; x <= x1; ++x)
-            bits_[y * stride_ + x] = color;
-}
-
 void DrawingSurface::setPoint(double x, double y, QRgb color)
 {
     if (recording_)
         record(DrawOp::PSet, x, y, x, y, color);
-    const double fx = std::floor(toPx(x));
-    const double fy = std::floor(toPx(y));
-    const double margin = penPx_;
-    if (fx >= -margin && fx < widthPx_ + margin && fy >= -margin && fy < heightPx_ + margin)
-        plot(static_cast<long>(fx), static_cast<long>(fy), color);
+    raster::point(target(), toPx(x), toPx(y), penPx_, color);
     touched();
 }
 
@@ -117,50 +65,8 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
         record(DrawOp::Line, x1, y1, x2, y2, color);
     CurrentX = x2;
     CurrentY = y2;
-    rasterLine(toPx(x1), toPx(y1), toPx(x2), toPx(y2), color);
+    raster::line(target(), toPx(x1), toPx(y1), toPx(x2), toPx(y2), penPx_, color);
     touched();
-}
-
-void DrawingSurface::rasterLine(double x1, double y1, double x2, double y2, QRgb color)
-{
-    if (!(std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2) && std::isfinite(y2)))
-        return;
-    const double lo = -1.0 - penPx_;
-    if (!clipSegment(x1, y1, x2, y2, lo, widthPx_ + penPx_, heightPx_ + penPx_))
-        return;
-    long ax = static_cast<long>(std::floor(x1)), ay = static_cast<long>(std::floor(y1));
-    const long bx = static_cast<long>(std::floor(x2)), by = static_cast<long>(std::floor(y2));
-    if (penPx_ == 1 && ay == by && ay >= 0 && ay < heightPx_) {
-        // Horizontal: one run of the row.
-        const long from = std::max(0L, std::min(ax, bx)), to = std::min(widthPx_ - 1, std::max(ax, bx));
-        std::fill(bits_ + ay * stride_ + from, bits_ + ay * stride_ + to + 1, color);
-        return;
-    }
-    if (penPx_ == 1 && ax == bx) {
-        if (ax < 0 || ax >= widthPx_)
-            return;
-        const long from = std::max(0L, std::min(ay, by)), to = std::min(heightPx_ - 1, std::max(ay, by));
-        for (long y = from; y <= to; ++y)
-            bits_[y * stride_ + ax] = color;
-        return;
-    }
-    const long dx = std::labs(bx - ax), dy = -std::labs(by - ay);
-    const long sx = ax < bx ? 1 : -1, sy = ay < by ? 1 : -1;
-    long err = dx + dy;
-    for (;;) {
-        plot(ax, ay, color);
-        if (ax == bx && ay == by)
-            break;
-        const long e2 = 2 * err;
-        if (e2 >= dy) {
-            err += dy;
-            ax += sx;
-        }
-        if (e2 <= dx) {
-            err += dx;
-            ay += sy;
-        }
-    }
 }
 
 void DrawingSurface::Circle(double x, double y, double r, QRgb color)

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include "graphwin/Controls.h"
+#include "graphwin/Raster.h"
 
 struct DrawOp {
     enum Kind { Line, PSet, Circle, Text } kind;
@@ -93,9 +94,8 @@ private:
     // A twip coordinate in device pixels. Multiplying by the reciprocal leaves multiples of 15 an
     // ulp short of their whole pixel; the small bias puts them back on it.
     double toPx(double twips) const { return twips * pxPerTwip_ + 1e-7; }
-    void plot(long px, long py, QRgb color);
     void setPoint(double x, double y, QRgb color);
-    void rasterLine(double x1, double y1, double x2, double y2, QRgb color);
+    raster::Target target() const { return {bits_, stride_, widthPx_, heightPx_}; }
     void record(DrawOp::Kind kind, double x1, double y1, double x2, double y2, QRgb color, const QString& text = {});
     void touched()
     {

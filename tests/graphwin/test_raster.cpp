@@ -1,0 +1,157 @@
+// The direct pixel writer against a plain reference: for random segments and points in and around
+// a small image (inside, on the edges, in the margins, far away, huge, NaN, infinite) and every pen
+// width, the fast paths write exactly the reference's pixels and never a pixel outside the image.
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "graphwin/DrawingSurface.h"
+#include "graphwin/Raster.h"
+
+namespace {
+
+constexpr long W = 37, H = 23, Guard = 12;
+constexpr std::uint32_t kInk = 0xFF123456u;
+
+// An image of W x H pixels inside a border that nothing may touch.
+struct GuardedImage {
+    std::vector<std::uint32_t> buffer = std::vector<std::uint32_t>((W + 2 * Guard) * (H + 2 * Guard), 0u);
+    raster::Target target() { return {buffer.data() + Guard * (W + 2 * Guard) + Guard, W + 2 * Guard, W, H}; }
+    bool inside(long i) const
+    {
+        const long x = i % (W + 2 * Guard) - Guard, y = i / (W + 2 * Guard) - Guard;
+        return x >= 0 && x < W && y >= 0 && y < H;
+    }
+};
+
+// The reference: each pixel of the pen square set one by one, each checked against the image.
+void referencePixel(GuardedImage& img, long px, long py, int pen)
+{
+    const long first = pen <= 1 ? 0 : -(pen / 2);
+    const int n = std::max(pen, 1);
+    for (long y = py + first; y < py + first + n; ++y)
+        for (long x = px + first; x < px + first + n; ++x)
+            if (x >= 0 && x < W && y >= 0 && y < H)
+                img.target().bits[y * img.target().stride + x] = kInk;
+}
+
+void referencePoint(GuardedImage& img, double x, double y, int pen)
+{
+    if (std::fabs(x) < 1e9 && std::fabs(y) < 1e9)
+        referencePixel(img, static_cast<long>(std::floor(x)), static_cast<long>(std::floor(y)), pen);
+}
+
+// Every step of the line from one clipped end to the other, plotted one pixel at a time.
+void referenceLine(GuardedImage& img, double x1, double y1, double x2, double y2, int pen)
+{
+    if (!(std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2) && std::isfinite(y2)))
+        return;
+    if (!raster::clipSegment(x1, y1, x2, y2, -1.0 - pen, W + pen, H + pen))
+        return;
+    long ax = std::lround(std::floor(x1)), ay = std::lround(std::floor(y1));
+    const long bx = std::lround(std::floor(x2)), by = std::lround(std::floor(y2));
+    const long dx = std::labs(bx - ax), dy = -std::labs(by - ay);
+    long err = dx + dy;
+    for (;;) {
+        referencePixel(img, ax, ay, pen);
+        if (ax == bx && ay == by)
+            return;
+        const long e2 = 2 * err;
+        if (e2 >= dy) {
+            err += dy;
+            ax += ax < bx ? 1 : -1;
+        }
+        if (e2 <= dx) {
+            err += dx;
+            ay += ay < by ? 1 : -1;
+        }
+    }
+}
+
+// Coordinates that reach every region a caller can hand over.
+double coordinate(std::mt19937& rng, long extent)
+{
+    const double specials[] = {0.0,   -0.0,    -0.5,  -1.0,   -1.5,   -2.0,  -3.5,  -6.9,  extent - 1.0,
+                               extent - 0.01, double(extent), extent + 0.5, extent + 2.0, extent + 5.9, 1e6, -1e6,
+                               1e300, -1e300, std::numeric_limits<double>::infinity(),
+                               -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()};
+    switch (rng() % 4) {
+    case 0:
+        return specials[rng() % std::size(specials)];
+    case 1:  // the margins on either side
+        return std::uniform_real_distribution<double>(-8.0, 0.0)(rng) + (rng() % 2 ? extent + 8.0 : 0.0);
+    default:
+        return std::uniform_real_distribution<double>(-10.0, extent + 10.0)(rng);
+    }
+}
+
+::testing::AssertionResult sameAndGuarded(const GuardedImage& fast, const GuardedImage& ref)
+{
+    for (long i = 0; i < static_cast<long>(fast.buffer.size()); ++i) {
+        if (!fast.inside(i) && fast.buffer[i] != 0)
+            return ::testing::AssertionFailure() << "wrote outside the image at buffer index " << i;
+        if (fast.buffer[i] != ref.buffer[i])
+            return ::testing::AssertionFailure() << "differs from the reference at buffer index " << i;
+    }
+    return ::testing::AssertionSuccess();
+}
+
+}  // namespace
+
+TEST(Raster, SegmentsAndPointsMatchThePlainReferenceAndStayInside)
+{
+    std::mt19937 rng(20261123);
+    for (int pen = 1; pen <= 5; ++pen) {
+        for (int i = 0; i < 6000; ++i) {
+            double x1 = coordinate(rng, W), y1 = coordinate(rng, H);
+            double x2 = coordinate(rng, W), y2 = coordinate(rng, H);
+            if (i % 3 == 0)
+                y2 = y1;  // horizontal and vertical runs are the fast paths
+            else if (i % 3 == 1)
+                x2 = x1;
+            GuardedImage fast, ref;
+            raster::line(fast.target(), x1, y1, x2, y2, pen, kInk);
+            referenceLine(ref, x1, y1, x2, y2, pen);
+            ASSERT_TRUE(sameAndGuarded(fast, ref)) << "line (" << x1 << ", " << y1 << ")-(" << x2 << ", " << y2
+                                                   << ") pen " << pen;
+            GuardedImage fastPoint, refPoint;
+            raster::point(fastPoint.target(), x1, y1, pen, kInk);
+            referencePoint(refPoint, x1, y1, pen);
+            ASSERT_TRUE(sameAndGuarded(fastPoint, refPoint)) << "point (" << x1 << ", " << y1 << ") pen " << pen;
+        }
+    }
+}
+
+// The same inputs through the surface in twips, circles and text included: the backing image is a
+// heap block, so under the sanitizers any write past it fails the run.
+TEST(Raster, SurfaceShapesAroundAndFarOutsideNeverLeaveTheImage)
+{
+    DrawingSurface s(W * 15, H * 15);
+    std::mt19937 rng(7);
+    for (int i = 0; i < 3000; ++i) {
+        s.setDrawWidth(1 + static_cast<int>(rng() % 5));
+        const double x = coordinate(rng, W) * 15, y = coordinate(rng, H) * 15;
+        s.Line(x, y, i % 2 ? x : coordinate(rng, W) * 15, i % 2 ? coordinate(rng, H) * 15 : y, kInk);
+        s.PSet(x, y, kInk);
+        s.Circle(x, y, coordinate(rng, W) * 15, kInk);
+        s.CurrentX = x;
+        s.CurrentY = y;
+        s.Print(QStringLiteral("x"), false);
+    }
+}
+
+// A one-pixel horizontal run wholly in the left margin (between -2 and -1 pixels) once wrote
+// backwards past its row; a vertical run above the top is the same case turned.
+TEST(Raster, RunsWhollyInTheMarginDrawNothing)
+{
+    DrawingSurface s(W * 15, H * 15);
+    s.Line(-29, 150, -16, 150, kInk);
+    s.Line(150, -29, 150, -16, kInk);
+    s.Line(W * 15 + 16, 150, W * 15 + 29, 150, kInk);
+    for (long y = 0; y < H; ++y)
+        for (long x = 0; x < W; ++x)
+            ASSERT_EQ(s.pixel(x * 15, y * 15), 0xFFFFFFFFu) << x << ", " << y;
+}
