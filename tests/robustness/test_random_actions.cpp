@@ -3,7 +3,8 @@
 // surfaces pressed and moved over, input boxes answered or cancelled. Every run-time error met must
 // be one the program allows for that action; after one, the program is started afresh.
 //
-// PLOTTO_SEED and PLOTTO_ACTIONS choose the walk (defaults 20261122 and 20000).
+// PLOTTO_SEED and PLOTTO_ACTIONS choose the walk (defaults 20261122 and 20000). PLOTTO_SEED=fresh
+// draws a new seed and prints it first, so that a failing walk can be replayed with that seed.
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -14,6 +15,7 @@
 #include <memory>
 #include <random>
 #include <set>
+#include <string>
 #include <thread>
 
 #include <QAction>
@@ -219,12 +221,21 @@ std::uint64_t envNumber(const char* name, std::uint64_t fallback)
     return v && *v ? std::strtoull(v, nullptr, 10) : fallback;
 }
 
+std::uint64_t walkSeed()
+{
+    const char* v = std::getenv("PLOTTO_SEED");
+    if (v && std::string(v) == "fresh")
+        return std::random_device{}() % 1000000000u;
+    return envNumber("PLOTTO_SEED", 20261122);
+}
+
 }  // namespace
 
 TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
 {
-    const std::uint64_t seed = envNumber("PLOTTO_SEED", 20261122);
+    const std::uint64_t seed = walkSeed();
     const long total = static_cast<long>(envNumber("PLOTTO_ACTIONS", 20000));
+    std::fprintf(stderr, "random walk: seed %llu, %ld actions\n", static_cast<unsigned long long>(seed), total);
     Walk walk(seed);
     setDialogScript(&walk.script);
 
