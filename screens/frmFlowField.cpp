@@ -30,14 +30,14 @@ const QString kNoStart = QStringLiteral("Start( _____, _____ )");
 // Writes a number into a box by the plain conversion.
 void write(TextBox* box, double v) { box->assign(rt::CStr(v)); }
 
-// Splits "Ax + By + C" into its terms.
-std::vector<std::string> terms(std::string_view formula)
+// Splits "Ax + By + C" at its joining " + " into its terms, texts as they stand.
+std::vector<std::string_view> terms(std::string_view formula)
 {
-    std::vector<std::string> out;
+    std::vector<std::string_view> out;
     std::size_t start = 0;
     for (;;) {
         const std::size_t plus = formula.find(" + ", start);
-        out.emplace_back(formula.substr(start, plus == std::string_view::npos ? std::string_view::npos : plus - start));
+        out.push_back(formula.substr(start, plus == std::string_view::npos ? std::string_view::npos : plus - start));
         if (plus == std::string_view::npos)
             return out;
         start = plus + 3;
@@ -47,56 +47,44 @@ std::vector<std::string> terms(std::string_view formula)
 }  // namespace
 
 std::string FormulaWithCoefficients(std::string_view formula, std::string_view letters,
-                                    const std::array<double, 3>& values, int family)
+                                    const std::array<double, 3>& values)
 {
-    if (family >= 2 && family <= 15 && values[0] == 0 && values[1] == 0 && values[2] == 0)
-        return "1";
-    // The value of a coefficient letter; a letter outside the family's three (the irregular "C*e^y"
-    // of the dx catalogue, which evaluates with F) stands for the third.
-    auto valueOf = [&](char letter, double& v) {
+    // The walk over the caption. A term holding a letter whose coefficient is 0 is cut whole: the
+    // leading term with the " +" after it (its letter and the next three characters in the families
+    // with two-character leading terms), a later term with the " + " before it. In a kept term a
+    // letter of value 1 is dropped and any other letter becomes its value's trimmed text. A letter
+    // that is not one of the family's own (the dx catalogue's "C*e^y") stays as written.
+    auto valueOf = [&](char letter) -> const double* {
         const std::size_t i = letters.find(letter);
-        if (i != std::string_view::npos) {
-            v = values[i];
-            return true;
-        }
-        if (letter >= 'A' && letter <= 'F') {
-            v = values[2];
-            return true;
-        }
-        return false;
+        return i == std::string_view::npos ? nullptr : &values[i];
     };
-    auto number = [](double v) { return rt::Trim(rt::Str(v)); };
     std::string out;
-    for (const std::string& term : terms(formula)) {
-        if (term.empty())
-            continue;
-        double lead = 0;
-        std::string body;
-        std::size_t from = 0;
-        if (!valueOf(term[0], lead))
-            lead = 1;  // a term without a coefficient letter
-        else
-            from = 1;
-        if (lead == 0)
-            continue;
-        for (std::size_t i = from; i < term.size(); ++i) {
-            double v = 0;
-            if (valueOf(term[i], v))
-                body += v == 1 ? std::string() : number(v);
-            else
-                body += term[i];
+    bool kept = false;
+    const std::vector<std::string_view> parts = terms(formula);
+    for (std::size_t t = 0; t < parts.size(); ++t) {
+        std::string text;
+        bool cut = false;
+        for (char ch : parts[t]) {
+            const double* v = valueOf(ch);
+            if (!v)
+                text += ch;
+            else if (*v == 0)
+                cut = true;
+            else if (*v != 1)
+                text += rt::Trim(rt::Str(*v));
         }
-        if (lead == 1 && !body.empty() && body[0] == '*')
-            body.erase(0, 1);
-        std::string text = lead == 1 ? (body.empty() ? std::string("1") : body) : number(lead) + body;
-        if (out.empty())
-            out = text;
-        else if (text[0] == '-')
+        if (cut) {
+            if (t == 0 && parts.size() > 1)
+                out = " ";  // what the leading cut leaves of the joining " + "
+            continue;
+        }
+        if (kept && !text.empty() && text[0] == '-')
             out += " - " + text.substr(1);
         else
-            out += " + " + text;
+            out += (kept ? " + " : "") + text;
+        kept = true;
     }
-    return out.empty() ? std::string("0") : out;
+    return kept ? out : std::string();
 }
 
 frmFlowField::frmFlowField() : GraphScreen(flowConfig())
@@ -243,9 +231,9 @@ void frmFlowField::ShowDyDx()
     const auto& k = Coefficients;
     const std::string dyCaption = DyCaption(DyFuncId), dxCaption = DxCaption(DxFuncId);
     const std::string dy = FormulaWithCoefficients(std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())),
-                                                   "ABC", {k.A, k.B, k.C}, DyFuncId);
+                                                   "ABC", {k.A, k.B, k.C});
     const std::string dx = FormulaWithCoefficients(std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())),
-                                                   "DEF", {k.D, k.E, k.F}, DxFuncId);
+                                                   "DEF", {k.D, k.E, k.F});
     const double formula = equals + surface->TextWidth(QStringLiteral("= "));
     surface->setFontUnderline(true);
     surface->CurrentX = formula;

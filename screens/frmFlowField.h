@@ -14,12 +14,12 @@
 #include "runtime/BoundedArray.h"
 #include "screens/IntegralCurves.h"
 
-// A rate formula with the coefficient values put in place of their letters: a coefficient of 1 drops
-// its letter, a term whose coefficient is 0 is left out, any other value is written in. `formula` is
-// the caption without its "dy = " or "dx = "; `letters` names the three coefficients and `values`
-// holds them. Families 2 to 15 whose coefficients are all 0 read "1", as they evaluate.
+// A rate caption with the coefficient values walked into it, letter by letter: a coefficient of 1
+// drops only its letter, a term holding a coefficient of 0 is cut with its joining characters, any
+// other value replaces its letter. `formula` is the caption without its "dy = " or "dx = ";
+// `letters` names the three coefficients and `values` holds them.
 std::string FormulaWithCoefficients(std::string_view formula, std::string_view letters,
-                                    const std::array<double, 3>& values, int family);
+                                    const std::array<double, 3>& values);
 
 class frmFlowField : public GraphScreen {
     Q_OBJECT

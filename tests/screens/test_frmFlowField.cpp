@@ -247,17 +247,46 @@ TEST_F(Field, SteppersZoomAndReset)
     EXPECT_FALSE(segments().empty());  // the forty curves again
 }
 
-TEST(FormulaDisplay, CoefficientsTakeThePlaceOfTheirLetters)
+TEST(FormulaDisplay, TheWalkDropsOnesCutsZeroTermsAndWritesOtherValues)
 {
-    EXPECT_EQ(FormulaWithCoefficients("Ax + By + C", "ABC", {1, 0, 2}, 1), "x + 2");
-    EXPECT_EQ(FormulaWithCoefficients("Ax + By + C", "ABC", {-1, 0, 0}, 1), "-1x");
-    EXPECT_EQ(FormulaWithCoefficients("Ax + By + C", "ABC", {0, 0, 0}, 1), "0");
-    EXPECT_EQ(FormulaWithCoefficients("Ax + By + C", "ABC", {0.5, -2, 3}, 1), ".5x - 2y + 3");
-    EXPECT_EQ(FormulaWithCoefficients("Ax + Bsin(Cx)", "ABC", {0, 0, 0}, 2), "1");
-    EXPECT_EQ(FormulaWithCoefficients("Ax + Bsin(Cx)", "ABC", {2, 1, 3}, 2), "2x + sin(3x)");
-    EXPECT_EQ(FormulaWithCoefficients("Dx + Ey + C*e^y", "DEF", {0, 0, 2}, 9), "2*e^y");
-    EXPECT_EQ(FormulaWithCoefficients("Dx + Ey + C*e^y", "DEF", {0, 0, 1}, 9), "e^y");
-    EXPECT_EQ(FormulaWithCoefficients("", "DEF", {1, 1, 1}, 0), "0");
+    struct Case {
+        const char* formula;
+        const char* letters;
+        std::array<double, 3> values;
+        const char* shown;
+    } cases[] = {
+        {"Ax + By + C", "ABC", {2, 3, 1}, "2x + 3y + "},  // a 1 loses its letter, nothing more
+        {"Ax + By + C*e^x", "ABC", {1, 1, 1}, "x + y + *e^x"},
+        {"Ax + Bsin(Cx)", "ABC", {1, 3, 0}, "x"},        // C = 0 cuts the term it stands in
+        {"Ax + By + C", "ABC", {0, 0, 0}, ""},
+        {"Ax + Bsin(Cx)", "ABC", {0, 0, 0}, ""},
+        {"Ax + By + C", "ABC", {0, 3, 1}, " 3y + "},     // the leading cut leaves a blank
+        {"Ax + By + C", "ABC", {0, -2, 0}, " -2y"},
+        {"Ax + By + C", "ABC", {-1, 1, 0}, "-1x + y"},
+        {"Ax + By + C", "ABC", {0.5, -2, 3}, ".5x - 2y + 3"},
+        {"Ax + By + C", "ABC", {4, 0, 5}, "4x + 5"},
+        {"Axy + Bx^2*y + Cxy^2", "ABC", {2, 0, 1}, "2xy + xy^2"},
+        {"Ay^3 + By^2 + Cy", "ABC", {0, 0, -3}, " -3y"},
+        {"Dx + Ey + C*e^y", "DEF", {1, 0, 0}, "x + C*e^y"},  // C is not a dx letter
+        {"Dx + ExSin(Fx)", "DEF", {2, 7, 1}, "2x + 7xSin(x)"},
+        {"", "DEF", {1, 1, 1}, ""},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(FormulaWithCoefficients(c.formula, c.letters, c.values), c.shown) << c.formula;
+}
+
+// The display on the screen itself prints the walked formulas under the fraction bar.
+TEST_F(Field, FormulaDisplayPrintsTheWalkedCaptions)
+{
+    screen->surface->setRecording(true);
+    screen->txtA->setText(QStringLiteral("2"));
+    screen->txtB->setText(QStringLiteral("3"));
+    screen->txtC->setText(QStringLiteral("1"));
+    QStringList texts;
+    for (const DrawOp& op : screen->surface->ops())
+        if (op.kind == DrawOp::Text)
+            texts << op.text;
+    EXPECT_TRUE(texts.contains(QStringLiteral("2x + 3y + "))) << texts.join(QLatin1Char('|')).toStdString();
 }
 
 TEST_F(Field, AFieldWhoseStepCannotMoveItsCounterEnds)
