@@ -14,6 +14,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
+#include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 
@@ -47,7 +48,7 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     auto* square = new QFrame(surface);
     square->setFrameStyle(QFrame::Box | QFrame::Plain);
     square->setAttribute(Qt::WA_TransparentForMouseEvents);
-    placeTwips(square, config_.squareLeft, 100, 6405, 6405);
+    placeTwips(square, config_.squareLeft, config_.frameTop, 6405, 6405);
     shpSquare = square;
 
     buildLimits();
@@ -216,14 +217,15 @@ void GraphScreen::CleanGraph()
     graph.YRange = Chk(ymax - ymin);
     graph.YOrigin = rt::CLng(Int(Chk(Div(Chk(ymax * 6400), graph.YRange) + 100)));
 
-    // The counted tick loops run with a 16-bit counter from the start down to the edge. A step of 0
-    // (a range wider than 6400) would draw the same tick for ever; one pass draws the same picture.
-    auto ticks = [](std::int16_t start, std::int16_t step, int edge, auto&& draw) {
-        for (int t = start; t >= edge; t += step) {
-            draw(t);
-            if (step == 0)
-                break;
+    // The tick loops count down from the start to the edge on a 16-bit counter. A step of 0 (a range
+    // wider than 6400) would draw the same tick for ever; one tick draws the same picture.
+    auto ticks = [](std::int16_t start, std::int16_t step, std::int16_t edge, auto&& draw) {
+        if (step == 0) {
+            if (start >= edge)
+                draw(start);
+            return;
         }
+        rt::For16(start, edge, step, draw);
     };
 
     if (txtXmin->value() <= 0 && txtXmax->value() >= 0) {
@@ -252,15 +254,16 @@ void GraphScreen::CleanGraph()
 
 void GraphScreen::plotColumns(double (*evaluate)(const double&))
 {
-    const int first = config_.squareLeft + 1, last = config_.squareLeft + 6399;
+    const auto first = static_cast<std::int16_t>(config_.squareLeft + 1);
+    const auto last = static_cast<std::int16_t>(config_.squareLeft + 6399);
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
-    for (int c = first; c <= last; ++c) {
+    rt::For16(first, last, 1, [&](std::int16_t c) {
         const double x = graph.worldX(c);
         const double y = evaluate(x);
         const double ty = rt::Chk(graph.YOrigin - rt::Div(rt::Chk(y * 6400), graph.YRange));
         if (ty >= 100 && ty <= 6500)
             surface->PSet(c, ty, colour.get());
-    }
+    });
 }
 
 void GraphScreen::cmdPlotto_Click() { plotFunction(); }

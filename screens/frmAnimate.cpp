@@ -1,6 +1,7 @@
 #include "screens/frmAnimate.h"
 
 #include "funclib/FuncGlobals.h"
+#include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 
 namespace {
@@ -113,7 +114,7 @@ void frmAnimate::cmdAnimate_Click()
     // The difference goes through its text and back before the division.
     const double inc = rt::Div(rt::Val(rt::Str(Chk(end - txtStart->value()))), n);
     if (continuous()) {
-        for (std::int32_t i = 0; i <= n; ++i) {
+        rt::For16(0, n, 1, [&](std::int16_t i) {
             const double value = Chk(txtStart->value() + Chk(i * inc));
             showValue(value);
             vscStep->setValueChecked(i);
@@ -122,7 +123,7 @@ void frmAnimate::cmdAnimate_Click()
                 CleanGraph();
             cmdPlotto_Click();
             surface->refreshNow();
-        }
+        });
     }
     copyCoefficients();
 }

@@ -125,3 +125,33 @@ TEST_F(Animate, ZoomHalvesEachLimitAndHelpHasSevenBoxes)
                                                      "at the right, selecting the range of the variable, and clicking "
                                                      "[Animate It!]"));
 }
+
+namespace {
+
+// The animation with its plot replaced by a count, so that 32768 frames take no time.
+struct CountingAnimate : frmAnimate {
+    long plots = 0;
+    void cmdPlotto_Click() override { ++plots; }
+};
+
+}  // namespace
+
+// The frame counter is 16-bit: after frame 32767 has been drawn, stepping it raises Overflow.
+TEST(AnimateCounter, StepPastTheLastSixteenBitFrameOverflowsAfterDrawingIt)
+{
+    DialogScript script;
+    setDialogScript(&script);
+    {
+        CountingAnimate screen;
+        screen.Form_Activate();
+        screen.txtSteps->setText(QStringLiteral("32767"));
+        screen.txtEnd->setText(QStringLiteral("32767"));
+        screen.txtStart->setText(QStringLiteral("0"));
+        screen.cmdAnimate->click();
+        EXPECT_EQ(script.errors, std::vector<int>{rt::Overflow});
+        EXPECT_EQ(screen.plots, 32768);
+        EXPECT_EQ(screen.vscStep->value(), 32767);
+        EXPECT_EQ(screen.lblSlide->text(), QStringLiteral("32767"));
+    }
+    setDialogScript(nullptr);
+}
