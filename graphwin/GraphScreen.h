@@ -35,6 +35,7 @@ public:
         double surfaceWidth = 11235;
         double surfaceHeight = 7140;
         int squareLeft = 2400;
+        int frameTop = 100;  // top of the outline shape shpSquare (the square itself starts at 100)
         Zoom zoom = Zoom::AboutCentre;
         bool validatingLimits = false;  // refuse a window whose minimum is not below its maximum
         int coefficientCount = 5;       // 5 (A to E) or 6 (A to F)

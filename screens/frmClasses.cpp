@@ -6,6 +6,7 @@ GraphScreen::Config classesConfig()
 {
     GraphScreen::Config c;
     c.caption = QStringLiteral("Graphing Classes of Functions");
+    c.frameTop = 120;  // the grapher's outline sits 20 twips below the square it frames
     return c;
 }
 

@@ -24,6 +24,8 @@ TEST_F(Grapher, StartsWithTheDesignTextsAndFamilyOne)
     EXPECT_EQ(screen->cmdExit->text(), QStringLiteral("E&xit"));
     EXPECT_EQ(FuncGlobals::Coefficients.A, 1);
     EXPECT_EQ(FuncGlobals::Coefficients.B, 1);
+    // The outline at left 2400, top 120, 6405 twips square, in pixels of 15 twips.
+    EXPECT_EQ(screen->shpSquare->geometry(), QRect(160, 8, 427, 427));
 }
 
 TEST_F(Grapher, DefaultWindowAxesAndTicks)
