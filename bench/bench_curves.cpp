@@ -50,4 +50,21 @@ void BM_SameCurvesWithoutDrawing(benchmark::State& state)
 }
 BENCHMARK(BM_SameCurvesWithoutDrawing)->Unit(benchmark::kMillisecond);
 
+// The window holding those eighty curves resized: the picture drawn again at the new size (the
+// zoom alternates so that every iteration redraws).
+void BM_ResizeWithEightyCurves(benchmark::State& state)
+{
+    frmFlowField screen;
+    prepare(screen);
+    screen.cmdPlotto_Click();
+    bool large = false;
+    for (auto _ : state) {
+        large = !large;
+        screen.surface->setZoom(large ? 1.6 : 1.0);
+    }
+    state.counters["kept_operations"] = static_cast<double>(screen.surface->keptOperations());
+    state.counters["kept_MiB"] = static_cast<double>(screen.surface->keptBytes()) / (1 << 20);
+}
+BENCHMARK(BM_ResizeWithEightyCurves)->Unit(benchmark::kMillisecond);
+
 }  // namespace

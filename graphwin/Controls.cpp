@@ -11,6 +11,7 @@
 #include <QSignalBlocker>
 
 #include "graphwin/Dialogs.h"
+#include "graphwin/DrawingSurface.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 
@@ -98,7 +99,24 @@ QString Grid::cell(int row, int column) const
     return i ? i->text() : QString();
 }
 
-void Grid::setColumnWidthTwips(int column, double twips) { setColumnWidth(column, static_cast<int>(twips / 15)); }
+void Grid::setColumnWidthTwips(int column, double twips)
+{
+    if (column >= 0 && column < columnCount()) {
+        columnTwips_.resize(static_cast<std::size_t>(columnCount()), -1);
+        columnTwips_[static_cast<std::size_t>(column)] = twips;
+    }
+    setColumnWidth(column, static_cast<int>(twips / 15 * zoom_));
+}
+
+void Grid::applyZoom(double zoom)
+{
+    zoom_ = zoom;
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(std::max(1, static_cast<int>(std::lround(17 * zoom_))));
+    for (std::size_t c = 0; c < columnTwips_.size(); ++c)
+        if (columnTwips_[c] >= 0)
+            setColumnWidth(static_cast<int>(c), static_cast<int>(columnTwips_[c] / 15 * zoom_));
+}
 
 void Grid::setColumnAlignment(int column, Qt::Alignment alignment)
 {
@@ -122,7 +140,8 @@ void ClickLabel::mousePressEvent(QMouseEvent* event)
     releaseEndsDoubleClick_ = false;
     const int button = buttonCode(event->button());
     const int shift = shiftCode(event->modifiers());
-    const double x = event->position().x() * 15, y = event->position().y() * 15;
+    const double t = twipsPerPixel(this);
+    const double x = event->position().x() * t, y = event->position().y() * t;
     if (MouseDown)
         guarded([&] { MouseDown(button, shift, x, y); });
 }
@@ -139,7 +158,15 @@ void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
 
 void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    // The second press of a double click is a press like any other: a stepper steps again, so quick
+    // presses are never lost. Its release raises no Click; the double click raises DblClick.
     releaseEndsDoubleClick_ = true;
+    if (MouseDown) {
+        const double t = twipsPerPixel(this);
+        const double x = event->position().x() * t, y = event->position().y() * t;
+        const int button = buttonCode(event->button()), shift = shiftCode(event->modifiers());
+        guarded([&] { MouseDown(button, shift, x, y); });
+    }
     if (event->button() == Qt::LeftButton && DblClick)
         guarded(DblClick);
 }
@@ -154,7 +181,7 @@ void ClickLabel::keyPressEvent(QKeyEvent* event)
         QLabel::keyPressEvent(event);
         return;
     }
-    const double x = width() * 7.5, y = height() * 7.5;  // the middle of the label, in twips
+    const double x = width() * twipsPerPixel(this) / 2, y = height() * twipsPerPixel(this) / 2;  // the middle
     if (MouseDown)
         guarded([&] { MouseDown(left ? LeftButton : RightButton, shiftCode(event->modifiers()), x, y); });
     if (left && Click)

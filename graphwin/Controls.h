@@ -62,10 +62,17 @@ public:
     QString cell(int row, int column) const;
     void setColumnWidthTwips(int column, double twips);
     void setColumnAlignment(int column, Qt::Alignment alignment);
+    // Column widths and row heights at a form zoom (1 at the normal size).
+    void applyZoom(double zoom);
+
+private:
+    std::vector<double> columnTwips_;
+    double zoom_ = 1.0;
 };
 
-// A label with mouse events: MouseDown on a press, Click on the release of a left press over it,
-// DblClick on a double click (whose closing release raises nothing). A stepper label is light green.
+// A label with mouse events: MouseDown on every press (the second press of a double click too),
+// Click on the release of a left press over it, DblClick on a double click (whose closing release
+// raises nothing). A stepper label is light green.
 class ClickLabel : public QLabel {
     Q_OBJECT
 public:

@@ -1,5 +1,7 @@
 #include "graphwin/Dialogs.h"
 
+#include "graphwin/DrawingSurface.h"
+
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -46,8 +48,14 @@ QString InputBox(const QString& prompt, const QString& title, const QString& def
     dialog.setWindowTitle(title);
     dialog.setLabelText(prompt);
     dialog.setTextValue(defaultText);
-    if (xTwips >= 0 && yTwips >= 0)
-        dialog.move(static_cast<int>(xTwips / 15), static_cast<int>(yTwips / 15));
+    // The position is measured from the window's top-left corner, at the window's zoom, so that the
+    // box opens over its window wherever the window is.
+    if (xTwips >= 0 && yTwips >= 0) {
+        QWidget* window = dialog.parentWidget() ? dialog.parentWidget()->window() : nullptr;
+        const double perPixel = window ? twipsPerPixel(window->findChild<DrawingSurface*>()) : 15.0;
+        const QPoint origin = window ? window->frameGeometry().topLeft() : QPoint();
+        dialog.move(origin + QPoint(static_cast<int>(xTwips / perPixel), static_cast<int>(yTwips / perPixel)));
+    }
     if (dialog.exec() != QDialog::Accepted)
         return QString();
     return dialog.textValue();

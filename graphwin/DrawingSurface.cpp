@@ -20,28 +20,137 @@ constexpr double kTwipsPerPixel = 15.0;
 DrawingSurface::DrawingSurface(double widthTwips, double heightTwips, QWidget* parent)
     : QWidget(parent), widthTwips_(widthTwips), heightTwips_(heightTwips)
 {
-    scale_ = std::max(1.0, qApp ? qApp->devicePixelRatio() : 1.0);
+    screenScale_ = std::max(1.0, qApp ? qApp->devicePixelRatio() : 1.0);
+    scale_ = screenScale_;
+    normalSize_ = QSize(static_cast<int>(std::ceil(widthTwips / kTwipsPerPixel)),
+                        static_cast<int>(std::ceil(heightTwips / kTwipsPerPixel)));
+    setFixedSize(normalSize_);
+    setProperty("plottoZoom", 1.0);
+    font_ = QFont(QStringLiteral("Times New Roman"));
+    font_.setPointSizeF(8.25);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    allocateImage();
+    image_.fill(BackColor);
+    // The whole room for kept operations is reserved at once: memory is only committed as it is
+    // used, and the list never moves while a heavy click fills it.
+    kept_.reserve(kMaxKept);
+}
+
+void DrawingSurface::allocateImage()
+{
     pxPerTwip_ = scale_ / kTwipsPerPixel;
-    const int w = static_cast<int>(std::ceil(widthTwips / kTwipsPerPixel));
-    const int h = static_cast<int>(std::ceil(heightTwips / kTwipsPerPixel));
-    setFixedSize(w, h);
-    image_ = QImage(static_cast<int>(std::ceil(w * scale_)), static_cast<int>(std::ceil(h * scale_)), QImage::Format_RGB32);
+    image_ = QImage(std::max(1, static_cast<int>(std::ceil(normalSize_.width() * scale_))),
+                    std::max(1, static_cast<int>(std::ceil(normalSize_.height() * scale_))), QImage::Format_RGB32);
     image_.setDevicePixelRatio(scale_);
     bits_ = reinterpret_cast<QRgb*>(image_.bits());
     stride_ = image_.bytesPerLine() / static_cast<long>(sizeof(QRgb));
     widthPx_ = image_.width();
     heightPx_ = image_.height();
-    font_ = QFont(QStringLiteral("Times New Roman"));
-    font_.setPointSizeF(8.25);
-    setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    image_.fill(BackColor);
+    penPx_ = std::max(1, static_cast<int>(std::lround(drawWidth_ * scale_)));
+}
+
+void DrawingSurface::setZoom(double zoom)
+{
+    if (!std::isfinite(zoom))
+        return;
+    zoom = std::clamp(zoom, 1.0 / 64, kMaxZoom);
+    if (zoom == zoom_)
+        return;
+    zoom_ = zoom;
+    setProperty("plottoZoom", zoom_);
+    setFixedSize(std::max(1, static_cast<int>(std::lround(normalSize_.width() * zoom_))),
+                 std::max(1, static_cast<int>(std::lround(normalSize_.height() * zoom_))));
+    const QImage old = image_;
+    scale_ = screenScale_ * zoom_;
+    allocateImage();
+    if (keptComplete_) {
+        replay();
+    } else {
+        // More was drawn than is kept: the picture is scaled rather than lost.
+        image_ = old.scaled(widthPx_, heightPx_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                     .convertToFormat(QImage::Format_RGB32);
+        image_.setDevicePixelRatio(scale_);
+        bits_ = reinterpret_cast<QRgb*>(image_.bits());
+        stride_ = image_.bytesPerLine() / static_cast<long>(sizeof(QRgb));
+    }
+    placeChildren();
+    update();
+}
+
+void DrawingSurface::replay()
+{
+    image_.fill(clsColor_);
+    for (const Kept& k : kept_) {
+        switch (k.kind) {
+        case Kept::Line:
+        case Kept::Point: {
+            const int pen = std::max(1, static_cast<int>(std::lround(k.extra * scale_)));
+            if (k.kind == Kept::Line)
+                raster::line(target(), toPx(k.a), toPx(k.b), toPx(k.c), toPx(k.d), pen, k.color);
+            else
+                raster::point(target(), toPx(k.a), toPx(k.b), pen, k.color);
+            break;
+        }
+        case Kept::Circle: drawCircle(k.a, k.b, k.c, k.color, k.extra); break;
+        case Kept::Text: drawText(k.a, k.b, texts_[static_cast<std::size_t>(k.extra)], k.color); break;
+        case Kept::Clear: drawClear(k.a, k.b, k.c, k.d, k.color); break;
+        }
+    }
+}
+
+// Every widget placed on the surface in twips takes its place and size at the present zoom; fonts
+// grow with it, and grids widen their columns.
+void DrawingSurface::placeChildren()
+{
+    const auto scaleFont = [this](QWidget* w) {
+        QVariant base = w->property("plottoBaseFont");
+        if (!base.isValid()) {
+            base = QVariant::fromValue(w->font());
+            w->setProperty("plottoBaseFont", base);
+        }
+        QFont f = base.value<QFont>();
+        if (f.pointSizeF() > 0)
+            f.setPointSizeF(f.pointSizeF() * zoom_);
+        else if (f.pixelSize() > 0)
+            f.setPixelSize(std::max(1, static_cast<int>(std::lround(f.pixelSize() * zoom_))));
+        w->setFont(f);
+    };
+    scaleFont(this);
+    const double k = zoom_ / kTwipsPerPixel;
+    for (QWidget* w : findChildren<QWidget*>()) {
+        const QVariant twips = w->property("plottoTwips");
+        if (twips.isValid()) {
+            const QRectF r = twips.toRectF();
+            w->setGeometry(static_cast<int>(std::lround(r.x() * k)), static_cast<int>(std::lround(r.y() * k)),
+                           std::max(1, static_cast<int>(std::lround(r.width() * k))),
+                           std::max(1, static_cast<int>(std::lround(r.height() * k))));
+        }
+        if (w->testAttribute(Qt::WA_SetFont) || w->property("plottoBaseFont").isValid())
+            scaleFont(w);
+        if (auto* grid = qobject_cast<Grid*>(w))
+            grid->applyZoom(zoom_);
+    }
+}
+
+double twipsPerPixel(const QWidget* widget)
+{
+    for (const QWidget* w = widget; w; w = w->parentWidget()) {
+        const QVariant zoom = w->property("plottoZoom");
+        if (zoom.isValid() && zoom.toDouble() > 0)
+            return kTwipsPerPixel / zoom.toDouble();
+    }
+    return kTwipsPerPixel;
 }
 
 void DrawingSurface::Cls()
 {
     image_.fill(BackColor);
     ops_.clear();
+    kept_.clear();
+    texts_.clear();
+    keptComplete_ = true;
+    clsColor_ = BackColor;
     CurrentX = CurrentY = 0;
     touched();
 }
@@ -55,6 +164,7 @@ void DrawingSurface::setPoint(double x, double y, QRgb color)
 {
     if (recording_)
         record(DrawOp::PSet, x, y, x, y, color);
+    retain(Kept::Point, x, y, 0, 0, color, drawWidth_);
     raster::point(target(), toPx(x), toPx(y), penPx_, color);
     touched();
 }
@@ -63,6 +173,7 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
 {
     if (recording_)
         record(DrawOp::Line, x1, y1, x2, y2, color);
+    retain(Kept::Line, x1, y1, x2, y2, color, drawWidth_);
     CurrentX = x2;
     CurrentY = y2;
     raster::line(target(), toPx(x1), toPx(y1), toPx(x2), toPx(y2), penPx_, color);
@@ -73,30 +184,42 @@ void DrawingSurface::Circle(double x, double y, double r, QRgb color)
 {
     if (recording_)
         record(DrawOp::Circle, x, y, r, 0, color);
+    retain(Kept::Circle, x, y, r, 0, color, drawWidth_);
     CurrentX = x;
     CurrentY = y;
+    drawCircle(x, y, r, color, drawWidth_);
+    touched();
+}
+
+void DrawingSurface::drawCircle(double x, double y, double r, QRgb color, int width)
+{
     const double cx = x / kTwipsPerPixel, cy = y / kTwipsPerPixel, rr = std::fabs(r) / kTwipsPerPixel;
     const double limit = 1e6;
     if (!(std::fabs(cx) < limit && std::fabs(cy) < limit && rr < limit))
         return;
     QPainter painter(&image_);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QPen(QColor(color), drawWidth_));
+    painter.setPen(QPen(QColor(color), width));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(QPointF(cx, cy), rr, rr);
     painter.end();
     bits_ = reinterpret_cast<QRgb*>(image_.bits());
-    touched();
 }
 
 void DrawingSurface::clearArea(double left, double top, double width, double height)
 {
+    retain(Kept::Clear, left, top, width, height, BackColor, 0);
+    drawClear(left, top, width, height, BackColor);
+    touched();
+}
+
+void DrawingSurface::drawClear(double left, double top, double width, double height, QRgb color)
+{
     QPainter painter(&image_);
     painter.fillRect(QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel, height / kTwipsPerPixel),
-                     QColor(BackColor));
+                     QColor(color));
     painter.end();
     bits_ = reinterpret_cast<QRgb*>(image_.bits());
-    touched();
 }
 
 QFont DrawingSurface::scaledFont() const
@@ -120,15 +243,13 @@ void DrawingSurface::Print(const QString& text, bool newline)
 {
     if (recording_)
         record(DrawOp::Text, CurrentX, CurrentY, CurrentX, CurrentY, ForeColor, text);
-    const QFont f = scaledFont();
-    const double x = CurrentX / kTwipsPerPixel, y = CurrentY / kTwipsPerPixel;
-    if (std::fabs(x) < 1e6 && std::fabs(y) < 1e6) {
-        QPainter painter(&image_);
-        painter.setFont(f);
-        painter.setPen(QColor(ForeColor));
-        painter.drawText(QPointF(x, y + QFontMetricsF(f).ascent()), text);
-        painter.end();
-        bits_ = reinterpret_cast<QRgb*>(image_.bits());
+    KeptText kept{text, scaledFont()};
+    drawText(CurrentX, CurrentY, kept, ForeColor);
+    if (keptComplete_ && kept_.size() < kMaxKept) {
+        texts_.push_back(std::move(kept));
+        retain(Kept::Text, CurrentX, CurrentY, 0, 0, ForeColor, static_cast<int>(texts_.size() - 1));
+    } else {
+        keptComplete_ = false;
     }
     if (newline) {
         CurrentX = 0;
@@ -137,6 +258,19 @@ void DrawingSurface::Print(const QString& text, bool newline)
         CurrentX += TextWidth(text);
     }
     touched();
+}
+
+void DrawingSurface::drawText(double xTwips, double yTwips, const KeptText& text, QRgb color)
+{
+    const double x = xTwips / kTwipsPerPixel, y = yTwips / kTwipsPerPixel;
+    if (!(std::fabs(x) < 1e6 && std::fabs(y) < 1e6))
+        return;
+    QPainter painter(&image_);
+    painter.setFont(text.font);
+    painter.setPen(QColor(color));
+    painter.drawText(QPointF(x, y + QFontMetricsF(text.font).ascent()), text.text);
+    painter.end();
+    bits_ = reinterpret_cast<QRgb*>(image_.bits());
 }
 
 void DrawingSurface::setDrawWidth(int width)
@@ -167,7 +301,7 @@ void DrawingSurface::paintEvent(QPaintEvent*)
 {
     dirty_ = false;
     QPainter painter(this);
-    painter.drawImage(QPointF(0, 0), image_);
+    painter.drawImage(QRectF(QPointF(0, 0), QSizeF(width(), height())), image_);
 }
 
 void DrawingSurface::mousePressEvent(QMouseEvent* event)
@@ -175,7 +309,8 @@ void DrawingSurface::mousePressEvent(QMouseEvent* event)
     if (!MouseDown || childAt(event->position().toPoint()))
         return;
     const int button = buttonCode(event->button()), shift = shiftCode(event->modifiers());
-    const double x = event->position().x() * kTwipsPerPixel, y = event->position().y() * kTwipsPerPixel;
+    const double t = kTwipsPerPixel / zoom_;
+    const double x = event->position().x() * t, y = event->position().y() * t;
     guarded([&] { MouseDown(button, shift, x, y); });
 }
 
@@ -191,6 +326,7 @@ void DrawingSurface::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() & Qt::MiddleButton)
         buttons |= MiddleButton;
     const int shift = shiftCode(event->modifiers());
-    const double x = event->position().x() * kTwipsPerPixel, y = event->position().y() * kTwipsPerPixel;
+    const double t = kTwipsPerPixel / zoom_;
+    const double x = event->position().x() * t, y = event->position().y() * t;
     guarded([&] { MouseMove(buttons, shift, x, y); });
 }

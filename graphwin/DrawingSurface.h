@@ -1,7 +1,14 @@
 #pragma once
 // The client area of a screen, addressed in twips (x to the right, y downwards, 15 twips to a
-// logical pixel). Everything drawn is kept in a backing image until the next Cls. Lines and points
-// are set straight into the image; only text and circles go through a painter.
+// logical pixel at the window's normal size). Everything drawn is kept in a backing image until the
+// next Cls. Lines and points are set straight into the image; only text and circles go through a
+// painter.
+//
+// The whole form can be shown larger or smaller by one zoom factor: the surface, every control on
+// it (placed in twips by placeTwips) and their fonts scale together, and the picture is drawn again
+// at the new resolution from a compact list of the operations since the last Cls, so that it stays
+// sharp. Handlers never see the zoom: twips in, twips out, mouse positions in twips.
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -43,6 +50,7 @@ public:
         CurrentY = y;
         const double fx = toPx(x), fy = toPx(y);
         if (!recording_ && penPx_ == 1 && fx >= 0 && fy >= 0 && fx < widthPx_ && fy < heightPx_) {
+            retain(Kept::Point, x, y, 0, 0, color, 1);
             bits_[static_cast<long>(fy) * stride_ + static_cast<long>(fx)] = color;
             touched();
             return;
@@ -82,6 +90,19 @@ public:
     double widthTwips() const { return widthTwips_; }
     double heightTwips() const { return heightTwips_; }
 
+    // The form's scale: 1 at the normal size. Resizes the surface and everything placed on it, and
+    // draws the picture again at the new resolution.
+    void setZoom(double zoom);
+    double zoom() const { return zoom_; }
+    // The surface's size in logical pixels at the normal size.
+    QSize normalSize() const { return normalSize_; }
+    // The largest zoom the surface accepts, and the number of operations it keeps for redrawing
+    // (beyond that a resize scales the image it has instead of drawing it again).
+    static constexpr double kMaxZoom = 4.0;
+    static constexpr std::size_t kMaxKept = 1500000;
+    std::size_t keptOperations() const { return kept_.size(); }
+    std::size_t keptBytes() const { return kept_.capacity() * sizeof(Kept) + texts_.capacity() * sizeof(KeptText); }
+
     MouseHandler MouseDown;
     MouseHandler MouseMove;
 
@@ -91,6 +112,32 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
+    // One drawing operation kept for redrawing: a line's ends, a point, a circle's centre and
+    // radius, a text's position or a cleared rectangle, all in twips.
+    struct Kept {
+        enum Kind : std::uint8_t { Line, Point, Circle, Text, Clear } kind;
+        double a, b, c, d;
+        QRgb color;
+        int extra;  // the drawing width, or the index of a text in texts_
+    };
+    struct KeptText {
+        QString text;
+        QFont font;
+    };
+    void retain(Kept::Kind kind, double a, double b, double c, double d, QRgb color, int extra)
+    {
+        if (keptComplete_ && kept_.size() < kMaxKept)
+            kept_.push_back(Kept{kind, a, b, c, d, color, extra});
+        else
+            keptComplete_ = false;
+    }
+    void allocateImage();
+    void replay();
+    void drawCircle(double x, double y, double r, QRgb color, int width);
+    void drawText(double x, double y, const KeptText& text, QRgb color);
+    void drawClear(double left, double top, double width, double height, QRgb color);
+    void placeChildren();
+
     // A twip coordinate in device pixels. Multiplying by the reciprocal leaves multiples of 15 an
     // ulp short of their whole pixel; the small bias puts them back on it.
     double toPx(double twips) const { return twips * pxPerTwip_ + 1e-7; }
@@ -107,7 +154,10 @@ private:
     QFont scaledFont() const;
 
     double widthTwips_, heightTwips_;
-    double scale_;  // device pixels per logical pixel
+    QSize normalSize_;
+    double zoom_ = 1.0;
+    double screenScale_ = 1.0;  // the screen's device pixels per logical pixel
+    double scale_;              // device pixels per logical pixel of the normal-size form
     double pxPerTwip_;
     QImage image_;
     QRgb* bits_ = nullptr;
@@ -118,4 +168,12 @@ private:
     bool recording_ = false;
     bool dirty_ = false;
     std::vector<DrawOp> ops_;
+    std::vector<Kept> kept_;
+    std::vector<KeptText> texts_;
+    bool keptComplete_ = true;
+    QRgb clsColor_ = 0xFFFFFFFFu;
 };
+
+// Twips per logical pixel for a widget placed on a surface: 15 at the normal size, less when the
+// form is zoomed in.
+double twipsPerPixel(const QWidget* widget);

@@ -10,10 +10,13 @@
 #include <QTableWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormArea.h"
 #include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
@@ -21,12 +24,16 @@
 namespace {
 
 constexpr double kBoxWidth = 600, kBoxHeight = 300, kArrowWidth = 180;
+// What a window manager typically adds around a window: borders and a title bar.
+const QSize kWindowBorders(8, 40);
 constexpr const char* kCoefficientNames = "ABCDEF";
 
 }  // namespace
 
 void placeTwips(QWidget* widget, double left, double top, double width, double height)
 {
+    // The place in twips is kept, so that a zoomed form can put the widget where it belongs.
+    widget->setProperty("plottoTwips", QRectF(left, top, width, height));
     widget->setGeometry(static_cast<int>(std::lround(left / 15)), static_cast<int>(std::lround(top / 15)),
                         static_cast<int>(std::lround(width / 15)), static_cast<int>(std::lround(height / 15)));
 }
@@ -36,14 +43,26 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     setWindowTitle(config_.caption);
     setFont(QFont(QStringLiteral("Times New Roman"), 10));
 
-    surface = new DrawingSurface(config_.surfaceWidth, config_.surfaceHeight, this);
+    // The window can be resized, maximized and shown full screen (F11); the form inside scales as a
+    // whole with it.
+    setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
+    setSizeGripEnabled(false);
+    formArea_ = new FormArea(this);
+    surface = new DrawingSurface(config_.surfaceWidth, config_.surfaceHeight, formArea_);
+    formArea_->setForm(surface);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     menuBar = new QMenuBar(this);
     layout->setMenuBar(menuBar);
-    layout->addWidget(surface);
+    layout->addWidget(formArea_);
+    auto* fullScreen = new QShortcut(QKeySequence(Qt::Key_F11), this);
+    connect(fullScreen, &QShortcut::activated, this, [this] {
+        if (isFullScreen())
+            showNormal();
+        else
+            showFullScreen();
+    });
 
     auto* square = new QFrame(surface);
     square->setFrameStyle(QFrame::Box | QFrame::Plain);
@@ -472,6 +491,12 @@ void GraphScreen::showEvent(QShowEvent* event)
     if (!arranged_) {
         arrangeForKeyboard();
         arranged_ = true;
+        // The first opening: the normal size, or the largest that fits the screen.
+        if (QScreen* where = screen()) {
+            const QSize frame(kWindowBorders.width(), menuBar->sizeHint().height() + kWindowBorders.height());
+            resize(openingSize(surface->normalSize(), frame, where->availableGeometry().size()) -
+                   kWindowBorders);
+        }
     }
 }
 
@@ -519,13 +544,16 @@ void GraphScreen::arrangeForKeyboard()
     }
     // The order of the panels: left of the square, the square with its limit boxes, then each
     // column on the right; within a panel from top to bottom, then from left to right.
+    // Positions are compared in normal-size pixels, whatever the form's zoom.
     const int squareLeftPx = config_.squareLeft / 15, squareRightPx = (config_.squareLeft + 6400) / 15;
     auto place = [&](QWidget* w) {
-        const QPoint p = w->mapTo(surface, QPoint(0, 0));
-        const int centre = p.x() + w->width() / 2;
+        const double k = twipsPerPixel(surface) / 15;
+        const QPoint at = w->mapTo(surface, QPoint(0, 0));
+        const int x = static_cast<int>(std::lround(at.x() * k)), y = static_cast<int>(std::lround(at.y() * k));
+        const int centre = x + static_cast<int>(std::lround(w->width() * k / 2));
         // The limit boxes and their arrows stand astride the square's edges, wider on the right.
-        const int panel = centre < squareLeftPx - 30 ? 0 : centre <= squareRightPx + 60 ? 1 : 2 + (p.x() - squareRightPx) / 120;
-        return std::tuple(panel, p.y(), p.x());
+        const int panel = centre < squareLeftPx - 30 ? 0 : centre <= squareRightPx + 60 ? 1 : 2 + (x - squareRightPx) / 120;
+        return std::tuple(panel, y, x);
     };
     std::stable_sort(focusable.begin(), focusable.end(), [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
     for (std::size_t i = 1; i < focusable.size(); ++i)

@@ -181,4 +181,5 @@ private:
 
     Config config_;
     bool arranged_ = false;
+    class FormArea* formArea_ = nullptr;
 };

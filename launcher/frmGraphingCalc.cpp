@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "graphwin/Controls.h"
@@ -71,7 +72,27 @@ frmGraphingCalc::frmGraphingCalc()
     }
     if (previous)
         QWidget::setTabOrder(previous, cmdExit);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    // The window opens at its natural size and can be resized, maximized or shown full screen (F11):
+    // its text and buttons then grow with it by one factor.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    normalSize_ = sizeHint();
+    resize(normalSize_);
+    setMinimumSize(1, 1);
+    auto* fullScreen = new QShortcut(QKeySequence(Qt::Key_F11), this);
+    connect(fullScreen, &QShortcut::activated, this, [this] { isFullScreen() ? showNormal() : showFullScreen(); });
+}
+
+void frmGraphingCalc::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const double zoom = std::clamp(std::min(static_cast<double>(width()) / normalSize_.width(),
+                                            static_cast<double>(height()) / normalSize_.height()),
+                                   0.25, 4.0);
+    QFont f = font();
+    f.setPointSizeF(11 * zoom);
+    setFont(f);
+    for (QPushButton* b : findChildren<QPushButton*>())
+        b->setMinimumSize(static_cast<int>(240 * zoom), static_cast<int>(40 * zoom));
 }
 
 frmGraphingCalc::~frmGraphingCalc() = default;

@@ -78,7 +78,11 @@ public:
     frmTangent& tangentScreen() { return screen(tangent_); }
     frmMVT& mvtScreen() { return screen(mvt_); }
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    QSize normalSize_;
     template <class Screen>
     Screen& screen(std::unique_ptr<Screen>& slot)
     {

@@ -58,7 +58,8 @@ TEST_F(Controls, LabelClickDoubleClickAndMouseDown)
     QTest::mouseClick(&label, Qt::LeftButton);
     QTest::mouseClick(&label, Qt::RightButton);
     QTest::mouseDClick(&label, Qt::LeftButton);
-    const std::vector<std::string> expected{"down1", "click", "down2", "dbl"};
+    // The second press of the double click is a press too: quick presses are never lost.
+    const std::vector<std::string> expected{"down1", "click", "down2", "down1", "dbl"};
     EXPECT_EQ(events, expected);
     EXPECT_EQ(label.palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
 }

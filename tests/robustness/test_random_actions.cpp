@@ -26,6 +26,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormArea.h"
 #include "launcher/frmGraphingCalc.h"
 #include "runtime/Random.h"
 
@@ -48,7 +49,7 @@ const std::vector<QString>& corpus()
 }
 
 struct Control {
-    enum Kind { Box, Button, Label, Check, Option, Scroll, Menu, Surface } kind;
+    enum Kind { Box, Button, Label, Check, Option, Scroll, Menu, Surface, Resize } kind;
     QObject* object;
     QString name;
 };
@@ -115,6 +116,7 @@ struct Walk {
                 if (!entry->isSeparator() && entry->isVisible())
                     list.push_back({Control::Menu, entry, entry->text()});
         list.push_back({Control::Surface, s.surface, QStringLiteral("surface")});
+        list.push_back({Control::Resize, s.surface, QStringLiteral("window")});
         s.Form_Activate();
     }
 
@@ -122,7 +124,7 @@ struct Walk {
     // numbers too large wherever a box is read or a computation runs, plus each screen's own.
     std::set<int> allowed(std::size_t screen, const Control& c) const
     {
-        if (c.kind == Control::Check || c.kind == Control::Option)
+        if (c.kind == Control::Check || c.kind == Control::Option || c.kind == Control::Resize)
             return {};
         if (c.kind == Control::Menu) {
             const QString t = static_cast<QAction*>(c.object)->text();
@@ -199,6 +201,14 @@ struct Walk {
             what += "chooses \"" + c.name.toStdString() + "\"";
             static_cast<QAction*>(c.object)->trigger();
             break;
+        case Control::Resize: {
+            // From 1x1 to far beyond any screen: the form takes the zoom at which it fits.
+            const int side[] = {1, 2, 7, 100, 400, 749, 1000, 1920, 4000, 30000};
+            const QSize room(side[pick(10)] + pick(50), side[pick(10)] + pick(50));
+            what += "resizes the window to " + std::to_string(room.width()) + "x" + std::to_string(room.height());
+            s.surface->setZoom(FormArea::fittingZoom(s.surface->normalSize(), room));
+            break;
+        }
         case Control::Surface: {
             const QPoint at(pick(w->width()), pick(w->height()));
             const int how = pick(3);
@@ -239,7 +249,13 @@ TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
     Walk walk(seed);
     setDialogScript(&walk.script);
 
-    // A watchdog: an action that does not end within a minute is a hang.
+    // A watchdog: an action that does not end within a minute (ten under the sanitizers, which make
+    // the longest legitimate click, an animation of 32767 frames, take several minutes) is a hang.
+#ifdef PLOTTO_SANITIZED
+    constexpr auto kHang = std::chrono::seconds(600);
+#else
+    constexpr auto kHang = std::chrono::seconds(60);
+#endif
     std::atomic<long> progress{0};
     std::atomic<bool> done{false};
     std::thread watchdog([&] {
@@ -250,7 +266,7 @@ TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
             if (progress != last) {
                 last = progress;
                 since = std::chrono::steady_clock::now();
-            } else if (std::chrono::steady_clock::now() - since > std::chrono::seconds(60)) {
+            } else if (std::chrono::steady_clock::now() - since > kHang) {
                 std::fprintf(stderr, "hang: seed %llu, action %ld\n", static_cast<unsigned long long>(seed), last);
                 std::abort();
             }
@@ -274,8 +290,14 @@ TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
         const std::vector<Control>& list = walk.controls[current];
         const Control control = list[static_cast<std::size_t>(walk.pick(static_cast<int>(list.size())))];
         const std::set<int> ok = walk.allowed(current, control);
+        const auto began = std::chrono::steady_clock::now();
         walk.log.push_back(walk.act(current, control));
         ++walk.actions;
+        const auto took = std::chrono::steady_clock::now() - began;
+        if (took > std::chrono::seconds(2))  // slow actions are named, so that a hang can be told apart
+            std::fprintf(stderr, "slow action %ld (%lld ms): %s\n", n,
+                         static_cast<long long>(std::chrono::duration_cast<std::chrono::milliseconds>(took).count()),
+                         walk.log.back().c_str());
         if (walk.script.errors.empty())
             continue;
         for (int e : walk.script.errors) {
