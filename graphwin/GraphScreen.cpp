@@ -145,7 +145,7 @@ void GraphScreen::buildCoefficients()
         lblFunc = makeLabel(config_.functionLabelCaption, 120, 960 + 360 * config_.coefficientCount + 120, 1800, 660);
         lblFunc->setWordWrap(true);
         lblFunc->setAlignment(Qt::AlignCenter);
-        lblFunc->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        lblFunc->setFrameStyle(QFrame::Box | QFrame::Plain);  // all four edges, on white too
         lblFunc->MouseDown = [this](int Button, int Shift, double X, double Y) { lblFunc_MouseDown(Button, Shift, X, Y); };
     }
 }

@@ -16,6 +16,17 @@ void save(QWidget& window, const QDir& dir, const QString& name)
     window.grab().save(dir.filePath(name));
 }
 
+// The window as it looks maximized on a 1920x1080 screen (the client area below a title bar).
+void saveMaximized(QWidget& window, const QDir& dir, const QString& name)
+{
+    const QSize normal = window.size();
+    window.resize(1920, 1040);
+    QApplication::processEvents();
+    window.grab().save(dir.filePath(name));
+    window.resize(normal);
+    QApplication::processEvents();
+}
+
 }  // namespace
 
 int main(int argc, char* argv[])
@@ -43,6 +54,7 @@ int main(int argc, char* argv[])
     grapher.txtC->setText(QStringLiteral("0"));
     grapher.cmdPlotto_Click();
     save(grapher, dir, QStringLiteral("grapher.png"));
+    saveMaximized(grapher, dir, QStringLiteral("grapher-maximized.png"));
     grapher.hide();
 
     // The sums screen: y = x^2 on [-2, 2] with eight partitions and every method checked.
@@ -103,6 +115,7 @@ int main(int argc, char* argv[])
     field.cmdShowFlow_Click();
     field.cmdPlotto_Click();
     save(field, dir, QStringLiteral("slope-field.png"));
+    saveMaximized(field, dir, QStringLiteral("slope-field-maximized.png"));
     field.CleanGraph();
     field.cmdShowFlow_Click();
     field.optApprox->setChecked(true);
