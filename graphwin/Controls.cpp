@@ -81,9 +81,15 @@ Grid::Grid(QWidget* parent, int rows, int columns) : QTableWidget(rows, columns,
     verticalHeader()->setDefaultSectionSize(17);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::NoSelection);
+    // Row 0 holds the headings: drawn as a header row, on a shaded background (the text keeps the
+    // grid's font, so that it scales with the form).
     for (int r = 0; r < rows; ++r)
-        for (int c = 0; c < columns; ++c)
-            setItem(r, c, new QTableWidgetItem);
+        for (int c = 0; c < columns; ++c) {
+            auto* item = new QTableWidgetItem;
+            if (r == 0)
+                item->setBackground(QColor(0xD8, 0xD8, 0xD8));
+            setItem(r, c, item);
+        }
 }
 
 void Grid::setCell(int row, int column, const QString& text)

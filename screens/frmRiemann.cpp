@@ -38,7 +38,8 @@ frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
         placeTwips(labels[i], 60, 960 + 360 * i, 420, 300);
         placeTwips(boxes[i], 540, 960 + 360 * i, 1080, 300);
     }
-    placeTwips(lblFunction, 60, 2800, 1620, 420);
+    // Two lines, for the longer captions, between the coefficients and the Xmin box.
+    placeTwips(lblFunction, 60, 2760, 1620, 470);
     placeTwips(cmdExit, 60, 6300, 1560, 420);
 
     QPushButton* const column[] = {cmdGraphNow, cmdErase, cmdZoomIn, cmdReset};

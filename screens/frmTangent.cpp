@@ -51,7 +51,7 @@ frmTangent::frmTangent() : GraphScreen(tangentConfig())
     lblXaddDx->setAlignment(Qt::AlignRight | Qt::AlignTop);
 
     fraApply = new QGroupBox(QStringLiteral("Secant Line Results"), surface);
-    placeTwips(fraApply, kLeft - 120, 3540, kWidth + 240, 1500);
+    placeTwips(fraApply, kLeft - 120, 3540, kWidth + 120, 1500);  // clear of the window's right edge
     lblPoints = new ClickLabel(fraApply, QStringLiteral("( ___, ___ ) to ( ___ , ___ )"));
     placeTwips(lblPoints, 120, 360, kWidth, 420);
     lblPoints->setWordWrap(true);
