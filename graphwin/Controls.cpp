@@ -144,12 +144,17 @@ ClickLabel::ClickLabel(QWidget* parent, const QString& caption, bool stepper) : 
 void ClickLabel::mousePressEvent(QMouseEvent* event)
 {
     releaseEndsDoubleClick_ = false;
-    const int button = buttonCode(event->button());
-    const int shift = shiftCode(event->modifiers());
+    raiseMouseDown(event);
+}
+
+void ClickLabel::raiseMouseDown(QMouseEvent* event)
+{
+    if (!MouseDown)
+        return;
+    const int button = buttonCode(event->button()), shift = shiftCode(event->modifiers());
     const double t = twipsPerPixel(this);
     const double x = event->position().x() * t, y = event->position().y() * t;
-    if (MouseDown)
-        guarded([&] { MouseDown(button, shift, x, y); });
+    guarded([&] { MouseDown(button, shift, x, y); });
 }
 
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
@@ -167,12 +172,7 @@ void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
     // The second press of a double click is a press like any other: a stepper steps again, so quick
     // presses are never lost. Its release raises no Click; the double click raises DblClick.
     releaseEndsDoubleClick_ = true;
-    if (MouseDown) {
-        const double t = twipsPerPixel(this);
-        const double x = event->position().x() * t, y = event->position().y() * t;
-        const int button = buttonCode(event->button()), shift = shiftCode(event->modifiers());
-        guarded([&] { MouseDown(button, shift, x, y); });
-    }
+    raiseMouseDown(event);
     if (event->button() == Qt::LeftButton && DblClick)
         guarded(DblClick);
 }

@@ -94,6 +94,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // MouseDown for a press, at the press's position in twips.
+    void raiseMouseDown(QMouseEvent* event);
     bool releaseEndsDoubleClick_ = false;
 };
 

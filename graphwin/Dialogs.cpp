@@ -1,11 +1,11 @@
 #include "graphwin/Dialogs.h"
 
-#include "graphwin/DrawingSurface.h"
-
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QWidget>
+
+#include "graphwin/DrawingSurface.h"
 
 namespace {
 

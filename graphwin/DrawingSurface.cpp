@@ -25,7 +25,6 @@ DrawingSurface::DrawingSurface(double widthTwips, double heightTwips, QWidget* p
     normalSize_ = QSize(static_cast<int>(std::ceil(widthTwips / kTwipsPerPixel)),
                         static_cast<int>(std::ceil(heightTwips / kTwipsPerPixel)));
     setFixedSize(normalSize_);
-    setProperty("plottoZoom", 1.0);
     font_ = QFont(QStringLiteral("Times New Roman"));
     font_.setPointSizeF(8.25);
     setMouseTracking(true);
@@ -40,14 +39,20 @@ DrawingSurface::DrawingSurface(double widthTwips, double heightTwips, QWidget* p
 void DrawingSurface::allocateImage()
 {
     pxPerTwip_ = scale_ / kTwipsPerPixel;
-    image_ = QImage(std::max(1, static_cast<int>(std::ceil(normalSize_.width() * scale_))),
-                    std::max(1, static_cast<int>(std::ceil(normalSize_.height() * scale_))), QImage::Format_RGB32);
+    penPx_ = std::max(1, static_cast<int>(std::lround(drawWidth_ * scale_)));
+    adoptImage(QImage(std::max(1, static_cast<int>(std::ceil(normalSize_.width() * scale_))),
+                      std::max(1, static_cast<int>(std::ceil(normalSize_.height() * scale_))), QImage::Format_RGB32));
+}
+
+// Makes `image` the backing image at the present scale, with the pointers the pixel writer uses.
+void DrawingSurface::adoptImage(QImage image)
+{
+    image_ = std::move(image);
     image_.setDevicePixelRatio(scale_);
     bits_ = reinterpret_cast<QRgb*>(image_.bits());
     stride_ = image_.bytesPerLine() / static_cast<long>(sizeof(QRgb));
     widthPx_ = image_.width();
     heightPx_ = image_.height();
-    penPx_ = std::max(1, static_cast<int>(std::lround(drawWidth_ * scale_)));
 }
 
 void DrawingSurface::setZoom(double zoom)
@@ -58,7 +63,6 @@ void DrawingSurface::setZoom(double zoom)
     if (zoom == zoom_)
         return;
     zoom_ = zoom;
-    setProperty("plottoZoom", zoom_);
     setFixedSize(std::max(1, static_cast<int>(std::lround(normalSize_.width() * zoom_))),
                  std::max(1, static_cast<int>(std::lround(normalSize_.height() * zoom_))));
     const QImage old = image_;
@@ -68,11 +72,8 @@ void DrawingSurface::setZoom(double zoom)
         replay();
     } else {
         // More was drawn than is kept: the picture is scaled rather than lost.
-        image_ = old.scaled(widthPx_, heightPx_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                     .convertToFormat(QImage::Format_RGB32);
-        image_.setDevicePixelRatio(scale_);
-        bits_ = reinterpret_cast<QRgb*>(image_.bits());
-        stride_ = image_.bytesPerLine() / static_cast<long>(sizeof(QRgb));
+        adoptImage(old.scaled(widthPx_, heightPx_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                       .convertToFormat(QImage::Format_RGB32));
     }
     placeChildren();
     update();
@@ -135,11 +136,9 @@ void DrawingSurface::placeChildren()
 
 double twipsPerPixel(const QWidget* widget)
 {
-    for (const QWidget* w = widget; w; w = w->parentWidget()) {
-        const QVariant zoom = w->property("plottoZoom");
-        if (zoom.isValid() && zoom.toDouble() > 0)
-            return kTwipsPerPixel / zoom.toDouble();
-    }
+    for (const QWidget* w = widget; w; w = w->parentWidget())
+        if (const auto* surface = qobject_cast<const DrawingSurface*>(w))
+            return kTwipsPerPixel / surface->zoom();
     return kTwipsPerPixel;
 }
 
@@ -245,12 +244,8 @@ void DrawingSurface::Print(const QString& text, bool newline)
         record(DrawOp::Text, CurrentX, CurrentY, CurrentX, CurrentY, ForeColor, text);
     KeptText kept{text, scaledFont()};
     drawText(CurrentX, CurrentY, kept, ForeColor);
-    if (keptComplete_ && kept_.size() < kMaxKept) {
+    if (retain(Kept::Text, CurrentX, CurrentY, 0, 0, ForeColor, static_cast<int>(texts_.size())))
         texts_.push_back(std::move(kept));
-        retain(Kept::Text, CurrentX, CurrentY, 0, 0, ForeColor, static_cast<int>(texts_.size() - 1));
-    } else {
-        keptComplete_ = false;
-    }
     if (newline) {
         CurrentX = 0;
         CurrentY += TextHeight(text);
@@ -309,7 +304,7 @@ void DrawingSurface::mousePressEvent(QMouseEvent* event)
     if (!MouseDown || childAt(event->position().toPoint()))
         return;
     const int button = buttonCode(event->button()), shift = shiftCode(event->modifiers());
-    const double t = kTwipsPerPixel / zoom_;
+    const double t = twipsPerPixel(this);
     const double x = event->position().x() * t, y = event->position().y() * t;
     guarded([&] { MouseDown(button, shift, x, y); });
 }
@@ -326,7 +321,7 @@ void DrawingSurface::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() & Qt::MiddleButton)
         buttons |= MiddleButton;
     const int shift = shiftCode(event->modifiers());
-    const double t = kTwipsPerPixel / zoom_;
+    const double t = twipsPerPixel(this);
     const double x = event->position().x() * t, y = event->position().y() * t;
     guarded([&] { MouseMove(buttons, shift, x, y); });
 }

@@ -124,14 +124,18 @@ private:
         QString text;
         QFont font;
     };
-    void retain(Kept::Kind kind, double a, double b, double c, double d, QRgb color, int extra)
+    // Keeps an operation while there is room; false (and the list marked incomplete) once full.
+    bool retain(Kept::Kind kind, double a, double b, double c, double d, QRgb color, int extra)
     {
-        if (keptComplete_ && kept_.size() < kMaxKept)
+        if (keptComplete_ && kept_.size() < kMaxKept) {
             kept_.push_back(Kept{kind, a, b, c, d, color, extra});
-        else
-            keptComplete_ = false;
+            return true;
+        }
+        keptComplete_ = false;
+        return false;
     }
     void allocateImage();
+    void adoptImage(QImage image);
     void replay();
     void drawCircle(double x, double y, double r, QRgb color, int width);
     void drawText(double x, double y, const KeptText& text, QRgb color);
