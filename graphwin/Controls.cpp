@@ -1,5 +1,6 @@
 #include "graphwin/Controls.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QHeaderView>
 #include <QMenu>
@@ -9,6 +10,7 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 #include <QSignalBlocker>
+#include <QStringList>
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingSurface.h"
@@ -62,6 +64,18 @@ void TextBox::assign(const QString& text)
 
 double TextBox::value() const { return rt::Val(text().toStdString()); }
 
+bool TextBox::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Copy) && !hasSelectedText()) {
+            event->ignore();
+            return false;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
 void TextBox::mouseReleaseEvent(QMouseEvent* event)
 {
     QLineEdit::mouseReleaseEvent(event);
@@ -81,6 +95,8 @@ Grid::Grid(QWidget* parent, int rows, int columns) : QTableWidget(rows, columns,
     verticalHeader()->setDefaultSectionSize(17);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::NoSelection);
+    // Arrow keys move inside the grid; Tab leaves it.
+    setTabKeyNavigation(false);
     // Row 0 holds the headings: drawn as a header row, on a shaded background (the text keeps the
     // grid's font, so that it scales with the form).
     for (int r = 0; r < rows; ++r)
@@ -97,6 +113,26 @@ void Grid::setCell(int row, int column, const QString& text)
     if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
         rt::raise(rt::SubscriptOutOfRange);
     item(row, column)->setText(text);
+    // The heading row also names the columns for assistive tools (the header itself stays hidden;
+    // row 0 shows the headings as the form draws them).
+    if (row == 0)
+        setHorizontalHeaderItem(column, new QTableWidgetItem(text));
+}
+
+QString Grid::tabSeparated() const
+{
+    QStringList lines;
+    for (int r = 0; r < rowCount(); ++r) {
+        QStringList cells;
+        bool holdsValue = r == 0;
+        for (int c = 0; c < columnCount(); ++c) {
+            cells << cell(r, c);
+            holdsValue = holdsValue || (c > 0 && !cells.back().isEmpty());
+        }
+        if (holdsValue)
+            lines << cells.join(QLatin1Char('\t'));
+    }
+    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
 QString Grid::cell(int row, int column) const
@@ -155,6 +191,26 @@ void ClickLabel::raiseMouseDown(QMouseEvent* event)
     const double t = twipsPerPixel(this);
     const double x = event->position().x() * t, y = event->position().y() * t;
     guarded([&] { MouseDown(button, shift, x, y); });
+    announceStep();
+}
+
+void ClickLabel::announceStep()
+{
+    if (!steps)
+        return;
+    QAccessibleValueChangeEvent changed(this, steps->text());
+    QAccessible::updateAccessibility(&changed);
+}
+
+void ClickLabel::activate(int button, int shift)
+{
+    const double x = width() * twipsPerPixel(this) / 2, y = height() * twipsPerPixel(this) / 2;  // the middle
+    if (MouseDown) {
+        guarded([&] { MouseDown(button, shift, x, y); });
+        announceStep();
+    }
+    if (button == LeftButton && Click)
+        guarded(Click);
 }
 
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
@@ -187,23 +243,29 @@ void ClickLabel::keyPressEvent(QKeyEvent* event)
         QLabel::keyPressEvent(event);
         return;
     }
-    const double x = width() * twipsPerPixel(this) / 2, y = height() * twipsPerPixel(this) / 2;  // the middle
-    if (MouseDown)
-        guarded([&] { MouseDown(left ? LeftButton : RightButton, shiftCode(event->modifiers()), x, y); });
-    if (left && Click)
-        guarded(Click);
+    activate(left ? LeftButton : RightButton, shiftCode(event->modifiers()));
+}
+
+void paintFocusRing(QWidget* widget)
+{
+    if (!widget->hasFocus())
+        return;
+    QPainter painter(widget);
+    painter.setPen(QPen(QColor(0x00, 0x00, 0x99), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(widget->rect()).adjusted(1, 1, -1, -1));
 }
 
 void ClickLabel::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QPainter painter(this);
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.rect = rect().adjusted(1, 1, -1, -1);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    paintFocusRing(this);
+}
+
+void ScrollBar::paintEvent(QPaintEvent* event)
+{
+    QScrollBar::paintEvent(event);
+    paintFocusRing(this);
 }
 
 ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(orientation, parent)

@@ -46,6 +46,9 @@ public:
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    // Ctrl+C copies the box's text only when some of it is selected; otherwise the key is left to
+    // the window (which copies its graph).
+    bool event(QEvent* event) override;
 
 private:
     void runChange();
@@ -64,6 +67,9 @@ public:
     void setColumnAlignment(int column, Qt::Alignment alignment);
     // Column widths and row heights at a form zoom (1 at the normal size).
     void applyZoom(double zoom);
+    // The grid as tab-separated lines for a spreadsheet: the heading row, then every row that holds
+    // a value beyond its first column.
+    QString tabSeparated() const;
 
 private:
     std::vector<double> columnTwips_;
@@ -83,6 +89,11 @@ public:
 
     // True when the label answers the mouse (and so, when focused, the keyboard too).
     bool interactive() const { return MouseDown || Click || DblClick; }
+    // For a stepper label, the box it steps (its value is what a screen reader says of the label).
+    TextBox* steps = nullptr;
+    // What the keyboard or an assistive tool does in place of a click: a press of `button` in the
+    // label's middle (MouseDown), then Click for the left button.
+    void activate(int button, int shift = 0);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -96,6 +107,8 @@ protected:
 private:
     // MouseDown for a press, at the press's position in twips.
     void raiseMouseDown(QMouseEvent* event);
+    // Tells assistive tools the stepped box's new value.
+    void announceStep();
     bool releaseEndsDoubleClick_ = false;
 };
 
@@ -105,6 +118,9 @@ public:
     ScrollBar(Qt::Orientation orientation, QWidget* parent);
     std::function<void()> Change;  // arrow or trough click, release of the thumb, program's change
     std::function<void()> Scroll;  // while the thumb is dragged
+    // What the bar's position means, as a screen reader should say it ("t = 1.008"); empty: the
+    // position itself.
+    std::function<QString()> Spoken;
     // The program's writes. Value outside Min..Max raises Invalid property value (380); a change of
     // Min or Max that moves the value runs Change. Max may lie below Min: the bar then runs the other
     // way, from Min at its start to Max at its end.
@@ -113,6 +129,9 @@ public:
     void setMin(int min);
     int Max() const { return max_; }
     int Min() const { return min_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;  // adds a focus ring
 
 private:
     void applyRange();
@@ -144,6 +163,10 @@ public:
 // leading blank) where a screen asks for that.
 enum class StepText { Plain, WithStr };
 void stepBox(TextBox* box, int Button, StepText text = StepText::Plain);
+
+// The ring drawn around a focused control the style marks too faintly: two pixels of dark blue,
+// at least 3:1 against white, grey and the stepper labels' light green.
+void paintFocusRing(QWidget* widget);
 
 // Numbers as label and box texts: Str, and Str without its blanks.
 QString qStr(double v);

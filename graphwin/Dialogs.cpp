@@ -85,3 +85,39 @@ void endProgram(int exitCode)
 }
 
 void setProgramEndHandler(std::function<void(int)> handler) { endHandler = std::move(handler); }
+
+namespace {
+int actionDepth = 0;
+int nextHookId = 1;
+std::vector<std::pair<int, std::function<void()>>>& actionHooks()
+{
+    static std::vector<std::pair<int, std::function<void()>>> hooks;
+    return hooks;
+}
+}  // namespace
+
+int addActionEndedHook(std::function<void()> hook)
+{
+    actionHooks().emplace_back(nextHookId, std::move(hook));
+    return nextHookId++;
+}
+
+void removeActionEndedHook(int id)
+{
+    auto& hooks = actionHooks();
+    std::erase_if(hooks, [id](const auto& entry) { return entry.first == id; });
+}
+
+detail::ActionScope::ActionScope() { ++actionDepth; }
+
+detail::ActionScope::~ActionScope()
+{
+    if (--actionDepth > 0)
+        return;
+    // A hook may add or remove hooks (a screen closing): run over a copy.
+    const auto hooks = actionHooks();
+    ++actionDepth;  // what a hook does is not an action of its own
+    for (const auto& [id, hook] : hooks)
+        hook();
+    --actionDepth;
+}

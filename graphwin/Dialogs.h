@@ -39,11 +39,25 @@ void endProgram(int exitCode);
 // Replaces what endProgram does (tests); nullptr restores the real ending.
 void setProgramEndHandler(std::function<void(int)> handler);
 
+// Runs once after each outermost user action has ended (the screens refresh what they tell a
+// screen reader there). Several can be registered; each returns its registration for removal.
+int addActionEndedHook(std::function<void()> hook);
+void removeActionEndedHook(int id);
+
+namespace detail {
+// Counts nested user actions; the outermost one's end runs the hooks.
+struct ActionScope {
+    ActionScope();
+    ~ActionScope();
+};
+}  // namespace detail
+
 // The one entry point of every user action: runs the handler and reports an uncaught run-time
 // error. Run-time errors never travel through the toolkit's own frames.
 template <class Handler>
 void guarded(Handler&& handler)
 {
+    detail::ActionScope scope;
     try {
         handler();
     } catch (const rt::RuntimeError& error) {

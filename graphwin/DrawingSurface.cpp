@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "graphwin/Dialogs.h"
@@ -144,6 +145,7 @@ double twipsPerPixel(const QWidget* widget)
 
 void DrawingSurface::Cls()
 {
+    ++clears_;
     image_.fill(BackColor);
     ops_.clear();
     kept_.clear();
@@ -297,6 +299,98 @@ void DrawingSurface::paintEvent(QPaintEvent*)
     dirty_ = false;
     QPainter painter(this);
     painter.drawImage(QRectF(QPointF(0, 0), QSizeF(width(), height())), image_);
+    if (!hasFocus() || focusArea_.isEmpty())
+        return;
+    // The focus frame and cross-hair are drawn over the picture, never into it.
+    const double k = 1.0 / twipsPerPixel(this);
+    const QRectF area(focusArea_.topLeft() * k, focusArea_.size() * k);
+    painter.setPen(QPen(QColor(0x00, 0x00, 0x99), 2));
+    painter.drawRect(area.adjusted(-2, -2, 2, 2));
+    if (!MouseDown)
+        return;
+    const QPointF at = pointer() * k;
+    painter.setPen(QPen(QColor(0xCC, 0x00, 0x00), 2));
+    painter.drawLine(QPointF(at.x() - 12, at.y()), QPointF(at.x() + 12, at.y()));
+    painter.drawLine(QPointF(at.x(), at.y() - 12), QPointF(at.x(), at.y() + 12));
+    painter.drawEllipse(at, 5, 5);
+}
+
+QImage DrawingSurface::picture(const QRectF& twips) const
+{
+    const QRect px = QRectF(toPx(twips.left()), toPx(twips.top()), twips.width() * pxPerTwip_, twips.height() * pxPerTwip_)
+                         .toAlignedRect()
+                         .intersected(image_.rect());
+    QImage copy = image_.copy(px);
+    copy.setDevicePixelRatio(1);
+    return copy;
+}
+
+void DrawingSurface::setFocusArea(const QRectF& area)
+{
+    focusArea_ = area;
+    pointerTwips_ = area.center();
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QPointF DrawingSurface::pointer() const
+{
+    // Snapped to the logical pixel a mouse would press, then converted as a press there is.
+    const double t = twipsPerPixel(this);
+    return {std::round(pointerTwips_.x() / t) * t, std::round(pointerTwips_.y() / t) * t};
+}
+
+void DrawingSurface::movePointer(double dxTwips, double dyTwips)
+{
+    const double x = std::clamp(pointerTwips_.x() + dxTwips, focusArea_.left(), focusArea_.right());
+    const double y = std::clamp(pointerTwips_.y() + dyTwips, focusArea_.top(), focusArea_.bottom());
+    pointerTwips_ = QPointF(x, y);
+    update();
+}
+
+void DrawingSurface::pressAtPointer(int button)
+{
+    if (!MouseDown)
+        return;
+    const QPointF at = pointer();
+    guarded([&] { MouseDown(button, 0, at.x(), at.y()); });
+}
+
+void DrawingSurface::keyPressEvent(QKeyEvent* event)
+{
+    // Keys a child left unused travel up to the surface: only its own focus moves the cross-hair.
+    if (!hasFocus() || focusArea_.isEmpty()) {
+        event->ignore();
+        return;
+    }
+    const double step = event->modifiers() & Qt::ControlModifier ? kPointerStep / 10 : kPointerStep;
+    switch (event->key()) {
+    case Qt::Key_Left: movePointer(-step, 0); break;
+    case Qt::Key_Right: movePointer(step, 0); break;
+    case Qt::Key_Up: movePointer(0, -step); break;
+    case Qt::Key_Down: movePointer(0, step); break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!MouseDown) {
+            event->ignore();
+            return;
+        }
+        pressAtPointer(event->modifiers() & Qt::ShiftModifier ? RightButton : LeftButton);
+        break;
+    default: event->ignore(); return;
+    }
+    event->accept();
+}
+
+void DrawingSurface::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void DrawingSurface::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    update();
 }
 
 void DrawingSurface::mousePressEvent(QMouseEvent* event)

@@ -82,6 +82,10 @@ public:
     void setRecording(bool on) { recording_ = on; }
     const std::vector<DrawOp>& ops() const { return ops_; }
 
+    // How many times the surface was cleared (a picture's identity for those who describe it).
+    std::uint64_t clears() const { return clears_; }
+    // A copy of the picture inside a twip rectangle, at the current resolution.
+    QImage picture(const QRectF& twips) const;
     // The colour shown at a twip point now.
     QRgb pixel(double xTwips, double yTwips) const;
     // Repaints at once (the animation shows each frame as it is drawn).
@@ -106,8 +110,22 @@ public:
     MouseHandler MouseDown;
     MouseHandler MouseMove;
 
+    // The keyboard's way into the graph. The surface is a Tab stop; when it has the focus a frame
+    // marks `area` (the graph square, in twips). Where the screen answers presses in the graph
+    // (MouseDown is set) a cross-hair shows too: arrow keys move it a twentieth of the square (Ctrl:
+    // a two-hundredth), Enter presses there as the left button would and Shift+Enter as the right.
+    void setFocusArea(const QRectF& area);
+    // The cross-hair's position in twips, exactly as a mouse press at that point reports it.
+    QPointF pointer() const;
+    void movePointer(double dxTwips, double dyTwips);
+    void pressAtPointer(int button);
+    static constexpr double kPointerStep = 320;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 
@@ -176,6 +194,9 @@ private:
     std::vector<KeptText> texts_;
     bool keptComplete_ = true;
     QRgb clsColor_ = 0xFFFFFFFFu;
+    QRectF focusArea_;
+    std::uint64_t clears_ = 0;
+    QPointF pointerTwips_;
 };
 
 // Twips per logical pixel for a widget placed on a surface: 15 at the normal size, less when the

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <QAction>
+#include <QApplication>
 #include <QFrame>
 #include <QGroupBox>
 #include <QScrollBar>
@@ -15,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormArea.h"
 #include "runtime/CountedLoop.h"
@@ -37,6 +39,24 @@ void placeTwips(QWidget* widget, double left, double top, double width, double h
     widget->setGeometry(static_cast<int>(std::lround(left / 15)), static_cast<int>(std::lround(top / 15)),
                         static_cast<int>(std::lround(width / 15)), static_cast<int>(std::lround(height / 15)));
 }
+
+namespace {
+
+// The screens that exist; after every action each one that is shown refreshes its description.
+std::vector<GraphScreen*>& liveScreens()
+{
+    static std::vector<GraphScreen*> screens;
+    return screens;
+}
+
+void refreshShownScreens()
+{
+    for (GraphScreen* screen : liveScreens())
+        if (screen->isVisible())
+            screen->refreshDescription();
+}
+
+}  // namespace
 
 GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 {
@@ -74,9 +94,19 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     buildCoefficients();
     buildButtons();
     buildMenus();
+
+    // Keyboard and assistive access: the graph square is a Tab stop, Ctrl+C copies the graph (or a
+    // focused grid), and the description follows every action.
+    installAccessibleInterfaces();
+    surface->setFocusArea(QRectF(config_.squareLeft, 100, 6400, 6400));
+    auto* copy = new QShortcut(QKeySequence::Copy, this);
+    connect(copy, &QShortcut::activated, this, [this] { guarded([this] { copyGraph(); }); });
+    static const int hook = addActionEndedHook(refreshShownScreens);
+    (void)hook;
+    liveScreens().push_back(this);
 }
 
-GraphScreen::~GraphScreen() = default;
+GraphScreen::~GraphScreen() { std::erase(liveScreens(), this); }
 
 ClickLabel* GraphScreen::makeLabel(const QString& caption, double left, double top, double width, double height)
 {
@@ -271,6 +301,12 @@ void GraphScreen::CleanGraph()
     }
 }
 
+void GraphScreen::plotFunction()
+{
+    noteDrawn(describeFamily() + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
+    plotColumns(FuncGlobals::YFunc);
+}
+
 void GraphScreen::plotColumns(double (*evaluate)(const double&))
 {
     const auto first = static_cast<std::int16_t>(config_.squareLeft + 1);
@@ -447,47 +483,12 @@ void GraphScreen::cmdExit_Click() { mnuExit_Click(); }
 
 void GraphScreen::mnuExit_Click() { hide(); }
 
-namespace {
-
-// A caption as a screen reader should say it: no mnemonic marks, no trailing "=" or ":".
-QString spoken(QString text)
-{
-    text.replace(QStringLiteral("&&"), QStringLiteral("\x1f"));
-    text.remove(QLatin1Char('&'));
-    text.replace(QStringLiteral("\x1f"), QStringLiteral("&"));
-    text = text.trimmed();
-    while (text.endsWith(QLatin1Char('=')) || text.endsWith(QLatin1Char(':')))
-        text.chop(1);
-    return text.trimmed();
-}
-
-// The label that names a control: the nearest one on its left in the same row, else the nearest one
-// above it, in the same parent.
-QLabel* labelFor(QWidget* control)
-{
-    QLabel* best = nullptr;
-    int bestDistance = 1 << 30;
-    const QRect r = control->geometry();
-    for (QLabel* label : control->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
-        const QRect l = label->geometry();
-        int distance = 1 << 30;
-        if (l.right() <= r.left() + 2 && l.bottom() > r.top() && l.top() < r.bottom())
-            distance = r.left() - l.right();
-        else if (l.bottom() <= r.top() + 2 && l.right() > r.left() && l.left() < r.right())
-            distance = 2 * (r.top() - l.bottom()) + 1;
-        if (distance < bestDistance && !spoken(label->text()).isEmpty()) {
-            bestDistance = distance;
-            best = label;
-        }
-    }
-    return bestDistance < 60 ? best : nullptr;
-}
-
-}  // namespace
 
 void GraphScreen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    // Focus is marked from the moment the window opens, not only after the first Tab.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     if (!arranged_) {
         arrangeForKeyboard();
         arranged_ = true;
@@ -515,13 +516,22 @@ void GraphScreen::arrangeForKeyboard()
     for (const auto& [label, verb, limit] : arrows)
         label->setAccessibleName(QStringLiteral("%1 %2 by one").arg(QString::fromLatin1(verb), QString::fromLatin1(limit)));
     surface->setAccessibleName(QStringLiteral("Graph"));
-    surface->setAccessibleDescription(QStringLiteral("The graph square and its drawings"));
+    refreshDescription();
 
-    std::vector<QWidget*> focusable;
+    // A stepper label steps the box beside it, and is named for what it does.
+    for (TextBox* box : surface->findChildren<TextBox*>()) {
+        auto* label = qobject_cast<ClickLabel*>(labelFor(box));
+        if (label && label->MouseDown && label->accessibleName().isEmpty()) {
+            label->steps = box;
+            label->setAccessibleName(QStringLiteral("raise or lower ") + spoken(label->text()));
+        }
+    }
+
+    std::vector<QWidget*> focusable{surface};
     for (QWidget* w : surface->findChildren<QWidget*>()) {
         if (auto* label = qobject_cast<ClickLabel*>(w)) {
-            if (label->accessibleName().isEmpty())
-                label->setAccessibleName(spoken(label->text()));
+            // A label keeps no name of its own unless it steps or moves something: it is read as its
+            // text, whatever a handler writes into it.
             if (label->interactive()) {
                 label->setFocusPolicy(Qt::StrongFocus);
                 focusable.push_back(label);
@@ -530,12 +540,12 @@ void GraphScreen::arrangeForKeyboard()
             if (button->accessibleName().isEmpty())
                 button->setAccessibleName(spoken(button->text()));
             focusable.push_back(button);
-        } else if (qobject_cast<QLineEdit*>(w) || qobject_cast<QScrollBar*>(w) || qobject_cast<QTableWidget*>(w)) {
+        } else if (qobject_cast<QLineEdit*>(w) || qobject_cast<ScrollBar*>(w) || qobject_cast<QTableWidget*>(w)) {
             if (w->accessibleName().isEmpty()) {
                 if (QLabel* label = labelFor(w))
                     w->setAccessibleName(spoken(label->text()));
             }
-            if (auto* bar = qobject_cast<QScrollBar*>(w))
+            if (auto* bar = qobject_cast<ScrollBar*>(w))
                 bar->setFocusPolicy(Qt::StrongFocus);
             focusable.push_back(w);
         } else if (auto* frame = qobject_cast<QGroupBox*>(w)) {
@@ -558,4 +568,80 @@ void GraphScreen::arrangeForKeyboard()
     std::stable_sort(focusable.begin(), focusable.end(), [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
     for (std::size_t i = 1; i < focusable.size(); ++i)
         QWidget::setTabOrder(focusable[i - 1], focusable[i]);
+    makeNamesUnique(focusable);
+}
+
+
+void GraphScreen::noteDrawn(const QString& what)
+{
+    if (drawnAfterClear_ != surface->clears()) {
+        drawn_.clear();
+        drawnBeyond_ = 0;
+        drawnAfterClear_ = surface->clears();
+    }
+    // A long run of plots is summarised rather than listed without end.
+    if (drawn_.size() < kMaxDescribed)
+        drawn_ << what;
+    else
+        ++drawnBeyond_;
+}
+
+QString GraphScreen::describe() const
+{
+    QStringList lines{windowTitle() + QLatin1Char('.')};
+    lines << QStringLiteral("Window: x from %1 to %2, y from %3 to %4.")
+                 .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
+    if (drawnAfterClear_ == surface->clears() && !drawn_.isEmpty()) {
+        for (const QString& what : drawn_)
+            lines << QStringLiteral("Drawn: ") + what + QLatin1Char('.');
+        if (drawnBeyond_ > 0)
+            lines << QStringLiteral("And %1 more drawings.").arg(drawnBeyond_);
+    }
+    describeResults(lines);
+    return lines.join(QLatin1Char('\n'));
+}
+
+void GraphScreen::describeResults(QStringList&) const {}
+
+QString GraphScreen::describeFamily() const
+{
+    using namespace FuncGlobals;
+    QString text = FunctionId >= 1 && FunctionId <= 15 ? QString::fromStdString(FuncCaption[FunctionId])
+                                                       : QStringLiteral("y = 0 (no function chosen)");
+    const TextBox* boxes[6] = {txtA, txtB, txtC, txtD, txtE, txtF};
+    QStringList values;
+    for (int i = 0; i < config_.coefficientCount; ++i)
+        if (boxes[i])
+            values << QStringLiteral("%1 = %2").arg(QChar::fromLatin1(static_cast<char>('A' + i))).arg(boxes[i]->text());
+    return text + QStringLiteral(" with ") + values.join(QStringLiteral(", "));
+}
+
+void GraphScreen::refreshDescription()
+{
+    const QString now = describe();
+    if (now != surface->accessibleDescription())
+        surface->setAccessibleDescription(now);
+    for (ScrollBar* bar : surface->findChildren<ScrollBar*>()) {
+        if (!bar->Spoken)
+            continue;
+        QString meaning;
+        try {
+            meaning = bar->Spoken();
+        } catch (const rt::RuntimeError&) {
+            continue;
+        }
+        if (meaning != bar->accessibleDescription())
+            bar->setAccessibleDescription(meaning);
+    }
+}
+
+void GraphScreen::copyGraph()
+{
+    if (auto* grid = qobject_cast<Grid*>(QApplication::focusWidget())) {
+        copyToClipboard(grid->tabSeparated());
+        return;
+    }
+    const double L = config_.squareLeft;
+    copyToClipboard(surface->picture(QRectF(L, config_.frameTop, 6405, 6405 + (100 - config_.frameTop))),
+                    describe());
 }

@@ -12,6 +12,7 @@
 
 #include <QDialog>
 #include <QString>
+#include <QStringList>
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Controls.h"
@@ -134,6 +135,15 @@ public:
     // shown.
     void arrangeForKeyboard();
 
+    // What the screen shows, in words, from what its handlers hold: the window, what is drawn since
+    // the last clear and the screen's results. It is the graph's accessible description (refreshed
+    // after every action) and the text that Ctrl+C copies with the picture.
+    QString describe() const;
+    void refreshDescription();
+    // Ctrl+C: a focused grid as tab-separated text; otherwise the graph square as an image at the
+    // window's resolution, with the description.
+    void copyGraph();
+
 protected:
     void showEvent(QShowEvent* event) override;
     explicit GraphScreen(Config config);
@@ -142,7 +152,7 @@ protected:
     int squareLeft() const { return config_.squareLeft; }
 
     // The explicit family's plot over the square's columns, in QBColor(FunctionId mod 7).
-    void plotFunction() { plotColumns(FuncGlobals::YFunc); }
+    void plotFunction();
     // The same column walk for any evaluator of the selected family (the derivative, say).
     void plotColumns(double (*evaluate)(const double&));
     // Places a button in the screen's right-hand column of buttons, at the given top.
@@ -164,6 +174,12 @@ protected:
     void showHelp(std::initializer_list<std::pair<const char*, const char*>> boxes);
     // Adds a top-level menu to the menu bar.
     QMenu* addMenu(const QString& caption);
+    // Adds the screen's own results to its description, a line each.
+    virtual void describeResults(QStringList& lines) const;
+    // Records what was drawn, for the description (cleared with the picture).
+    void noteDrawn(const QString& what);
+    // The selected family's caption with the coefficients' values.
+    QString describeFamily() const;
     // A plain label on the surface.
     ClickLabel* makeLabel(const QString& caption, double left, double top, double width, double height);
 
@@ -181,5 +197,9 @@ private:
 
     Config config_;
     bool arranged_ = false;
+    QStringList drawn_;
+    std::uint64_t drawnAfterClear_ = 0;
+    int drawnBeyond_ = 0;
+    static constexpr int kMaxDescribed = 12;
     class FormArea* formArea_ = nullptr;
 };

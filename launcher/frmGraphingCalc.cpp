@@ -60,8 +60,14 @@ frmGraphingCalc::frmGraphingCalc()
     cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
     layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
 
-    for (QPushButton* b : findChildren<QPushButton*>())
+    // Enter presses the focused button, as Space does (outside a dialog a button answers only Space
+    // unless it is an auto-default button).
+    for (QPushButton* b : findChildren<QPushButton*>()) {
         b->setMinimumSize(240, 40);
+        b->setAutoDefault(true);
+    }
+    // Focus is marked from the start, not only after the first Tab.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     // Tab follows the buttons in teaching order, Quit last.
     QWidget* previous = nullptr;
     for (int i = 0; i < grid_->count(); ++i) {

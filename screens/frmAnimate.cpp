@@ -82,6 +82,9 @@ frmAnimate::frmAnimate() : GraphScreen(animateConfig())
     txtSteps->Change = [this] { txtSteps_Change(); };
     vscStep->Change = [this] { vscStep_Change(); };
     vscStep->Scroll = [this] { vscStep_Scroll(); };
+    vscStep->Spoken = [this] { return tickedLetters() + QStringLiteral(" = ") + lblSlide->text(); };
+    vscStep->setAccessibleName(QStringLiteral("Animation frame"));
+    cmdClearIt->setAccessibleName(QStringLiteral("Erase Graph, animation panel"));
     Form_Load();
 }
 
@@ -200,4 +203,27 @@ void frmAnimate::mnuAbout_Click()
          "Notice the < and > green labels next to the window limits.  Clicking on the Arrows will increase or decrease "
          "the window limit by one.  Double clicking will increase or decrease it by 5."},
     });
+}
+
+QString frmAnimate::tickedLetters() const
+{
+    const CheckBox* checks[] = {chkA, chkB, chkC, chkD, chkE};
+    QStringList letters;
+    for (const CheckBox* check : checks)
+        if (check->isChecked())
+            letters << check->text();
+    return letters.join(QStringLiteral(", "));
+}
+
+void frmAnimate::describeResults(QStringList& lines) const
+{
+    const OptionButton* options[] = {optSteps, optStepErase, optCont, optContErase};
+    QString mode;
+    for (const OptionButton* option : options)
+        if (option->isChecked())
+            mode = option->text();
+    lines << QStringLiteral("Animating %1 of %2 from %3 to %4 in %5 steps, %6.")
+                 .arg(tickedLetters().isEmpty() ? QStringLiteral("no coefficient") : tickedLetters(), describeFamily(),
+                      txtStart->text(), txtEnd->text(), txtSteps->text(), mode);
+    lines << QStringLiteral("Frame value %1; %2.").arg(lblSlide->text(), lblClickAnimate->text());
 }

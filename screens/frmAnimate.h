@@ -48,4 +48,9 @@ private:
     void setTickedCoefficients(double value);
     void UpdateStatus();
     bool continuous() const { return optCont->isChecked() || optContErase->isChecked(); }
+
+protected:
+    // The ticked coefficients' letters, "A, C".
+    QString tickedLetters() const;
+    void describeResults(QStringList& lines) const override;
 };

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
@@ -546,4 +547,14 @@ void frmFlowField::mnuAbout_Click()
          "may also make the plotting Bi-Directional by checking that box.  You may have to wait for the screen to "
          "change since it will graph all at once."},
     });
+}
+
+void frmFlowField::describeResults(QStringList& lines) const
+{
+    const OptionButton* method = optRunga4->isChecked() ? optRunga4 : optRunga2->isChecked() ? optRunga2 : optEuler;
+    lines << QStringLiteral("Rates: %1; %2.").arg(lbldy->text(), lbldx->text());
+    lines << (optApprox->isChecked()
+                  ? QStringLiteral("Purpose: approximation by %1, %2 %3.").arg(spoken(method->text()), spoken(lblDeltaX->text()), txtDelta->text())
+                  : QStringLiteral("Purpose: smooth curves."));
+    lines << lblPos->text().trimmed() << lblEndpt->text().trimmed();
 }

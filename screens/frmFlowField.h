@@ -81,6 +81,7 @@ public:
 
 protected:
     void coefficientChanged(int index) override;
+    void describeResults(QStringList& lines) const override;
 
 private:
     IntegralCurves::Settings settings() const;

@@ -74,6 +74,7 @@ frmMVT::frmMVT() : GraphScreen(mvtConfig())
     txtX1->Change = [this] { txtX1_Change(); };
     txtX2->Change = [this] { txtX2_Change(); };
     HscMVT->Change = [this] { HscMVT_Change(); };
+    HscMVT->Spoken = [this] { return lblFindc->text().trimmed(); };
     lblFindc->Click = [this] { lblFindc_Click(); };
     Form_Load();
 }
@@ -246,4 +247,18 @@ void frmMVT::mnuAbout_Click()
          "may be missed due the accuracy when scannning through the function for the points.  This usually does not "
          "happen unless your interval is wide and there are rapid fluctuations like sin(20x)."},
     });
+}
+
+void frmMVT::describeResults(QStringList& lines) const
+{
+    lines << QStringLiteral("Mean value theorem for ") + describeFamily() + QStringLiteral(" on [") + txtX1->text() +
+                 QStringLiteral(", ") + txtX2->text() + QStringLiteral("].");
+    lines << QStringLiteral("Secant from %1 to %2, %3.").arg(lblPt1->text(), lblPt2->text(), lblSlope1->text());
+    lines << QStringLiteral("Slider point %1, %2.").arg(lblFindc->text().trimmed(), lblSlope2->text());
+    QStringList found;
+    for (int r = 1; r < gridC->rowCount(); ++r)
+        if (!gridC->cell(r, 0).isEmpty())
+            found << QStringLiteral("c = %1, f(c) = %2, m = %3").arg(gridC->cell(r, 0), gridC->cell(r, 1), gridC->cell(r, 2));
+    if (!found.isEmpty())
+        lines << QStringLiteral("Found: ") + found.join(QStringLiteral("; ")) + QLatin1Char('.');
 }

@@ -37,4 +37,7 @@ public:
 
 private:
     void keepInWindow(TextBox* box, ClickLabel* echo);
+
+protected:
+    void describeResults(QStringList& lines) const override;
 };

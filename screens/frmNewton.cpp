@@ -124,3 +124,14 @@ void frmNewton::mnuAbout_Click()
         {"Change and Continue", "Zoom in or change the window and Apply again."},
     });
 }
+
+void frmNewton::describeResults(QStringList& lines) const
+{
+    QStringList guesses;
+    for (int r = 1; r < grdGuess->rowCount(); ++r)
+        if (!grdGuess->cell(r, 1).isEmpty())
+            guesses << QStringLiteral("%1: %2").arg(grdGuess->cell(r, 0), grdGuess->cell(r, 1));
+    lines << QStringLiteral("Newton's method on ") + describeFamily() + QLatin1Char('.');
+    lines << (guesses.isEmpty() ? QStringLiteral("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
+                                : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
+}

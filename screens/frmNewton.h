@@ -30,4 +30,5 @@ public:
 
 protected:
     void coefficientChanged(int index) override;
+    void describeResults(QStringList& lines) const override;
 };

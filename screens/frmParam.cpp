@@ -101,6 +101,7 @@ frmParam::frmParam() : GraphScreen(paramConfig())
     txtTstep->Change = [this] { txtTstep_Change(); };
     txtT->Change = [this] { txtT_Change(); };
     HscT->Change = [this] { HscT_Change(); };
+    HscT->Spoken = [this] { return QStringLiteral("t = ") + txtT->text(); };
     Form_Load();
 }
 
@@ -258,4 +259,16 @@ void frmParam::mnuAbout_Click()
          "enlarge the size by a factor of 2.  You may change the window size by clicking on any of the boxes showing "
          "teh ranges for x and y."},
     });
+}
+
+void frmParam::describeResults(QStringList& lines) const
+{
+    const auto& k = FuncGlobals::Coefficients;
+    lines << QStringLiteral("Parametric curve %1, %2 with A = %3, B = %4, C = %5, D = %6, E = %7, F = %8.")
+                 .arg(lblXPar->text(), lblYPar->text(), qTrimStr(k.A), qTrimStr(k.B), qTrimStr(k.C), qTrimStr(k.D),
+                      qTrimStr(k.E), qTrimStr(k.F));
+    lines << QStringLiteral("t from %1 to %2 in steps of %3, %4.")
+                 .arg(txtT0->text(), txtTn->text(), txtTstep->text(), optCont->isChecked() ? QStringLiteral("connected points")
+                                                                                        : QStringLiteral("separate points"));
+    lines << QStringLiteral("Trace at t = %1: %2.").arg(txtT->text(), lblXY->text());
 }

@@ -51,4 +51,7 @@ private:
     bool inside(double column, double row) const;
     QMenu* xMenu_ = nullptr;
     QMenu* yMenu_ = nullptr;
+
+protected:
+    void describeResults(QStringList& lines) const override;
 };

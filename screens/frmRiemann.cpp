@@ -318,3 +318,15 @@ void frmRiemann::mnuAbout_Click()
          "the window limit by one.  Double clicking will increase or decrease it by 5."},
     });
 }
+
+void frmRiemann::describeResults(QStringList& lines) const
+{
+    lines << QStringLiteral("Area under %1 from %2 to %3 with %4 partitions: %5.")
+                 .arg(describeFamily(), txtLBound->text(), txtRBound->text(), txtParts->text(), lblAreas->text());
+    const std::pair<const CheckBox*, const ClickLabel*> methods[] = {
+        {chkLeft, lblLeftE}, {chkRight, lblRightE}, {chkMid, lblMid},          {chkTrap, lblTrap},
+        {chkRandom, lblRnd}, {chkSimpson, lblSimpson}, {chkRiemann, lblRiemann}};
+    for (const auto& [check, result] : methods)
+        lines << QStringLiteral("%1%2: %3").arg(check->text(), check->isChecked() ? QStringLiteral(" (ticked)") : QString(),
+                                              result->text());
+}

@@ -58,4 +58,7 @@ public:
 private:
     void buildSumsPanel();
     void showResult(ClickLabel* label, const RiemannSums::Result& result);
+
+protected:
+    void describeResults(QStringList& lines) const override;
 };

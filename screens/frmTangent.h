@@ -26,4 +26,7 @@ public:
     void lblXat_MouseDown(int Button, int Shift, double X, double Y);
     void lblDeltaX_MouseDown(int Button, int Shift, double X, double Y);
     void mnuAbout_Click() override;
+
+protected:
+    void describeResults(QStringList& lines) const override;
 };

@@ -5,6 +5,7 @@
 //
 // PLOTTO_SEED and PLOTTO_ACTIONS choose the walk (defaults 20261122 and 20000). PLOTTO_SEED=fresh
 // draws a new seed and prints it first, so that a failing walk can be replayed with that seed.
+#include <QAccessible>
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -49,7 +50,7 @@ const std::vector<QString>& corpus()
 }
 
 struct Control {
-    enum Kind { Box, Button, Label, Check, Option, Scroll, Menu, Surface, Resize } kind;
+    enum Kind { Box, Button, Label, Check, Option, Scroll, Menu, Surface, Resize, GraphKeys, Assist, Copy } kind;
     QObject* object;
     QString name;
 };
@@ -117,6 +118,14 @@ struct Walk {
                     list.push_back({Control::Menu, entry, entry->text()});
         list.push_back({Control::Surface, s.surface, QStringLiteral("surface")});
         list.push_back({Control::Resize, s.surface, QStringLiteral("window")});
+        list.push_back({Control::GraphKeys, s.surface, QStringLiteral("graph from the keyboard")});
+        // What a screen reader does: press a label's button actions; and Ctrl+C anywhere.
+        for (ClickLabel* w : s.findChildren<ClickLabel*>())
+            if (w->interactive())
+                list.push_back({Control::Assist, w, w->text()});
+        for (QWidget* w : s.findChildren<QWidget*>())
+            if (qobject_cast<TextBox*>(w) || qobject_cast<Grid*>(w) || w == s.surface)
+                list.push_back({Control::Copy, w, QStringLiteral("Ctrl+C")});
         s.Form_Activate();
     }
 
@@ -124,7 +133,8 @@ struct Walk {
     // numbers too large wherever a box is read or a computation runs, plus each screen's own.
     std::set<int> allowed(std::size_t screen, const Control& c) const
     {
-        if (c.kind == Control::Check || c.kind == Control::Option || c.kind == Control::Resize)
+        if (c.kind == Control::Check || c.kind == Control::Option || c.kind == Control::Resize ||
+            c.kind == Control::Copy)
             return {};
         if (c.kind == Control::Menu) {
             const QString t = static_cast<QAction*>(c.object)->text();
@@ -207,6 +217,33 @@ struct Walk {
             const QSize room(side[pick(10)] + pick(50), side[pick(10)] + pick(50));
             what += "resizes the window to " + std::to_string(room.width()) + "x" + std::to_string(room.height());
             s.surface->setZoom(FormArea::fittingZoom(s.surface->normalSize(), room));
+            break;
+        }
+        case Control::GraphKeys: {
+            const Qt::Key keys[] = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Return};
+            const Qt::KeyboardModifiers mods[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
+            const int n = 1 + pick(6);
+            what += "presses " + std::to_string(n) + " keys in the graph";
+            w->setFocus();
+            for (int k = 0; k < n; ++k)
+                QTest::keyClick(w, keys[pick(5)], mods[pick(3)]);
+            break;
+        }
+        case Control::Assist: {
+            QAccessibleActionInterface* actions = QAccessible::queryAccessibleInterface(w)->actionInterface();
+            const QStringList names = actions->actionNames();
+            const QString name = names[pick(static_cast<int>(names.size()))];
+            what += "runs the accessible action " + name.toStdString() + " of label \"" + c.name.toStdString() + "\"";
+            actions->doAction(name);
+            break;
+        }
+        case Control::Copy: {
+            what += "presses Ctrl+C in a " + std::string(w->metaObject()->className());
+            w->setFocus();
+            if (auto* box = qobject_cast<TextBox*>(w); box && pick(2) == 0)
+                box->selectAll();
+            QTest::keyClick(w, Qt::Key_C, Qt::ControlModifier);
+            s.refreshDescription();  // what a screen reader reads, whether or not the window is shown
             break;
         }
         case Control::Surface: {
