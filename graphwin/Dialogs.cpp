@@ -87,7 +87,6 @@ void endProgram(int exitCode)
 void setProgramEndHandler(std::function<void(int)> handler) { endHandler = std::move(handler); }
 
 namespace {
-int actionDepth = 0;
 int nextHookId = 1;
 std::vector<std::pair<int, std::function<void()>>>& actionHooks()
 {
@@ -108,16 +107,20 @@ void removeActionEndedHook(int id)
     std::erase_if(hooks, [id](const auto& entry) { return entry.first == id; });
 }
 
-detail::ActionScope::ActionScope() { ++actionDepth; }
+detail::ActionScope::ActionScope() = default;
 
 detail::ActionScope::~ActionScope()
 {
-    if (--actionDepth > 0)
+    // Every action's end counts, not only the outermost one's: a screen opened modally from a
+    // launcher click runs all its own actions inside that click. A hook's own work is no action.
+    static bool running = false;
+    if (running)
         return;
-    // A hook may add or remove hooks (a screen closing): run over a copy.
-    const auto hooks = actionHooks();
-    ++actionDepth;  // what a hook does is not an action of its own
+    struct Running {
+        Running() { running = true; }
+        ~Running() { running = false; }
+    } mark;
+    const auto hooks = actionHooks();  // a hook may add or remove hooks: run over a copy
     for (const auto& [id, hook] : hooks)
         hook();
-    --actionDepth;
 }

@@ -39,13 +39,13 @@ void endProgram(int exitCode);
 // Replaces what endProgram does (tests); nullptr restores the real ending.
 void setProgramEndHandler(std::function<void(int)> handler);
 
-// Runs once after each outermost user action has ended (the screens refresh what they tell a
-// screen reader there). Several can be registered; each returns its registration for removal.
+// Runs after each user action has ended, nested ones included (the screens refresh what they tell
+// a screen reader there). Several can be registered; each returns its registration for removal.
 int addActionEndedHook(std::function<void()> hook);
 void removeActionEndedHook(int id);
 
 namespace detail {
-// Counts nested user actions; the outermost one's end runs the hooks.
+// Marks a user action; its end runs the hooks.
 struct ActionScope {
     ActionScope();
     ~ActionScope();

@@ -69,6 +69,7 @@ frmMVT::frmMVT() : GraphScreen(mvtConfig())
     cmdAnimateIt = makeButton(fraFindPt, QStringLiteral("Find c"), [this] { cmdAnimateIt_Click(); });
     placeTwips(cmdAnimateIt, 120, 1920, kInner, 420);
     gridC = new Grid(fraFindPt, kGridRows, 3);
+    gridC->setAccessibleName(QStringLiteral("Values of c"));
     placeTwips(gridC, 120, 2460, kInner, 2940);
 
     txtX1->Change = [this] { txtX1_Change(); };

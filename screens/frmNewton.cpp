@@ -36,6 +36,7 @@ frmNewton::frmNewton() : GraphScreen(newtonConfig())
 void frmNewton::Form_Load()
 {
     GraphScreen::Form_Load();
+    grdGuess->setAccessibleName(QStringLiteral("Guesses"));
     grdGuess->setCell(0, 0, QStringLiteral("Guess #"));
     grdGuess->setCell(0, 1, QStringLiteral("Value"));
     grdGuess->setColumnWidthTwips(0, 670);

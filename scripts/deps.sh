@@ -9,6 +9,7 @@ PACKAGES=(
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-liberation fonts-dejavu-core
   xvfb xauth imagemagick python3
+  openbox xdotool xclip dbus at-spi2-core python3-pyatspi
 )
 
 missing=()

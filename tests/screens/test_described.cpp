@@ -171,6 +171,7 @@ TEST_P(Described, FocusableControlsHaveUniqueNamesAndTabLeavesEveryGrid)
         EXPECT_FALSE(name.isEmpty()) << w->metaObject()->className();
         EXPECT_TRUE(names.insert(name).second) << "repeated name " << str(name);
     }
+    GetParam().act(s);  // a grid that holds results lets Tab go too
     for (Grid* grid : s.surface->findChildren<Grid*>()) {
         grid->setFocus();
         QTest::keyClick(grid, Qt::Key_Tab);
@@ -312,5 +313,27 @@ TEST(Keyboard, EnterPressesTheFocusedLauncherButton)
         QTest::keyClick(launcher.cmdTangent, Qt::Key_Return);
         EXPECT_TRUE(opened);
     }
+    setDialogScript(nullptr);
+}
+
+// The sums screen keeps its own caption but shares the selected family with every screen: after the
+// grapher has been opened (its loading selects family 1), the sums' boxes A = 1, B = 0, C = 0 give
+// y = 1(0x - 0)^2 + 0 = 0 and every area is 0. The description says which family is really used.
+TEST(Described, TheSumsUseTheSharedFamilyAndTheDescriptionSaysWhich)
+{
+    DialogScript script;
+    setDialogScript(&script);
+    FuncGlobals::Coefficients = {};
+    Shown sums(std::make_unique<frmRiemann>());
+    auto& s = static_cast<frmRiemann&>(*sums.screen);
+    frmClasses grapher;  // loaded after the sums screen: the shared family is now 1
+    s.Form_Activate();
+    s.txtLBound->setText(QStringLiteral("0"));
+    s.txtRBound->setText(QStringLiteral("2"));
+    s.chkLeft->setChecked(true);
+    s.cmdParts->click();
+    EXPECT_EQ(s.lblFunction->text(), QStringLiteral("y = Ax^2 + Bx + C"));
+    EXPECT_EQ(s.lblLeftE->text(), QStringLiteral("=  0"));
+    EXPECT_TRUE(described(s).contains(QStringLiteral("Area under y = A * (Bx - C)^2 + D with A = 1, B = 0"))) << str(described(s));
     setDialogScript(nullptr);
 }

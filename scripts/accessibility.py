@@ -1,0 +1,226 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Checks Plotto through the desktop accessibility interface (AT-SPI), as a screen reader sees it.
+
+Run by scripts/accessibility.sh inside a private X server and session bus. Opens every screen from
+the launcher with the keyboard, performs its main action, and checks that the graph's description
+names the function and the results, that the result labels read what the screen shows, that every
+focusable control has a name of its own, and that Tab leaves every grid. It prints what a screen
+reader would read (the transcript) and exits non-zero on the first failed check.
+"""
+import subprocess
+import sys
+import time
+
+import pyatspi
+
+failures = []
+
+
+def check(ok, what):
+    print(("  ok    " if ok else "  FAIL  ") + what)
+    if not ok:
+        failures.append(what)
+
+
+def key(*keys, pause=0.4):
+    subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
+    time.sleep(pause)
+
+
+def walk(node, depth=0):
+    yield node, depth
+    for i in range(node.childCount):
+        child = node.getChildAtIndex(i)
+        if child is not None:
+            yield from walk(child, depth + 1)
+
+
+def app():
+    for _ in range(50):
+        for a in pyatspi.Registry.getDesktop(0):
+            if a is not None and a.name == "Plotto":
+                return a
+        time.sleep(0.2)
+    sys.exit("Plotto did not appear on the accessibility bus")
+
+
+def window(title):
+    for _ in range(50):
+        for w in app():
+            if w is not None and w.name == title and w.getState().contains(pyatspi.STATE_SHOWING):
+                return w
+        time.sleep(0.2)
+    sys.exit("no window " + title)
+
+
+def find(win, name, role=None):
+    roles = role if isinstance(role, tuple) else (role,)
+    for node, _ in walk(win):
+        if node.name == name and (role is None or node.getRole() in roles):
+            return node
+    sys.exit("no control named %r in %s" % (name, win.name))
+
+
+def press(win, name):
+    """Moves the focus to a control by its accessible name and presses Space, as a keyboard user."""
+    find(win, name, (pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON)).queryComponent().grabFocus()
+    time.sleep(0.2)
+    key("space")
+
+
+def type_into(win, name, text):
+    box = find(win, name, pyatspi.ROLE_TEXT)
+    box.queryComponent().grabFocus()
+    key("ctrl+a")
+    subprocess.run(["xdotool", "type", "--delay", "30", text], check=True)
+    time.sleep(0.4)
+
+
+def labels(win):
+    return [n.name for n, _ in walk(win) if n.getRole() == pyatspi.ROLE_LABEL and n.name]
+
+
+def graph(win):
+    return find(win, "Graph")
+
+
+def check_names_and_grids(win):
+    names = {}
+    for node, _ in walk(win):
+        state = node.getState()
+        if not (state.contains(pyatspi.STATE_FOCUSABLE) and state.contains(pyatspi.STATE_SHOWING)):
+            continue
+        if node.getRole() in (pyatspi.ROLE_TABLE_CELL, pyatspi.ROLE_TABLE_COLUMN_HEADER, pyatspi.ROLE_MENU_ITEM,
+                              pyatspi.ROLE_MENU, pyatspi.ROLE_MENU_BAR):
+            continue
+        names.setdefault(node.name, []).append(node.getRoleName())
+    nameless = names.get("", [])
+    check(not nameless, "every focusable control has a name (nameless: %s)" % nameless)
+    repeated = {n: r for n, r in names.items() if n and len(r) > 1}
+    check(not repeated, "no two focusable controls share a name (repeated: %s)" % repeated)
+    for node, _ in walk(win):
+        if node.getRole() == pyatspi.ROLE_TABLE and node.getState().contains(pyatspi.STATE_SHOWING):
+            # Tab until the grid has the focus (a keyboard user's way in), then once more.
+            for _ in range(80):
+                if node.getState().contains(pyatspi.STATE_FOCUSED):
+                    break
+                key("Tab", pause=0.15)
+            check(node.getState().contains(pyatspi.STATE_FOCUSED), "Tab reaches the grid %r" % node.name)
+            key("Tab")
+            focused = [(n.getRoleName(), n.name) for n, _ in walk(win) if n.getState().contains(pyatspi.STATE_FOCUSED)]
+            check(not node.getState().contains(pyatspi.STATE_FOCUSED),
+                  "Tab leaves the grid %r (focus now on %s)" % (node.name, focused))
+            headers = [node.queryTable().getColumnDescription(c) for c in range(node.queryTable().nColumns)]
+            check(all(headers), "the grid's columns have headers: %s" % headers)
+
+
+def read_screen(win, transcript):
+    if transcript:
+        print("  --- what a screen reader reads ---")
+        for node, depth in walk(win):
+            if node.getRole() in (pyatspi.ROLE_LABEL, pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_TEXT,
+                                  pyatspi.ROLE_CHECK_BOX, pyatspi.ROLE_RADIO_BUTTON, pyatspi.ROLE_SCROLL_BAR):
+                extra = ""
+                if node.getRole() == pyatspi.ROLE_TEXT:
+                    t = node.queryText()
+                    extra = " = " + t.getText(0, t.characterCount)
+                elif node.getRole() == pyatspi.ROLE_PUSH_BUTTON and node.queryAction().nActions > 1:
+                    try:
+                        extra = " value " + node.queryValue().currentValue.__str__()
+                    except NotImplementedError:
+                        pass
+                print("    %s %s%s" % (node.getRoleName(), node.name, extra))
+        print("    graph: " + graph(win).description.replace("\n", "\n           "))
+
+
+def screen(button, title, act, expect, transcript=False):
+    launcher = window("Plotto!   Calculus Calculator")
+    find(launcher, button, pyatspi.ROLE_PUSH_BUTTON).queryComponent().grabFocus()
+    time.sleep(0.2)
+    key("Return")  # Enter presses the focused launcher button
+    win = window(title)
+    print("%s:" % title)
+    act(win)
+    time.sleep(0.5)
+    description = graph(win).description
+    shown = labels(win)
+    for text in expect(win):
+        check(text in description, "the description names %r" % text)
+    for text in [t for t in shown if t.startswith(RESULT_PREFIXES)]:
+        check(text.strip() in description, "result label %r is read and described" % text)
+    check_names_and_grids(win)
+    read_screen(win, transcript)
+    key("Escape")
+
+
+RESULT_PREFIXES = ("= ", "EndPt", "y = ", "slope = ", "Slope =", "x = ", "( ")
+
+
+def sums(win):
+    for method in ("Left Endpoint", "Right Endpoint", "Midpoint", "Trapezoidal", "Simpson's"):
+        press(win, method)
+    type_into(win, "Number of Partitions", "4")
+    press(win, "Graph Partitions")
+
+
+def field(win):
+    find(win, "Graph").queryComponent().grabFocus()
+    time.sleep(0.2)
+    key("Right", "Right", "Up", "Return")
+
+
+def mvt(win):
+    type_into(win, "Left endpt", "0")
+    type_into(win, "Right endpt", "2")
+    press(win, "Apply to Graph")
+    press(win, "Find c")
+
+
+def newton(win):
+    type_into(win, "Guess", "3")
+    press(win, "Apply Newton's")
+    press(win, "Apply Newton's")
+
+
+def grapher(win):
+    a = find(win, "raise or lower A")
+    action = a.queryAction()
+    names = [action.getName(i) for i in range(action.nActions)]
+    print("    stepper actions: %s" % names)
+    check("Increase" in names and "Decrease" in names, "the stepper label offers increase and decrease")
+    action.doAction(names.index("Increase"))
+    time.sleep(0.3)
+    check(find(win, "A", pyatspi.ROLE_TEXT).queryText().getText(0, -1) == "2", "the stepper raised A to 2")
+    press(win, "Plotto!")
+    key("ctrl+c")  # the focus is on the plot button: the graph and its description are copied
+    clip = ["xclip", "-selection", "clipboard", "-o"]
+    targets = subprocess.run(clip + ["-t", "TARGETS"], capture_output=True, text=True, timeout=10).stdout.split()
+    check("image/png" in targets, "Ctrl+C offers the graph as image/png (targets: %s)" % " ".join(targets))
+    text = subprocess.run(clip + ["-t", "UTF8_STRING"], capture_output=True, text=True, timeout=10).stdout
+    check("y = A * (Bx - C)^2 + D with A = 2" in text, "Ctrl+C offers the description as text: %r" % text[:120])
+
+
+def main():
+    app()
+    screen("Graph Classes of Functions", "Graphing Classes of Functions", grapher,
+           lambda w: ["y = A * (Bx - C)^2 + D with A = 2", "Drawn:"])
+    screen("Riemann Sums + Others", "Riemann and Other Sums", sums,
+           lambda w: ["y = Ax^2 + Bx + C", "with 4 partitions", "Left Endpoint (ticked): = "], transcript=True)
+    screen("Newton's Method", "Newton's Method and Derivatives", newton, lambda w: ["Guesses: 1: 3; 2: "])
+    screen("Slope Fields", "Slope Fields", field, lambda w: ["dy = Ax + By + C", "EndPt ("], transcript=True)
+    screen("Tangent Line Problem", "The Tangent Line Problem", lambda w: press(w, "Apply to graph"),
+           lambda w: ["Secant through ( 1, 1) to ( 2, 4): y = 3x + -2"])
+    screen("The Mean Value Theorem", "The Mean Value Theorem", mvt, lambda w: ["on [0, 2]", "Found: c = "])
+    screen("Parametric Graphing", "Parametric Equation graphing", lambda w: press(w, "Plotto!"),
+           lambda w: ["Parametric curve", "Trace at t = "])
+    screen("Animate Graphs", "Animate Classes of Functions", lambda w: press(w, "Animate It!"),
+           lambda w: ["Animating A of", "Frame value"])
+    if failures:
+        print("%d accessibility check(s) failed" % len(failures))
+        sys.exit(1)
+    print("accessibility: every check passed")
+
+
+if __name__ == "__main__":
+    main()
