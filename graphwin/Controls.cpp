@@ -244,6 +244,10 @@ void ClickLabel::keyPressEvent(QKeyEvent* event)
         return;
     }
     activate(left ? LeftButton : RightButton, shiftCode(event->modifiers()));
+    // Shift with a pressing key stands for a double click where the label answers one (the limit
+    // arrows: a click and a double click, five steps in all).
+    if (left && event->modifiers() & Qt::ShiftModifier && DblClick)
+        guarded(DblClick);
 }
 
 void paintFocusRing(QWidget* widget)

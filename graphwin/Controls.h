@@ -100,7 +100,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     // From the keyboard: Up, Right, +, Space and Enter act as a left click (MouseDown, then Click);
-    // Down, Left and - as a right press (MouseDown with the right button).
+    // Down, Left and - as a right press (MouseDown with the right button); with Shift, a left key
+    // also raises DblClick, as the second click of a double click would.
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -108,6 +108,8 @@ TEST_F(GrapherKeys, SteppersStepFromTheKeyboard)
     EXPECT_EQ(screen->txtA->text(), QStringLiteral("0"));
     QTest::keyClick(screen->lblXmaxR, Qt::Key_Space);  // the arrow's click
     EXPECT_EQ(screen->txtXmax->text(), QStringLiteral("11"));
+    QTest::keyClick(screen->lblXmaxR, Qt::Key_Space, Qt::ShiftModifier);  // click and double click
+    EXPECT_EQ(screen->txtXmax->text(), QStringLiteral("16"));
     QTest::keyClick(screen->lblFunc, Qt::Key_Right);
     EXPECT_EQ(FuncGlobals::FunctionId, 2);
     press(screen->lblA, Qt::LeftButton);  // the mouse does what it did
