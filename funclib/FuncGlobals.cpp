@@ -1,6 +1,7 @@
 #include "funclib/FuncGlobals.h"
 
 #include <cmath>
+#include <optional>
 
 #include "runtime/Numbers.h"
 
@@ -43,9 +44,11 @@ const char* ExplicitCaption(int id)
     return id >= 1 && id <= ExplicitFamilyCount ? captions[id] : "";
 }
 
-double YFunc(const double& x)
+namespace {
+
+// The selected family at x; no value where the point is undefined or no family is selected.
+std::optional<double> explicitValue(const double& x)
 {
-    FunctionCount = 15;
     const double A = Coefficients.A, B = Coefficients.B, C = Coefficients.C;
     const double D = Coefficients.D, E = Coefficients.E;
     switch (FunctionId) {
@@ -76,7 +79,7 @@ double YFunc(const double& x)
     case 8: {
         const double u = Chk(B * x + C);
         if (u <= 0.0)
-            return 0.0;
+            return std::nullopt;
         return Chk(A * std::log(u) + D);
     }
     case 9: {
@@ -86,7 +89,7 @@ double YFunc(const double& x)
     case 10: {
         const double u = Chk(B * x + C);
         if (u == 0.0)
-            return 0.0;
+            return std::nullopt;
         return Chk(Div(A, u) + D);
     }
     case 11: {
@@ -103,16 +106,26 @@ double YFunc(const double& x)
     }
     case 14:
         if (x <= 0.0 && (rt::Int(B) != B || B <= 0.0))
-            return 0.0;
+            return std::nullopt;
         return Chk(Pow(x, B) * A + C);
     case 15:
         if (B <= 0.0)
-            return 0.0;
+            return std::nullopt;
         return Chk(Pow(B, x) * A + C);
     default:
-        return 0.0;
+        return std::nullopt;
     }
 }
+
+}  // namespace
+
+double YFunc(const double& x)
+{
+    FunctionCount = 15;
+    return explicitValue(x).value_or(0.0);
+}
+
+bool YDefined(const double& x) { return explicitValue(x).has_value(); }
 
 double YPrimeFunc(const double& x)
 {

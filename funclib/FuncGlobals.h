@@ -38,6 +38,9 @@ const char* ExplicitCaption(int id);
 // Value of the selected explicit family at x; 0 where the point is undefined or no family is
 // selected. Raises Overflow or Division by zero where the arithmetic fails.
 double YFunc(const double& x);
+// True where the selected family is defined at x (YFunc gives its value there, not the 0 that marks
+// an undefined point). Raises what YFunc raises.
+bool YDefined(const double& x);
 
 // The exact derivative of the selected explicit family at x; 0 where it is undefined.
 double YPrimeFunc(const double& x);

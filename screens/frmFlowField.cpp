@@ -1,5 +1,7 @@
 #include "screens/frmFlowField.h"
 
+#include "screens/ConvergenceWindow.h"
+
 #include <cmath>
 
 #include <QMenu>
@@ -169,6 +171,16 @@ frmFlowField::frmFlowField() : GraphScreen(flowConfig())
     surface->MouseDown = [this](int b, int s, double x, double y) { Form_MouseDown(b, s, x, y); };
     surface->MouseMove = [this](int b, int s, double x, double y) { Form_MouseMove(b, s, x, y); };
     Form_Load();
+    // The step-method table starts from the last start point (the circle's (4, 3) before any).
+    convergence = addConvergenceMenu(this, menuBar, QStringLiteral("Convergence of the step methods"), [this] {
+        const double x0 = rt::Val(startX_->text().toStdString()), y0 = rt::Val(startY_->text().toStdString());
+        const double xEnd = rt::Val(endX_->text().toStdString()), h = rt::Val(stepH_->text().toStdString());
+        return Convergence::steps(x0, y0, xEnd, h, 6, {txtXmin->value(), txtXmax->value(), txtYmin->value(), txtYmax->value()});
+    });
+    startX_ = convergence->addInput(QStringLiteral("Start x"), QStringLiteral("4"));
+    startY_ = convergence->addInput(QStringLiteral("Start y"), QStringLiteral("3"));
+    endX_ = convergence->addInput(QStringLiteral("End x"), QStringLiteral("4.5"));
+    stepH_ = convergence->addInput(QStringLiteral("Step h"), txtDelta->text());
 }
 
 void frmFlowField::Form_Load()

@@ -48,6 +48,8 @@ public:
     // Captions of the rate families by number (0 is empty).
     rt::BoundedArray<std::string, 0, 15> DyCaptions, DxCaptions;
     std::int16_t FamilyCount = 15;
+    // The table of how fast each step method converges (menu Convergence, Ctrl+T).
+    class ConvergenceWindow* convergence = nullptr;
 
     void cmdShowFlow_Click();
     void ShowDyDx();
@@ -90,6 +92,7 @@ private:
     bool insideGraph(double X, double Y) const;
     void refuseMethod();
 
+    QLineEdit *startX_ = nullptr, *startY_ = nullptr, *endX_ = nullptr, *stepH_ = nullptr;
     QMenu* dyMenu_ = nullptr;
     QMenu* dxMenu_ = nullptr;
 };

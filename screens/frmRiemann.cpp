@@ -1,5 +1,7 @@
 #include "screens/frmRiemann.h"
 
+#include "screens/ConvergenceWindow.h"
+
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
@@ -49,6 +51,9 @@ frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
     cmdZoomIn->setToolTip(QStringLiteral("Cut the scale in half"));
     buildSumsPanel();
     Form_Load();
+    convergence = addConvergenceMenu(this, menuBar, QStringLiteral("Convergence of the sums"), [this] {
+        return Convergence::sums(txtLBound->value(), txtRBound->value(), PartitionCount);
+    });
 }
 
 void frmRiemann::buildSumsPanel()

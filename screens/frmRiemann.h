@@ -29,6 +29,8 @@ public:
     ClickLabel *lblMid = nullptr, *lblRightE = nullptr, *lblLeftE = nullptr;
     ClickLabel *lblAreas = nullptr, *lblRBound = nullptr, *lblLBound = nullptr, *lblPartitions = nullptr;
     QWidget*& shpRect = shpSquare;
+    // The table of how fast each sum converges (menu Convergence, Ctrl+T).
+    class ConvergenceWindow* convergence = nullptr;
 
     // The number of partitions n, 1 to 32000.
     std::int32_t PartitionCount = 1;

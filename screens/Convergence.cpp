@@ -1,0 +1,232 @@
+#include "screens/Convergence.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include <boost/math/quadrature/gauss_kronrod.hpp>
+#include <boost/numeric/odeint.hpp>
+
+#include "funclib/FuncGlobals.h"
+#include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
+#include "screens/IntegralCurves.h"
+#include "screens/RiemannSums.h"
+
+namespace Convergence {
+
+namespace {
+
+std::string format(const char* pattern, double v)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, pattern, v);
+    return text;
+}
+
+// What an arithmetic fault means in a cell.
+std::string faultNote(const rt::RuntimeError& error) { return std::string("no value: ") + error.what(); }
+
+}  // namespace
+
+std::vector<std::vector<std::string>> Table::cells() const
+{
+    std::vector<std::vector<std::string>> out;
+    std::vector<std::string> heading{rowHeadings.empty() ? "" : rowHeadings.front()};
+    for (const std::string& m : methods) {
+        heading.push_back(m);
+        heading.push_back(m + " error");
+        heading.push_back(m + " ratio");
+    }
+    out.push_back(heading);
+    for (std::size_t r = 0; r < values.size(); ++r) {
+        std::vector<std::string> line{rowHeadings[r + 1]};
+        for (std::size_t m = 0; m < methods.size(); ++m) {
+            const Cell& cell = values[r][m];
+            if (!cell.value) {
+                line.insert(line.end(), {cell.note, "", ""});
+                continue;
+            }
+            // Sums carry their single-precision text, step endpoints six decimals.
+            line.push_back(cell.note.empty() ? format("%.10g", *cell.value) : cell.note);
+            if (!exact) {
+                line.insert(line.end(), {"", ""});
+                continue;
+            }
+            const double error = std::fabs(*cell.value - *exact);
+            line.push_back(format("%.3e", error));
+            const Cell* before = r > 0 ? &values[r - 1][m] : nullptr;
+            if (before && before->value && error > 0)
+                line.push_back(format("%.2f", std::fabs(*before->value - *exact) / error));
+            else
+                line.push_back("");
+        }
+        out.push_back(line);
+    }
+    return out;
+}
+
+std::string Table::tabSeparated() const
+{
+    std::string text;
+    for (const auto& line : cells()) {
+        for (std::size_t i = 0; i < line.size(); ++i)
+            text += (i ? "\t" : "") + line[i];
+        text += '\n';
+    }
+    return text;
+}
+
+Table sums(double L, double R, std::int32_t currentN)
+{
+    Table t;
+    t.methods.assign(kSumMethods.begin(), kSumMethods.end());
+    t.rowHeadings.push_back("n");
+    auto f = [](double x) { return FuncGlobals::YFunc(x); };
+
+    // The exact value: first the domain, then an adaptive Gauss-Kronrod rule.
+    try {
+        std::optional<double> gap;
+        for (int i = 0; i <= 4096 && !gap; ++i) {
+            const double x = L + (R - L) * i / 4096;
+            if (!FuncGlobals::YDefined(x))
+                gap = x;
+        }
+        if (gap) {
+            t.exactSource = "The function is not defined everywhere on the interval (for example at x = " +
+                            rt::Trim(rt::Str(*gap)) + "): the integral does not exist there.";
+        } else {
+            double error = 0;
+            const double value =
+                boost::math::quadrature::gauss_kronrod<double, 61>::integrate(f, L, R, 15, 1e-12, &error);
+            if (!std::isfinite(value) || !(error <= 1e-8 * std::max(1.0, std::fabs(value))))
+                t.exactSource = "The function is unbounded on the interval: the integral does not exist there.";
+            else {
+                t.exact = value;
+                t.exactSource = "Exact value " + format("%.12g", value) + " (adaptive Gauss-Kronrod, 61 points)";
+            }
+        }
+    } catch (const rt::RuntimeError& error) {
+        t.exactSource = "The integral cannot be computed: " + std::string(error.what()) + ".";
+    }
+
+    std::vector<std::int32_t> ns;
+    for (std::int32_t n = 1; n <= std::max<std::int32_t>(1024, currentN); n *= 2)
+        ns.push_back(n);
+    if (currentN > 0 && std::find(ns.begin(), ns.end(), currentN) == ns.end()) {
+        ns.push_back(currentN);
+        std::sort(ns.begin(), ns.end());
+    }
+    auto ignore = [](auto&&...) {};
+    for (std::int32_t n : ns) {
+        t.rowHeadings.push_back(std::to_string(n));
+        std::vector<Cell> row;
+        for (std::size_t m = 0; m < kSumMethods.size(); ++m) {
+            Cell cell;
+            try {
+                const double dx = rt::Div(rt::Chk(R - L), n);
+                RiemannSums::Result r;
+                switch (m) {
+                case 0: r = RiemannSums::leftEndpoint(f, L, dx, n, ignore); break;
+                case 1: r = RiemannSums::rightEndpoint(f, L, dx, n, ignore); break;
+                case 2: r = RiemannSums::midpoint(f, L, dx, n, ignore); break;
+                case 3: r = RiemannSums::trapezoidal(f, L, dx, n, ignore); break;
+                default: r = RiemannSums::simpson(f, L, dx, n, ignore); break;
+                }
+                if (r.odd)
+                    cell.note = "n odd";
+                else if (r.error)
+                    cell.note = "error value";
+                else {
+                    cell.value = r.area;
+                    cell.note = rt::Trim(rt::Str(r.area));  // the screen's own text of the area
+                }
+            } catch (const rt::RuntimeError& error) {
+                cell.note = faultNote(error);
+            }
+            row.push_back(cell);
+        }
+        t.values.push_back(row);
+    }
+    return t;
+}
+
+Table steps(double x0, double y0, double xEnd, double h, int halvings, const Window& window)
+{
+    Table t;
+    t.methods.assign(kStepMethods.begin(), kStepMethods.end());
+    t.rowHeadings.push_back("h");
+
+    // The reference: Dormand-Prince with step-size control.
+    try {
+        using State = double;
+        auto rhs = [](const State& y, State& dydx, double x) {
+            const double dx = FuncGlobals::DxFunc(x, y);
+            dydx = dx == 0 ? std::nan("") : FuncGlobals::DyFunc(x, y) / dx;
+        };
+        namespace ode = boost::numeric::odeint;
+        // The controlled stepper's own loop, with a budget: near a vertical slope the step shrinks
+        // without end, and the table must answer at once.
+        auto stepper = ode::make_controlled<ode::runge_kutta_dopri5<State>>(1e-12, 1e-12);
+        State y = y0;
+        double x = x0, dx = (xEnd - x0) / 1000;
+        for (int tries = 0; tries < 200000 && std::isfinite(y) && (xEnd - x) * (xEnd - x0) > 0; ++tries) {
+            if ((x + dx - xEnd) * (xEnd - x0) > 0)
+                dx = xEnd - x;  // the last step ends on xEnd
+            if (std::fabs(dx) < 1e-13 * std::max(1.0, std::fabs(x))) {
+                y = std::nan("");
+                break;
+            }
+            stepper.try_step(rhs, y, x, dx);  // advances x and y on success, adapts dx either way
+        }
+        if ((xEnd - x) * (xEnd - x0) > 0)
+            y = std::nan("");
+        if (std::isfinite(y)) {
+            t.exact = y;
+            t.exactSource = "Reference endpoint y = " + format("%.12g", y) + " (adaptive Dormand-Prince, tolerance 1e-12)";
+        } else {
+            t.exactSource = "The curve meets a vertical slope before the end x: there is no endpoint to compare with.";
+        }
+    } catch (const rt::RuntimeError& error) {
+        t.exactSource = "The reference cannot be computed: " + std::string(error.what()) + ".";
+    } catch (const std::exception&) {
+        t.exactSource = "The adaptive integration could not reach the end x (the slope grows without bound).";
+    }
+
+    const IntegralCurves::Method methods[] = {IntegralCurves::Method::Euler, IntegralCurves::Method::Midpoint,
+                                              IntegralCurves::Method::FourthOrder};
+    const double span = xEnd - x0;
+    for (int k = 0; k <= halvings; ++k) {
+        const double wanted = std::fabs(h) / std::pow(2.0, k);
+        const long count = wanted > 0 ? std::max(1L, std::lround(std::fabs(span) / wanted)) : 1;
+        const double step = count > 0 ? span / static_cast<double>(count) : 0;
+        t.rowHeadings.push_back(format("%.6g", step) + " (" + std::to_string(count) + " steps)");
+        std::vector<Cell> row;
+        for (IntegralCurves::Method method : methods) {
+            Cell cell;
+            IntegralCurves::Settings s;
+            s.smooth = false;
+            s.method = method;
+            double x = x0, y = y0;
+            try {
+                for (long i = 0; i < count && cell.note.empty(); ++i) {
+                    const IntegralCurves::Step st = IntegralCurves::step(s, x, y, step);
+                    if (st.vertical)
+                        cell.note = "meets a vertical slope";
+                    x = x0 + step * static_cast<double>(i + 1);
+                    y = rt::Chk(y + st.dy);
+                    if (cell.note.empty() && !(window.ymin <= y && y <= window.ymax && window.xmin <= x && x <= window.xmax))
+                        cell.note = "leaves the window";
+                }
+                if (cell.note.empty() && count > 0)
+                    cell.value = y;
+            } catch (const rt::RuntimeError& error) {
+                cell.note = faultNote(error);
+            }
+            row.push_back(cell);
+        }
+        t.values.push_back(row);
+    }
+    return t;
+}
+
+}  // namespace Convergence

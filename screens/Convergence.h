@@ -1,0 +1,55 @@
+#pragma once
+// How fast the sums and the step methods approach the exact value, apart from any window: the
+// deterministic sums of the sums screen for n = 1, 2, 4, ... against an adaptive Gauss-Kronrod
+// integral, and the Euler, midpoint and fourth-order endpoints for h, h/2, h/4, ... against an
+// adaptive Dormand-Prince integration. Both read the selected families and coefficients of
+// FuncGlobals; neither raises a run-time error: a value that cannot be had is a note in words.
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Convergence {
+
+// One value of the table, or why there is none.
+struct Cell {
+    std::optional<double> value;
+    std::string note;
+};
+
+// A table of values in rows against one exact value: the text of every cell, headings first.
+struct Table {
+    std::optional<double> exact;
+    std::string exactSource;  // how the exact value was found, or why it does not exist
+    std::vector<std::string> rowHeadings;
+    std::vector<std::string> methods;
+    std::vector<std::vector<Cell>> values;  // [row][method]
+    // The cells as texts: heading row, then one row per value row: the row heading and, per
+    // method, the value, its error and the ratio of the previous row's error to this one's.
+    std::vector<std::vector<std::string>> cells() const;
+    // The cells as tab-separated lines, for a spreadsheet.
+    std::string tabSeparated() const;
+};
+
+inline const std::array<const char*, 5> kSumMethods{"Left", "Right", "Midpoint", "Trapezoid", "Simpson"};
+
+// The five deterministic sums of the selected explicit family on [L, R] for n = 1, 2, 4, ... up to
+// at least 1024 and at least `currentN` (which gets a row of its own when it is not a power of two),
+// each accumulated as the sums screen does, so that the row of the screen's n shows its labels'
+// digits.
+Table sums(double L, double R, std::int32_t currentN);
+
+inline const std::array<const char*, 3> kStepMethods{"Euler", "Runge-Kutta 2", "Runge-Kutta 4"};
+
+// The plane the steps stay in.
+struct Window {
+    double xmin = -10, xmax = 10, ymin = -10, ymax = 10;
+};
+
+// The endpoint y at xEnd of the curve dy/dx = DyFunc / DxFunc from (x0, y0), by each method with
+// steps h, h/2, ... (halvings + 1 rows; each step count is rounded so that the last step ends on
+// xEnd), against an adaptive integration at a tolerance of 1e-12.
+Table steps(double x0, double y0, double xEnd, double h, int halvings, const Window& window);
+
+}  // namespace Convergence

@@ -1,0 +1,47 @@
+#pragma once
+// The "Convergence" window of the sums and slope-field screens: a table of how fast each method
+// approaches the exact value, computed from the screen's current state when the window opens or
+// Recompute is pressed. Ctrl+C copies it as tab-separated text; it grows with its window.
+#include <functional>
+
+#include <QDialog>
+
+#include "screens/Convergence.h"
+
+class QLabel;
+class QTableWidget;
+class QLineEdit;
+class QMenuBar;
+
+class ConvergenceWindow : public QDialog {
+    Q_OBJECT
+public:
+    // `compute` builds the table from the screen's state and the window's own boxes (if any).
+    ConvergenceWindow(QWidget* owner, const QString& title, std::function<Convergence::Table()> compute);
+
+    // Optional inputs of the window (the step table's start, end and step), placed above the table.
+    QLineEdit* addInput(const QString& name, const QString& text);
+
+    // Computes the table again and shows it.
+    void recompute();
+    const Convergence::Table& table() const { return table_; }
+    QTableWidget* grid() const { return grid_; }
+    QLabel* summary() const { return summary_; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    std::function<Convergence::Table()> compute_;
+    Convergence::Table table_;
+    QLabel* summary_ = nullptr;
+    QTableWidget* grid_ = nullptr;
+    class QFormLayout* inputs_ = nullptr;
+    double baseFont_ = 10;
+};
+
+// Adds the menu "Con&vergence" to a screen's menu bar, with one entry, "Convergence &Table..."
+// (Ctrl+T), that shows the window (made here, once) and computes it from the screen as it is now.
+// The seed's own menus and controls are left as they are.
+ConvergenceWindow* addConvergenceMenu(QWidget* screen, QMenuBar* bar, const QString& title,
+                                      std::function<Convergence::Table()> compute);
