@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The convergence tables for the default loads, against their floors: the same evaluations of the
 // function (or of the rates) in a plain loop, with no table, no quadrature and no integrator.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The slope-field plot button with Bi-directional checked, 10000 curve points and a small Delta x:
 // eighty curves of up to 10000 segments, against the same curves followed with nothing drawn.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Benchmark entry point: the screens need an application object; the offscreen platform is enough.
 #include <QApplication>
 #include <benchmark/benchmark.h>

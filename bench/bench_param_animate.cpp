@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The parametric plot at 32000 steps and the default continuous animation, each against the bare
 // evaluations it is built on, in the same run.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The grapher's plot button against the bare evaluation it is built on, in the same run.
 #include <benchmark/benchmark.h>
 

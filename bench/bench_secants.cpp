@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mean value screen's Find c scan against a bare loop of the same derivative evaluations, and one
 // slider tangent, in the same run.
 #include <benchmark/benchmark.h>

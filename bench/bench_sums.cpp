@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sums screen's Graph Partitions with all seven methods at 32000 partitions, against the same
 // seven sums computed with nothing drawn, in the same run.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The function library: the catalogue of explicit families with their values and derivatives, and
 // the module state shared by every screen (the selected families and the one set of coefficients).

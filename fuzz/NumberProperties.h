@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The properties every input must keep in number reading and writing, shared by the fuzzer and by
 // the regression test that replays what the fuzzer once found. Returns an empty string when all hold,

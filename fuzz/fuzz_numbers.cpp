@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // libFuzzer target: lenient and strict reading and the number-to-text rules on arbitrary bytes.
 #include <cstdio>
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // What the program tells assistive tools, and what it lets a person take out of it: the spoken form
 // of captions, the label that names a control, names that tell controls apart, the accessible

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Thin wrappers over the Qt controls that give them the classic events. A person's action reaches
 // the handler through the guarded entry point; the program's own write (`assign`, `setValue`, ...)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Message boxes, input boxes and the program's one report of an uncaught run-time error.
 // Everything a person does enters the program through `guarded`, which is where an uncaught

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The client area of a screen, addressed in twips (x to the right, y downwards, 15 twips to a
 // logical pixel at the window's normal size). Everything drawn is kept in a backing image until the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The client area of a window that shows a form of fixed proportions: it gives the form the
 // largest zoom at which it fits, and centres it on a background of the form's own colour.

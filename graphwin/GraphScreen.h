@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The machinery every demonstration screen shares: the graph square with its window mapping, axes
 // and ticks, the plot of the selected explicit family, the four limit boxes with their arrow labels,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The mapping between a screen's window limits and the twips of its 6400-twip square.
 #include <cstdint>

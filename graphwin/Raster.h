@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Aliased drawing straight into a 32-bit pixel buffer: the one place where the program writes
 // pixels without a painter. Coordinates are device pixels as doubles; anything (far outside, huge,

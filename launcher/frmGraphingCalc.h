@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The start-up window: one button and one menu entry per demonstration screen, the About sequence
 // and Quit. Each screen is created on first use and kept for the rest of the run; opening it shows

@@ -1,10 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <cstdio>
+
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QFont>
+#include <QStringList>
 
 #include "launcher/frmGraphingCalc.h"
 
+namespace {
+
+// The options that Qt itself takes from the command line (QGuiApplication's and the X11 platform's);
+// they are left to Qt, so they must not count as unknown here.
+const char* const kQtOptions[][2] = {
+    {"platform", "name"}, {"platformpluginpath", "path"}, {"platformtheme", "name"}, {"plugin", "name"},
+    {"qwindowgeometry", "geometry"}, {"qwindowicon", "icon"}, {"qwindowtitle", "title"}, {"reverse", nullptr},
+    {"session", "id"}, {"style", "style"}, {"stylesheet", "file"}, {"widgetcount", nullptr},
+    {"display", "name"}, {"geometry", "geometry"}, {"title", "title"}, {"name", "name"},
+    {"visual", "visual"}, {"ncols", "count"}, {"cmap", nullptr}, {"nograb", nullptr}, {"dograb", nullptr},
+    {"sync", nullptr}, {"qmljsdebugger", "options"}, {"fontengine", "engine"}, {"im", "server"}};
+
+// Answers --help and --version, or an unknown option, before any window exists (so that they work
+// without a display). Returns the exit status to end with, or -1 to start the program.
+int answerCommandLine(int argc, char* argv[])
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Calculus demonstrations for the classroom: graphs of fifteen families of functions, animated\n"
+        "coefficients, Riemann and other sums, Newton's method, slope fields, tangent lines, the mean\n"
+        "value theorem and parametric curves. Qt's standard options (-platform, -style, ...) are accepted."));
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    for (const auto& [name, value] : kQtOptions) {
+        QCommandLineOption qt(QString::fromLatin1(name), QString(), value ? QString::fromLatin1(value) : QString());
+        qt.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(qt);
+    }
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    // No application object exists yet to name the program in the usage line.
+    const QString usage = parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("plotto"));
+    if (!parser.parse(arguments)) {
+        std::fprintf(stderr, "plotto: %s\n\n%s", qPrintable(parser.errorText()), qPrintable(usage));
+        return 2;
+    }
+    if (parser.isSet(help) || parser.isSet(QStringLiteral("help-all"))) {
+        std::fputs(qPrintable(usage), stdout);
+        return 0;
+    }
+    if (parser.isSet(version)) {
+        std::printf("%s %s\n", qPrintable(QCoreApplication::applicationName()),
+                    qPrintable(QCoreApplication::applicationVersion()));
+        return 0;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        std::fprintf(stderr, "plotto: unexpected argument '%s'\n\n%s", qPrintable(parser.positionalArguments().first()),
+                     qPrintable(usage));
+        return 2;
+    }
+    return -1;
+}
+
+}  // namespace
+
 int main(int argc, char* argv[])
 {
+    QCoreApplication::setApplicationName(QStringLiteral("plotto"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(PLOTTO_VERSION));
+    if (const int status = answerCommandLine(argc, argv); status >= 0)
+        return status;
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Plotto"));
     // One typeface for everything the program shows, menus and message boxes included (Debian's

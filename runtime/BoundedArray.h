@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A fixed array with the bounds the program declares (for example 0 to 20), whose every access is
 // checked: an index outside the bounds raises Subscript out of range (9).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The classic counted loop on a 16-bit signed counter: the body runs for from, from + step, ...
 // while the counter has not passed `to` (upwards for a positive step, downwards for a negative

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Numbers as the classic run time treats them: lenient and strict reading of text, the number-to-text
 // rules, floor, whole-number conversions with banker's rounding, single precision, and arithmetic that

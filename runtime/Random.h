@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The run time's random generator: a 24-bit linear congruential sequence that always starts from the
 // same state, so every run of the program draws the same numbers.

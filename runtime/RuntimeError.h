@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The numbered run-time errors of the classic run time. An error is thrown where the fault happens
 // and travels through the program's own frames to the outermost handler of the event, where the

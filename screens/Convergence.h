@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // How fast the sums and the step methods approach the exact value, apart from any window: the
 // deterministic sums of the sums screen for n = 1, 2, 4, ... against an adaptive Gauss-Kronrod

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The "Convergence" window of the sums and slope-field screens: a table of how fast each method
 // approaches the exact value, computed from the screen's current state when the window opens or

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Following the slope field from a point, apart from any window: one step of the smooth curve or of
 // an approximation method, and the continuation loop that hands each segment it keeps to a sink.

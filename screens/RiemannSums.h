@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The seven area sums of the sums screen, computed apart from any window: each method evaluates the
 // function, accumulates its area in single precision and hands every partition shape, in world

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Animating the coefficients of an explicit family: the ticked coefficients run from a start to an
 // end value, all frames at once ("Continuous") or one frame per scroll-bar step ("Steps").

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Slope fields of a pair of rates dy and dx, integral curves from a pressed or typed point, Euler and
 // Runge-Kutta approximations of an end point, and forty curves at once from the plot button.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The mean value theorem: the secant over [a, b], the tangent at any point of the interval by
 // slider or typed x, and a scan that lists the points c whose slope matches the secant's.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Newton's method one step per click, drawn on the graph and listed in a grid, and the graph of the
 // derivative.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Parametric curves x(t), y(t) from two catalogues of twelve families, drawn as points or joined,
 // and traced by a t typed into a box or chosen with a slider.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Riemann and other sums: the area under the selected explicit function between two boundaries,
 // approximated by up to seven methods at once, each drawn in its own colour.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The tangent line as the limit of secants: the secant through (x, f(x)) and (x + dx, f(x + dx)),
 // drawn across the window, with its points and equation; Delta x halved or swept with a slider.

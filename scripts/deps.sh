@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian packages Plotto needs to build, test and run, and nothing else.
 # This is the one place that names them. Runs apt-get only when something is missing.
 set -euo pipefail
@@ -10,6 +11,7 @@ PACKAGES=(
   fonts-liberation fonts-dejavu-core
   xvfb xauth imagemagick python3
   openbox xdotool xclip dbus at-spi2-core python3-pyatspi
+  lintian appstream desktop-file-utils dpkg-dev
 )
 
 missing=()

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Fuzzes the reading and writing of numbers with libFuzzer (clang) for a bounded time.
 # Usage: scripts/fuzz.sh [SECONDS]   (default 600). Inputs that break a property are kept in
 # fuzz/regressions/, which the test suite replays.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes docs/performance.md from a Google Benchmark JSON report of bench/ (median of repetitions)."""
 import json
 import sys

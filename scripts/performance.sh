@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs the benchmarks and writes docs/performance.md from their medians.
 set -euo pipefail
 cd "$(dirname "$0")/.."

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Long random walks through the whole program under the sanitizers, one per seed, run side by side
 # on every core.
 # Usage: scripts/robustness.sh [ACTIONS] [SEED ...]   (defaults 200000 and one seed from the clock).

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Makes the README's screenshots of the launcher and all eight screens from the program itself,
 # headless, into docs/ (100%) and docs/hidpi/ (200%).
 set -euo pipefail

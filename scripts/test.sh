@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what is missing, builds Plotto and runs every test.
 # PRESET=asan runs the same tests with AddressSanitizer and UndefinedBehaviorSanitizer.
 set -euo pipefail

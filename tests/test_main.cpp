@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Test entry point: a QApplication on the offscreen platform, so every suite runs without a display.
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Renders the program's windows to PNG files in a state that shows what each teaches, for the README.
 // Usage: plotto_shots OUTPUT_DIR
 #include <QApplication>

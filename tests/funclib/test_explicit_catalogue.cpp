@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fifteen explicit families: captions, values, derivatives, domain tests and arithmetic faults.
 #include <cmath>
 

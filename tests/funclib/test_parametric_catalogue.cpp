@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The parametric families: captions, values from a single-precision t, and family 12's zero rule.
 #include <cmath>
 

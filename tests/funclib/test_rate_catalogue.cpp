@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rate families of the slope field and the Runge-Kutta steps.
 #include <cmath>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The control wrappers: a person's change reaches the handler through the guarded entry point; the
 // program's own write calls it directly and lets a run-time error travel on.
 #include <QSignalSpy>

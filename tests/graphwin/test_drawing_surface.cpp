@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The drawing surface: pixels under twip points, lines with their recorded ends, clipping of
 // far-away lines, wide pens, text placement, clearing and the mouse in twips.
 #include <QTest>

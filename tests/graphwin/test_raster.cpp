@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The direct pixel writer against a plain reference: for random segments and points in and around
 // a small image (inside, on the edges, in the margins, far away, huge, NaN, infinite) and every pen
 // width, the fast paths write exactly the reference's pixels and never a pixel outside the image.

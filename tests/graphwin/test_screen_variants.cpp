@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The shared screen machinery in the variant the sums screen uses: square at 1800, limit boxes that
 // refuse a compromised window, guarded narrowing arrows, zoom towards the origin, six coefficients.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A form shown larger or smaller: handlers see the same twips at every size, the picture is drawn
 // again (not lost, not stretched), controls and fonts grow together, and a window opens where it fits.
 #include <QPushButton>

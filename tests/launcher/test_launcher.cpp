@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The launcher: its caption and About sequence, opening a screen modally and finding it as it was
 // left, and Quit.
 #include <QMenu>

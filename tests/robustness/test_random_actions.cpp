@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A seeded, bounded random walk through the whole program: every screen, every box typed into with
 // hostile texts, every button, label, option, check box, scroll bar, menu entry and the drawing
 // surfaces pressed and moved over, input boxes answered or cancelled. Every run-time error met must

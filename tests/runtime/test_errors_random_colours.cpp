@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Run-time errors, the fixed random sequence, the sixteen colours and checked arrays.
 #include <string>
 

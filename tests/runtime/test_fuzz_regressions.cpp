@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replays the fuzzer's seeds and every input it once found against the number properties.
 #include <filesystem>
 #include <fstream>

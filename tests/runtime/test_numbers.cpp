@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading and writing numbers, whole-number and single conversions, and the checked arithmetic.
 #include <cfloat>
 #include <cmath>

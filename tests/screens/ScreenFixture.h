@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A screen under test: real widgets, scripted dialogs, the drawing recorded.
 #include <algorithm>

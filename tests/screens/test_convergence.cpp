@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The convergence tables against values worked out by hand: the exact integral, the orders of the
 // sums and of the step methods, the words where no value exists, and the sums screen's own digits.
 #include <cmath>

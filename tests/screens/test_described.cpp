@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a screen reader and the clipboard get: each screen's description follows its results after a
 // person's action, result labels read as what they show, stepper labels and scroll bars speak, names
 // are unique, the graph takes presses from the keyboard, Tab leaves the grids, Ctrl+C copies.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The animation screen through its widgets: the continuous and step animations, their frame values,
 // the cut label, the restored coefficients, the status rule and the errors of its boxes.
 #include "screens/frmAnimate.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The function grapher through its widgets: start-up, axes and ticks, the plot walk, erase, help.
 #include "screens/frmClasses.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The slope-field screen through its widgets: the field, presses and typed starts, the smooth curve
 // and the approximations, the rate menus and labels, the formula display and the messages.
 #include <cmath>

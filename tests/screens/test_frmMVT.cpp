@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mean value theorem screen through its widgets: the secant and its labels, slider tangents and
 // their colour, the typed x, the Find c scan and the end-point boxes.
 #include "screens/frmMVT.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Newton's method screen through its widgets: the sequence of guesses, the drawing of each step, the
 // grid, the zero-slope message and when a new sequence starts.
 #include "screens/frmNewton.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sums screen through its widgets: areas against hand-worked values, their single-precision
 // text, the partition and boundary boxes, and what is drawn at the bounds of the graph box.
 #include "screens/frmRiemann.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tangent line screen through its widgets: secants, their cut labels, the slider's mapping,
 // Half Delta x and the unguarded horizontal secant.
 #include "screens/frmTangent.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keyboard and screen-reader access through the widgets: Tab order by panel, the mnemonics of the
 // captions, accessible names on every control, and stepper labels stepped from the keyboard.
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window limit controls and the coefficient panel, as every screen has them (the grapher's copy).
 #include "screens/frmClasses.h"
 
