@@ -2,6 +2,8 @@
 // The grapher's plot button against the bare evaluation it is built on, in the same run.
 #include <benchmark/benchmark.h>
 
+#include "runtime/VectorState.h"
+
 #include "funclib/FuncGlobals.h"
 #include "screens/frmClasses.h"
 
@@ -15,24 +17,8 @@ void BM_GrapherPlot(benchmark::State& state)
     FuncGlobals::FunctionId = static_cast<std::int16_t>(state.range(0));
     for (auto _ : state)
         screen.cmdPlotto_Click();
+    state.counters["dirty"] = rt::vectorStateReported() ? (rt::dirtyAtLastHotLoop() ? 1 : 0) : -1;
 }
 BENCHMARK(BM_GrapherPlot)->Arg(1)->Arg(5)->Unit(benchmark::kMicrosecond);
-
-// The floor: 6399 YFunc calls over the same columns, nothing else.
-void BM_BareYFunc(benchmark::State& state)
-{
-    frmClasses screen;
-    screen.Form_Activate();
-    FuncGlobals::FunctionId = static_cast<std::int16_t>(state.range(0));
-    for (auto _ : state) {
-        double sum = 0;
-        for (int c = 2401; c <= 8799; ++c) {
-            const double x = (c - 5600) * 20.0 / 6400;
-            sum += FuncGlobals::YFunc(x);
-        }
-        benchmark::DoNotOptimize(sum);
-    }
-}
-BENCHMARK(BM_BareYFunc)->Arg(1)->Arg(5)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

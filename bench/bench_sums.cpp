@@ -3,6 +3,8 @@
 // seven sums computed with nothing drawn, in the same run.
 #include <benchmark/benchmark.h>
 
+#include "runtime/VectorState.h"
+
 #include "funclib/FuncGlobals.h"
 #include "runtime/Random.h"
 #include "screens/frmRiemann.h"
@@ -31,29 +33,8 @@ void BM_GraphPartitionsAllMethods(benchmark::State& state)
     screen.cmdGraphNow_Click();
     for (auto _ : state)
         screen.cmdParts_Click();
+    state.counters["dirty"] = rt::vectorStateReported() ? (rt::dirtyAtLastHotLoop() ? 1 : 0) : -1;
 }
 BENCHMARK(BM_GraphPartitionsAllMethods)->Unit(benchmark::kMillisecond);
-
-void BM_SevenSumsWithoutDrawing(benchmark::State& state)
-{
-    using namespace RiemannSums;
-    frmRiemann screen;
-    prepare(screen);
-    auto f = [](double x) { return FuncGlobals::YFunc(x); };
-    auto none = [](auto...) {};
-    const double L = -2, R = 2, dx = (R - L) / 32000;
-    float total = 0;
-    for (auto _ : state) {
-        total += leftEndpoint(f, L, dx, 32000, none).area;
-        total += rightEndpoint(f, L, dx, 32000, none).area;
-        total += midpoint(f, L, dx, 32000, none).area;
-        total += trapezoidal(f, L, dx, 32000, none).area;
-        total += randomPoint(f, L, dx, 32000, none).area;
-        total += simpson(f, L, dx, 32000, none).area;
-        total += randomWidths(f, L, R, 32000, screen.RandomPoints, none).area;
-    }
-    benchmark::DoNotOptimize(total);
-}
-BENCHMARK(BM_SevenSumsWithoutDrawing)->Unit(benchmark::kMillisecond);
 
 }  // namespace

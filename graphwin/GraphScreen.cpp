@@ -23,6 +23,7 @@
 #include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
+#include "runtime/VectorState.h"
 
 namespace {
 
@@ -313,6 +314,7 @@ void GraphScreen::plotColumns(double (*evaluate)(const double&))
     const auto first = static_cast<std::int16_t>(config_.squareLeft + 1);
     const auto last = static_cast<std::int16_t>(config_.squareLeft + 6399);
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
+    rt::cleanVectorStateForHotLoop();
     rt::For16(first, last, 1, [&](std::int16_t c) {
         const double x = graph.worldX(c);
         const double y = evaluate(x);

@@ -13,6 +13,7 @@
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
+#include "runtime/VectorState.h"
 
 namespace {
 
@@ -339,6 +340,7 @@ void frmFlowField::cmdShowFlow_Click()
         }
     };
     const QRgb blue = rgbColor(rt::QBColor(1));
+    rt::cleanVectorStateForHotLoop();
     counted(Chk(xmin + sx), Chk(xmax - sx), sx, [&](double x) {
         counted(Chk(ymin + sy), Chk(ymax - sy), sy, [&](double y) {
             const double p = FuncGlobals::DxFunc(x, y), q = FuncGlobals::DyFunc(x, y);
@@ -405,6 +407,7 @@ void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 void frmFlowField::followCurve(double& x, double& y, bool backward)
 {
     const double h = backward ? -txtDelta->value() : txtDelta->value();
+    rt::cleanVectorStateForHotLoop();
     const bool reachedEnd = IntegralCurves::follow(settings(), h, backward, x, y, PointCounter,
                                                    [this](double x1, double y1, double x2, double y2) {
                                                        drawSegment(x1, y1, x2, y2);

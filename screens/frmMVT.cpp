@@ -7,6 +7,7 @@
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
+#include "runtime/VectorState.h"
 
 namespace {
 
@@ -122,6 +123,7 @@ void frmMVT::cmdApplyMVT_Click()
     // The secant across the whole width, dotted column by column in the curve's colour.
     const double k = Chk(fb - Chk(SecantSlope * b));
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
+    rt::cleanVectorStateForHotLoop();
     for (int column = squareLeft() + 1; column <= squareLeft() + 6399; ++column) {
         const double x = graph.worldX(column);
         const double row = graph.row(Chk(Chk(SecantSlope * x) + k));
@@ -146,6 +148,7 @@ void frmMVT::HscMVT_Change()
 
     // Not reduced: family 15 asks for colour 16, which does not exist.
     FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
+    rt::cleanVectorStateForHotLoop();
     for (int column = squareLeft(); column <= squareLeft() + 6400; ++column) {
         const double x = graph.worldX(column);
         const double row = graph.row(Chk(Chk(slope * Chk(x - c)) + fc));
@@ -186,6 +189,7 @@ void frmMVT::cmdAnimateIt_Click()
     auto thousandths = [](double v) { return rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)); };
     const double target = thousandths(SecantSlope);
     std::int16_t count = 0;
+    rt::cleanVectorStateForHotLoop();
     for (double x = a; x <= b;) {
         const double slope = FuncGlobals::YPrimeFunc(x);
         if (thousandths(slope) == target) {

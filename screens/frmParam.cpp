@@ -7,6 +7,7 @@
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
+#include "runtime/VectorState.h"
 
 namespace {
 
@@ -206,6 +207,7 @@ void frmParam::cmdPlotto_Click()
     double c0 = graph.column(XtFunc(t0)), r0 = graph.row(YtFunc(t0));
     const bool points = optPoints->isChecked();
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
+    rt::cleanVectorStateForHotLoop();
     for (std::int32_t i = 1; i <= n; ++i) {
         const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
         const double c1 = graph.column(XtFunc(t)), r1 = graph.row(YtFunc(t));

@@ -7,6 +7,7 @@
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
+#include "runtime/VectorState.h"
 
 namespace {
 
@@ -176,6 +177,7 @@ void frmRiemann::cmdParts_Click()
     using namespace RiemannSums;
     lblAreas->setText(QStringLiteral("Working"));
     lblAreas->repaint();
+    rt::cleanVectorStateForHotLoop();
 
     const double L = txtLBound->value(), R = txtRBound->value();
     const std::int32_t n = PartitionCount;

@@ -1,17 +1,25 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Writes docs/performance.md from a Google Benchmark JSON report of bench/ (median of repetitions)."""
+"""Writes docs/performance.md from two Google Benchmark JSON reports of one run of
+scripts/performance.sh: the handlers (bench/, a process with the toolkit started) and their floors
+(bench/floors.cpp, a separate process that never starts it). Medians of the repetitions."""
 import json
+import platform
 import sys
 
+# (title, handler, floor, target ratio)
 PAIRS = [
-    ("Function grapher: Plotto! (6399 columns, parabola)", "BM_GrapherPlot/1", "BM_BareYFunc/1", 3),
-    ("Sums: Graph Partitions, all seven methods at 32000", "BM_GraphPartitionsAllMethods", "BM_SevenSumsWithoutDrawing", 10),
+    ("Function grapher: Plotto! (6399 columns, parabola)", "BM_GrapherPlot/1", "BM_BareYFunc/1", 2),
+    ("Function grapher: Plotto! (6399 columns, sine)", "BM_GrapherPlot/5", "BM_BareYFunc/5", 2),
+    ("Sums: Graph Partitions, all seven methods at 32000", "BM_GraphPartitionsAllMethods", "BM_SevenSumsWithoutDrawing", 4),
     ("Mean value theorem: Find c scan (200,001 points)", "BM_FindCScan", "BM_BareDerivativeLoop", 2),
-    ("Slope fields: forty bi-directional curves, 10000 points", "BM_FortyBidirectionalCurves", "BM_SameCurvesWithoutDrawing", 5),
-    ("Parametric plot, 32000 steps, separate points", "BM_ParametricPlot32000/0", "BM_Bare64000ParametricEvaluations", 3),
-    ("Parametric plot, 32000 steps, connected", "BM_ParametricPlot32000/1", "BM_Bare64000ParametricEvaluations", 3),
-    ("Animation: default continuous run, 42 frames", "BM_ContinuousAnimation42Frames", "BM_Bare42PlotsOfEvaluations", 3),
+    ("Mean value theorem: one slider tangent (6401 columns)", "BM_SliderTangent", "BM_BareTangentColumns", 2),
+    ("Slope fields: forty bi-directional curves, 10000 points", "BM_FortyBidirectionalCurves", "BM_SameCurvesWithoutDrawing", 2),
+    ("Parametric plot, 32000 steps, separate points", "BM_ParametricPlot32000/0", "BM_Bare64000ParametricEvaluations", 2),
+    ("Parametric plot, 32000 steps, connected", "BM_ParametricPlot32000/1", "BM_Bare64000ParametricEvaluations", 2),
+    ("Animation: default continuous run, 42 frames", "BM_ContinuousAnimation42Frames", "BM_Bare42PlotsOfEvaluations", 2),
+    ("Convergence table of the sums, n up to 32768", "BM_SumsTableTo32000", "BM_SumsTableEvaluationsOnly", None),
+    ("Convergence table of the step methods, h to h/64", "BM_StepTableToHOver64", "BM_StepTableFinestRowOnly", None),
 ]
 
 
@@ -20,42 +28,67 @@ def medians(report):
     for b in report["benchmarks"]:
         if b.get("aggregate_name") == "median":
             unit = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}[b["time_unit"]]
-            out[b["run_name"]] = b["real_time"] * unit
+            out[b["run_name"]] = (b["real_time"] * unit, b.get("dirty"))
     return out
 
 
+def cpu_model():
+    try:
+        for line in open("/proc/cpuinfo"):
+            if line.startswith("model name"):
+                return line.split(":", 1)[1].strip()
+    except OSError:
+        pass
+    return platform.processor() or "unknown"
+
+
+def dirty(value):
+    if value is None:
+        return ""
+    return "not reported" if value < 0 else ("dirty" if value >= 0.5 else "clean")
+
+
 def main():
-    report = json.load(open(sys.argv[1]))
-    times = medians(report)
-    ctx = report["context"]
+    handlers = json.load(open(sys.argv[1]))
+    floors = json.load(open(sys.argv[2]))
+    h, f = medians(handlers), medians(floors)
+    ctx = handlers["context"]
     lines = [
         "# Performance",
         "",
-        "Each heavy handler is timed against the bare evaluations it is built on (the floor), measured in the",
-        "same run of `bench/`. Times are medians of the repetitions, in milliseconds.",
+        "Each heavy handler is timed in a process that runs the toolkit, and compared with its floor (the",
+        "same evaluations, nothing drawn) timed in a separate process that never starts the toolkit, in the",
+        "same run of `scripts/performance.sh`. Times are medians of the repetitions, in milliseconds. The",
+        "state columns say whether the upper halves of the AVX registers were in use when the hot loop",
+        "started (read with XGETBV; the handler's is the state it found before clearing it at the boundary).",
         "",
-        f"Machine: {ctx.get('num_cpus')} CPUs at {ctx.get('mhz_per_cpu')} MHz; build: the `default` preset.",
+        f"CPU: {cpu_model()}, {ctx.get('num_cpus')} CPUs at {ctx.get('mhz_per_cpu')} MHz; build: the `default` preset.",
         "",
-        "| handler | time (ms) | floor (ms) | ratio | target |",
-        "|---|---:|---:|---:|---:|",
+        "| handler | time (ms) | floor (ms) | ratio | target | handler state | floor state |",
+        "|---|---:|---:|---:|---:|---|---|",
     ]
     for title, handler, floor, target in PAIRS:
-        if handler in times and floor in times:
-            t, f = times[handler], times[floor]
-            lines.append(f"| {title} | {t:.3f} | {f:.3f} | {t / f:.2f} | {target} |")
-    if "BM_SliderTangent" in times:
-        lines.append(f"| Mean value theorem: one slider tangent (6401 columns) | {times['BM_SliderTangent']:.3f} | | | |")
+        if handler in h and floor in f:
+            (t, hd), (b, fd) = h[handler], f[floor]
+            within = "" if target is None else (f"{target}x" + ("" if t / b <= target else " (missed)"))
+            lines.append(f"| {title} | {t:.3f} | {b:.3f} | {t / b:.2f} | {within} | {dirty(hd)} | {dirty(fd)} |")
+        elif handler in f and floor in f:
+            (t, hd), (b, fd) = f[handler], f[floor]
+            lines.append(f"| {title} | {t:.3f} | {b:.3f} | {t / b:.2f} | | {dirty(hd)} | {dirty(fd)} |")
+    if "BM_ResizeWithEightyCurves" in h:
+        lines.append(f"| Slope fields: resize with the eighty curves (redrawn) | {h['BM_ResizeWithEightyCurves'][0]:.3f} | | | 100 ms | | |")
     lines += [
         "",
         "Reproduce with:",
         "",
         "    bash scripts/performance.sh",
         "",
-        "which builds the benchmarks, runs them with repetitions and rewrites this page. The machine is",
-        "shared and virtual, so single runs vary; the ratios, measured in one run, vary less.",
+        "which builds both benchmark programs, runs them one after the other with repetitions and rewrites",
+        "this page. The machines are shared and their CPUs differ; the ratios, measured in one run, vary less",
+        "than the times.",
         "",
     ]
-    open(sys.argv[2], "w").write("\n".join(lines))
+    open(sys.argv[3], "w").write("\n".join(lines))
 
 
 main()

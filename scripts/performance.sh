@@ -1,13 +1,18 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs the benchmarks and writes docs/performance.md from their medians.
+# Runs the handlers' benchmarks and, in a separate process, their floors, and writes
+# docs/performance.md from their medians.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh
 cmake --preset default >/dev/null
-cmake --build --preset default --target plotto_bench
-QT_QPA_PLATFORM=offscreen ./build/default/bench/plotto_bench --benchmark_repetitions=7 \
-  --benchmark_report_aggregates_only=true --benchmark_format=json --benchmark_out=build/default/bench.json \
-  --benchmark_out_format=json >/dev/null
-python3 scripts/performance.py build/default/bench.json docs/performance.md
+cmake --build --preset default --target plotto_bench plotto_floors
+run() {
+  "$1" --benchmark_repetitions=7 --benchmark_report_aggregates_only=true --benchmark_format=json \
+    --benchmark_out="$2" --benchmark_out_format=json >/dev/null
+}
+# The handlers in a process with the toolkit running; their floors in one that never starts it.
+QT_QPA_PLATFORM=offscreen run ./build/default/bench/plotto_bench build/default/bench.json
+run ./build/default/bench/plotto_floors build/default/floors.json
+python3 scripts/performance.py build/default/bench.json build/default/floors.json docs/performance.md
 cat docs/performance.md
