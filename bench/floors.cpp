@@ -110,7 +110,8 @@ void BM_SameCurvesWithoutDrawing(benchmark::State& state)
                 x += first.dx;
                 y += first.dy;
                 std::int16_t counter = 1;
-                IntegralCurves::follow(s, step, backward, x, y, counter, [&](double, double, double, double) { ++segments; });
+                IntegralCurves::follow(s, step, backward, x, y, counter,
+                                       [&](double, double, double, double) { ++segments; });
             }
         }
     }

@@ -57,14 +57,12 @@ std::optional<double> explicitValue(const double& x)
         const double u = Chk(B * x - C);
         return Chk(u * A * u + D);
     }
-    case 2:
-        return Chk(A * x * x + B * x + C);
+    case 2: return Chk(A * x * x + B * x + C);
     case 3: {
         const double u = Chk(B * x - C);
         return Chk(Pow(u, 3.0) * A + D);
     }
-    case 4:
-        return Chk(Pow(x, 3.0) * A + B * x * x + C * x + D);
+    case 4: return Chk(Pow(x, 3.0) * A + B * x * x + C * x + D);
     case 5: {
         const double u = Chk(B * x + C);
         return Chk(D * x + A * std::sin(u) + E);
@@ -113,8 +111,7 @@ std::optional<double> explicitValue(const double& x)
         if (B <= 0.0)
             return std::nullopt;
         return Chk(Pow(B, x) * A + C);
-    default:
-        return std::nullopt;
+    default: return std::nullopt;
     }
 }
 
@@ -134,14 +131,10 @@ double YPrimeFunc(const double& x)
     const double A = Coefficients.A, B = Coefficients.B, C = Coefficients.C;
     const double D = Coefficients.D;
     switch (FunctionId) {
-    case 1:
-        return Chk((A + A) * B * Chk(B * x - C));
-    case 2:
-        return Chk((A + A) * x + B);
-    case 3:
-        return Chk(Pow(Chk(B * x - C), 2.0) * (A * 3 * B));
-    case 4:
-        return Chk(Pow(x, 2.0) * (A * 3) + (B + B) * x + C);
+    case 1: return Chk((A + A) * B * Chk(B * x - C));
+    case 2: return Chk((A + A) * x + B);
+    case 3: return Chk(Pow(Chk(B * x - C), 2.0) * (A * 3 * B));
+    case 4: return Chk(Pow(x, 2.0) * (A * 3) + (B + B) * x + C);
     case 5: {
         const double u = Chk(B * x + C);
         return Chk(B * A * std::cos(u) + D);
@@ -170,10 +163,8 @@ double YPrimeFunc(const double& x)
             return 0.0;
         return Div(Chk(A * (-1.0) * B), Pow(u, 2.0));
     }
-    case 11:
-        return Chk(Pow(Chk(B * x - C), 3.0) * (B * A * 4));
-    case 12:
-        return Chk(Pow(x, 3.0) * (A * 4) + Pow(x, 2.0) * (B * 3) + (C + C) * x + D);
+    case 11: return Chk(Pow(Chk(B * x - C), 3.0) * (B * A * 4));
+    case 12: return Chk(Pow(x, 3.0) * (A * 4) + Pow(x, 2.0) * (B * 3) + (C + C) * x + D);
     case 13: {
         const double u = Chk(B * x + C);
         return Chk(B * A * x * std::cos(u) + A * std::sin(u) + D);
@@ -188,8 +179,7 @@ double YPrimeFunc(const double& x)
         if (!(B > 0.0))
             return 0.0;
         return Chk(Pow(B, x) * A * std::log(B));
-    default:
-        return 0.0;
+    default: return 0.0;
     }
 }
 

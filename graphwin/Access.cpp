@@ -100,7 +100,7 @@ void qualifyRepeats(const std::vector<QWidget*>& controls, Qualifier qualifier)
 // can be raised and lowered by the assistive tool's actions.
 class LabelButton : public QAccessibleWidget {
 public:
-    explicit LabelButton(ClickLabel* label) : QAccessibleWidget(label, QAccessible::Button) {}
+    explicit LabelButton(ClickLabel* label) : QAccessibleWidget(label, QAccessible::Button) { }
 
     QString text(QAccessible::Text t) const override
     {
@@ -144,7 +144,7 @@ private:
 // A scroll bar whose value is said as what it means.
 class MeaningfulScrollBar : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    explicit MeaningfulScrollBar(ScrollBar* bar) : QAccessibleWidget(bar, QAccessible::ScrollBar) {}
+    explicit MeaningfulScrollBar(ScrollBar* bar) : QAccessibleWidget(bar, QAccessible::ScrollBar) { }
 
     void* interface_cast(QAccessible::InterfaceType t) override
     {
@@ -172,8 +172,7 @@ private:
         if (bar()->Spoken) {
             try {
                 return bar()->Spoken();
-            } catch (const rt::RuntimeError&) {
-            }
+            } catch (const rt::RuntimeError&) { }
         }
         return QString::number(bar()->value());
     }
@@ -202,10 +201,10 @@ void makeNamesUnique(const std::vector<QWidget*>& controls)
 
 QString colourName(int number)
 {
-    static const char* const names[16] = {"black",       "blue",         "green",      "cyan",
-                                          "red",         "magenta",      "yellow",     "white",
-                                          "grey",        "light blue",   "light green", "light cyan",
-                                          "light red",   "light magenta", "light yellow", "bright white"};
+    static const char* const names[16] = {"black",     "blue",          "green",        "cyan",
+                                          "red",       "magenta",       "yellow",       "white",
+                                          "grey",      "light blue",    "light green",  "light cyan",
+                                          "light red", "light magenta", "light yellow", "bright white"};
     return number >= 0 && number < 16 ? QString::fromLatin1(names[number]) : QString();
 }
 

@@ -4,14 +4,14 @@
 #include <QAccessible>
 #include <QAction>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QStyleOptionFocusRect>
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingSurface.h"
@@ -45,7 +45,7 @@ void TextBox::runChange()
         return;
     struct Depth {
         int& d;
-        explicit Depth(int& depth) : d(++depth) {}
+        explicit Depth(int& depth) : d(++depth) { }
         ~Depth() { --d; }
     } depth(changeDepth_);
     Change();

@@ -186,7 +186,7 @@ void fillMenuArray(QMenu* menu, std::vector<QAction*>& entries, int count, const
 // exist raises its error only if something is drawn in it.
 class FirstUseColour {
 public:
-    explicit FirstUseColour(std::function<int()> number) : number_(std::move(number)) {}
+    explicit FirstUseColour(std::function<int()> number) : number_(std::move(number)) { }
     QRgb get();
 
 private:

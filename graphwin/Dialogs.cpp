@@ -34,8 +34,7 @@ void MsgBox(const QString& prompt, const QString& title)
     box.exec();
 }
 
-QString InputBox(const QString& prompt, const QString& title, const QString& defaultText, double xTwips,
-                 double yTwips)
+QString InputBox(const QString& prompt, const QString& title, const QString& defaultText, double xTwips, double yTwips)
 {
     if (activeScript) {
         activeScript->shown.emplace_back(title, prompt);
@@ -64,7 +63,8 @@ QString InputBox(const QString& prompt, const QString& title, const QString& def
 
 void reportRuntimeError(const rt::RuntimeError& error)
 {
-    const QString text = QStringLiteral("Run-time error '%1':\n\n%2").arg(error.number()).arg(QString::fromUtf8(error.what()));
+    const QString text =
+        QStringLiteral("Run-time error '%1':\n\n%2").arg(error.number()).arg(QString::fromUtf8(error.what()));
     if (activeScript) {
         activeScript->shown.emplace_back(QStringLiteral("Plotto"), text);
         activeScript->errors.push_back(error.number());

@@ -6,8 +6,8 @@
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QMouseEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "graphwin/Dialogs.h"
@@ -157,7 +157,8 @@ void DrawingSurface::Cls()
     touched();
 }
 
-void DrawingSurface::record(DrawOp::Kind kind, double x1, double y1, double x2, double y2, QRgb color, const QString& text)
+void DrawingSurface::record(DrawOp::Kind kind, double x1, double y1, double x2, double y2, QRgb color,
+                            const QString& text)
 {
     ops_.push_back(DrawOp{kind, x1, y1, x2, y2, color, drawWidth_, text});
 }
@@ -218,8 +219,9 @@ void DrawingSurface::clearArea(double left, double top, double width, double hei
 void DrawingSurface::drawClear(double left, double top, double width, double height, QRgb color)
 {
     QPainter painter(&image_);
-    painter.fillRect(QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel, height / kTwipsPerPixel),
-                     QColor(color));
+    painter.fillRect(
+        QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel, height / kTwipsPerPixel),
+        QColor(color));
     painter.end();
     bits_ = reinterpret_cast<QRgb*>(image_.bits());
 }
@@ -318,9 +320,10 @@ void DrawingSurface::paintEvent(QPaintEvent*)
 
 QImage DrawingSurface::picture(const QRectF& twips) const
 {
-    const QRect px = QRectF(toPx(twips.left()), toPx(twips.top()), twips.width() * pxPerTwip_, twips.height() * pxPerTwip_)
-                         .toAlignedRect()
-                         .intersected(image_.rect());
+    const QRect px =
+        QRectF(toPx(twips.left()), toPx(twips.top()), twips.width() * pxPerTwip_, twips.height() * pxPerTwip_)
+            .toAlignedRect()
+            .intersected(image_.rect());
     QImage copy = image_.copy(px);
     copy.setDevicePixelRatio(1);
     return copy;

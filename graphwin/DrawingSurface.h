@@ -180,7 +180,7 @@ private:
     QSize normalSize_;
     double zoom_ = 1.0;
     double screenScale_ = 1.0;  // the screen's device pixels per logical pixel
-    double scale_;              // device pixels per logical pixel of the normal-size form
+    double scale_;  // device pixels per logical pixel of the normal-size form
     double pxPerTwip_;
     QImage image_;
     QRgb* bits_ = nullptr;

@@ -8,12 +8,12 @@
 #include <QApplication>
 #include <QFrame>
 #include <QGroupBox>
-#include <QScrollBar>
-#include <QTableWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "funclib/FuncGlobals.h"
@@ -178,7 +178,9 @@ void GraphScreen::buildCoefficients()
         lblFunc->setWordWrap(true);
         lblFunc->setAlignment(Qt::AlignCenter);
         lblFunc->setFrameStyle(QFrame::Box | QFrame::Plain);  // all four edges, on white too
-        lblFunc->MouseDown = [this](int Button, int Shift, double X, double Y) { lblFunc_MouseDown(Button, Shift, X, Y); };
+        lblFunc->MouseDown = [this](int Button, int Shift, double X, double Y) {
+            lblFunc_MouseDown(Button, Shift, X, Y);
+        };
     }
 }
 
@@ -209,8 +211,8 @@ QMenu* GraphScreen::addMenu(const QString& caption) { return menuBar->addMenu(ca
 
 void GraphScreen::buildMenus()
 {
-    const FileMenu file =
-        addFileMenu(menuBar, QStringLiteral("E&xit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
+    const FileMenu file = addFileMenu(
+        menuBar, QStringLiteral("E&xit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
     mnuFile = file.menu;
     mnuAbout = file.about;
     sep1 = file.separator;
@@ -230,8 +232,8 @@ void GraphScreen::loadFunctionMenu()
     for (int i = 1; i <= ExplicitFamilyCount; ++i)
         FuncCaption[i] = ExplicitCaption(i);
     fillMenuArray(
-        mnuSelect->menu(), mnuFunc, ExplicitFamilyCount,
-        [](int i) { return QString::fromStdString(FuncCaption[i]); }, [this](int i) { mnuFunc_Click(i); });
+        mnuSelect->menu(), mnuFunc, ExplicitFamilyCount, [](int i) { return QString::fromStdString(FuncCaption[i]); },
+        [this](int i) { mnuFunc_Click(i); });
 }
 
 void GraphScreen::Form_Load()
@@ -419,8 +421,8 @@ void GraphScreen::copyCoefficient(int index)
     if (!box)
         return;
     double* const targets[6] = {&FuncGlobals::Coefficients.A, &FuncGlobals::Coefficients.B,
-                              &FuncGlobals::Coefficients.C, &FuncGlobals::Coefficients.D,
-                              &FuncGlobals::Coefficients.E, &FuncGlobals::Coefficients.F};
+                                &FuncGlobals::Coefficients.C, &FuncGlobals::Coefficients.D,
+                                &FuncGlobals::Coefficients.E, &FuncGlobals::Coefficients.F};
     *targets[index] = box->value();
 }
 
@@ -432,7 +434,7 @@ void GraphScreen::coefficientEdited(int index)
     coefficientChanged(index);
 }
 
-void GraphScreen::coefficientChanged(int) {}
+void GraphScreen::coefficientChanged(int) { }
 
 void GraphScreen::stepCoefficient(int index, int Button)
 {
@@ -486,7 +488,6 @@ void GraphScreen::cmdExit_Click() { mnuExit_Click(); }
 
 void GraphScreen::mnuExit_Click() { hide(); }
 
-
 void GraphScreen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
@@ -498,8 +499,7 @@ void GraphScreen::showEvent(QShowEvent* event)
         // The first opening: the normal size, or the largest that fits the screen.
         if (QScreen* where = screen()) {
             const QSize frame(kWindowBorders.width(), menuBar->sizeHint().height() + kWindowBorders.height());
-            resize(openingSize(surface->normalSize(), frame, where->availableGeometry().size()) -
-                   kWindowBorders);
+            resize(openingSize(surface->normalSize(), frame, where->availableGeometry().size()) - kWindowBorders);
         }
     }
 }
@@ -514,10 +514,12 @@ void GraphScreen::arrangeForKeyboard()
         box->setToolTip(QString::fromLatin1(name));
     }
     const std::tuple<ClickLabel*, const char*, const char*> arrows[] = {
-        {lblXminL, "lower", "Xmin"}, {lblXminR, "raise", "Xmin"}, {lblXmaxL, "lower", "Xmax"}, {lblXmaxR, "raise", "Xmax"},
-        {lblYminL, "lower", "Ymin"}, {lblYminR, "raise", "Ymin"}, {lblYmaxL, "lower", "Ymax"}, {lblYmaxR, "raise", "Ymax"}};
+        {lblXminL, "lower", "Xmin"}, {lblXminR, "raise", "Xmin"}, {lblXmaxL, "lower", "Xmax"},
+        {lblXmaxR, "raise", "Xmax"}, {lblYminL, "lower", "Ymin"}, {lblYminR, "raise", "Ymin"},
+        {lblYmaxL, "lower", "Ymax"}, {lblYmaxR, "raise", "Ymax"}};
     for (const auto& [label, verb, limit] : arrows)
-        label->setAccessibleName(QStringLiteral("%1 %2 by one").arg(QString::fromLatin1(verb), QString::fromLatin1(limit)));
+        label->setAccessibleName(
+            QStringLiteral("%1 %2 by one").arg(QString::fromLatin1(verb), QString::fromLatin1(limit)));
     surface->setAccessibleName(QStringLiteral("Graph"));
     refreshDescription();
 
@@ -565,7 +567,9 @@ void GraphScreen::arrangeForKeyboard()
         const int x = static_cast<int>(std::lround(at.x() * k)), y = static_cast<int>(std::lround(at.y() * k));
         const int centre = x + static_cast<int>(std::lround(w->width() * k / 2));
         // The limit boxes and their arrows stand astride the square's edges, wider on the right.
-        const int panel = centre < squareLeftPx - 30 ? 0 : centre <= squareRightPx + 60 ? 1 : 2 + (x - squareRightPx) / 120;
+        const int panel = centre < squareLeftPx - 30     ? 0
+                          : centre <= squareRightPx + 60 ? 1
+                                                         : 2 + (x - squareRightPx) / 120;
         return std::tuple(panel, y, x);
     };
     std::stable_sort(focusable.begin(), focusable.end(), [&](QWidget* a, QWidget* b) { return place(a) < place(b); });
@@ -573,7 +577,6 @@ void GraphScreen::arrangeForKeyboard()
         QWidget::setTabOrder(focusable[i - 1], focusable[i]);
     makeNamesUnique(focusable);
 }
-
 
 void GraphScreen::noteDrawn(const QString& what)
 {
@@ -604,7 +607,7 @@ QString GraphScreen::describe() const
     return lines.join(QLatin1Char('\n'));
 }
 
-void GraphScreen::describeResults(QStringList&) const {}
+void GraphScreen::describeResults(QStringList&) const { }
 
 QString GraphScreen::describeFamily() const
 {
@@ -615,7 +618,8 @@ QString GraphScreen::describeFamily() const
     QStringList values;
     for (int i = 0; i < config_.coefficientCount; ++i)
         if (boxes[i])
-            values << QStringLiteral("%1 = %2").arg(QChar::fromLatin1(static_cast<char>('A' + i))).arg(boxes[i]->text());
+            values
+                << QStringLiteral("%1 = %2").arg(QChar::fromLatin1(static_cast<char>('A' + i))).arg(boxes[i]->text());
     return text + QStringLiteral(" with ") + values.join(QStringLiteral(", "));
 }
 
@@ -645,6 +649,5 @@ void GraphScreen::copyGraph()
         return;
     }
     const double L = config_.squareLeft;
-    copyToClipboard(surface->picture(QRectF(L, config_.frameTop, 6405, 6405 + (100 - config_.frameTop))),
-                    describe());
+    copyToClipboard(surface->picture(QRectF(L, config_.frameTop, 6405, 6405 + (100 - config_.frameTop))), describe());
 }

@@ -40,7 +40,7 @@ public:
         int frameTop = 100;  // top of the outline shape shpSquare (the square itself starts at 100)
         Zoom zoom = Zoom::AboutCentre;
         bool validatingLimits = false;  // refuse a window whose minimum is not below its maximum
-        int coefficientCount = 5;       // 5 (A to E) or 6 (A to F)
+        int coefficientCount = 5;  // 5 (A to E) or 6 (A to F)
         std::array<const char*, 6> coefficientDefaults{"1", "1", "0", "0", "0", "0"};
         bool functionMenu = true;  // the explicit families' menu and function label
         QString functionMenuCaption = QStringLiteral("&Select Function");

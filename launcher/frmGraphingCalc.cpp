@@ -26,8 +26,8 @@ frmGraphingCalc::frmGraphingCalc()
     menuBar = new QMenuBar(this);
     layout->setMenuBar(menuBar);
 
-    const FileMenu file =
-        addFileMenu(menuBar, QStringLiteral("&Quit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
+    const FileMenu file = addFileMenu(
+        menuBar, QStringLiteral("&Quit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
     mnuFile = file.menu;
     mnuAbout = file.about;
     Sep1 = file.separator;
@@ -161,7 +161,8 @@ void frmGraphingCalc::mnuAbout_Click()
     MsgBox(QStringLiteral("This program is free.  Give it to your Calculus students or whoever could benefit from its "
                           "use.  Send your questions and suggestions to the Plotto issue tracker."),
            QStringLiteral("Distribute Freely"));
-    MsgBox(QStringLiteral("Read the ABOUTs on each screen.  There are handy things to know about clicking labels on the "
-                          "screens....."),
-           QStringLiteral("More ABOUTs"));
+    MsgBox(
+        QStringLiteral("Read the ABOUTs on each screen.  There are handy things to know about clicking labels on the "
+                       "screens....."),
+        QStringLiteral("More ABOUTs"));
 }

@@ -7,8 +7,8 @@
 
 #include <QWidget>
 
-#include "screens/frmClasses.h"
 #include "screens/frmAnimate.h"
+#include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
 #include "screens/frmMVT.h"
 #include "screens/frmNewton.h"

@@ -12,13 +12,31 @@ namespace {
 
 // The options that Qt itself takes from the command line (QGuiApplication's and the X11 platform's);
 // they are left to Qt, so they must not count as unknown here.
-const char* const kQtOptions[][2] = {
-    {"platform", "name"}, {"platformpluginpath", "path"}, {"platformtheme", "name"}, {"plugin", "name"},
-    {"qwindowgeometry", "geometry"}, {"qwindowicon", "icon"}, {"qwindowtitle", "title"}, {"reverse", nullptr},
-    {"session", "id"}, {"style", "style"}, {"stylesheet", "file"}, {"widgetcount", nullptr},
-    {"display", "name"}, {"geometry", "geometry"}, {"title", "title"}, {"name", "name"},
-    {"visual", "visual"}, {"ncols", "count"}, {"cmap", nullptr}, {"nograb", nullptr}, {"dograb", nullptr},
-    {"sync", nullptr}, {"qmljsdebugger", "options"}, {"fontengine", "engine"}, {"im", "server"}};
+const char* const kQtOptions[][2] = {{"platform", "name"},
+                                     {"platformpluginpath", "path"},
+                                     {"platformtheme", "name"},
+                                     {"plugin", "name"},
+                                     {"qwindowgeometry", "geometry"},
+                                     {"qwindowicon", "icon"},
+                                     {"qwindowtitle", "title"},
+                                     {"reverse", nullptr},
+                                     {"session", "id"},
+                                     {"style", "style"},
+                                     {"stylesheet", "file"},
+                                     {"widgetcount", nullptr},
+                                     {"display", "name"},
+                                     {"geometry", "geometry"},
+                                     {"title", "title"},
+                                     {"name", "name"},
+                                     {"visual", "visual"},
+                                     {"ncols", "count"},
+                                     {"cmap", nullptr},
+                                     {"nograb", nullptr},
+                                     {"dograb", nullptr},
+                                     {"sync", nullptr},
+                                     {"qmljsdebugger", "options"},
+                                     {"fontengine", "engine"},
+                                     {"im", "server"}};
 
 // Answers --help and --version, or an unknown option, before any window exists (so that they work
 // without a display). Returns the exit status to end with, or -1 to start the program.

@@ -27,6 +27,7 @@ public:
         check(index);
         return items_[static_cast<std::size_t>(index - Lo)];
     }
+
 private:
     static void check(long index)
     {

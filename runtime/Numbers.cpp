@@ -69,7 +69,7 @@ double parseNumber(std::string_view number)
 
 struct Digits {
     std::string mantissa;  // significant digits, no trailing zeros, at least one digit
-    int exponent = 0;      // decimal exponent of the first digit
+    int exponent = 0;  // decimal exponent of the first digit
 };
 
 Digits roundToDigits(double magnitude, int significant)

@@ -16,7 +16,7 @@ const char* errorMessage(int number)
     }
 }
 
-RuntimeError::RuntimeError(int number) : number_(number) {}
+RuntimeError::RuntimeError(int number) : number_(number) { }
 
 const char* RuntimeError::what() const noexcept { return errorMessage(number_); }
 

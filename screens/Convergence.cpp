@@ -183,7 +183,8 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
             y = std::nan("");
         if (std::isfinite(y)) {
             t.exact = y;
-            t.exactSource = "Reference endpoint y = " + format("%.12g", y) + " (adaptive Dormand-Prince, tolerance 1e-12)";
+            t.exactSource =
+                "Reference endpoint y = " + format("%.12g", y) + " (adaptive Dormand-Prince, tolerance 1e-12)";
         } else {
             t.exactSource = "The curve meets a vertical slope before the end x: there is no endpoint to compare with.";
         }
@@ -215,7 +216,8 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
                         cell.note = "meets a vertical slope";
                     x = x0 + step * static_cast<double>(i + 1);
                     y = rt::Chk(y + st.dy);
-                    if (cell.note.empty() && !(window.ymin <= y && y <= window.ymax && window.xmin <= x && x <= window.xmax))
+                    if (cell.note.empty() &&
+                        !(window.ymin <= y && y <= window.ymax && window.xmin <= x && x <= window.xmax))
                         cell.note = "leaves the window";
                 }
                 if (cell.note.empty() && count > 0)

@@ -20,9 +20,9 @@ constexpr int MaxRandomWidths = 2000;
 using RandomPointArray = rt::BoundedArray<double, 0, MaxRandomWidths>;
 
 struct Result {
-    float area = 0;      // accumulated in single precision
+    float area = 0;  // accumulated in single precision
     bool error = false;  // a value of the method was the error value
-    bool odd = false;    // Simpson's rule refused an odd number of partitions
+    bool odd = false;  // Simpson's rule refused an odd number of partitions
 };
 
 namespace detail {

@@ -95,10 +95,7 @@ std::int16_t frmAnimate::steps() const
     return n == 0 ? 1 : n;
 }
 
-void frmAnimate::showValue(double value)
-{
-    lblSlide->setText(qTrimStr(rt::Int(rt::Chk(value * 1000)) / 1000));
-}
+void frmAnimate::showValue(double value) { lblSlide->setText(qTrimStr(rt::Int(rt::Chk(value * 1000)) / 1000)); }
 
 void frmAnimate::setTickedCoefficients(double value)
 {
@@ -158,7 +155,8 @@ void frmAnimate::txtSteps_Change() { vscStep->setMax(rt::CInt(txtSteps->value())
 
 void frmAnimate::UpdateStatus()
 {
-    const bool any = chkA->isChecked() || chkB->isChecked() || chkC->isChecked() || chkD->isChecked() || chkE->isChecked();
+    const bool any =
+        chkA->isChecked() || chkB->isChecked() || chkC->isChecked() || chkD->isChecked() || chkE->isChecked();
     if (!any)
         lblClickAnimate->setText(QStringLiteral("Select Variable(s)"));
     else if (continuous())

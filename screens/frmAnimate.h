@@ -26,8 +26,8 @@ public:
     void vscStep_Change();
     void vscStep_Scroll();
     void txtSteps_Change();
-    void txtStart_Change() {}
-    void txtEnd_Change() {}
+    void txtStart_Change() { }
+    void txtEnd_Change() { }
     void chkA_Click();
     void chkB_Click();
     void chkC_Click();

@@ -177,7 +177,8 @@ frmFlowField::frmFlowField() : GraphScreen(flowConfig())
     convergence = addConvergenceMenu(this, menuBar, QStringLiteral("Convergence of the step methods"), [this] {
         const double x0 = rt::Val(startX_->text().toStdString()), y0 = rt::Val(startY_->text().toStdString());
         const double xEnd = rt::Val(endX_->text().toStdString()), h = rt::Val(stepH_->text().toStdString());
-        return Convergence::steps(x0, y0, xEnd, h, 6, {txtXmin->value(), txtXmax->value(), txtYmin->value(), txtYmax->value()});
+        return Convergence::steps(x0, y0, xEnd, h, 6,
+                                  {txtXmin->value(), txtXmax->value(), txtYmin->value(), txtYmax->value()});
     });
     startX_ = convergence->addInput(QStringLiteral("Start x"), QStringLiteral("4"));
     startY_ = convergence->addInput(QStringLiteral("Start y"), QStringLiteral("3"));
@@ -245,10 +246,10 @@ void frmFlowField::ShowDyDx()
     using namespace FuncGlobals;
     const auto& k = Coefficients;
     const std::string dyCaption = DyCaption(DyFuncId), dxCaption = DxCaption(DxFuncId);
-    const std::string dy = FormulaWithCoefficients(std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())),
-                                                   "ABC", {k.A, k.B, k.C});
-    const std::string dx = FormulaWithCoefficients(std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())),
-                                                   "DEF", {k.D, k.E, k.F});
+    const std::string dy = FormulaWithCoefficients(
+        std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())), "ABC", {k.A, k.B, k.C});
+    const std::string dx = FormulaWithCoefficients(
+        std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())), "DEF", {k.D, k.E, k.F});
     const double formula = equals + surface->TextWidth(QStringLiteral("= "));
     surface->setFontUnderline(true);
     surface->CurrentX = formula;
@@ -372,7 +373,8 @@ bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X
 
 void frmFlowField::drawSegment(double x1, double y1, double x2, double y2)
 {
-    surface->Line(graph.column(x1), graph.row(y1), graph.column(x2), graph.row(y2), rgbColor(rt::QBColor(MethodColour)));
+    surface->Line(graph.column(x1), graph.row(y1), graph.column(x2), graph.row(y2),
+                  rgbColor(rt::QBColor(MethodColour)));
 }
 
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
@@ -394,7 +396,8 @@ void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
             return;
         const double ny = Chk(CurrentY + st.dy);
         if (txtYmin->value() <= ny && ny <= txtYmax->value())
-            surface->Line(X, Y, graph.column(Chk(CurrentX + st.dx)), graph.row(ny), rgbColor(rt::QBColor(MethodColour)));
+            surface->Line(X, Y, graph.column(Chk(CurrentX + st.dx)), graph.row(ny),
+                          rgbColor(rt::QBColor(MethodColour)));
     }
     PointCounter = 1;
     double x = Chk(CurrentX + st.dx), y = Chk(CurrentY + st.dy);
@@ -408,10 +411,9 @@ void frmFlowField::followCurve(double& x, double& y, bool backward)
 {
     const double h = backward ? -txtDelta->value() : txtDelta->value();
     rt::cleanVectorStateForHotLoop();
-    const bool reachedEnd = IntegralCurves::follow(settings(), h, backward, x, y, PointCounter,
-                                                   [this](double x1, double y1, double x2, double y2) {
-                                                       drawSegment(x1, y1, x2, y2);
-                                                   });
+    const bool reachedEnd =
+        IntegralCurves::follow(settings(), h, backward, x, y, PointCounter,
+                               [this](double x1, double y1, double x2, double y2) { drawSegment(x1, y1, x2, y2); });
     if (!reachedEnd)
         return;
     auto end = [](double v) { return qStr(rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)) / 1000); };
@@ -437,11 +439,14 @@ void frmFlowField::Form_MouseMove(int, int, double X, double Y)
 
 void frmFlowField::lblPos_Click()
 {
-    double x = rt::Val(InputBox(QStringLiteral("Enter x coordinate:"), QStringLiteral("X ="), QStringLiteral("3"), 4000, 4000)
-                           .toStdString());
-    double y = rt::Val(InputBox(QStringLiteral("Enter y coordinate:"), QStringLiteral("Y ="), QStringLiteral("4"), 4000, 4000)
-                           .toStdString());
-    lblPos->setText(QStringLiteral("Start( ") + qTrimStr(x) + QStringLiteral(" , ") + qTrimStr(y) + QStringLiteral(" ) "));
+    double x =
+        rt::Val(InputBox(QStringLiteral("Enter x coordinate:"), QStringLiteral("X ="), QStringLiteral("3"), 4000, 4000)
+                    .toStdString());
+    double y =
+        rt::Val(InputBox(QStringLiteral("Enter y coordinate:"), QStringLiteral("Y ="), QStringLiteral("4"), 4000, 4000)
+                    .toStdString());
+    lblPos->setText(QStringLiteral("Start( ") + qTrimStr(x) + QStringLiteral(" , ") + qTrimStr(y) +
+                    QStringLiteral(" ) "));
     PointCounter = 0;
     FollowCurveForward(x, y);
 }
@@ -502,7 +507,8 @@ void frmFlowField::refuseMethod()
 {
     if (!optCurve->isChecked())
         return;
-    MsgBox(QStringLiteral("In the curve option, Euler is the only method for calculating points."), QStringLiteral("Sorry"));
+    MsgBox(QStringLiteral("In the curve option, Euler is the only method for calculating points."),
+           QStringLiteral("Sorry"));
     optEuler->select();
 }
 
@@ -569,8 +575,8 @@ void frmFlowField::describeResults(QStringList& lines) const
 {
     const OptionButton* method = optRunga4->isChecked() ? optRunga4 : optRunga2->isChecked() ? optRunga2 : optEuler;
     lines << QStringLiteral("Rates: %1; %2.").arg(lbldy->text(), lbldx->text());
-    lines << (optApprox->isChecked()
-                  ? QStringLiteral("Purpose: approximation by %1, %2 %3.").arg(spoken(method->text()), spoken(lblDeltaX->text()), txtDelta->text())
-                  : QStringLiteral("Purpose: smooth curves."));
+    lines << (optApprox->isChecked() ? QStringLiteral("Purpose: approximation by %1, %2 %3.")
+                                           .arg(spoken(method->text()), spoken(lblDeltaX->text()), txtDelta->text())
+                                     : QStringLiteral("Purpose: smooth curves."));
     lines << lblPos->text().trimmed() << lblEndpt->text().trimmed();
 }

@@ -166,7 +166,8 @@ void frmMVT::lblFindc_Click()
     const float a = rt::CSng(txtX1->value()), b = rt::CSng(txtX2->value());
     if (!(a < x && x < b))
         return;
-    const float position = rt::CSng(rt::CSng(rt::CSng(x - a) / rt::CSng(b - a)) * static_cast<float>(HscMVT->maximum()));
+    const float position =
+        rt::CSng(rt::CSng(rt::CSng(x - a) / rt::CSng(b - a)) * static_cast<float>(HscMVT->maximum()));
     HscMVT->setValueChecked(rt::CInt(position));
 }
 
@@ -264,7 +265,8 @@ void frmMVT::describeResults(QStringList& lines) const
     QStringList found;
     for (int r = 1; r < gridC->rowCount(); ++r)
         if (!gridC->cell(r, 0).isEmpty())
-            found << QStringLiteral("c = %1, f(c) = %2, m = %3").arg(gridC->cell(r, 0), gridC->cell(r, 1), gridC->cell(r, 2));
+            found << QStringLiteral("c = %1, f(c) = %2, m = %3")
+                         .arg(gridC->cell(r, 0), gridC->cell(r, 1), gridC->cell(r, 2));
     if (!found.isEmpty())
         lines << QStringLiteral("Found: ") + found.join(QStringLiteral("; ")) + QLatin1Char('.');
 }

@@ -134,6 +134,7 @@ void frmNewton::describeResults(QStringList& lines) const
         if (!grdGuess->cell(r, 1).isEmpty())
             guesses << QStringLiteral("%1: %2").arg(grdGuess->cell(r, 0), grdGuess->cell(r, 1));
     lines << QStringLiteral("Newton's method on ") + describeFamily() + QLatin1Char('.');
-    lines << (guesses.isEmpty() ? QStringLiteral("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
-                                : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
+    lines << (guesses.isEmpty()
+                  ? QStringLiteral("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
+                  : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
 }

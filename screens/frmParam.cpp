@@ -258,7 +258,8 @@ void frmParam::mnuAbout_Click()
         {"Left or Right clicks",
          "You may left click of right click on the labels for the entry boxes to raise of lower their values by 1."},
         {"Change the size of the window?",
-         "The buttons below [Plotto!] are what they say.  Zoom in will reduce the size by a factor of 2.  Zoom Out will "
+         "The buttons below [Plotto!] are what they say.  Zoom in will reduce the size by a factor of 2.  Zoom Out "
+         "will "
          "enlarge the size by a factor of 2.  You may change the window size by clicking on any of the boxes showing "
          "teh ranges for x and y."},
     });
@@ -271,7 +272,7 @@ void frmParam::describeResults(QStringList& lines) const
                  .arg(lblXPar->text(), lblYPar->text(), qTrimStr(k.A), qTrimStr(k.B), qTrimStr(k.C), qTrimStr(k.D),
                       qTrimStr(k.E), qTrimStr(k.F));
     lines << QStringLiteral("t from %1 to %2 in steps of %3, %4.")
-                 .arg(txtT0->text(), txtTn->text(), txtTstep->text(), optCont->isChecked() ? QStringLiteral("connected points")
-                                                                                        : QStringLiteral("separate points"));
+                 .arg(txtT0->text(), txtTn->text(), txtTstep->text(),
+                      optCont->isChecked() ? QStringLiteral("connected points") : QStringLiteral("separate points"));
     lines << QStringLiteral("Trace at t = %1: %2.").arg(txtT->text(), lblXY->text());
 }

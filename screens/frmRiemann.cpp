@@ -65,7 +65,9 @@ void frmRiemann::buildSumsPanel()
         placeTwips(b, kPanel, top, kPanelWidth, 420);
         return b;
     };
-    auto box = [this](const char* text, double top) { return makeBox(QString::fromLatin1(text), kPanel, top, kPanelWidth); };
+    auto box = [this](const char* text, double top) {
+        return makeBox(QString::fromLatin1(text), kPanel, top, kPanelWidth);
+    };
     auto stepper = [this](const char* caption, double top) {
         auto* l = new ClickLabel(surface, QString::fromLatin1(caption), true);
         placeTwips(l, kPanel, top, kPanelWidth, 300);
@@ -185,7 +187,9 @@ void frmRiemann::cmdParts_Click()
     const double left = squareLeft(), right = left + 6400;
     const double Y0 = graph.YOrigin;
     auto f = [](double x) { return FuncGlobals::YFunc(x); };
-    auto inside = [&](double a, double b, double t) { return left < a && a < right && left < b && b < right && 100 < t && t < 6500; };
+    auto inside = [&](double a, double b, double t) {
+        return left < a && a < right && left < b && b < right && 100 < t && t < 6500;
+    };
     auto barsIn = [&](int colourNumber) {
         const QRgb colour = rgbColor(rt::QBColor(colourNumber));
         return [this, &inside, Y0, colour](double xa, double xb, double y) {
@@ -332,9 +336,9 @@ void frmRiemann::describeResults(QStringList& lines) const
     lines << QStringLiteral("Area under %1 from %2 to %3 with %4 partitions: %5.")
                  .arg(describeFamily(), txtLBound->text(), txtRBound->text(), txtParts->text(), lblAreas->text());
     const std::pair<const CheckBox*, const ClickLabel*> methods[] = {
-        {chkLeft, lblLeftE}, {chkRight, lblRightE}, {chkMid, lblMid},          {chkTrap, lblTrap},
+        {chkLeft, lblLeftE}, {chkRight, lblRightE},    {chkMid, lblMid},        {chkTrap, lblTrap},
         {chkRandom, lblRnd}, {chkSimpson, lblSimpson}, {chkRiemann, lblRiemann}};
     for (const auto& [check, result] : methods)
-        lines << QStringLiteral("%1%2: %3").arg(check->text(), check->isChecked() ? QStringLiteral(" (ticked)") : QString(),
-                                              result->text());
+        lines << QStringLiteral("%1%2: %3")
+                     .arg(check->text(), check->isChecked() ? QStringLiteral(" (ticked)") : QString(), result->text());
 }

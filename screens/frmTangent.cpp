@@ -62,7 +62,9 @@ frmTangent::frmTangent() : GraphScreen(tangentConfig())
 
     txtX->Change = [this] { txtX_Change(); };
     hscDx->Change = [this] { hscDx_Change(); };
-    hscDx->Spoken = [this] { return QStringLiteral("Delta x = ") + qTrimStr((hscDx->value() - 1000) * txtDeltaX->value() / 1000); };
+    hscDx->Spoken = [this] {
+        return QStringLiteral("Delta x = ") + qTrimStr((hscDx->value() - 1000) * txtDeltaX->value() / 1000);
+    };
     lblXat->MouseDown = [this](int b, int s, double x, double y) { lblXat_MouseDown(b, s, x, y); };
     lblDeltaX->MouseDown = [this](int b, int s, double x, double y) { lblDeltaX_MouseDown(b, s, x, y); };
     Form_Load();
@@ -157,5 +159,6 @@ void frmTangent::describeResults(QStringList& lines) const
 {
     lines << QStringLiteral("Tangent problem for ") + describeFamily() + QStringLiteral(" at x = ") + txtX->text() +
                  QStringLiteral(", Delta x = ") + txtDeltaX->text() + QLatin1Char('.');
-    lines << QStringLiteral("Secant through ") + lblPoints->text() + QStringLiteral(": ") + lblTLine->text() + QLatin1Char('.');
+    lines << QStringLiteral("Secant through ") + lblPoints->text() + QStringLiteral(": ") + lblTLine->text() +
+                 QLatin1Char('.');
 }

@@ -62,8 +62,8 @@ int main(int argc, char* argv[])
     frmRiemann& sums = launcher.riemannScreen();
     sums.Form_Activate();
     sums.txtParts->setText(QStringLiteral("8"));
-    for (CheckBox* c : {sums.chkLeft, sums.chkRight, sums.chkMid, sums.chkTrap, sums.chkRandom, sums.chkSimpson,
-                        sums.chkRiemann})
+    for (CheckBox* c :
+         {sums.chkLeft, sums.chkRight, sums.chkMid, sums.chkTrap, sums.chkRandom, sums.chkSimpson, sums.chkRiemann})
         c->setChecked(true);
     sums.cmdGraphNow_Click();
     sums.cmdParts_Click();

@@ -19,7 +19,6 @@ void select(int id, double a, double b, double c, double d = 0, double e = 0)
     Coefficients = {a, b, c, d, e, 0};
 }
 
-
 }  // namespace
 
 TEST(ExplicitCatalogue, CaptionsAreWrittenExactly)

@@ -20,7 +20,6 @@ void rates(int dy, int dx, CoefficientSet k)
     Coefficients = k;
 }
 
-
 }  // namespace
 
 TEST(RateCatalogue, CaptionsKeepTheirIrregularities)

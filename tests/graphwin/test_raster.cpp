@@ -75,17 +75,32 @@ void referenceLine(GuardedImage& img, double x1, double y1, double x2, double y2
 // Coordinates that reach every region a caller can hand over.
 double coordinate(std::mt19937& rng, long extent)
 {
-    const double specials[] = {0.0,   -0.0,    -0.5,  -1.0,   -1.5,   -2.0,  -3.5,  -6.9,  extent - 1.0,
-                               extent - 0.01, double(extent), extent + 0.5, extent + 2.0, extent + 5.9, 1e6, -1e6,
-                               1e300, -1e300, std::numeric_limits<double>::infinity(),
-                               -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()};
+    const double specials[] = {0.0,
+                               -0.0,
+                               -0.5,
+                               -1.0,
+                               -1.5,
+                               -2.0,
+                               -3.5,
+                               -6.9,
+                               extent - 1.0,
+                               extent - 0.01,
+                               double(extent),
+                               extent + 0.5,
+                               extent + 2.0,
+                               extent + 5.9,
+                               1e6,
+                               -1e6,
+                               1e300,
+                               -1e300,
+                               std::numeric_limits<double>::infinity(),
+                               -std::numeric_limits<double>::infinity(),
+                               std::numeric_limits<double>::quiet_NaN()};
     switch (rng() % 4) {
-    case 0:
-        return specials[rng() % std::size(specials)];
+    case 0: return specials[rng() % std::size(specials)];
     case 1:  // the margins on either side
         return std::uniform_real_distribution<double>(-8.0, 0.0)(rng) + (rng() % 2 ? extent + 8.0 : 0.0);
-    default:
-        return std::uniform_real_distribution<double>(-10.0, extent + 10.0)(rng);
+    default: return std::uniform_real_distribution<double>(-10.0, extent + 10.0)(rng);
     }
 }
 
@@ -116,8 +131,8 @@ TEST(Raster, SegmentsAndPointsMatchThePlainReferenceAndStayInside)
             GuardedImage fast, ref;
             raster::line(fast.target(), x1, y1, x2, y2, pen, kInk);
             referenceLine(ref, x1, y1, x2, y2, pen);
-            ASSERT_TRUE(sameAndGuarded(fast, ref)) << "line (" << x1 << ", " << y1 << ")-(" << x2 << ", " << y2
-                                                   << ") pen " << pen;
+            ASSERT_TRUE(sameAndGuarded(fast, ref))
+                << "line (" << x1 << ", " << y1 << ")-(" << x2 << ", " << y2 << ") pen " << pen;
             GuardedImage fastPoint, refPoint;
             raster::point(fastPoint.target(), x1, y1, pen, kInk);
             referencePoint(refPoint, x1, y1, pen);

@@ -12,7 +12,7 @@ namespace {
 class GuardedScreen : public GraphScreen {
 public:
     GuardedScreen() : GraphScreen(config()) { Form_Load(); }
-    void mnuAbout_Click() override {}
+    void mnuAbout_Click() override { }
     int plots = 0;
     void cmdPlotto_Click() override
     {

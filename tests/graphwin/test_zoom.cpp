@@ -118,11 +118,12 @@ TEST(Zoom, AWindowOpensAtItsNormalSizeOrSmallerToFit)
     struct Case {
         QSize normal, frame, available, opened;
     } cases[] = {
-        {{749, 476}, {8, 64}, {1920, 1040}, {757, 540}},     // fits: the normal size
-        {{928, 620}, {8, 64}, {960, 520}, {691, 520}},       // a 200% screen of 1920x1080: scaled down whole
+        {{749, 476}, {8, 64}, {1920, 1040}, {757, 540}},  // fits: the normal size
+        {{928, 620}, {8, 64}, {960, 520}, {691, 520}},  // a 200% screen of 1920x1080: scaled down whole
         {{749, 476}, {8, 64}, {400, 300}, {379, 300}},
-        {{749, 476}, {8, 64}, {4, 4}, {20, 71}},             // no room at all: the smallest zoom
+        {{749, 476}, {8, 64}, {4, 4}, {20, 71}},  // no room at all: the smallest zoom
     };
     for (const Case& c : cases)
-        EXPECT_EQ(openingSize(c.normal, c.frame, c.available), c.opened) << c.available.width() << "x" << c.available.height();
+        EXPECT_EQ(openingSize(c.normal, c.frame, c.available), c.opened)
+            << c.available.width() << "x" << c.available.height();
 }

@@ -97,8 +97,8 @@ TEST_F(LauncherTest, AnErrorInsideAModalScreenReachesTheOneReport)
     whileShown(screen, [&] { screen.txtXmax->setText(QStringLiteral("-10")); });
     launcher.cmdFuncClasses->click();
     EXPECT_EQ(script.errors, std::vector<int>{11});
-    EXPECT_EQ(script.shown.back(), std::make_pair(QStringLiteral("Plotto"),
-                                                  QStringLiteral("Run-time error '11':\n\nDivision by zero")));
+    EXPECT_EQ(script.shown.back(),
+              std::make_pair(QStringLiteral("Plotto"), QStringLiteral("Run-time error '11':\n\nDivision by zero")));
 }
 
 TEST_F(LauncherTest, EveryScreenOpensFromItsButtonAndItsMenuEntry)
@@ -129,9 +129,9 @@ TEST_F(LauncherTest, EveryScreenOpensFromItsButtonAndItsMenuEntry)
         EXPECT_EQ(shown, 2) << e.title;
         EXPECT_EQ(e.screen.windowTitle(), QString::fromUtf8(e.title));
     }
-    const QString menu[] = {QStringLiteral("&Riemann Sums +"),   QStringLiteral("&Function Grapher"),
-                            QStringLiteral("&Animate Functions"), QStringLiteral("&Slope Fields"),
-                            QStringLiteral("&Newton's Method"),   QStringLiteral("&Tangent Problem"),
+    const QString menu[] = {QStringLiteral("&Riemann Sums +"),     QStringLiteral("&Function Grapher"),
+                            QStringLiteral("&Animate Functions"),  QStringLiteral("&Slope Fields"),
+                            QStringLiteral("&Newton's Method"),    QStringLiteral("&Tangent Problem"),
                             QStringLiteral("&Mean Value Theorem"), QStringLiteral("&Parametric Graphs")};
     const QList<QAction*> actions = launcher.mnuSelect->menu()->actions();
     ASSERT_EQ(actions.size(), 8);

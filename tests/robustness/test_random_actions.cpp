@@ -38,9 +38,41 @@ const std::vector<QString>& corpus()
 {
     static const std::vector<QString> texts = [] {
         std::vector<QString> t;
-        for (const char* s : {"", "-", ".", "1e", "1e308", "-1e308", "1e-320", "nan", "inf", "1.2.3", " 5", "&H7FFF",
-                              "99999999999999999999", " ", "0", "1", "2", "-1", "-2", "3", "0.5", "-0.5", "10", "-10",
-                              "4", "1000", "32000", "40000", "10000", "9999", "1e10", "-1e10", "0.001", "25", "2.5"})
+        for (const char* s : {"",
+                              "-",
+                              ".",
+                              "1e",
+                              "1e308",
+                              "-1e308",
+                              "1e-320",
+                              "nan",
+                              "inf",
+                              "1.2.3",
+                              " 5",
+                              "&H7FFF",
+                              "99999999999999999999",
+                              " ",
+                              "0",
+                              "1",
+                              "2",
+                              "-1",
+                              "-2",
+                              "3",
+                              "0.5",
+                              "-0.5",
+                              "10",
+                              "-10",
+                              "4",
+                              "1000",
+                              "32000",
+                              "40000",
+                              "10000",
+                              "9999",
+                              "1e10",
+                              "-1e10",
+                              "0.001",
+                              "25",
+                              "2.5"})
             t.push_back(QString::fromLatin1(s));
         t.push_back(QString(400, QLatin1Char('9')));
         t.push_back(QStringLiteral("0.") + QString(300, QLatin1Char('1')));
@@ -182,8 +214,10 @@ struct Walk {
             break;
         case Control::Label: {
             const int how = pick(3);
-            what += std::string(how == 0 ? "left-clicks" : how == 1 ? "right-clicks" : "double-clicks") + " label \"" +
-                    c.name.toStdString() + "\"";
+            what += std::string(how == 0   ? "left-clicks"
+                                : how == 1 ? "right-clicks"
+                                           : "double-clicks") +
+                    " label \"" + c.name.toStdString() + "\"";
             if (how == 0)
                 QTest::mouseClick(w, Qt::LeftButton);
             else if (how == 1)
@@ -202,8 +236,9 @@ struct Walk {
         case Control::Scroll: {
             auto* bar = static_cast<ScrollBar*>(c.object);
             const int where = pick(3);
-            const int v = where == 0 ? bar->minimum() : where == 1 ? bar->maximum()
-                                                                   : bar->minimum() + pick(std::max(1, bar->maximum() - bar->minimum() + 1));
+            const int v = where == 0   ? bar->minimum()
+                          : where == 1 ? bar->maximum()
+                                       : bar->minimum() + pick(std::max(1, bar->maximum() - bar->minimum() + 1));
             what += "moves a scroll bar to " + std::to_string(v);
             bar->setValue(v);
             break;
@@ -250,8 +285,10 @@ struct Walk {
         case Control::Surface: {
             const QPoint at(pick(w->width()), pick(w->height()));
             const int how = pick(3);
-            what += std::string(how == 0 ? "presses left" : how == 1 ? "presses right" : "moves") + " on the surface at " +
-                    std::to_string(at.x()) + "," + std::to_string(at.y());
+            what += std::string(how == 0   ? "presses left"
+                                : how == 1 ? "presses right"
+                                           : "moves") +
+                    " on the surface at " + std::to_string(at.x()) + "," + std::to_string(at.y());
             if (how == 2)
                 QTest::mouseMove(w, at);
             else

@@ -14,8 +14,12 @@ using namespace rt;
 TEST(RuntimeErrors, CarryTheClassicNumbersAndMessages)
 {
     const std::pair<int, std::string> table[] = {
-        {5, "Invalid procedure call or argument"}, {6, "Overflow"}, {9, "Subscript out of range"},
-        {11, "Division by zero"}, {13, "Type mismatch"}, {380, "Invalid property value"},
+        {5, "Invalid procedure call or argument"},
+        {6, "Overflow"},
+        {9, "Subscript out of range"},
+        {11, "Division by zero"},
+        {13, "Type mismatch"},
+        {380, "Invalid property value"},
     };
     for (const auto& [number, message] : table) {
         try {

@@ -36,7 +36,9 @@ TEST(Val, ReadsTheLongestLeadingNumber)
     EXPECT_EQ(Val("0e999"), 0);
     EXPECT_EQ(Val("1e-999"), 0);
     EXPECT_GT(Val("1e-320"), 0);  // a denormal is still a number
-    EXPECT_EQ(Val("\xc3\xa9" "5"), 0);
+    EXPECT_EQ(Val("\xc3\xa9"
+                  "5"),
+              0);
 }
 
 TEST(Val, TooLargeForADoubleIsOverflow)

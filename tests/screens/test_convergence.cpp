@@ -63,9 +63,9 @@ TEST(ConvergenceOfSums, WordsWhereTheIntegralDoesNotExist)
         const char* says;
     } cases[] = {
         {10, {1, 1, 0, 0, 0, 0}, -1, 1, "not defined everywhere"},  // 1/x, undefined at 0
-        {10, {1, 1, 0.001, 0, 0, 0}, -1, 1, "unbounded"},            // 1/(x + 0.001): a pole, no undefined node
-        {8, {1, 1, 0, 0, 0, 0}, -1, 1, "not defined everywhere"},     // ln x
-        {7, {1, 1, 0, 0, 0, 0}, 1, 2, "unbounded"},                   // tan x across pi/2
+        {10, {1, 1, 0.001, 0, 0, 0}, -1, 1, "unbounded"},  // 1/(x + 0.001): a pole, no undefined node
+        {8, {1, 1, 0, 0, 0, 0}, -1, 1, "not defined everywhere"},  // ln x
+        {7, {1, 1, 0, 0, 0, 0}, 1, 2, "unbounded"},  // tan x across pi/2
     };
     for (const auto& c : cases) {
         selectFamily(c.family, c.k);

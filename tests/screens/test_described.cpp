@@ -39,7 +39,10 @@ struct Shown {
     }
 };
 
-QString described(GraphScreen& s) { return QAccessible::queryAccessibleInterface(s.surface)->text(QAccessible::Description); }
+QString described(GraphScreen& s)
+{
+    return QAccessible::queryAccessibleInterface(s.surface)->text(QAccessible::Description);
+}
 QString spokenName(QWidget* w) { return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name); }
 QString spokenValue(QWidget* w) { return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Value); }
 
@@ -180,12 +183,11 @@ TEST_P(Described, FocusableControlsHaveUniqueNamesAndTabLeavesEveryGrid)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, Described, ::testing::ValuesIn(kCases),
-                         [](const auto& info) {
-                             std::string n = info.param.name;
-                             std::replace(n.begin(), n.end(), ' ', '_');
-                             return n;
-                         });
+INSTANTIATE_TEST_SUITE_P(Screens, Described, ::testing::ValuesIn(kCases), [](const auto& info) {
+    std::string n = info.param.name;
+    std::replace(n.begin(), n.end(), ' ', '_');
+    return n;
+});
 
 TEST(Spoken, SteppersAreButtonsThatStepAndSlidersSayWhatTheyMean)
 {
@@ -241,7 +243,8 @@ TEST(Keyboard, EnterInTheGraphPressesWhereTheMouseWouldAtEveryZoom)
         const QPointF at = surface->pointer();
         // The mouse at the same logical pixel.
         const double t = twipsPerPixel(surface);
-        QTest::mouseClick(surface, Qt::LeftButton, {}, QPoint(static_cast<int>(std::lround(at.x() / t)), static_cast<int>(std::lround(at.y() / t))));
+        QTest::mouseClick(surface, Qt::LeftButton, {},
+                          QPoint(static_cast<int>(std::lround(at.x() / t)), static_cast<int>(std::lround(at.y() / t))));
         ASSERT_EQ(presses.size(), 3u) << zoom;
         EXPECT_EQ(std::get<0>(presses[0]), LeftButton);
         EXPECT_EQ(std::get<0>(presses[1]), RightButton);
@@ -335,6 +338,7 @@ TEST(Described, TheSumsUseTheSharedFamilyAndTheDescriptionSaysWhich)
     s.cmdParts->click();
     EXPECT_EQ(s.lblFunction->text(), QStringLiteral("y = Ax^2 + Bx + C"));
     EXPECT_EQ(s.lblLeftE->text(), QStringLiteral("=  0"));
-    EXPECT_TRUE(described(s).contains(QStringLiteral("Area under y = A * (Bx - C)^2 + D with A = 1, B = 0"))) << str(described(s));
+    EXPECT_TRUE(described(s).contains(QStringLiteral("Area under y = A * (Bx - C)^2 + D with A = 1, B = 0")))
+        << str(described(s));
     setDialogScript(nullptr);
 }

@@ -70,7 +70,8 @@ TEST_F(Field, FieldOfArrowsEachAHundredAndSixtyTwipsLong)
     for (const DrawOp& a : arrows)
         EXPECT_NEAR(std::hypot(a.x2 - a.x1, a.y2 - a.y1), 160, 1e-9);
     // At x = 0 the slope is 0: horizontal arrows pointing right.
-    const auto atZero = std::find_if(arrows.begin(), arrows.end(), [](const DrawOp& a) { return a.x1 == 5600 && a.y1 == 3300; });
+    const auto atZero =
+        std::find_if(arrows.begin(), arrows.end(), [](const DrawOp& a) { return a.x1 == 5600 && a.y1 == 3300; });
     ASSERT_NE(atZero, arrows.end());
     EXPECT_EQ(atZero->x2, 5760);
     EXPECT_EQ(atZero->y2, 3300);
@@ -205,8 +206,9 @@ TEST_F(Field, RateLabelsCycleAndTheDxLabelKeepsItsWrapTest)
 TEST_F(Field, SettingsHandlersAndTheirMessages)
 {
     screen->optRunga4->setChecked(true);  // refused in the curve purpose, but the colour is taken
-    EXPECT_EQ(script.shown.back(), std::make_pair(QStringLiteral("Sorry"),
-                                                  QStringLiteral("In the curve option, Euler is the only method for calculating points.")));
+    EXPECT_EQ(script.shown.back(),
+              std::make_pair(QStringLiteral("Sorry"),
+                             QStringLiteral("In the curve option, Euler is the only method for calculating points.")));
     EXPECT_TRUE(screen->optEuler->isChecked());
     EXPECT_EQ(screen->MethodColour, 4);
     screen->optApprox->setChecked(true);
@@ -223,7 +225,8 @@ TEST_F(Field, SettingsHandlersAndTheirMessages)
     script.shown.clear();
     screen->txtCurvePoints->setText(QStringLiteral("10000"));
     EXPECT_EQ(script.shown, (std::vector<std::pair<QString, QString>>{
-                                {QStringLiteral("Max Points Met-Plus"), QStringLiteral("The maximum for the points graphed is 10000")}}));
+                                {QStringLiteral("Max Points Met-Plus"),
+                                 QStringLiteral("The maximum for the points graphed is 10000")}}));
     EXPECT_EQ(screen->txtCurvePoints->text(), QStringLiteral("10000"));
 }
 
@@ -258,10 +261,10 @@ TEST(FormulaDisplay, TheWalkDropsOnesCutsZeroTermsAndWritesOtherValues)
     } cases[] = {
         {"Ax + By + C", "ABC", {2, 3, 1}, "2x + 3y + "},  // a 1 loses its letter, nothing more
         {"Ax + By + C*e^x", "ABC", {1, 1, 1}, "x + y + *e^x"},
-        {"Ax + Bsin(Cx)", "ABC", {1, 3, 0}, "x"},        // C = 0 cuts the term it stands in
+        {"Ax + Bsin(Cx)", "ABC", {1, 3, 0}, "x"},  // C = 0 cuts the term it stands in
         {"Ax + By + C", "ABC", {0, 0, 0}, ""},
         {"Ax + Bsin(Cx)", "ABC", {0, 0, 0}, ""},
-        {"Ax + By + C", "ABC", {0, 3, 1}, " 3y + "},     // the leading cut leaves a blank
+        {"Ax + By + C", "ABC", {0, 3, 1}, " 3y + "},  // the leading cut leaves a blank
         {"Ax + By + C", "ABC", {0, -2, 0}, " -2y"},
         {"Ax + By + C", "ABC", {-1, 1, 0}, "-1x + y"},
         {"Ax + By + C", "ABC", {0.5, -2, 3}, ".5x - 2y + 3"},

@@ -40,7 +40,7 @@ TEST_F(MVT, SecantOfXSquaredOnZeroToTwo)
     EXPECT_EQ(screen->lblSlope1->text(), QStringLiteral("slope = 2"));
     EXPECT_EQ(screen->SecantSlope, 2);
     EXPECT_EQ(count(DrawOp::Circle), 2);
-    EXPECT_TRUE(hasPoint(5600, 3300, colour(1)));        // the secant y = 2x through the origin
+    EXPECT_TRUE(hasPoint(5600, 3300, colour(1)));  // the secant y = 2x through the origin
     EXPECT_TRUE(hasPoint(5920, 3300 - 640, colour(1)));  // and through (1, 2)
     EXPECT_EQ(screen->lbl1->text(), QStringLiteral("0"));
     EXPECT_EQ(screen->lbl2->text(), QStringLiteral("2"));
@@ -138,7 +138,8 @@ TEST_F(MVT, TypedXMovesTheSlider)
     script.answers = {QStringLiteral("1.5"), QString(), QStringLiteral("5"), QStringLiteral("0")};
     QTest::mouseClick(screen->lblFindc, Qt::LeftButton);
     EXPECT_EQ(screen->HscMVT->value(), 15000);
-    EXPECT_EQ(script.shown.back(), std::make_pair(QStringLiteral("Enter X"), QStringLiteral("Enter an x value to check")));
+    EXPECT_EQ(script.shown.back(),
+              std::make_pair(QStringLiteral("Enter X"), QStringLiteral("Enter an x value to check")));
     const size_t drawn = ops().size();
     for (int i = 0; i < 3; ++i)  // Cancel, outside, and the end point itself do nothing
         screen->lblFindc_Click();

@@ -47,7 +47,8 @@ TEST_F(Newton, ASequenceOnXSquaredMinusFourFromOne)
     EXPECT_TRUE(hasLine(5920, 3300, 5920, 4260));
     EXPECT_TRUE(hasLine(5920, 4260, 6400, 3300));
     ASSERT_EQ(texts(), 1);
-    const DrawOp& x1 = *std::find_if(ops().begin(), ops().end(), [](const DrawOp& op) { return op.kind == DrawOp::Text; });
+    const DrawOp& x1 =
+        *std::find_if(ops().begin(), ops().end(), [](const DrawOp& op) { return op.kind == DrawOp::Text; });
     EXPECT_EQ(x1.text, QStringLiteral("x1"));
     EXPECT_NEAR(x1.x1, 5920 - screen->surface->TextWidth(QStringLiteral("x1")) / 2, 1e-9);
     EXPECT_EQ(x1.y1, 3300);
@@ -128,7 +129,7 @@ TEST_F(Newton, DerivativeGraphInTheCurvesColourAndSelectingTheGuess)
 {
     parabolaMinusFour();
     screen->cmdDeriv->click();
-    EXPECT_TRUE(hasPoint(5600, 3300, colour(2)));           // f'(0) = 0
+    EXPECT_TRUE(hasPoint(5600, 3300, colour(2)));  // f'(0) = 0
     EXPECT_TRUE(hasPoint(5920, 3300 - 2 * 320, colour(2)));  // f'(1) = 2
     screen->show();
     QTest::mouseClick(screen->txtGuess, Qt::LeftButton);

@@ -48,14 +48,15 @@ TEST_F(Param, ConnectedPointsTestOnlyTheNewPoint)
             toOutside += op.x2 <= 2400 ? 1 : 0;
         }
     EXPECT_GT(fromOutside, 0);  // a segment coming in from outside is drawn whole
-    EXPECT_EQ(toOutside, 0);    // the segment to a point outside is not
+    EXPECT_EQ(toOutside, 0);  // the segment to a point outside is not
 }
 
 TEST_F(Param, StepLimitAndTheSlidersLargeChange)
 {
     screen->txtTstep->setText(QStringLiteral("40000"));
     ASSERT_EQ(script.shown.size(), 1u);
-    EXPECT_EQ(script.shown[0], std::make_pair(QStringLiteral("Exceeded Maximum"), QStringLiteral("The maximum number of steps is 32000")));
+    EXPECT_EQ(script.shown[0], std::make_pair(QStringLiteral("Exceeded Maximum"),
+                                              QStringLiteral("The maximum number of steps is 32000")));
     EXPECT_EQ(screen->txtTstep->text(), QStringLiteral("32000"));
     EXPECT_EQ(screen->HscT->Max(), 32000);
     EXPECT_EQ(screen->HscT->pageStep(), 640);

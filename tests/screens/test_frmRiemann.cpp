@@ -27,7 +27,7 @@ struct Sums : ScreenFixture<frmRiemann> {
     }
     std::vector<CheckBox*> methods() const
     {
-        return {screen->chkLeft, screen->chkRight, screen->chkMid, screen->chkTrap,
+        return {screen->chkLeft,   screen->chkRight,   screen->chkMid,    screen->chkTrap,
                 screen->chkRandom, screen->chkSimpson, screen->chkRiemann};
     }
     long linesIn(QRgb colour) const
@@ -100,7 +100,7 @@ TEST_F(Sums, TheErrorValueMarksAMethodButOnlyWhereItIsTested)
     setUpSum("0", "12345678", "0", "0", "2", "2");  // y = 12345678 x: the error value at x = 1 only
     checkAll();
     screen->cmdParts_Click();
-    EXPECT_EQ(screen->lblLeftE->text(), QStringLiteral("= error!"));   // x = 0, 1
+    EXPECT_EQ(screen->lblLeftE->text(), QStringLiteral("= error!"));  // x = 0, 1
     EXPECT_EQ(screen->lblRightE->text(), QStringLiteral("= error!"));  // x = 1, 2
     EXPECT_EQ(screen->lblTrap->text(), QStringLiteral("= error!"));
     EXPECT_EQ(screen->lblMid->text(), QStringLiteral("=  2.469136E+07"));  // x = 0.5, 1.5
@@ -159,7 +159,8 @@ TEST_F(Sums, PartitionBoxRefusesCountsOutsideOneToThirtyTwoThousand)
     script.shown.clear();
     screen->txtParts->setText(QStringLiteral("40000"));
     EXPECT_EQ(script.shown, (std::vector<std::pair<QString, QString>>{
-                                {QStringLiteral("Limit Reached"), QStringLiteral("The limit to the number of partitions is 32000")}}));
+                                {QStringLiteral("Limit Reached"),
+                                 QStringLiteral("The limit to the number of partitions is 32000")}}));
     EXPECT_EQ(screen->txtParts->text(), QStringLiteral("32000"));
     EXPECT_EQ(screen->PartitionCount, 32000);
     screen->txtParts->setText(QStringLiteral("7.9"));
@@ -226,7 +227,8 @@ TEST_F(Sums, TrapezoidTestsOnlyItsLeftHeight)
     screen->chkTrap->setChecked(true);
     setUpSum("0", "10", "0", "0", "2", "2");  // y = 10x: heights 0, 10, 20
     screen->cmdParts_Click();
-    EXPECT_EQ(linesIn(colour(5)), 3);  // [0, 1] drawn with its right height 10 on the edge; [1, 2] starts at 10: not drawn
+    EXPECT_EQ(linesIn(colour(5)),
+              3);  // [0, 1] drawn with its right height 10 on the edge; [1, 2] starts at 10: not drawn
     EXPECT_EQ(screen->lblTrap->text(), QStringLiteral("=  20"));
     screen->cmdErase_Click();
     screen->txtB->setText(QStringLiteral("9"));  // heights 0, 9, 18: the second is drawn although 18 is outside
@@ -253,8 +255,8 @@ TEST_F(Sums, ChangingTheFamilyResetsSixResultsButNotSimpsons)
     screen->mnuFunc_Click(2);  // the same family: nothing is reset
     EXPECT_EQ(screen->lblLeftE->text(), QStringLiteral("=  8"));
     screen->mnuFunc[3]->trigger();
-    for (ClickLabel* l : {screen->lblLeftE, screen->lblRightE, screen->lblMid, screen->lblTrap, screen->lblRnd,
-                          screen->lblRiemann})
+    for (ClickLabel* l :
+         {screen->lblLeftE, screen->lblRightE, screen->lblMid, screen->lblTrap, screen->lblRnd, screen->lblRiemann})
         EXPECT_EQ(l->text(), QStringLiteral("Area="));
     EXPECT_EQ(screen->lblSimpson->text(), QStringLiteral("=  5.333333"));
 }

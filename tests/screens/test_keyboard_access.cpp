@@ -29,7 +29,8 @@ struct Shown : ScreenFixture<Screen> {
         do {
             seen.push_back(w);
             w = w->nextInFocusChain();
-            while (w != start && !(w->focusPolicy() & Qt::TabFocus && w->isVisibleTo(this->screen.get()) && w->isEnabled()))
+            while (w != start &&
+                   !(w->focusPolicy() & Qt::TabFocus && w->isVisibleTo(this->screen.get()) && w->isEnabled()))
                 w = w->nextInFocusChain();
         } while (w != start && seen.size() < 500);
         return seen;
@@ -53,7 +54,8 @@ TEST_F(GrapherKeys, TabRunsThroughThePanelsInOrder)
     // The coefficient panel top to bottom, then the window limits, then the buttons top to bottom.
     const QWidget* expected[] = {screen->lblA, screen->txtA, screen->lblB, screen->txtB, screen->lblE, screen->txtE};
     for (std::size_t i = 1; i < std::size(expected); ++i)
-        EXPECT_LT(indexOf(cycle, const_cast<QWidget*>(expected[i - 1])), indexOf(cycle, const_cast<QWidget*>(expected[i])));
+        EXPECT_LT(indexOf(cycle, const_cast<QWidget*>(expected[i - 1])),
+                  indexOf(cycle, const_cast<QWidget*>(expected[i])));
     EXPECT_LT(indexOf(cycle, screen->txtE), indexOf(cycle, screen->txtYmax));
     EXPECT_LT(indexOf(cycle, screen->txtYmax), indexOf(cycle, screen->txtXmin));  // top to bottom round the square
     EXPECT_LT(indexOf(cycle, screen->txtXmin), indexOf(cycle, screen->txtYmin));
@@ -153,8 +155,9 @@ TEST(LauncherKeys, ButtonsInTeachingOrderAndTheirMnemonics)
         launcher.show();
         launcher.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&launcher));
-        QWidget* order[] = {launcher.cmdFuncClasses, launcher.cmdAnimate, launcher.cmdSums, launcher.cmdNewton,
-                            launcher.cmdSlopeField, launcher.cmdTangent, launcher.cmdMVT, launcher.cmdParam, launcher.cmdExit};
+        QWidget* order[] = {launcher.cmdFuncClasses, launcher.cmdAnimate,    launcher.cmdSums,
+                            launcher.cmdNewton,      launcher.cmdSlopeField, launcher.cmdTangent,
+                            launcher.cmdMVT,         launcher.cmdParam,      launcher.cmdExit};
         for (std::size_t i = 1; i < std::size(order); ++i) {
             QWidget* next = order[i - 1]->nextInFocusChain();
             while (!(next->focusPolicy() & Qt::TabFocus))

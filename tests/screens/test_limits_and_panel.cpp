@@ -120,8 +120,21 @@ TEST_F(Limits, AFamilyOutsideTheCaptionTableIsASubscriptError)
 
 TEST_F(Limits, HostileTextInEveryBoxNeverEndsTheProgramUnlessTheLimitsMeet)
 {
-    const char* corpus[] = {"", "-", ".", "1e", "1e308", "-1e308", "1e-320", "nan", "inf", "1.2.3", " 5",
-                            "&H7FFF", "99999999999999999999", "\xe2\x88\x9e", " "};
+    const char* corpus[] = {"",
+                            "-",
+                            ".",
+                            "1e",
+                            "1e308",
+                            "-1e308",
+                            "1e-320",
+                            "nan",
+                            "inf",
+                            "1.2.3",
+                            " 5",
+                            "&H7FFF",
+                            "99999999999999999999",
+                            "\xe2\x88\x9e",
+                            " "};
     TextBox* boxes[] = {screen->txtA, screen->txtB, screen->txtC, screen->txtD, screen->txtE};
     for (const char* text : corpus)
         for (TextBox* box : boxes) {
