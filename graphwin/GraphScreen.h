@@ -185,6 +185,9 @@ protected:
     ClickLabel* makeLabel(const QString& caption, double left, double top, double width, double height);
 
 private:
+    // Joins (leaves) the screens whose description is refreshed after every action.
+    void joinDescriptions();
+    void leaveDescriptions();
     void buildLimits();
     void buildCoefficients();
     void buildButtons();

@@ -14,13 +14,8 @@
 #include "graphwin/GraphScreen.h"
 #include "runtime/BoundedArray.h"
 #include "screens/IntegralCurves.h"
+#include "screens/RateFormula.h"
 
-// A rate caption with the coefficient values walked into it, letter by letter: a coefficient of 1
-// drops only its letter, a term holding a coefficient of 0 is cut with its joining characters, any
-// other value replaces its letter. `formula` is the caption without its "dy = " or "dx = ";
-// `letters` names the three coefficients and `values` holds them.
-std::string FormulaWithCoefficients(std::string_view formula, std::string_view letters,
-                                    const std::array<double, 3>& values);
 
 class frmFlowField : public GraphScreen {
     Q_OBJECT
