@@ -519,7 +519,19 @@ void frmFlowField::mnuAbout_Click()
 void frmFlowField::describeResults(QStringList& lines) const
 {
     const OptionButton* method = optRunga4->isChecked() ? optRunga4 : optRunga2->isChecked() ? optRunga2 : optEuler;
-    lines << QStringLiteral("Rates: %1; %2.").arg(lbldy->text(), lbldx->text());
+    // The rates as printed above the graph, with the coefficients' values walked in.
+    const auto& k = FuncGlobals::Coefficients;
+    const std::string dyCaption = FuncGlobals::DyCaption(FuncGlobals::DyFuncId);
+    const std::string dxCaption = FuncGlobals::DxCaption(FuncGlobals::DxFuncId);
+    auto withValues = [](const std::string& caption, const char* letters, const std::array<double, 3>& values) {
+        return QString::fromStdString(
+                   FormulaWithCoefficients(std::string_view(caption).substr(std::min<std::size_t>(5, caption.size())),
+                                           letters, values))
+            .trimmed();
+    };
+    lines << QStringLiteral("Rates: %1, that is dy = %2; %3, that is dx = %4.")
+                 .arg(lbldy->text(), withValues(dyCaption, "ABC", {k.A, k.B, k.C}), lbldx->text(),
+                      withValues(dxCaption, "DEF", {k.D, k.E, k.F}));
     lines << (optApprox->isChecked() ? QStringLiteral("Purpose: approximation by %1, %2 %3.")
                                            .arg(spoken(method->text()), spoken(lblDeltaX->text()), txtDelta->text())
                                      : QStringLiteral("Purpose: smooth curves."));

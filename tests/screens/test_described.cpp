@@ -97,7 +97,7 @@ const Case kCases[] = {
          QTest::keyClick(s.surface, Qt::Key_Return);  // a press at the cross-hair, one step right of the middle
          return std::vector<QLabel*>{s.lblPos, s.lblEndpt};
      },
-     "EndPt ("},
+     "that is dy = -1x; dx = Dx + Ey + F, that is dx = y."},
     {"tangent", [] { return std::make_unique<frmTangent>(); },
      [](GraphScreen& g) {
          auto& s = as<frmTangent>(g);
