@@ -18,6 +18,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Access.h"
+#include "graphwin/Axes.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormArea.h"
 #include "runtime/CountedLoop.h"
@@ -41,7 +42,6 @@ void placeTwips(QWidget* widget, double left, double top, double width, double h
     widget->setGeometry(static_cast<int>(std::lround(left / 15)), static_cast<int>(std::lround(top / 15)),
                         static_cast<int>(std::lround(width / 15)), static_cast<int>(std::lround(height / 15)));
 }
-
 
 GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 {
@@ -240,7 +240,6 @@ void GraphScreen::CleanGraph()
     using rt::Chk;
     using rt::Div;
     using rt::Int;
-    const QRgb black = rgbColor(rt::QBColor(0));
     const double L = config_.squareLeft;
     surface->Cls();
 
@@ -251,39 +250,7 @@ void GraphScreen::CleanGraph()
     graph.YRange = Chk(ymax - ymin);
     graph.YOrigin = rt::CLng(Int(Chk(Div(Chk(ymax * 6400), graph.YRange) + 100)));
 
-    // The tick loops count down from the start to the edge on a 16-bit counter. A step of 0 (a range
-    // wider than 6400) would draw the same tick for ever; one tick draws the same picture.
-    auto ticks = [](std::int16_t start, std::int16_t step, std::int16_t edge, auto&& draw) {
-        if (step == 0) {
-            if (start >= edge)
-                draw(start);
-            return;
-        }
-        rt::For16(start, edge, step, draw);
-    };
-
-    if (txtXmin->value() <= 0 && txtXmax->value() >= 0) {
-        if (graph.YRange > 1) {
-            const std::int16_t step = rt::CInt(-Int(Div(6400, graph.YRange)));
-            const std::int16_t start =
-                rt::CInt(graph.YOrigin - Int(Div(Chk(Int(txtYmin->value()) * 6400), graph.YRange)));
-            ticks(start, step, 100, [&](int ty) {
-                surface->LineStep(graph.XOrigin - GraphWindow::TickHalf, ty, 2 * GraphWindow::TickHalf, 0, black);
-            });
-        }
-        surface->LineStep(graph.XOrigin, 101, 0, 6399, black);
-    }
-    if (txtYmin->value() <= 0 && txtYmax->value() >= 0) {
-        if (graph.XRange > 1) {
-            const std::int16_t step = rt::CInt(-Int(Div(6400, graph.XRange)));
-            const std::int16_t start =
-                rt::CInt(Chk(Int(Div(Chk(Int(txtXmax->value()) * 6400), graph.XRange)) + graph.XOrigin));
-            ticks(start, step, config_.squareLeft, [&](int tx) {
-                surface->LineStep(tx, graph.YOrigin - GraphWindow::TickHalf, 0, 2 * GraphWindow::TickHalf, black);
-            });
-        }
-        surface->LineStep(L + 1, graph.YOrigin, 6399, 0, black);
-    }
+    drawAxes(*surface, graph, {txtXmin, txtXmax, txtYmin, txtYmax}, config_.squareLeft);
 }
 
 void GraphScreen::plotFunction()
