@@ -1,0 +1,189 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Mutation check: how many small faults in the code the test suite notices.
+
+Makes single, compilable changes to the code in runtime/, funclib/, graphwin/, screens/ and
+launcher/ (a relational operator flipped, + and - swapped, an integer constant changed by one, a
+condition negated, a statement removed), on a reproducible sample spread over every layer. Each
+mutant is built incrementally (ccache) in a separate work tree and the test suite runs against it
+with a time limit; a failing or timed-out suite kills the mutant. A mutant that does not compile is
+replaced by the next candidate of its layer. Writes a Markdown report: per file and per layer, the
+mutants made, killed and surviving, and every survivor with its place and change.
+
+Not part of CI: a developer's tool (scripts/mutants.sh runs it). The whole sample of 150 takes
+roughly an hour and a half on a 2-core machine; --count makes it smaller.
+"""
+import argparse
+import os
+import random
+import re
+import subprocess
+import sys
+import time
+from collections import defaultdict
+
+LAYERS = ["runtime", "funclib", "graphwin", "screens", "launcher"]
+
+# (name, pattern, replacement) applied to one match in a code line.
+OPERATORS = [
+    ("relational <= to <", re.compile(r"(?<![<>=!])<=(?!=)"), "<"),
+    ("relational < to <=", re.compile(r"(?<![<>=!-])<(?![<=])(?=\s)"), "<="),
+    ("relational >= to >", re.compile(r"(?<![<>=!])>=(?!=)"), ">"),
+    ("relational > to >=", re.compile(r"(?<![<>=!-])>(?![>=])(?=\s)"), ">="),
+    ("== to !=", re.compile(r"(?<![=!<>])==(?!=)"), "!="),
+    ("!= to ==", re.compile(r"!=(?!=)"), "=="),
+    ("+ to -", re.compile(r"(?<=\s)\+(?=\s)"), "-"),
+    ("- to +", re.compile(r"(?<=\s)-(?=\s)"), "+"),
+    ("constant + 1", re.compile(r"(?<![\w.])(\d+)(?![\w.])"), None),
+    ("condition negated", re.compile(r"\b(if|while) \((.*)\)(\s*\{?)\s*$"), None),
+]
+
+STATEMENT = re.compile(r"^\s+[A-Za-z_][\w:>.\-\[\]]*(\(|\s*[+\-*/]?=\s)[^;{}]*;\s*$")
+
+
+def code_lines(path):
+    """Yields (number, line) of the lines that hold code (no comments, includes or strings)."""
+    in_block = False
+    for number, line in enumerate(open(path, encoding="utf-8"), 1):
+        stripped = line.strip()
+        if in_block:
+            if "*/" in stripped:
+                in_block = False
+            continue
+        if stripped.startswith("/*"):
+            in_block = "*/" not in stripped
+            continue
+        if not stripped or stripped.startswith(("//", "#")):
+            continue
+        if '"' in line or "'" in line or "template" in line or "operator" in line:
+            continue
+        yield number, line.split("//")[0].rstrip("\n")
+
+
+def candidates(root):
+    """Every possible mutant: (layer, file, line number, operator name, new line)."""
+    out = []
+    for layer in LAYERS:
+        for name in sorted(os.listdir(os.path.join(root, layer))):
+            if not name.endswith((".cpp", ".h")):
+                continue
+            rel = os.path.join(layer, name)
+            for number, line in code_lines(os.path.join(root, rel)):
+                for op, pattern, replacement in OPERATORS:
+                    for m in pattern.finditer(line):
+                        if op == "constant + 1":
+                            new = line[: m.start()] + str(int(m.group(1)) + 1) + line[m.end():]
+                        elif op == "condition negated":
+                            new = line[: m.start()] + "%s (!(%s))%s" % (m.group(1), m.group(2), m.group(3))
+                        else:
+                            new = line[: m.start()] + replacement + line[m.end():]
+                        out.append((layer, rel, number, op, new))
+                if STATEMENT.match(line) and not line.strip().startswith(("return", "const ", "auto ", "static ")):
+                    out.append((layer, rel, number, "statement removed", re.sub(r"\S.*", ";", line, count=1)))
+    return out
+
+
+def sample(all_candidates, count, seed):
+    """A reproducible sample, spread over the layers in proportion to their candidates, at least a
+    fifth of the sample's share to each."""
+    rng = random.Random(seed)
+    by_layer = defaultdict(list)
+    for c in all_candidates:
+        by_layer[c[0]].append(c)
+    for layer in by_layer:
+        rng.shuffle(by_layer[layer])
+    total = len(all_candidates)
+    quota = {layer: max(count // (5 * len(by_layer)), round(count * len(c) / total)) for layer, c in by_layer.items()}
+    return by_layer, quota
+
+
+def run(cmd, cwd, timeout=None):
+    try:
+        return subprocess.run(cmd, cwd=cwd, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=timeout).returncode
+    except subprocess.TimeoutExpired:
+        return "timeout"
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
+    parser.add_argument("--count", type=int, default=150, help="mutants to run (default 150)")
+    parser.add_argument("--seed", type=int, default=20261123, help="the sample's seed (default 20261123)")
+    parser.add_argument("--tree", default="build/mutants/tree", help="work tree for the mutants")
+    parser.add_argument("--out", default="build/mutants/report.md", help="the report")
+    parser.add_argument("--test-timeout", type=int, default=600, help="seconds for the test suite")
+    parser.add_argument("--list", action="store_true", help="only show the sample, build nothing")
+    args = parser.parse_args()
+    root = os.path.abspath(os.path.join(os.path.dirname(__file__), ".."))
+    tree = os.path.abspath(args.tree)
+    if args.list:
+        by_layer, quota = sample(candidates(root), args.count, args.seed)
+        for layer in LAYERS:
+            pool = by_layer.get(layer, [])
+            print("%-8s %5d candidates, %3d in the sample" % (layer, len(pool), quota.get(layer, 0)))
+            for _, rel, number, op, new in pool[-3:]:
+                print("    %s:%d %s: %s" % (rel, number, op, new.strip()))
+        return
+
+    # A clean copy of HEAD to mutate, configured once; every mutant builds incrementally there.
+    if not os.path.isdir(tree):
+        os.makedirs(os.path.dirname(tree), exist_ok=True)
+        subprocess.run(["git", "worktree", "add", "--detach", tree, "HEAD"], cwd=root, check=True)
+    subprocess.run(["git", "checkout", "--detach", "-f", subprocess.check_output(["git", "rev-parse", "HEAD"], cwd=root, text=True).strip()],
+                   cwd=tree, check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    env_build = ["cmake", "--build", "--preset", "default"]
+    subprocess.run(["cmake", "--preset", "default", "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache", "-DPLOTTO_BUILD_BENCH=OFF"],
+                   cwd=tree, check=True, stdout=subprocess.DEVNULL)
+    if run(env_build, tree) != 0:
+        sys.exit("the unmutated tree does not build")
+    tests = ["ctest", "--preset", "default", "-j2", "--stop-on-failure", "-E", "robustness_fresh_seed"]
+    if run(tests, tree, args.test_timeout) != 0:
+        sys.exit("the unmutated tree fails its tests")
+
+    by_layer, quota = sample(candidates(tree), args.count, args.seed)
+    results = []  # (layer, file, line, op, new, outcome)
+    started = time.time()
+    for layer in LAYERS:
+        pool = by_layer.get(layer, [])
+        made = 0
+        while made < quota.get(layer, 0) and pool:
+            _, rel, number, op, new = pool.pop()
+            path = os.path.join(tree, rel)
+            original = open(path, encoding="utf-8").read().split("\n")
+            mutated = list(original)
+            mutated[number - 1] = new
+            open(path, "w", encoding="utf-8").write("\n".join(mutated))
+            try:
+                if run(env_build, tree) != 0:
+                    continue  # not compilable: the next candidate of the layer instead
+                outcome = run(tests, tree, args.test_timeout)
+                verdict = "killed" if outcome != 0 else "survived"
+                results.append((layer, rel, number, op, new.strip(), verdict))
+                made += 1
+                print("%3d %-8s %s:%d %s" % (len(results), verdict, rel, number, op), flush=True)
+            finally:
+                open(path, "w", encoding="utf-8").write("\n".join(original))
+    run(env_build, tree)
+
+    lines = ["# Mutation check", "",
+             "Sample: %d mutants, seed %d, on %s; %.0f minutes." % (len(results), args.seed,
+             subprocess.check_output(["git", "rev-parse", "--short", "HEAD"], cwd=tree, text=True).strip(),
+             (time.time() - started) / 60), "",
+             "| layer / file | mutants | killed | survived | score |", "|---|---:|---:|---:|---:|"]
+    def row(name, rs):
+        k = sum(1 for r in rs if r[5] == "killed")
+        return "| %s | %d | %d | %d | %.0f%% |" % (name, len(rs), k, len(rs) - k, 100.0 * k / max(1, len(rs)))
+    for layer in LAYERS:
+        rs = [r for r in results if r[0] == layer]
+        lines.append(row("**%s**" % layer, rs))
+        for f in sorted({r[1] for r in rs}):
+            lines.append(row(f, [r for r in rs if r[1] == f]))
+    lines.append(row("**total**", results))
+    lines += ["", "## Survivors", ""]
+    lines += ["- `%s:%d` %s: `%s`" % (r[1], r[2], r[3], r[4]) for r in results if r[5] == "survived"]
+    os.makedirs(os.path.dirname(os.path.abspath(args.out)), exist_ok=True)
+    open(args.out, "w").write("\n".join(lines) + "\n")
+    print("\n".join(lines[:12 + 2 * len(LAYERS)]))
+
+
+if __name__ == "__main__":
+    main()
