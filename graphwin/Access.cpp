@@ -166,16 +166,8 @@ public:
 
 private:
     ScrollBar* bar() const { return static_cast<ScrollBar*>(widget()); }
-    QString meaning() const
-    {
-        // What the screen says may involve its boxes; a box holding nonsense leaves the position.
-        if (bar()->Spoken) {
-            try {
-                return bar()->Spoken();
-            } catch (const rt::RuntimeError&) { }
-        }
-        return QString::number(bar()->value());
-    }
+    // What the position means, else the position itself.
+    QString meaning() const { return bar()->meaning().value_or(QString::number(bar()->value())); }
 };
 
 QAccessibleInterface* plottoAccessible(const QString& className, QObject* object)

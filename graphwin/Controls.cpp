@@ -303,6 +303,17 @@ ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(
     });
 }
 
+std::optional<QString> ScrollBar::meaning() const
+{
+    if (!Spoken)
+        return std::nullopt;
+    try {
+        return Spoken();
+    } catch (const rt::RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
 void ScrollBar::setValueChecked(int v)
 {
     if (v < minimum() || v > maximum())

@@ -5,6 +5,7 @@
 // changes the control with Qt's signals blocked and then calls the handler itself, directly, so that
 // a run-time error travels on to the outermost handler of the event.
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QCheckBox>
@@ -123,6 +124,8 @@ public:
     // What the bar's position means, as a screen reader should say it ("t = 1.008"); empty: the
     // position itself.
     std::function<QString()> Spoken;
+    // Spoken's text, or nothing when it is unset or the screen's boxes hold text it cannot use.
+    std::optional<QString> meaning() const;
     // The program's writes. Value outside Min..Max raises Invalid property value (380); a change of
     // Min or Max that moves the value runs Change. Max may lie below Min: the bar then runs the other
     // way, from Min at its start to Max at its end.

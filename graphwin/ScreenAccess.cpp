@@ -167,16 +167,9 @@ void GraphScreen::refreshDescription()
     if (now != surface->accessibleDescription())
         surface->setAccessibleDescription(now);
     for (ScrollBar* bar : surface->findChildren<ScrollBar*>()) {
-        if (!bar->Spoken)
-            continue;
-        QString meaning;
-        try {
-            meaning = bar->Spoken();
-        } catch (const rt::RuntimeError&) {
-            continue;
-        }
-        if (meaning != bar->accessibleDescription())
-            bar->setAccessibleDescription(meaning);
+        const std::optional<QString> meaning = bar->meaning();
+        if (meaning && *meaning != bar->accessibleDescription())
+            bar->setAccessibleDescription(*meaning);
     }
 }
 

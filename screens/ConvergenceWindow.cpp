@@ -14,6 +14,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 
 ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::function<Convergence::Table()> compute)
@@ -41,7 +42,7 @@ ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::
     layout->addWidget(again, 0, Qt::AlignRight);
     auto* copy = new QShortcut(QKeySequence::Copy, this);
     connect(copy, &QShortcut::activated, this,
-            [this] { QApplication::clipboard()->setText(QString::fromStdString(table_.tabSeparated())); });
+            [this] { copyToClipboard(QString::fromStdString(table_.tabSeparated())); });
     resize(900, 520);
 }
 
