@@ -1,198 +1,168 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reading and writing numbers, whole-number and single conversions, and the checked arithmetic.
-#include <cfloat>
+// Reading and writing numbers, conversions, the checked arithmetic, run-time errors, the fixed random
+// sequence, the sixteen colours and checked arrays.
 #include <cmath>
+#include <functional>
 #include <limits>
-#include <random>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "tests/TestSupport.h"
-
+#include "runtime/BoundedArray.h"
 #include "runtime/Numbers.h"
+#include "runtime/QBColor.h"
+#include "runtime/Random.h"
+#include "tests/TestSupport.h"
 
 using namespace rt;
 
-TEST(Val, ReadsTheLongestLeadingNumber)
+namespace {
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN(), kInf = std::numeric_limits<double>::infinity();
+}  // namespace
+
+TEST(Numbers, ReadingTexts)
 {
-    EXPECT_EQ(Val("1e3"), 1000);
-    EXPECT_EQ(Val(" .5"), 0.5);
-    EXPECT_EQ(Val("1.2.3"), 1.2);
-    EXPECT_EQ(Val("1e"), 1);
-    EXPECT_EQ(Val("1e+"), 1);
-    EXPECT_EQ(Val("-"), 0);
-    EXPECT_EQ(Val("."), 0);
-    EXPECT_EQ(Val("abc"), 0);
-    EXPECT_EQ(Val(""), 0);
-    EXPECT_EQ(Val("FirstGuess"), 0);
-    EXPECT_EQ(Val("\t\n  7 apples"), 7);
-    EXPECT_EQ(Val("+5"), 5);
-    EXPECT_EQ(Val("-.25e1"), -2.5);
-    EXPECT_EQ(Val("2E-2x"), 0.02);
-    EXPECT_EQ(Val("&H7FFF"), 0);
-    EXPECT_EQ(Val("--5"), 0);
-    EXPECT_EQ(Val("99999999999999999999"), 1e20);
-    EXPECT_EQ(Val("0e999"), 0);
-    EXPECT_EQ(Val("1e-999"), 0);
+    // clang-format off
+    const std::pair<const char*, double> lenient[] = {
+        {"1e3", 1000}, {" .5", 0.5}, {"1.2.3", 1.2}, {"1e", 1}, {"1e+", 1}, {"-", 0}, {".", 0}, {"abc", 0},
+        {"", 0}, {"\t\n  7 apples", 7}, {"+5", 5}, {"-.25e1", -2.5}, {"2E-2x", 0.02}, {"&H7FFF", 0}, {"--5", 0},
+        {"99999999999999999999", 1e20}, {"0e999", 0}, {"1e-999", 0}, {"1e308", 1e308}, {"\xc3\xa9" "5", 0}};
+    // clang-format on
+    for (const auto& [text, value] : lenient)
+        EXPECT_EQ(Val(text), value) << text;
     EXPECT_GT(Val("1e-320"), 0);  // a denormal is still a number
-    EXPECT_EQ(Val("\xc3\xa9"
-                  "5"),
-              0);
-}
-
-TEST(Val, TooLargeForADoubleIsOverflow)
-{
-    EXPECT_EQ(errorOf([] { Val("1e999"); }), Overflow);
-    EXPECT_EQ(errorOf([] { Val("-1e309"); }), Overflow);
+    for (const char* huge : {"1e999", "-1e309"})
+        EXPECT_EQ(errorOf([&] { Val(huge); }), Overflow) << huge;
     EXPECT_EQ(errorOf([] { Val(std::string(400, '9')); }), Overflow);
-    EXPECT_EQ(Val("1e308"), 1e308);
-}
 
-TEST(CDbl, AcceptsOnlyAWholeNumber)
-{
     EXPECT_EQ(CDbl(" 12.5 "), 12.5);
     EXPECT_EQ(CDbl("-1e2"), -100);
     for (const char* bad : {"", " ", "1e", "abc", "1.2.3", "5x", "-", "."})
         EXPECT_EQ(errorOf([&] { CDbl(bad); }), TypeMismatch) << bad;
     EXPECT_EQ(errorOf([] { CDbl("1e999"); }), Overflow);
-}
-
-TEST(Str, DoublesKeepFifteenDigitsWithALeadingBlank)
-{
-    EXPECT_EQ(Str(0.5), " .5");
-    EXPECT_EQ(Str(-3.0), "-3");
-    EXPECT_EQ(Str(-0.25), "-.25");
-    EXPECT_EQ(Str(1e15), " 1E+15");
-    EXPECT_EQ(Str(1.2e15), " 1.2E+15");
-    EXPECT_EQ(Str(5e-15), " .000000000000005");
-    EXPECT_EQ(Str(5e-16), " 5E-16");
-    EXPECT_EQ(Str(1.0 / 30), " 3.33333333333333E-02");
-    EXPECT_EQ(Str(1e100), " 1E+100");
-    EXPECT_EQ(Str(-1e-100), "-1E-100");
-    EXPECT_EQ(Str(0.0), " 0");
-    EXPECT_EQ(Str(-0.0), " 0");
-    EXPECT_EQ(Str(123456789012345.0), " 123456789012345");
-    EXPECT_EQ(Str(0.1 + 0.2), " .3");
-    EXPECT_EQ(Str(2.0 / 3), " .666666666666667");
-    EXPECT_EQ(Str(2.05), " 2.05");
-    EXPECT_EQ(Str(1000000.0), " 1000000");
-    EXPECT_EQ(Str(999999999999999.9), " 1E+15");  // rounding to 15 digits carries into the exponent
-}
-
-TEST(Str, SinglesKeepSevenDigits)
-{
-    EXPECT_EQ(Str(1e8f), " 1E+08");
-    EXPECT_EQ(Str(16.0f / 3), " 5.333333");
-    EXPECT_EQ(Str(2.6666667f), " 2.666667");
-    EXPECT_EQ(Str(0.1f), " .1");
-    EXPECT_EQ(Str(-0.25f), "-.25");
-    EXPECT_EQ(Str(1234567.0f), " 1234567");
-    EXPECT_EQ(Str(12345678.0f), " 1.234568E+07");
-    EXPECT_EQ(Str(0.01234567f), " 1.234567E-02");
-    EXPECT_EQ(Str(16.0f), " 16");
-}
-
-TEST(CStr, PlainConversionHasNoBlankAndAZeroBeforeThePoint)
-{
-    EXPECT_EQ(CStr(0.5), "0.5");
-    EXPECT_EQ(CStr(-2.5), "-2.5");
-    EXPECT_EQ(CStr(3.15), "3.15");
-    EXPECT_EQ(CStr(-0.25), "-0.25");
-    EXPECT_EQ(CStr(11.0), "11");
-    EXPECT_EQ(CStr(0.0), "0");
-    EXPECT_EQ(CStr(1e15), "1E+15");
-    EXPECT_EQ(CStr(1e-20), "1E-20");
-    EXPECT_EQ(CStr(3.15f), "3.15");
-    EXPECT_EQ(CStr(1001.0), "1001");
-}
-
-TEST(CStr, ReadingBackGivesTheValueToFifteenDigits)
-{
-    std::mt19937_64 gen(20261122);
-    std::uniform_real_distribution<double> mantissa(-10, 10);
-    std::uniform_int_distribution<int> exponent(-300, 300);
-    for (int i = 0; i < 20000; ++i) {
-        const double v = mantissa(gen) * std::pow(10.0, exponent(gen));
-        const double back = Val(CStr(v));
-        const double again = Val(Str(v));
-        EXPECT_NEAR(back, v, std::fabs(v) * 1e-14) << CStr(v);
-        EXPECT_EQ(back, again) << Str(v);
-        const float f = static_cast<float>(mantissa(gen));
-        EXPECT_NEAR(Val(Str(f)), f, std::fabs(f) * 1e-6) << Str(f);
-    }
-}
-
-TEST(Trim, RemovesBlanksAtBothEnds)
-{
-    EXPECT_EQ(Trim(" .5"), ".5");
     EXPECT_EQ(Trim("  a b  "), "a b");
     EXPECT_EQ(Trim("   "), "");
 }
 
-TEST(WholeNumbers, IntIsTheFloor)
+TEST(Numbers, WritingNumbers)
 {
-    EXPECT_EQ(Int(-8.4), -9);
-    EXPECT_EQ(Int(8.9), 8);
-    EXPECT_EQ(Int(-3.0), -3);
+    // clang-format off
+    const std::pair<double, const char*> doubles[] = {
+        {0.5, " .5"}, {-3.0, "-3"}, {-0.25, "-.25"}, {1e15, " 1E+15"}, {1.2e15, " 1.2E+15"},
+        {5e-15, " .000000000000005"}, {5e-16, " 5E-16"}, {1.0 / 30, " 3.33333333333333E-02"}, {1e100, " 1E+100"},
+        {-1e-100, "-1E-100"}, {0.0, " 0"}, {-0.0, " 0"}, {123456789012345.0, " 123456789012345"}, {0.1 + 0.2, " .3"},
+        {2.0 / 3, " .666666666666667"}, {2.05, " 2.05"}, {1000000.0, " 1000000"},
+        {999999999999999.9, " 1E+15"}};  // rounding to 15 digits carries into the exponent
+    for (const auto& [v, text] : doubles)
+        EXPECT_EQ(Str(v), text) << text;
+    // clang-format off
+    const std::pair<float, const char*> singles[] = {
+        {1e8f, " 1E+08"}, {16.0f / 3, " 5.333333"}, {2.6666667f, " 2.666667"}, {0.1f, " .1"}, {-0.25f, "-.25"},
+        {1234567.0f, " 1234567"}, {12345678.0f, " 1.234568E+07"}, {0.01234567f, " 1.234567E-02"}, {16.0f, " 16"}};
+    // clang-format on
+    for (const auto& [v, text] : singles)
+        EXPECT_EQ(Str(v), text) << text;
+    // clang-format off
+    const std::pair<double, const char*> plain[] = {{0.5, "0.5"}, {-2.5, "-2.5"}, {3.15, "3.15"}, {-0.25, "-0.25"},
+        {11.0, "11"}, {0.0, "0"}, {1e15, "1E+15"}, {1e-20, "1E-20"}, {1001.0, "1001"}};
+    // clang-format on
+    for (const auto& [v, text] : plain)
+        EXPECT_EQ(CStr(v), text) << text;
+    EXPECT_EQ(CStr(3.15f), "3.15");
 }
 
-TEST(WholeNumbers, SixteenBitConversionRoundsHalfToEven)
+TEST(Numbers, ConversionsAndCheckedArithmetic)
 {
-    EXPECT_EQ(CInt(0.5), 0);
-    EXPECT_EQ(CInt(1.5), 2);
-    EXPECT_EQ(CInt(2.5), 2);
-    EXPECT_EQ(CInt(-2.5), -2);
-    EXPECT_EQ(CInt(2.6), 3);
-    EXPECT_EQ(CInt(32767.4), 32767);
-    EXPECT_EQ(CInt(-32768.5), -32768);
-    EXPECT_EQ(errorOf([] { CInt(32767.5); }), Overflow);
-    EXPECT_EQ(errorOf([] { CInt(-32769); }), Overflow);
-    EXPECT_EQ(errorOf([] { CInt(std::numeric_limits<double>::quiet_NaN()); }), Overflow);
-    EXPECT_EQ(errorOf([] { CInt(std::numeric_limits<double>::infinity()); }), Overflow);
+    // Each case: the value it gives, or 0 and the run-time error it raises.
+    // clang-format off
+    const struct {
+        const char* what;
+        std::function<double()> f;
+        double value;
+        int error;
+    } cases[] = {
+        {"Int(-8.4)", [] { return Int(-8.4); }, -9, 0}, {"Int(8.9)", [] { return Int(8.9); }, 8, 0},
+        {"Int(-3)", [] { return Int(-3.0); }, -3, 0}, {"CInt(0.5)", [] { return CInt(0.5); }, 0, 0},
+        {"CInt(1.5)", [] { return CInt(1.5); }, 2, 0}, {"CInt(2.5)", [] { return CInt(2.5); }, 2, 0},
+        {"CInt(-2.5)", [] { return CInt(-2.5); }, -2, 0}, {"CInt(2.6)", [] { return CInt(2.6); }, 3, 0},
+        {"CInt(32767.4)", [] { return CInt(32767.4); }, 32767, 0},
+        {"CInt(-32768.5)", [] { return CInt(-32768.5); }, -32768, 0},
+        {"CInt(32767.5)", [] { return CInt(32767.5); }, 0, Overflow},
+        {"CInt(-32769)", [] { return CInt(-32769); }, 0, Overflow},
+        {"CInt(NaN)", [] { return CInt(kNaN); }, 0, Overflow}, {"CInt(inf)", [] { return CInt(kInf); }, 0, Overflow},
+        {"CLng(2147483647.4)", [] { return CLng(2147483647.4); }, 2147483647, 0},
+        {"CLng(-2147483648)", [] { return CLng(-2147483648.0); }, -2147483648.0, 0},
+        {"CLng(3.5)", [] { return CLng(3.5); }, 4, 0},
+        {"CLng(2147483648)", [] { return CLng(2147483648.0); }, 0, Overflow},
+        {"CLng(-1e300)", [] { return CLng(-1e300); }, 0, Overflow},
+        {"CSng(0.1)", [] { return CSng(0.1); }, static_cast<double>(0.1f), 0},
+        {"CSng(1e39)", [] { return CSng(1e39); }, 0, Overflow},
+        {"CSng(-1e300)", [] { return CSng(-1e300); }, 0, Overflow},
+        {"1 / 4", [] { return Div(1, 4); }, 0.25, 0}, {"1 / 0", [] { return Div(1, 0); }, 0, DivisionByZero},
+        {"-5 / 0", [] { return Div(-5, 0); }, 0, DivisionByZero}, {"0 / 0", [] { return Div(0, 0); }, 0, Overflow},
+        {"1e308 / 1e-308", [] { return Div(1e308, 1e-308); }, 0, Overflow},
+        {"-2 ^ 3", [] { return Pow(-2, 3); }, -8, 0},
+        {"0 ^ 0", [] { return Pow(0, 0); }, 1, 0}, {"4 ^ 0.5", [] { return Pow(4, 0.5); }, 2, 0},
+        {"0 ^ -1", [] { return Pow(0, -1); }, 0, DivisionByZero},
+        {"-8 ^ (1/3)", [] { return Pow(-8, 1.0 / 3); }, 0, InvalidProcedureCall},
+        {"10 ^ 400", [] { return Pow(10, 400); }, 0, Overflow},
+        {"e^1000", [] { return Chk(std::exp(1000.0)); }, 0, Overflow},
+        {"16 mod 15", [] { return Mod(16, 15); }, 1, 0}, {"-1 mod 15", [] { return Mod(-1, 15); }, -1, 0},
+        {"3 mod 0", [] { return Mod(3, 0); }, 0, DivisionByZero},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        double got = 0;
+        EXPECT_EQ(errorOf([&] { got = c.f(); }), c.error) << c.what;
+        EXPECT_EQ(got, c.value) << c.what;
+    }
 }
 
-TEST(WholeNumbers, ThirtyTwoBitConversion)
+TEST(Runtime, ErrorsCarryTheClassicNumbersAndMessages)
 {
-    EXPECT_EQ(CLng(2147483647.4), 2147483647);
-    EXPECT_EQ(CLng(-2147483648.0), -2147483647 - 1);
-    EXPECT_EQ(CLng(3.5), 4);
-    EXPECT_EQ(errorOf([] { CLng(2147483648.0); }), Overflow);
-    EXPECT_EQ(errorOf([] { CLng(-1e300); }), Overflow);
+    // clang-format off
+    const std::pair<int, std::string> table[] = {{5, "Invalid procedure call or argument"}, {6, "Overflow"},
+        {9, "Subscript out of range"}, {11, "Division by zero"}, {13, "Type mismatch"}, {380, "Invalid property value"}};
+    // clang-format on
+    for (const auto& [number, message] : table) {
+        try {
+            rt::raise(number);
+            ADD_FAILURE() << "raise returned";
+        } catch (const RuntimeError& e) {
+            EXPECT_EQ(e.number(), number);
+            EXPECT_EQ(std::string(e.what()), message);
+        }
+    }
 }
 
-TEST(Single, RoundsToFloatAndOverflowsBeyondItsRange)
+TEST(Runtime, TheRandomSequenceIsFixedAndInsideTheUnitInterval)
 {
-    EXPECT_EQ(CSng(0.1), 0.1f);
-    EXPECT_EQ(static_cast<double>(CSng(0.1)), static_cast<double>(0.1f));
-    EXPECT_EQ(errorOf([] { CSng(1e39); }), Overflow);
-    EXPECT_EQ(errorOf([] { CSng(-1e300); }), Overflow);
+    resetRnd();
+    for (float e : {0.7055475f, 0.533424f, 0.5795186f, 0.2895625f, 0.301948f, 0.7747401f})
+        EXPECT_FLOAT_EQ(Rnd(), e);
+    for (int i = 0; i < 1 << 17; ++i) {
+        const float r = Rnd();
+        ASSERT_TRUE(r >= 0.0f && r < 1.0f) << r;
+    }
+    resetRnd();
+    EXPECT_FLOAT_EQ(Rnd(), 0.7055475f);
+    resetRnd();
 }
 
-TEST(Arithmetic, DivisionTellsZeroOverZeroFromDivisionByZero)
+TEST(Runtime, ColoursAndArraysCheckTheirIndex)
 {
-    EXPECT_EQ(Div(1, 4), 0.25);
-    EXPECT_EQ(errorOf([] { Div(1, 0); }), DivisionByZero);
-    EXPECT_EQ(errorOf([] { Div(-5, 0); }), DivisionByZero);
-    EXPECT_EQ(errorOf([] { Div(0, 0); }), Overflow);
-    EXPECT_EQ(errorOf([] { Div(1e308, 1e-308); }), Overflow);
-}
-
-TEST(Arithmetic, PowerAndOverflow)
-{
-    EXPECT_EQ(Pow(-2, 3), -8);
-    EXPECT_EQ(Pow(0, 0), 1);
-    EXPECT_EQ(Pow(4, 0.5), 2);
-    EXPECT_EQ(errorOf([] { Pow(0, -1); }), DivisionByZero);
-    EXPECT_EQ(errorOf([] { Pow(-8, 1.0 / 3); }), InvalidProcedureCall);
-    EXPECT_EQ(errorOf([] { Pow(10, 400); }), Overflow);
-    EXPECT_EQ(errorOf([] { Chk(std::exp(1000.0)); }), Overflow);
-}
-
-TEST(Arithmetic, ModKeepsTheSignOfTheDividend)
-{
-    EXPECT_EQ(Mod(16, 15), 1);
-    EXPECT_EQ(Mod(-1, 15), -1);
-    EXPECT_EQ(Mod(0, 15), 0);
-    EXPECT_EQ(errorOf([] { Mod(3, 0); }), DivisionByZero);
+    // clang-format off
+    const std::pair<int, std::uint32_t> colours[] = {
+        {0, 0x000000u}, {1, 0x000080u}, {6, 0x808000u}, {7, 0xC0C0C0u}, {8, 0x808080u}, {12, 0xFF0000u}, {15, 0xFFFFFFu}};
+    // clang-format on
+    for (const auto& [n, rgb] : colours)
+        EXPECT_EQ(QBColor(n), rgb) << n;
+    BoundedArray<int, 0, 20> a;
+    a[0] = 1;
+    a[20] = 2;
+    EXPECT_EQ(a[0] + a[20], 3);
+    for (long bad : {-1L, 16L, 21L, 100000L}) {
+        EXPECT_EQ(errorOf([&] { QBColor(static_cast<int>(bad)); }), InvalidProcedureCall) << bad;
+        EXPECT_EQ(errorOf([&] { a[bad] = 0; }), bad == 16 ? 0 : SubscriptOutOfRange) << bad;
+    }
 }

@@ -16,28 +16,21 @@ struct Animate : ScreenFixture<frmAnimate> {
     bool frameWithA(double a) const { return hasPoint(5920, 3300 - (a + 1) * 320, colour(2)); }
 };
 
-}  // namespace
+// The animation with its plot replaced by a count, so that 32768 frames take no time.
+struct CountingAnimate : frmAnimate {
+    long plots = 0;
+    void cmdPlotto_Click() override { ++plots; }
+};
 
-TEST_F(Animate, StartsWithItsDesignTexts)
-{
-    EXPECT_EQ(screen->windowTitle(), QStringLiteral("Animate Classes of Functions"));
-    EXPECT_EQ(screen->lblSlide->text(), QStringLiteral("-2"));
-    EXPECT_EQ(screen->lblClickAnimate->text(), QStringLiteral("Select Variable(s)"));
-    EXPECT_TRUE(screen->optCont->isChecked());
-    EXPECT_TRUE(screen->chkA->isChecked());
-    EXPECT_FALSE(screen->chkB->isChecked());
-    EXPECT_EQ(screen->vscStep->Max(), 41);
-    EXPECT_EQ(screen->txtSteps->text(), QStringLiteral("41"));
-}
+}  // namespace
 
 TEST_F(Animate, ContinuousRunsFortyTwoFramesAndRestoresTheCoefficients)
 {
     screen->cmdAnimate->click();
     for (int i : {0, 1, 20, 40, 41})
         EXPECT_TRUE(frameWithA(-2 + i * (4.0 / 41))) << i;
-    EXPECT_EQ(screen->lblSlide->text(), QStringLiteral("2"));
-    EXPECT_EQ(screen->vscStep->value(), 41);
-    EXPECT_EQ(FuncGlobals::Coefficients.A, 1);
+    EXPECT_EQ(std::tuple(screen->lblSlide->text(), screen->vscStep->value(), FuncGlobals::Coefficients.A),
+              std::tuple(QStringLiteral("2"), 41, 1.0));
     EXPECT_TRUE(script.errors.empty());
     screen->optContErase->setChecked(true);
     screen->cmdAnimate_Click();  // only the last frame remains
@@ -50,6 +43,7 @@ TEST_F(Animate, StepsPlotOneFramePerScrollPosition)
     screen->optSteps->setChecked(true);
     screen->vscStep->setValue(10);
     EXPECT_EQ(screen->lblSlide->text(), QStringLiteral("-1.025"));  // -1.0244 cut, not rounded
+    expectDescribed("Animating A of", {screen->lblSlide, screen->lblClickAnimate});
     EXPECT_TRUE(frameWithA(-2 + 10 * 4.0 / 41));
     EXPECT_EQ(FuncGlobals::Coefficients.A, 1);
     const long before = count(DrawOp::PSet);
@@ -57,14 +51,22 @@ TEST_F(Animate, StepsPlotOneFramePerScrollPosition)
     EXPECT_EQ(count(DrawOp::PSet), before);
     screen->optCont->setChecked(true);
     screen->vscStep->setValue(20);  // in a continuous mode the bar only moves the label
-    EXPECT_EQ(count(DrawOp::PSet), before);
-    EXPECT_EQ(screen->lblSlide->text(), QStringLiteral("-.049"));
+    EXPECT_EQ(std::tuple(count(DrawOp::PSet), screen->lblSlide->text()), std::tuple(before, QStringLiteral("-.049")));
 }
 
-TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurve)
+TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurveAndTheStatusFollowsTheTicks)
 {
-    screen->chkA->setChecked(false);
-    EXPECT_EQ(screen->lblClickAnimate->text(), QStringLiteral("Select Variable(s)"));
+    const std::tuple<bool, bool, bool, const char*> rule[] = {{false, false, false, "Select Variable(s)"},
+                                                              {true, true, false, "OK to Click Animate"},
+                                                              {true, true, true, "Use Scroll Bar Above"},
+                                                              {false, false, true, "Select Variable(s)"}};
+    for (const auto& [a, b, stepErase, status] : rule) {
+        (stepErase ? screen->optStepErase : screen->optCont)->setChecked(true);
+        screen->chkA->setChecked(a);
+        screen->chkB->setChecked(b);
+        EXPECT_EQ(screen->lblClickAnimate->text(), QString::fromLatin1(status)) << status;
+    }
+    screen->optCont->setChecked(true);
     screen->txtSteps->setText(QStringLiteral("3"));
     screen->cmdPlotto_Click();
     const long oneCurve = count(DrawOp::PSet);
@@ -75,67 +77,26 @@ TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurve)
     EXPECT_FALSE(frameWithA(-2));
 }
 
-TEST_F(Animate, StatusRule)
+TEST_F(Animate, ErrorsOfTheBoxes)
 {
-    screen->chkB->setChecked(true);
-    EXPECT_EQ(screen->lblClickAnimate->text(), QStringLiteral("OK to Click Animate"));
-    screen->optStepErase->setChecked(true);
-    EXPECT_EQ(screen->lblClickAnimate->text(), QStringLiteral("Use Scroll Bar Above"));
-    screen->chkA->setChecked(false);
-    screen->chkB->setChecked(false);
-    EXPECT_EQ(screen->lblClickAnimate->text(), QStringLiteral("Select Variable(s)"));
-}
-
-TEST_F(Animate, EndIsReadStrictlyOnlyByTheContinuousAnimation)
-{
-    screen->txtEnd->setText(QStringLiteral("2x"));
+    screen->txtEnd->setText(QStringLiteral("2x"));  // read strictly only by the continuous animation
     screen->cmdAnimate->click();
     EXPECT_EQ(script.errors, std::vector<int>{rt::TypeMismatch});
-    script.errors.clear();
     screen->optSteps->setChecked(true);
     screen->vscStep->setValue(41);  // leniently 2
-    EXPECT_TRUE(script.errors.empty());
     EXPECT_EQ(screen->lblSlide->text(), QStringLiteral("2"));
-}
-
-TEST_F(Animate, StepCountsOutsideWhatTheBarCanHold)
-{
+    screen->optCont->setChecked(true);
+    screen->txtEnd->setText(QStringLiteral("2"));
     screen->txtSteps->setText(QStringLiteral("40000"));  // beyond 16 bits
-    EXPECT_EQ(script.errors, std::vector<int>{rt::Overflow});
-    script.errors.clear();
     screen->txtSteps->setText(QStringLiteral("0"));  // 0 counts as one step, but the bar's Max is 0
     screen->cmdAnimate->click();
-    EXPECT_EQ(script.errors, std::vector<int>{rt::InvalidPropertyValue});
+    EXPECT_EQ(script.errors, (std::vector<int>{rt::TypeMismatch, rt::Overflow, rt::InvalidPropertyValue}));
     EXPECT_TRUE(frameWithA(-2));
-    script.errors.clear();
     screen->txtSteps->setText(QStringLiteral("-3"));  // a negative count: no frames at all
     screen->cmdClearIt->click();
     screen->cmdAnimate_Click();
-    EXPECT_EQ(count(DrawOp::PSet), 0);
-    EXPECT_TRUE(script.errors.empty());
+    EXPECT_EQ(std::tuple(count(DrawOp::PSet), script.errors.size()), std::tuple(0, 3u));
 }
-
-TEST_F(Animate, ZoomHalvesEachLimitAndHelpHasSevenBoxes)
-{
-    screen->cmdZoomIn->click();
-    EXPECT_EQ(screen->txtXmin->text(), QStringLiteral("-5"));
-    EXPECT_EQ(screen->txtYmax->text(), QStringLiteral("5"));
-    screen->mnuAbout_Click();
-    ASSERT_EQ(script.shown.size(), 7u);
-    EXPECT_EQ(script.shown[1].second, QStringLiteral("Animate the function selected by checking one or more variables "
-                                                     "at the right, selecting the range of the variable, and clicking "
-                                                     "[Animate It!]"));
-}
-
-namespace {
-
-// The animation with its plot replaced by a count, so that 32768 frames take no time.
-struct CountingAnimate : frmAnimate {
-    long plots = 0;
-    void cmdPlotto_Click() override { ++plots; }
-};
-
-}  // namespace
 
 // The frame counter is 16-bit: after frame 32767 has been drawn, stepping it raises Overflow.
 TEST(AnimateCounter, StepPastTheLastSixteenBitFrameOverflowsAfterDrawingIt)
@@ -145,14 +106,11 @@ TEST(AnimateCounter, StepPastTheLastSixteenBitFrameOverflowsAfterDrawingIt)
     {
         CountingAnimate screen;
         screen.Form_Activate();
-        screen.txtSteps->setText(QStringLiteral("32767"));
-        screen.txtEnd->setText(QStringLiteral("32767"));
-        screen.txtStart->setText(QStringLiteral("0"));
+        type({screen.txtSteps, screen.txtEnd, screen.txtStart}, "32767|32767|0");
         screen.cmdAnimate->click();
         EXPECT_EQ(script.errors, std::vector<int>{rt::Overflow});
-        EXPECT_EQ(screen.plots, 32768);
-        EXPECT_EQ(screen.vscStep->value(), 32767);
-        EXPECT_EQ(screen.lblSlide->text(), QStringLiteral("32767"));
+        EXPECT_EQ(std::tuple(screen.plots, screen.vscStep->value(), screen.lblSlide->text()),
+                  std::tuple(32768L, 32767, QStringLiteral("32767")));
     }
     setDialogScript(nullptr);
 }

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The three catalogues of families: explicit y(x) with derivatives and domain rules, the slope
+// field's rates with the Runge-Kutta steps, and the parametric x(t), y(t); values, bounds and faults.
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "funclib/FuncGlobals.h"
+#include "runtime/RuntimeError.h"
+#include "tests/TestSupport.h"
+
+using namespace FuncGlobals;
+
+namespace {
+void select(int id, double a, double b, double c, double d = 0, double e = 0)
+{
+    FunctionId = static_cast<std::int16_t>(id);
+    Coefficients = {a, b, c, d, e, 0};
+}
+void rates(int dy, int dx, CoefficientSet k)
+{
+    DyFuncId = static_cast<std::int16_t>(dy);
+    DxFuncId = static_cast<std::int16_t>(dx);
+    Coefficients = k;
+}
+void families(int x, int y, CoefficientSet k)
+{
+    XtFuncId = static_cast<std::int16_t>(x);
+    YtFuncId = static_cast<std::int16_t>(y);
+    Coefficients = k;
+}
+}  // namespace
+
+TEST(ExplicitCatalogue, ValuesAndCaptionBounds)
+{
+    const double x = 1.5;
+    const std::tuple<int, double, double, double, double, double, double> cases[] = {
+        {1, 1, 2, 3, 4, 0, 4.0},  // (3 - 3)^2 + 4
+        {2, 2, -1, 3, 0, 0, 2 * 2.25 - 1.5 + 3},
+        {3, 2, 2, 1, 1, 0, 2 * 8.0 + 1},  // (3 - 1)^3
+        {4, 1, 2, 3, 4, 0, 3.375 + 2 * 2.25 + 4.5 + 4},
+        {5, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::sin(5.5) + 5},
+        {6, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::cos(5.5) + 5},
+        {7, 2, 0.5, 0.1, 4, 5, 4 * 1.5 + 2 * std::tan(0.85) + 5},
+        {8, 2, 2, 1, 3, 0, 2 * std::log(4.0) + 3},
+        {9, 2, 1, -1, 3, 0, 2 * std::exp(0.5) + 3},
+        {10, 6, 2, 1, 3, 0, 6.0 / 4 + 3},
+        {11, 2, 2, 1, 3, 0, 2 * 16.0 + 3},
+        {12, 1, 2, 3, 4, 5, 5.0625 + 2 * 3.375 + 3 * 2.25 + 6 + 5},
+        {13, 2, 3, 1, 4, 5, 2 * 1.5 * std::sin(5.5) + 6 + 5},
+        {14, 2, 0.5, 3, 0, 0, 2 * std::sqrt(1.5) + 3},
+        {15, 2, 4, 3, 0, 0, 2 * 8.0 + 3},
+    };
+    for (const auto& [id, a, b, c, d, e, expected] : cases) {
+        select(id, a, b, c, d, e);
+        FunctionCount = 0;
+        EXPECT_NEAR(YFunc(x), expected, 1e-12) << "family " << id;
+        EXPECT_EQ(FunctionCount, 15);
+        EXPECT_STRNE(ExplicitCaption(id), "") << id;
+    }
+    EXPECT_STREQ(ExplicitCaption(0), "");
+    EXPECT_STREQ(ExplicitCaption(16), "");
+}
+
+TEST(ExplicitCatalogue, DerivativesMatchTheSlopeOfTheValues)
+{
+    // Central differences of YFunc check every derivative formula; family 7 deliberately leaves out D.
+    const double k[5] = {1.3, 0.7, 0.4, 2.1, -0.6};
+    for (int id = 1; id <= 15; ++id) {
+        select(id, k[0], k[1], k[2], k[3], k[4]);
+        for (double x : {0.35, 1.2, 2.7}) {
+            const double numeric = (YFunc(x + 1e-6) - YFunc(x - 1e-6)) / 2e-6;
+            const double expected = id == 7 ? numeric - k[3] : numeric;
+            EXPECT_NEAR(YPrimeFunc(x), expected, 1e-5 * std::max(1.0, std::fabs(expected))) << id << " at " << x;
+        }
+    }
+}
+
+TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
+{
+    // the value and the slope at x
+    const std::tuple<int, double, double, double, double, double, double, double, int, int> cases[] = {
+        {1, 1, 2, 3, 4, 1, 5, -4, 0, 0},
+        {7, 1, 1, 0, 5, 0, 0, 1, 0, 0},  // slope 1, not 6: the slope of Dx is left out
+        {14, 1, 2, 7, 0, 0, 7, 0, 0, 0},
+        {14, 1, 0.5, 7, 0, -1, 0, 0, 0, 0},
+        {14, 2, 3, 1, 0, -2, -15, 24, 0, 0},
+        {14, 1, -1, 7, 0, 0, 0, 0, 0, rt::DivisionByZero},
+        {14, 1, 0.5, 7, 0, 0, 0, 0, 0, 0},  // the slope tests B - 1, not the sign of B
+        {14, 1, 3, 7, 0, -1, 6, 3, 0, 0},
+        {14, 1, 0, 0, 0, 0, 0, 0, 0, rt::DivisionByZero},  // 0 to the power -1
+        {15, 1, 0, 7, 0, 2, 0, 0, 0, 0},
+        {15, 1, -2, 7, 0, 2, 0, 0, 0, 0},
+        {8, 1, 1, 0, 3, 0, 0, 0, 0, 0},  // ln 0: undefined, 0 without an error
+        {8, 1, 1, 0, 3, -4, 0, 0, 0, 0},
+        {10, 1, 2, -4, 3, 2, 0, 0, 0, 0},
+        {0, 1, 1, 1, 1, 2, 0, 0, 0, 0},
+        {16, 1, 1, 1, 1, 2, 0, 0, 0, 0},
+        {-3, 1, 1, 1, 1, 2, 0, 0, 0, 0},
+        {9, 1, 1, 0, 0, 1000, 0, 0, rt::Overflow, rt::Overflow},
+        {9, 1, 1e300, 0, 0, -1e10, 0, 0, rt::Overflow, rt::Overflow},  // the inner term overflows before exp
+        {12, 1, 1, 1, 0, 1e80, 0, 4e240 + 3e160 + 2e80 + 1, rt::Overflow, 0},
+        {2, 1e300, 0, 0, 0, 1e10, 0, 0, rt::Overflow, rt::Overflow},
+        {10, 1e300, 1, 0, 0, 1e-300, 0, 0, rt::Overflow, rt::DivisionByZero},
+    };
+    for (const auto& [id, a, b, c, d, x, wantY, wantSlope, yError, slopeError] : cases) {
+        select(id, a, b, c, d);
+        double y = 0, slope = 0;
+        EXPECT_EQ(errorOf([&] { y = YFunc(x); }), yError) << id << " at " << x;
+        EXPECT_EQ(errorOf([&] { slope = YPrimeFunc(x); }), slopeError) << id << " at " << x;
+        EXPECT_EQ(y, wantY) << id << " at " << x;
+        EXPECT_DOUBLE_EQ(slope, wantSlope) << id << " at " << x;
+    }
+}
+
+TEST(RateCatalogue, ValuesOfBothColumns)
+{
+    const double x = 1.5, y = -0.5;
+    const std::tuple<int, double, double> cases[] = {
+        // dy, dx with A, B, C = 2, 3, 0.5 and D, E, F = -1, 4, 1.5
+        {1, 2 * x + 3 * y + 0.5, -x + 4 * y + 1.5},
+        {2, 2 * x + 3 * std::sin(0.5 * x), -x + 4 * std::sin(1.5 * x)},
+        {3, 2 * x + 3 * std::cos(0.5 * x), -x + 4 * std::cos(1.5 * x)},
+        {4, 2 * x + 3 * std::sin(0.5 * y), -x + 4 * std::sin(1.5 * y)},
+        {5, 2 * y + 3 * std::sin(0.5 * x), -y + 4 * std::sin(1.5 * x)},
+        {6, 2 * y + 3 * std::sin(0.5 * y), -y + 4 * std::sin(1.5 * y)},
+        {7, 2 * x + 3 * x * std::sin(0.5 * x), -x + 4 * x * std::sin(1.5 * x)},
+        {8, 2 * y + 3 * x * std::sin(0.5 * y), -y + 4 * x * std::sin(1.5 * y)},
+        {9, 2 * x + 3 * y + 0.5 * std::exp(x), -x + 4 * y + 1.5 * std::exp(y)},
+        {10, 2 * x + 3 * std::log(x) + 0.5, 0},  // ln(y) of a negative y: 0
+        {11, 2 * x * y + 3 * x * x * y + 0.5 * x * y * y, -x * y + 4 * x * x * y + 1.5 * x * y * y},
+        {12, 2 * x * x + 3 * x + 0.5, -x * x + 4 * x + 1.5},
+        {13, 2 * y * y + 3 * y + 0.5, -y * y + 4 * y + 1.5},
+        {14, 2 * x * x * x + 3 * x * x + 0.5 * x, -x * x * x + 4 * x * x + 1.5 * x},
+        {15, 2 * y * y * y + 3 * y * y + 0.5 * y, -y * y * y + 4 * y * y + 1.5 * y},
+    };
+    for (const auto& [id, dy, dx] : cases) {
+        rates(id, id, {2, 3, 0.5, -1, 4, 1.5});
+        EXPECT_NEAR(DyFunc(x, y), dy, 1e-12) << "dy family " << id;
+        EXPECT_NEAR(DxFunc(x, y), dx, 1e-12) << "dx family " << id;
+        EXPECT_TRUE(*DyCaption(id) && *DxCaption(id)) << id;
+    }
+    EXPECT_STREQ(DyCaption(0), "");
+    EXPECT_STREQ(DxCaption(16), "");
+}
+
+TEST(RateCatalogue, ZeroCoefficientsHandWorkedStepsAndFaults)
+{
+    for (int id = -1; id <= 16; ++id) {  // all-zero coefficients: 1, except the linear family and ids outside
+        rates(id, id, {});
+        const double one = id >= 2 && id <= 15 ? 1 : 0;
+        EXPECT_EQ(std::pair(DyFunc(3, 4), DxFunc(3, 4)), std::pair(one, one)) << id;
+    }
+    rates(10, 9, {1, 0, 0, 0, 0, 2});  // ln of x <= 0 is 0 and takes its term with it; F * e^0 is F
+    EXPECT_EQ(std::tuple(DyFunc(0, 1), DyFunc(-1, 1), DxFunc(5, 0)), std::tuple(0.0, 0.0, 2.0));
+    rates(1, 2, {1, 0, 0, 0, 0, 0});  // dy = x, dx = 1
+    EXPECT_EQ(std::pair(Runga2Step(0, 0, 1), Runga4Step(0, 0, 1)), std::pair(0.5, 0.5));
+    // dy/dx = -x/y from (4, 3), h = 1: k1 = -4/3, k2 = -4.5/2.3333, k3, k4 by the classical rule.
+    rates(1, 1, {-1, 0, 0, 0, 1, 0});
+    const double k1 = -4.0 / 3, k2 = -4.5 / (3 + k1 / 2), k3 = -4.5 / (3 + k2 / 2), k4 = -5.0 / (3 + k3);
+    EXPECT_DOUBLE_EQ(Runga2Step(4, 3, 1), k2);
+    EXPECT_DOUBLE_EQ(Runga4Step(4, 3, 1), k2 / 3 + k1 / 6 + k3 / 3 + k4 / 6);
+    rates(1, 1, {1, 0, 0, 0, 0, 0});  // dx = 0 everywhere
+    EXPECT_EQ(errorOf([] { Runga2Step(1, 1, 1); }), rt::DivisionByZero);
+    EXPECT_EQ(errorOf([] { Runga4Step(0, 0, 1); }), rt::Overflow);  // 0 / 0
+    rates(9, 1, {0, 0, 1, 1, 0, 0});
+    EXPECT_EQ(errorOf([] { DyFunc(1000, 0); }), rt::Overflow);
+    rates(13, 1, {1, 0, 0, 1, 0, 0});
+    EXPECT_EQ(errorOf([] { DyFunc(0, 1e200); }), rt::Overflow);
+}
+
+TEST(ParametricCatalogue, ValuesOfBothCatalogues)
+{
+    const double T = 0.5;
+    // A, B, C = 2, 3, 0.25 and D, E, F = -1, 0.5, 4
+    const std::tuple<int, double, double> cases[] = {
+        {1, 2 * T * T + 3 * T + 0.25, -T * T + 0.5 * T + 4},
+        {2, 2 * T * T * T + 3 * T + 0.25, -T * T * T + 0.5 * T + 4},
+        {3, 2 * T * T * T + 3 * T * T + 0.25 * T, -T * T * T + 0.5 * T * T + 4 * T},
+        {4, 2 * std::sin(3 * T) + 0.25, -std::sin(0.5 * T) + 4},
+        {5, 2 * std::cos(3 * T) + 0.25, -std::cos(0.5 * T) + 4},
+        {6, 2 * std::tan(3 * T) + 0.25, -std::tan(0.5 * T) + 4},
+        {7, 0.25 * T + 2 * std::sin(3 * T), 4 * T - std::sin(0.5 * T)},
+        {8, 0.25 * T + 2 * std::cos(3 * T), 4 * T - std::cos(0.5 * T)},
+        {9, T * 2 * std::sin(3 * T) + 0.25, -T * std::sin(0.5 * T) + 4},
+        {10, T * 2 * std::cos(3 * T) + 0.25, -T * std::cos(0.5 * T) + 4},
+        {11, 2 * std::exp(3 * T) + 0.25, -std::exp(0.5 * T) + 4},
+        {12, 2 / (3 * T + 0.25), -1 / (0.5 * T + 4)},
+    };
+    for (const auto& [id, x, y] : cases) {
+        families(id, id, {2, 3, 0.25, -1, 0.5, 4});
+        EXPECT_NEAR(XtFunc(0.5f), x, 1e-12) << id;
+        EXPECT_NEAR(YtFunc(0.5f), y, 1e-12) << id;
+        EXPECT_STRNE(XtCaption(id), "") << id;
+        EXPECT_STRNE(YtCaption(id), "") << id;
+    }
+    EXPECT_STREQ(XtCaption(13), "");
+    EXPECT_STREQ(YtCaption(0), "");
+}
+
+TEST(ParametricCatalogue, WideningOutsideTheCatalogueAndTheZeroDenominator)
+{
+    families(1, 1, {0, 1, 0, 0, 1, 0});
+    EXPECT_EQ(XtFunc(0.1f), static_cast<double>(0.1f));  // a single t is widened, not rounded
+    for (int id : {0, 13}) {
+        families(id, id, {1, 1, 1, 1, 1, 1});
+        EXPECT_EQ(XtFunc(1.5f), 0);
+        EXPECT_EQ(YtFunc(1.5f), 0);
+    }
+    families(12, 12, {3, 1, -2, 3, 1, -2});
+    EXPECT_EQ(XtFunc(2.0f), 0);
+    EXPECT_EQ(YtFunc(2.0f), 0);
+    EXPECT_EQ(XtFunc(3.0f), 3);
+    EXPECT_EQ(YtFunc(1.0f), -3);
+}

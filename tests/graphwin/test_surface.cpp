@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The drawing surface: pixels under twip points, recorded shapes, clipping, pens, text, presses in
+// twips; and at every size: the same twips, the picture drawn again, controls and fonts grown
+// together, and a window that opens where it fits.
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "graphwin/Dialogs.h"
+#include "graphwin/DrawingSurface.h"
+#include "graphwin/FormArea.h"
+#include "screens/frmClasses.h"
+
+namespace {
+constexpr QRgb kRed = 0xFFFF0000u, kBlue = 0xFF0000FFu, kWhite = 0xFFFFFFFFu;
+
+QImage grab(DrawingSurface& s)
+{
+    QImage img(s.normalSize(), QImage::Format_RGB32);
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            img.setPixel(x, y, s.pixel(x * 15, y * 15));
+    return img;
+}
+}  // namespace
+
+TEST(DrawingSurface, ShapesColourThePixelsUnderTheirTwipsAndAreRecorded)
+{
+    DrawingSurface s(6000, 3000);
+    s.setRecording(true);
+    s.PSet(1500, 1500, kRed);
+    s.LineStep(300, 600, 900, 0, kBlue);
+    s.Line(150, 150, 1500, 1500, kRed);  // diagonal
+    s.Line(-1e12, 2000, 1e12, 2000, kRed);  // crosses the whole surface: clipped, not dropped
+    EXPECT_EQ(std::pair(s.CurrentX, s.CurrentY), std::pair(1e12, 2000.0));
+    s.Line(1e300, -1e300, 2e300, -5e299, kBlue);  // entirely outside
+    s.Line(1500, 1500, std::numeric_limits<double>::quiet_NaN(), 0, kBlue);
+    const std::tuple<double, double, QRgb> pixels[] = {
+        {1500, 1500, kRed},  {1514, 1514, kRed}, {1515, 1500, kWhite},  // 15 twips to a pixel
+        {300, 600, kBlue},   {1200, 600, kBlue}, {1215, 600, kWhite},  {750, 750, kRed},
+        {750, 1200, kWhite}, {0, 2000, kRed},    {5990, 2000, kRed},   {1500, 1400, kWhite}};
+    for (const auto& [x, y, colour] : pixels)
+        EXPECT_EQ(s.pixel(x, y), colour) << x << ", " << y;
+    ASSERT_EQ(s.ops().size(), 6u);  // lines outside are recorded too
+    EXPECT_EQ(s.ops()[0].kind, DrawOp::PSet);
+    const DrawOp& step = s.ops()[1];
+    EXPECT_EQ(step.kind, DrawOp::Line);
+    EXPECT_EQ(std::tuple(step.x1, step.y1, step.x2, step.y2, step.color), std::tuple(300, 600, 1200, 600, kBlue));
+
+    s.setDrawWidth(3);
+    s.PSet(3000, 1500, kRed);
+    EXPECT_EQ(std::tuple(s.pixel(2985, 1485), s.pixel(3015, 1515), s.ops().back().width), std::tuple(kRed, kRed, 3));
+    s.setDrawWidth(1);
+    s.Cls();
+    EXPECT_TRUE(s.ops().empty());
+    EXPECT_EQ(std::tuple(s.pixel(1500, 1500), s.CurrentX), std::tuple(kWhite, 0));
+}
+
+TEST(DrawingSurface, TextMovesTheCurrentPointAndPressesArriveInTwips)
+{
+    DrawingSurface s(6000, 3000);
+    s.setRecording(true);
+    s.setFontSize(8);
+    const double w = s.TextWidth(QStringLiteral("dy  ")), h = s.TextHeight(QStringLiteral("d"));
+    EXPECT_GT(w, 0);
+    EXPECT_GT(h, 0);
+    s.CurrentX = 300;
+    s.CurrentY = 200;
+    s.Print(QStringLiteral("dy  "), false);
+    EXPECT_DOUBLE_EQ(s.CurrentX, 300 + w);
+    EXPECT_EQ(s.CurrentY, 200);
+    s.Print(QStringLiteral("x"));
+    EXPECT_EQ(s.CurrentX, 0);
+    EXPECT_DOUBLE_EQ(s.CurrentY, 200 + h);
+    EXPECT_EQ(std::tuple(s.ops()[0].kind, s.ops()[0].x1), std::tuple(DrawOp::Text, 300));
+    s.Circle(1500, 1500, 300, kRed);
+    EXPECT_EQ(std::tuple(s.ops().back().x2, s.pixel(1800, 1500)), std::tuple(300, kRed));
+
+    std::tuple<int, double, double> pressed;
+    s.MouseDown = [&](int b, int, double x, double y) { pressed = {b, x, y}; };
+    QTest::mousePress(&s, Qt::RightButton, Qt::NoModifier, QPoint(40, 20));
+    EXPECT_EQ(pressed, std::tuple(2, 600.0, 300.0));
+}
+
+TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
+{
+    for (double zoom : {1.0, 2.0, 0.5, 1.5, 3.25}) {
+        DrawingSurface s(3000, 3000);
+        s.setZoom(zoom);
+        double X = -1, Y = -1;
+        s.MouseDown = [&](int, int, double x, double y) { X = x, Y = y; };
+        QTest::mouseClick(&s, Qt::LeftButton, Qt::NoModifier, QPoint(int(100 * zoom), int(40 * zoom)));
+        EXPECT_NEAR(X, 1500, 1e-9) << zoom;
+        EXPECT_NEAR(Y, 600, 1e-9) << zoom;
+        EXPECT_EQ(s.size(), QSize(int(std::lround(200 * zoom)), int(std::lround(200 * zoom))));
+    }
+    DrawingSurface s(3000, 3000);
+    s.Line(300, 600, 1200, 600, kRed);
+    s.Line(150, 1500, 1500, 2800, kRed);
+    s.Circle(1500, 1500, 450, kRed);
+    s.CurrentX = 200;
+    s.CurrentY = 2200;
+    s.Print(QStringLiteral("y = x^2"));
+    s.clearArea(1000, 1000, 200, 200);
+    const QImage before = grab(s);
+    s.setZoom(2);  // every twip point shows what it showed: a one-pixel line is two pixels wide
+    for (double x = 300; x <= 1200; x += 7.5)
+        ASSERT_EQ(s.pixel(x, 600), kRed) << x;
+    EXPECT_EQ(std::tuple(s.pixel(700, 607), s.pixel(700, 616), s.pixel(1100, 1100)),
+              std::tuple(kRed, kWhite, kWhite));  // the cleared rectangle stays cleared
+    s.setZoom(0.37);
+    s.setZoom(1);
+    EXPECT_EQ(grab(s), before);
+}
+
+TEST(Zoom, ControlsAndFontsGrowWithTheForm)
+{
+    DialogScript script;
+    setDialogScript(&script);
+    {
+        frmClasses screen;
+        const QRect plot = screen.cmdPlotto->geometry();  // 9400, 600, 1680 x 420 twips
+        const double points = screen.cmdPlotto->font().pointSizeF();
+        screen.surface->setZoom(2);
+        EXPECT_EQ(screen.cmdPlotto->geometry(), QRect(1253, 80, 224, 56));
+        EXPECT_DOUBLE_EQ(screen.cmdPlotto->font().pointSizeF(), points * 2);
+        EXPECT_EQ(screen.shpSquare->geometry(), QRect(320, 16, 854, 854));
+        QTest::mouseClick(screen.lblA, Qt::LeftButton);  // a press at the new size still steps its box
+        EXPECT_EQ(screen.txtA->text(), QStringLiteral("2"));
+        screen.surface->setZoom(1);
+        EXPECT_EQ(screen.cmdPlotto->geometry(), plot);
+    }
+    setDialogScript(nullptr);
+}
+
+TEST(Zoom, AWindowOpensAtItsNormalSizeOrSmallerToFit)
+{
+    const std::tuple<QSize, QSize, QSize, QSize> cases[] = {
+        {{749, 476}, {8, 64}, {1920, 1040}, {757, 540}},  // fits: the normal size
+        {{928, 620}, {8, 64}, {960, 520}, {691, 520}},  // a 200% screen of 1920x1080: scaled down whole
+        {{749, 476}, {8, 64}, {400, 300}, {379, 300}},
+        {{749, 476}, {8, 64}, {4, 4}, {20, 71}},  // no room at all: the smallest zoom
+    };
+    for (const auto& [normal, frame, available, opened] : cases)
+        EXPECT_EQ(openingSize(normal, frame, available), opened) << available.width();
+}
