@@ -41,8 +41,9 @@ TEST_F(Grapher, PlotSetsOnePointPerColumnInsideTheSquareAndOverlaysUntilErased)
     expectDescribed("y = A * (Bx - C)^2 + D with A = 1, B = 1");
     EXPECT_EQ(screen->surface->pixel(6240, 2020), colour(1));
     for (const DrawOp& op : ops())
-        if (op.kind == DrawOp::PSet)
+        if (op.kind == DrawOp::PSet) {
             ASSERT_TRUE(op.y1 >= 100 && op.y1 <= 6500 && op.color == colour(1)) << op.x1 << ", " << op.y1;
+        }
     const size_t drawn = ops().size();
     screen->mnuFunc[2]->trigger();  // choosing a family or a coefficient does not plot
     screen->txtA->setText(QStringLiteral("3"));

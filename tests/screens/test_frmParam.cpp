@@ -13,8 +13,9 @@ TEST_F(Param, SeparatePointsOrConnectedLinesThatTestOnlyTheNewPoint)
     EXPECT_TRUE(hasPoint(5600, 3300 - 3 * 320, colour(4)));  // t = 0: (0, 3)
     EXPECT_EQ(std::tuple(count(DrawOp::PSet), count(DrawOp::Line)), std::tuple(1001, 44));
     for (const DrawOp& op : ops())
-        if (op.kind == DrawOp::PSet)
+        if (op.kind == DrawOp::PSet) {
             ASSERT_EQ(op.color, colour(4));
+        }
     screen->cmdClean_Click();
     screen->optCont->setChecked(true);
     screen->txtXmin->setText(QStringLiteral("0"));  // the left half of the figure lies outside
