@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -98,6 +99,17 @@ void DrawingSurface::replay()
         case Kept::Circle: drawCircle(k.a, k.b, k.c, k.color, k.extra); break;
         case Kept::Text: drawText(k.a, k.b, texts_[static_cast<std::size_t>(k.extra)], k.color); break;
         case Kept::Clear: drawClear(k.a, k.b, k.c, k.d, k.color); break;
+        case Kept::Batch: {
+            raster::SameColourWriter w(target(), std::max(1, static_cast<int>(std::lround(k.extra * scale_))), k.color);
+            const double* shape = batchShapes_.data() + static_cast<std::size_t>(k.a) * 4;
+            for (std::size_t i = 0; i < static_cast<std::size_t>(k.b); ++i, shape += 4) {
+                if (std::isnan(shape[2]))
+                    w.point(toPx(shape[0]), toPx(shape[1]));
+                else
+                    w.line(toPx(shape[0]), toPx(shape[1]), toPx(shape[2]), toPx(shape[3]));
+            }
+            break;
+        }
         }
     }
 }
@@ -151,6 +163,7 @@ void DrawingSurface::Cls()
     ops_.clear();
     kept_.clear();
     texts_.clear();
+    batchShapes_.clear();
     keptComplete_ = true;
     clsColor_ = BackColor;
     CurrentX = CurrentY = 0;
@@ -181,6 +194,76 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
     CurrentY = y2;
     raster::line(target(), toPx(x1), toPx(y1), toPx(x2), toPx(y2), penPx_, color);
     touched();
+}
+
+DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
+    : s_(surface), color_(color), writer_(surface.target(), surface.penPx_, color), first_(surface.batchShapes_.size()),
+      lastX_(surface.CurrentX), lastY_(surface.CurrentY), keep_(surface.keptComplete_ && surface.batching_),
+      direct_(!surface.batching_)
+{
+    if (keep_ && s_.batchShapes_.capacity() == 0)
+        s_.batchShapes_.reserve(kMaxKept * 4);  // once: later batches append without moving the earlier
+}
+
+// Whether one more shape fits in what the surface keeps; when it does not, the batch keeps nothing
+// and the surface no longer keeps a complete picture.
+bool DrawingSurface::Batch::fits()
+{
+    if (s_.kept_.size() + s_.batchShapes_.size() / 4 < kMaxKept)
+        return true;
+    keep_ = false;
+    s_.batchShapes_.resize(first_);
+    s_.keptComplete_ = false;
+    return false;
+}
+
+void DrawingSurface::Batch::line(double x1, double y1, double x2, double y2)
+{
+    if (direct_) {
+        s_.Line(x1, y1, x2, y2, color_);
+        return;
+    }
+    if (s_.recording_)
+        s_.record(DrawOp::Line, x1, y1, x2, y2, color_);
+    if (keep_ && fits())
+        s_.batchShapes_.insert(s_.batchShapes_.end(), {x1, y1, x2, y2});
+    lastX_ = x2;
+    lastY_ = y2;
+    writer_.line(s_.toPx(x1), s_.toPx(y1), s_.toPx(x2), s_.toPx(y2));
+}
+
+void DrawingSurface::Batch::point(double x, double y)
+{
+    if (direct_) {
+        s_.PSet(x, y, color_);
+        return;
+    }
+    if (s_.recording_)
+        s_.record(DrawOp::PSet, x, y, x, y, color_);
+    if (keep_ && fits()) {
+        const double none = std::numeric_limits<double>::quiet_NaN();
+        s_.batchShapes_.insert(s_.batchShapes_.end(), {x, y, none, none});
+    }
+    lastX_ = x;
+    lastY_ = y;
+    writer_.point(s_.toPx(x), s_.toPx(y));
+}
+
+DrawingSurface::Batch::~Batch()
+{
+    if (direct_)
+        return;
+    writer_.flush();
+    s_.CurrentX = lastX_;
+    s_.CurrentY = lastY_;
+    s_.touched();
+    const std::size_t shapes = (s_.batchShapes_.size() - first_) / 4;
+    if (!keep_ || shapes == 0)
+        return;
+    // Kept while the shapes fit in what the surface keeps; beyond that the picture is scaled on a resize.
+    if (!s_.retain(Kept::Batch, static_cast<double>(first_ / 4), static_cast<double>(shapes), 0, 0, color_,
+                   s_.drawWidth_))
+        s_.batchShapes_.resize(first_);
 }
 
 void DrawingSurface::Circle(double x, double y, double r, QRgb color)

@@ -11,6 +11,7 @@
 // sharp. Handlers never see the zoom: twips in, twips out, mouse positions in twips.
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QFont>
@@ -60,6 +61,34 @@ public:
     }
     // A circle outline of radius r twips around (x, y).
     void Circle(double x, double y, double r, QRgb color);
+
+    // Segments and points of one colour drawn together, for the per-point loops: a loop hands its
+    // shapes to the batch (plain arithmetic, no toolkit call per shape) and the batch writes them
+    // straight into the picture, merging the vertical runs of one column, then keeps them for a
+    // redraw at another size and asks for a repaint once, when it ends. The picture is exactly the
+    // one that the same Line and PSet calls give one by one. Nothing else is drawn on the surface
+    // while a batch is open; a run-time error that ends the loop ends the batch with what was drawn.
+    class Batch {
+    public:
+        Batch(DrawingSurface& surface, QRgb color);
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+        ~Batch();
+        void line(double x1, double y1, double x2, double y2);
+        void point(double x, double y);
+
+    private:
+        bool fits();
+        DrawingSurface& s_;
+        QRgb color_;
+        raster::SameColourWriter writer_;
+        std::size_t first_;  // where the batch's shapes begin in the surface's kept shapes
+        double lastX_, lastY_;
+        bool keep_;  // whether the surface still keeps what is drawn, for a redraw at another size
+        bool direct_;  // shape by shape through Line and PSet, when the surface does not batch
+    };
+    // Off: batches hand each shape to Line and PSet, one by one (the plain path, to compare with).
+    void setBatching(bool on) { batching_ = on; }
     // Paints a rectangle with the background colour (a shape's area being refreshed).
     void clearArea(double left, double top, double width, double height);
     // Text at the current point, top left. With newline the current point goes to the start of the
@@ -105,8 +134,12 @@ public:
     // (beyond that a resize scales the image it has instead of drawing it again).
     static constexpr double kMaxZoom = 4.0;
     static constexpr std::size_t kMaxKept = 1500000;
-    std::size_t keptOperations() const { return kept_.size(); }
-    std::size_t keptBytes() const { return kept_.capacity() * sizeof(Kept) + texts_.capacity() * sizeof(KeptText); }
+    std::size_t keptOperations() const { return kept_.size() + batchShapes_.size() / 4; }
+    std::size_t keptBytes() const
+    {
+        return kept_.capacity() * sizeof(Kept) + texts_.capacity() * sizeof(KeptText) +
+               batchShapes_.capacity() * sizeof(double);
+    }
 
     MouseHandler MouseDown;
     MouseHandler MouseMove;
@@ -134,7 +167,7 @@ private:
     // One drawing operation kept for redrawing: a line's ends, a point, a circle's centre and
     // radius, a text's position or a cleared rectangle, all in twips.
     struct Kept {
-        enum Kind : std::uint8_t { Line, Point, Circle, Text, Clear } kind;
+        enum Kind : std::uint8_t { Line, Point, Circle, Text, Clear, Batch } kind;
         double a, b, c, d;
         QRgb color;
         int extra;  // the drawing width, or the index of a text in texts_
@@ -146,7 +179,7 @@ private:
     // Keeps an operation while there is room; false (and the list marked incomplete) once full.
     bool retain(Kept::Kind kind, double a, double b, double c, double d, QRgb color, int extra)
     {
-        if (keptComplete_ && kept_.size() < kMaxKept) {
+        if (keptComplete_ && kept_.size() + batchShapes_.size() / 4 < kMaxKept) {
             kept_.push_back(Kept{kind, a, b, c, d, color, extra});
             return true;
         }
@@ -189,15 +222,39 @@ private:
     int penPx_ = 1;  // drawing width in device pixels
     QFont font_;
     bool recording_ = false;
+    bool batching_ = true;
     bool dirty_ = false;
     std::vector<DrawOp> ops_;
     std::vector<Kept> kept_;
     std::vector<KeptText> texts_;
     bool keptComplete_ = true;
+    // The shapes of the kept batches, four numbers each: a segment's ends, or a point and two NaNs.
+    // A kept batch names its first shape and their number.
+    std::vector<double> batchShapes_;
     QRgb clsColor_ = 0xFFFFFFFFu;
     QRectF focusArea_;
     std::uint64_t clears_ = 0;
     QPointF pointerTwips_;
+};
+
+// A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise
+// a run-time error, and it must come where the first shape is drawn, as a plain PSet would raise it.
+class LazyBatch {
+public:
+    LazyBatch(DrawingSurface& surface, FirstUseColour& colour) : surface_(surface), colour_(colour) { }
+    void point(double x, double y) { open().point(x, y); }
+    void line(double x1, double y1, double x2, double y2) { open().line(x1, y1, x2, y2); }
+
+private:
+    DrawingSurface::Batch& open()
+    {
+        if (!batch_)
+            batch_.emplace(surface_, colour_.get());
+        return *batch_;
+    }
+    DrawingSurface& surface_;
+    FirstUseColour& colour_;
+    std::optional<DrawingSurface::Batch> batch_;
 };
 
 // Twips per logical pixel for a widget placed on a surface: 15 at the normal size, less when the

@@ -264,13 +264,14 @@ void GraphScreen::plotColumns(double (*evaluate)(const double&))
     const auto first = static_cast<std::int16_t>(config_.squareLeft + 1);
     const auto last = static_cast<std::int16_t>(config_.squareLeft + 6399);
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
+    LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
     rt::For16(first, last, 1, [&](std::int16_t c) {
         const double x = graph.worldX(c);
         const double y = evaluate(x);
         const double ty = rt::Chk(graph.YOrigin - rt::Div(rt::Chk(y * 6400), graph.YRange));
         if (ty >= 100 && ty <= 6500)
-            surface->PSet(c, ty, colour.get());
+            points.point(c, ty);
     });
 }
 

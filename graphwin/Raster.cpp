@@ -107,4 +107,77 @@ void line(const Target& t, double x1, double y1, double x2, double y2, int pen, 
     }
 }
 
+SameColourWriter::SameColourWriter(const Target& t, int pen, std::uint32_t color)
+    : t_(t), pen_(std::max(pen, 1)), color_(color)
+{ }
+
+void SameColourWriter::line(double x1, double y1, double x2, double y2)
+{
+    // The same clipping and the same whole pixels as line(); only a vertical run of a thin pen waits.
+    if (pen_ != 1 || !(std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2) && std::isfinite(y2))) {
+        raster::line(t_, x1, y1, x2, y2, pen_, color_);
+        return;
+    }
+    // A segment wholly inside the picture needs no clipping (it would leave it unchanged), and its
+    // whole pixels are its coordinates cut towards zero.
+    if (x1 >= 0 && x2 >= 0 && y1 >= 0 && y2 >= 0 && x1 < t_.width && x2 < t_.width && y1 < t_.height &&
+        y2 < t_.height) {
+        const long ax = static_cast<long>(x1), ay = static_cast<long>(y1);
+        const long bx = static_cast<long>(x2), by = static_cast<long>(y2);
+        if (ay == by)
+            std::fill(t_.bits + ay * t_.stride + std::min(ax, bx), t_.bits + ay * t_.stride + std::max(ax, bx) + 1,
+                      color_);
+        else if (ax == bx)
+            addRun(ax, std::min(ay, by), std::max(ay, by));
+        else
+            raster::line(t_, x1, y1, x2, y2, pen_, color_);
+        return;
+    }
+    double cx1 = x1, cy1 = y1, cx2 = x2, cy2 = y2;
+    if (!clipSegment(cx1, cy1, cx2, cy2, -2.0, t_.width + 1, t_.height + 1))
+        return;
+    const long ax = static_cast<long>(std::floor(cx1)), ay = static_cast<long>(std::floor(cy1));
+    const long bx = static_cast<long>(std::floor(cx2)), by = static_cast<long>(std::floor(cy2));
+    if (ax != bx || ay == by) {
+        raster::line(t_, x1, y1, x2, y2, pen_, color_);
+        return;
+    }
+    const long from = std::max(0L, std::min(ay, by)), to = std::min(t_.height - 1, std::max(ay, by));
+    if (ax >= 0 && ax < t_.width && from <= to)
+        addRun(ax, from, to);
+}
+
+void SameColourWriter::addRun(long column, long from, long to)
+{
+    if (columns_.empty())
+        columns_.resize(static_cast<std::size_t>(t_.width));
+    std::vector<Run>& runs = columns_[static_cast<std::size_t>(column)];
+    if (runs.empty())
+        used_.push_back(column);
+    for (Run& r : runs)
+        if (from <= r.to + 1 && r.from <= to + 1) {  // overlapping or touching: one run
+            r.from = std::min(r.from, from);
+            r.to = std::max(r.to, to);
+            return;
+        }
+    if (runs.size() < kRunsPerColumn) {
+        runs.push_back({from, to});
+        return;
+    }
+    for (long y = from; y <= to; ++y)
+        t_.bits[y * t_.stride + column] = color_;
+}
+
+void SameColourWriter::flush()
+{
+    for (long column : used_) {
+        std::vector<Run>& runs = columns_[static_cast<std::size_t>(column)];
+        for (const Run& r : runs)
+            for (long y = r.from; y <= r.to; ++y)
+                t_.bits[y * t_.stride + column] = color_;
+        runs.clear();
+    }
+    used_.clear();
+}
+
 }  // namespace raster

@@ -285,7 +285,7 @@ void frmFlowField::cmdShowFlow_Click()
             v = next;
         }
     };
-    const QRgb blue = rgbColor(rt::QBColor(1));
+    DrawingSurface::Batch arrows(*surface, rgbColor(rt::QBColor(1)));
     rt::cleanVectorStateForHotLoop();
     counted(Chk(xmin + sx), Chk(xmax - sx), sx, [&](double x) {
         counted(Chk(ymin + sy), Chk(ymax - sy), sy, [&](double y) {
@@ -294,7 +294,7 @@ void frmFlowField::cmdShowFlow_Click()
             if (m == 0)
                 return;
             const double u = Chk(rt::Div(p, m) * W) / 40, v = Chk(rt::Div(q, m) * H) / 40;
-            surface->Line(graph.column(x), graph.row(y), graph.column(Chk(x + u)), graph.row(Chk(y + v)), blue);
+            arrows.line(graph.column(x), graph.row(y), graph.column(Chk(x + u)), graph.row(Chk(y + v)));
         });
     });
 }
@@ -315,12 +315,6 @@ IntegralCurves::Settings frmFlowField::settings() const
 }
 
 bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X < kRight && kTop < Y && Y < kBottom; }
-
-void frmFlowField::drawSegment(double x1, double y1, double x2, double y2)
-{
-    surface->Line(graph.column(x1), graph.row(y1), graph.column(x2), graph.row(y2),
-                  rgbColor(rt::QBColor(MethodColour)));
-}
 
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 {
@@ -355,10 +349,15 @@ void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 void frmFlowField::followCurve(double& x, double& y, bool backward)
 {
     const double h = backward ? -txtDelta->value() : txtDelta->value();
-    rt::cleanVectorStateForHotLoop();
-    const bool reachedEnd =
-        IntegralCurves::follow(settings(), h, backward, x, y, PointCounter,
-                               [this](double x1, double y1, double x2, double y2) { drawSegment(x1, y1, x2, y2); });
+    bool reachedEnd = false;
+    {
+        DrawingSurface::Batch curve(*surface, rgbColor(rt::QBColor(MethodColour)));
+        rt::cleanVectorStateForHotLoop();
+        reachedEnd = IntegralCurves::follow(
+            settings(), h, backward, x, y, PointCounter, [&](double x1, double y1, double x2, double y2) {
+                curve.line(graph.column(x1), graph.row(y1), graph.column(x2), graph.row(y2));
+            });
+    }
     if (!reachedEnd)
         return;
     auto end = [](double v) { return qStr(rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)) / 1000); };

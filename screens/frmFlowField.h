@@ -84,7 +84,6 @@ protected:
 private:
     IntegralCurves::Settings settings() const;
     void followCurve(double& x, double& y, bool backward);
-    void drawSegment(double x1, double y1, double x2, double y2);
     bool insideGraph(double X, double Y) const;
     void refuseMethod();
 

@@ -123,12 +123,15 @@ void frmMVT::cmdApplyMVT_Click()
     // The secant across the whole width, dotted column by column in the curve's colour.
     const double k = Chk(fb - Chk(SecantSlope * b));
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
-    rt::cleanVectorStateForHotLoop();
-    for (int column = squareLeft() + 1; column <= squareLeft() + 6399; ++column) {
-        const double x = graph.worldX(column);
-        const double row = graph.row(Chk(Chk(SecantSlope * x) + k));
-        if (100 <= row && row < 6500)
-            surface->PSet(column, row, colour.get());
+    {
+        LazyBatch points(*surface, colour);
+        rt::cleanVectorStateForHotLoop();
+        for (int column = squareLeft() + 1; column <= squareLeft() + 6399; ++column) {
+            const double x = graph.worldX(column);
+            const double row = graph.row(Chk(Chk(SecantSlope * x) + k));
+            if (100 <= row && row < 6500)
+                points.point(column, row);
+        }
     }
     auto R4 = [](double v) { return qStr(rounded(v, 10000)); };
     lblPt1->setText(QStringLiteral("(") + R4(a) + QStringLiteral(",") + R4(fa) + QStringLiteral(")"));
@@ -148,12 +151,13 @@ void frmMVT::HscMVT_Change()
 
     // Not reduced: family 15 asks for colour 16, which does not exist.
     FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
+    LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
     for (int column = squareLeft(); column <= squareLeft() + 6400; ++column) {
         const double x = graph.worldX(column);
         const double row = graph.row(Chk(Chk(slope * Chk(x - c)) + fc));
         if (100 <= row && row < 6500)
-            surface->PSet(column, row, colour.get());
+            points.point(column, row);
     }
 }
 

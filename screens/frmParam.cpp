@@ -207,17 +207,18 @@ void frmParam::cmdPlotto_Click()
     double c0 = graph.column(XtFunc(t0)), r0 = graph.row(YtFunc(t0));
     const bool points = optPoints->isChecked();
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
+    LazyBatch figure(*surface, colour);
     rt::cleanVectorStateForHotLoop();
     for (std::int32_t i = 1; i <= n; ++i) {
         const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
         const double c1 = graph.column(XtFunc(t)), r1 = graph.row(YtFunc(t));
         if (points) {
             if (i == 1)
-                surface->PSet(c0, r0, colour.get());
+                figure.point(c0, r0);
             if (inside(c1, r1))
-                surface->PSet(c1, r1, colour.get());
+                figure.point(c1, r1);
         } else if (inside(c1, r1)) {
-            surface->Line(c0, r0, c1, r1, colour.get());
+            figure.line(c0, r0, c1, r1);
         }
         c0 = c1;
         r0 = r1;

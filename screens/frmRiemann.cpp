@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmRiemann.h"
 
+#include <memory>
+
 #include "screens/ConvergenceWindow.h"
 
 #include "funclib/FuncGlobals.h"
@@ -190,61 +192,73 @@ void frmRiemann::cmdParts_Click()
     auto inside = [&](double a, double b, double t) {
         return left < a && a < right && left < b && b < right && 100 < t && t < 6500;
     };
-    auto barsIn = [&](int colourNumber) {
-        const QRgb colour = rgbColor(rt::QBColor(colourNumber));
-        return [this, &inside, Y0, colour](double xa, double xb, double y) {
+    // Each method's bars go into a batch of its colour: the loop writes plain numbers, and the batch
+    // draws them when the method's sum is done (or ends with an error).
+    auto batchOf = [this](int colourNumber) {
+        return std::make_unique<DrawingSurface::Batch>(*surface, rgbColor(rt::QBColor(colourNumber)));
+    };
+    auto barsInto = [this, &inside, Y0](DrawingSurface::Batch& bars) {
+        return [this, &inside, &bars, Y0](double xa, double xb, double y) {
             const double a = graph.column(xa), b = graph.column(xb), t = graph.row(y);
             if (!inside(a, b, t))
                 return;
-            surface->Line(a, Y0, a, t, colour);
-            surface->Line(a, t, b, t, colour);
-            surface->Line(b, t, b, Y0, colour);
+            bars.line(a, Y0, a, t);
+            bars.line(a, t, b, t);
+            bars.line(b, t, b, Y0);
         };
     };
+    const auto barSum = [&](CheckBox* check, ClickLabel* label, int colourNumber, auto sum) {
+        if (!check->isChecked())
+            return;
+        Result r;
+        {
+            const auto bars = batchOf(colourNumber);
+            r = sum(barsInto(*bars));
+        }
+        showResult(label, r);
+    };
 
-    if (chkLeft->isChecked())
-        showResult(lblLeftE, leftEndpoint(f, L, dx, n, barsIn(2)));
-    if (chkRight->isChecked())
-        showResult(lblRightE, rightEndpoint(f, L, dx, n, barsIn(1)));
-    if (chkMid->isChecked())
-        showResult(lblMid, midpoint(f, L, dx, n, barsIn(4)));
+    barSum(chkLeft, lblLeftE, 2, [&](auto draw) { return leftEndpoint(f, L, dx, n, draw); });
+    barSum(chkRight, lblRightE, 1, [&](auto draw) { return rightEndpoint(f, L, dx, n, draw); });
+    barSum(chkMid, lblMid, 4, [&](auto draw) { return midpoint(f, L, dx, n, draw); });
     if (chkTrap->isChecked()) {
-        const QRgb colour = rgbColor(rt::QBColor(5));
-        showResult(lblTrap, trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
-                       const double a = graph.column(xa), b = graph.column(xb), t1 = graph.row(y1), t2 = graph.row(y2);
-                       if (!inside(a, b, t1))  // only the left height is tested
-                           return;
-                       surface->Line(a, Y0, a, t1, colour);
-                       surface->Line(a, t1, b, t2, colour);
-                       surface->Line(b, t2, b, Y0, colour);
-                   }));
+        Result r;
+        {
+            const auto bars = batchOf(5);
+            r = trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
+                const double a = graph.column(xa), b = graph.column(xb), t1 = graph.row(y1), t2 = graph.row(y2);
+                if (!inside(a, b, t1))  // only the left height is tested
+                    return;
+                bars->line(a, Y0, a, t1);
+                bars->line(a, t1, b, t2);
+                bars->line(b, t2, b, Y0);
+            });
+        }
+        showResult(lblTrap, r);
     }
-    if (chkRandom->isChecked())
-        showResult(lblRnd, randomPoint(f, L, dx, n, barsIn(6)));
+    barSum(chkRandom, lblRnd, 6, [&](auto draw) { return randomPoint(f, L, dx, n, draw); });
     if (chkSimpson->isChecked()) {
-        const QRgb colour = rgbColor(rt::QBColor(3));
         const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
-        const Result r = simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
-            const double a = graph.column(xa), c = graph.column(xc);
-            const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
-            if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
-                return;
-            const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
-            surface->Line(a, Y0, a, t0, colour);
-            surface->Line(a, t0, a1, t0, colour);
-            surface->Line(a1, t0, a1, t1, colour);
-            surface->Line(a1, t1, a5, t1, colour);
-            surface->Line(a5, t1, a5, t2, colour);
-            surface->Line(a5, t2, c, t2, colour);
-            surface->Line(c, t2, c, Y0, colour);
-        });
+        Result r;
+        {
+            const auto outline = batchOf(3);
+            r = simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
+                const double a = graph.column(xa), c = graph.column(xc);
+                const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
+                if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
+                    return;
+                const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
+                const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};
+                for (int i = 0; i + 3 < 16; i += 2)
+                    outline->line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
+            });
+        }
         if (r.odd)
             lblSimpson->setText(QStringLiteral("Parts not even #"));
         else
             showResult(lblSimpson, r);
     }
-    if (chkRiemann->isChecked())
-        showResult(lblRiemann, randomWidths(f, L, R, n, RandomPoints, barsIn(7)));
+    barSum(chkRiemann, lblRiemann, 7, [&](auto draw) { return randomWidths(f, L, R, n, RandomPoints, draw); });
 
     lblAreas->setText(QStringLiteral("Area"));
 }

@@ -125,3 +125,31 @@ TEST(Raster, SegmentsAndPointsMatchThePlainReferenceAndStayInside)
         }
     }
 }
+
+// Many shapes of one colour through the same-colour writer, which merges the vertical runs of a column
+// and skips the clipping of shapes wholly inside: the reference's pixels, shape by shape.
+TEST(Raster, ABatchOfOneColourIsItsShapesDrawnOneByOne)
+{
+    std::mt19937 rng(7);
+    for (int batch = 0; batch < 3000; ++batch) {
+        const int pen = batch % 7 == 0 ? 3 : 1;
+        GuardedImage fast, ref;
+        {
+            raster::SameColourWriter writer(fast.target(), pen, kInk);
+            for (int i = 0, n = 1 + static_cast<int>(rng() % 40); i < n; ++i) {
+                // Mostly short vertical runs in a few columns, so that they touch, overlap or leave gaps.
+                const double x = i % 4 ? static_cast<double>(rng() % 5) + 0.5 : coordinate(rng, W);
+                const double y1 = coordinate(rng, H),
+                             y2 = i % 5 ? y1 + static_cast<double>(rng() % 7) - 3 : coordinate(rng, H);
+                const double x2 = i % 6 ? x : coordinate(rng, W);
+                writer.line(x, y1, x2, y2);
+                referenceLine(ref, x, y1, x2, y2, pen);
+                if (i % 9 == 0) {
+                    writer.point(x2, y2);
+                    referencePoint(ref, x2, y2, pen);
+                }
+            }
+        }
+        ASSERT_TRUE(sameAndGuarded(fast, ref)) << "batch " << batch;
+    }
+}

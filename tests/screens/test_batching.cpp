@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pictures drawn through batches against the same shapes drawn one by one: for each screen's heaviest
+// picture two screens act alike, one batching and one not, and every pixel agrees, at the normal size
+// and redrawn at another size from what the surface keeps.
+#include "runtime/Random.h"
+#include "screens/frmAnimate.h"
+#include "screens/frmClasses.h"
+#include "screens/frmFlowField.h"
+#include "screens/frmMVT.h"
+#include "screens/frmParam.h"
+#include "screens/frmRiemann.h"
+
+#include "ScreenFixture.h"
+
+namespace {
+
+template <class S>
+std::unique_ptr<GraphScreen> make()
+{
+    return std::make_unique<S>();
+}
+template <class S>
+S& as(GraphScreen& s)
+{
+    return static_cast<S&>(s);
+}
+QImage pictureOf(GraphScreen& s)
+{
+    return s.surface->picture(QRectF(0, 0, s.surface->widthTwips(), s.surface->heightTwips()));
+}
+
+}  // namespace
+
+TEST(Batching, EachScreensHeaviestPictureIsPixelForPixelTheShapesDrawnOneByOne)
+{
+    DialogScript script;
+    setDialogScript(&script);
+    const std::tuple<const char*, std::unique_ptr<GraphScreen> (*)(), std::function<void(GraphScreen&)>> cases[] = {
+        {"sums, seven methods at 32000", make<frmRiemann>,
+         [](GraphScreen& g) {
+             auto& s = as<frmRiemann>(g);
+             type({s.txtA, s.txtB, s.txtC, s.txtLBound, s.txtRBound, s.txtParts}, "1|0|-3|-2|2.5|32000");
+             for (CheckBox* c : {s.chkLeft, s.chkRight, s.chkMid, s.chkTrap, s.chkRandom, s.chkSimpson, s.chkRiemann})
+                 c->setChecked(true);
+             s.cmdParts_Click();
+         }},
+        {"grapher, a sine", make<frmClasses>,
+         [](GraphScreen& s) {
+             s.mnuFunc_Click(5);
+             type({s.txtA, s.txtB}, "9|3");
+             s.cmdPlotto_Click();
+         }},
+        {"slope field, the arrows and eighty curves", make<frmFlowField>,
+         [](GraphScreen& g) {
+             auto& s = as<frmFlowField>(g);
+             s.cmdShowFlow_Click();
+             s.chkBiDirect->setChecked(true);
+             s.cmdPlotto_Click();
+         }},
+        {"parametric, 32000 steps connected and as points", make<frmParam>,
+         [](GraphScreen& g) {
+             auto& s = as<frmParam>(g);
+             s.txtTstep->setText(QStringLiteral("32000"));
+             s.cmdPlotto_Click();
+             s.optCont->setChecked(true);
+             s.txtXmin->setText(QStringLiteral("0"));
+             s.cmdPlotto_Click();
+         }},
+        {"mean value, the secant and slider tangents", make<frmMVT>,
+         [](GraphScreen& g) {
+             auto& s = as<frmMVT>(g);
+             type({s.txtX1, s.txtX2}, "-3|2");
+             s.cmdApplyMVT_Click();
+             for (int v : {0, 7000, 20000})
+                 s.HscMVT->setValue(v);
+         }},
+        {"animation, the continuous run", make<frmAnimate>,
+         [](GraphScreen& s) { as<frmAnimate>(s).cmdAnimate_Click(); }},
+    };
+    for (const auto& [name, screen, act] : cases) {
+        std::unique_ptr<GraphScreen> both[] = {screen(), screen()};
+        both[1]->surface->setBatching(false);
+        for (auto& s : both) {
+            FuncGlobals::Coefficients = {};
+            rt::resetRnd();
+            s->Form_Activate();
+            act(*s);
+        }
+        EXPECT_EQ(pictureOf(*both[0]), pictureOf(*both[1])) << name;
+        for (auto& s : both)
+            s->surface->setZoom(1.5);
+        EXPECT_EQ(pictureOf(*both[0]), pictureOf(*both[1])) << name << ", redrawn at 1.5";
+    }
+    EXPECT_TRUE(script.errors.empty());
+    rt::resetRnd();
+    setDialogScript(nullptr);
+}
