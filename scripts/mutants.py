@@ -128,6 +128,7 @@ def main():
     parser.add_argument("--out", default="build/mutants/report.md", help="the report")
     parser.add_argument("--test-timeout", type=int, default=90,
                         help="seconds for the test suite (unmutated it takes about ten); longer counts as killed")
+    parser.add_argument("--rev", default="HEAD", help="the commit to mutate (default HEAD)")
     parser.add_argument("--list", action="store_true", help="only show the sample, build nothing")
     args = parser.parse_args()
     root = os.path.abspath(os.path.join(os.path.dirname(__file__), ".."))
@@ -145,7 +146,7 @@ def main():
     if not os.path.isdir(tree):
         os.makedirs(os.path.dirname(tree), exist_ok=True)
         subprocess.run(["git", "worktree", "add", "--detach", tree, "HEAD"], cwd=root, check=True)
-    subprocess.run(["git", "checkout", "--detach", "-f", subprocess.check_output(["git", "rev-parse", "HEAD"], cwd=root, text=True).strip()],
+    subprocess.run(["git", "checkout", "--detach", "-f", subprocess.check_output(["git", "rev-parse", args.rev], cwd=root, text=True).strip()],
                    cwd=tree, check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     # Only the test programs are built, at -O1 without debug information: a mutant's rebuild is what
     # the run spends its time on, and the suite needs neither the program nor the symbols.

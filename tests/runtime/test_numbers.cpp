@@ -74,6 +74,7 @@ TEST(Numbers, WritingNumbers)
 TEST(Numbers, ConversionsAndCheckedArithmetic)
 {
     // Each case: the value it gives, or 0 and the run-time error it raises.
+#define CASE(expression, value, error) {#expression, [] { return static_cast<double>(expression); }, value, error}
     // clang-format off
     const struct {
         const char* what;
@@ -81,36 +82,22 @@ TEST(Numbers, ConversionsAndCheckedArithmetic)
         double value;
         int error;
     } cases[] = {
-        {"Int(-8.4)", [] { return Int(-8.4); }, -9, 0}, {"Int(8.9)", [] { return Int(8.9); }, 8, 0},
-        {"Int(-3)", [] { return Int(-3.0); }, -3, 0}, {"CInt(0.5)", [] { return CInt(0.5); }, 0, 0},
-        {"CInt(1.5)", [] { return CInt(1.5); }, 2, 0}, {"CInt(2.5)", [] { return CInt(2.5); }, 2, 0},
-        {"CInt(-2.5)", [] { return CInt(-2.5); }, -2, 0}, {"CInt(2.6)", [] { return CInt(2.6); }, 3, 0},
-        {"CInt(32767.4)", [] { return CInt(32767.4); }, 32767, 0},
-        {"CInt(-32768.5)", [] { return CInt(-32768.5); }, -32768, 0},
-        {"CInt(32767.5)", [] { return CInt(32767.5); }, 0, Overflow},
-        {"CInt(-32769)", [] { return CInt(-32769); }, 0, Overflow},
-        {"CInt(NaN)", [] { return CInt(kNaN); }, 0, Overflow}, {"CInt(inf)", [] { return CInt(kInf); }, 0, Overflow},
-        {"CLng(2147483647.4)", [] { return CLng(2147483647.4); }, 2147483647, 0},
-        {"CLng(-2147483648)", [] { return CLng(-2147483648.0); }, -2147483648.0, 0},
-        {"CLng(3.5)", [] { return CLng(3.5); }, 4, 0},
-        {"CLng(2147483648)", [] { return CLng(2147483648.0); }, 0, Overflow},
-        {"CLng(-1e300)", [] { return CLng(-1e300); }, 0, Overflow},
-        {"CSng(0.1)", [] { return CSng(0.1); }, static_cast<double>(0.1f), 0},
-        {"CSng(1e39)", [] { return CSng(1e39); }, 0, Overflow},
-        {"CSng(-1e300)", [] { return CSng(-1e300); }, 0, Overflow},
-        {"1 / 4", [] { return Div(1, 4); }, 0.25, 0}, {"1 / 0", [] { return Div(1, 0); }, 0, DivisionByZero},
-        {"-5 / 0", [] { return Div(-5, 0); }, 0, DivisionByZero}, {"0 / 0", [] { return Div(0, 0); }, 0, Overflow},
-        {"1e308 / 1e-308", [] { return Div(1e308, 1e-308); }, 0, Overflow},
-        {"-2 ^ 3", [] { return Pow(-2, 3); }, -8, 0},
-        {"0 ^ 0", [] { return Pow(0, 0); }, 1, 0}, {"4 ^ 0.5", [] { return Pow(4, 0.5); }, 2, 0},
-        {"0 ^ -1", [] { return Pow(0, -1); }, 0, DivisionByZero},
-        {"-8 ^ (1/3)", [] { return Pow(-8, 1.0 / 3); }, 0, InvalidProcedureCall},
-        {"10 ^ 400", [] { return Pow(10, 400); }, 0, Overflow},
-        {"e^1000", [] { return Chk(std::exp(1000.0)); }, 0, Overflow},
-        {"16 mod 15", [] { return Mod(16, 15); }, 1, 0}, {"-1 mod 15", [] { return Mod(-1, 15); }, -1, 0},
-        {"3 mod 0", [] { return Mod(3, 0); }, 0, DivisionByZero},
+        CASE(Int(-8.4), -9, 0), CASE(Int(8.9), 8, 0), CASE(Int(-3.0), -3, 0), CASE(CInt(0.5), 0, 0),
+        CASE(CInt(1.5), 2, 0), CASE(CInt(2.5), 2, 0), CASE(CInt(-2.5), -2, 0), CASE(CInt(2.6), 3, 0),
+        CASE(CInt(32767.4), 32767, 0), CASE(CInt(-32768.5), -32768, 0), CASE(CInt(32767.5), 0, Overflow),
+        CASE(CInt(-32769), 0, Overflow), CASE(CInt(kNaN), 0, Overflow), CASE(CInt(kInf), 0, Overflow),
+        CASE(CLng(2147483647.4), 2147483647, 0), CASE(CLng(-2147483648.0), -2147483648.0, 0), CASE(CLng(3.5), 4, 0),
+        CASE(CLng(2147483648.0), 0, Overflow), CASE(CLng(-1e300), 0, Overflow),
+        CASE(CSng(0.1), static_cast<double>(0.1f), 0), CASE(CSng(1e39), 0, Overflow), CASE(CSng(-1e300), 0, Overflow),
+        CASE(Div(1, 4), 0.25, 0), CASE(Div(1, 0), 0, DivisionByZero), CASE(Div(-5, 0), 0, DivisionByZero),
+        CASE(Div(0, 0), 0, Overflow), CASE(Div(1e308, 1e-308), 0, Overflow), CASE(Pow(-2, 3), -8, 0),
+        CASE(Pow(0, 0), 1, 0), CASE(Pow(4, 0.5), 2, 0), CASE(Pow(0, -1), 0, DivisionByZero),
+        CASE(Pow(-8, 1.0 / 3), 0, InvalidProcedureCall), CASE(Pow(10, 400), 0, Overflow),
+        CASE(Chk(std::exp(1000.0)), 0, Overflow), CASE(Mod(16, 15), 1, 0), CASE(Mod(-1, 15), -1, 0),
+        CASE(Mod(3, 0), 0, DivisionByZero),
     };
     // clang-format on
+#undef CASE
     for (const auto& c : cases) {
         double got = 0;
         EXPECT_EQ(errorOf([&] { got = c.f(); }), c.error) << c.what;
