@@ -217,38 +217,6 @@ bool DrawingSurface::Batch::fits()
     return false;
 }
 
-void DrawingSurface::Batch::line(double x1, double y1, double x2, double y2)
-{
-    if (direct_) {
-        s_.Line(x1, y1, x2, y2, color_);
-        return;
-    }
-    if (s_.recording_)
-        s_.record(DrawOp::Line, x1, y1, x2, y2, color_);
-    if (keep_ && fits())
-        s_.batchShapes_.insert(s_.batchShapes_.end(), {x1, y1, x2, y2});
-    lastX_ = x2;
-    lastY_ = y2;
-    writer_.line(s_.toPx(x1), s_.toPx(y1), s_.toPx(x2), s_.toPx(y2));
-}
-
-void DrawingSurface::Batch::point(double x, double y)
-{
-    if (direct_) {
-        s_.PSet(x, y, color_);
-        return;
-    }
-    if (s_.recording_)
-        s_.record(DrawOp::PSet, x, y, x, y, color_);
-    if (keep_ && fits()) {
-        const double none = std::numeric_limits<double>::quiet_NaN();
-        s_.batchShapes_.insert(s_.batchShapes_.end(), {x, y, none, none});
-    }
-    lastX_ = x;
-    lastY_ = y;
-    writer_.point(s_.toPx(x), s_.toPx(y));
-}
-
 DrawingSurface::Batch::~Batch()
 {
     if (direct_)

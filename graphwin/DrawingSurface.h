@@ -11,6 +11,7 @@
 // sharp. Handlers never see the zoom: twips in, twips out, mouse positions in twips.
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -236,6 +237,41 @@ private:
     std::uint64_t clears_ = 0;
     QPointF pointerTwips_;
 };
+
+// The shapes of a batch: inline, as they are called once per point.
+inline void DrawingSurface::Batch::line(double x1, double y1, double x2, double y2)
+{
+    if (direct_) {
+        s_.Line(x1, y1, x2, y2, color_);
+        return;
+    }
+    if (s_.recording_)
+        s_.record(DrawOp::Line, x1, y1, x2, y2, color_);
+    if (keep_ && fits())
+        for (const double v : {x1, y1, x2, y2})
+            s_.batchShapes_.push_back(v);  // within the reserved capacity: no move
+    lastX_ = x2;
+    lastY_ = y2;
+    writer_.line(s_.toPx(x1), s_.toPx(y1), s_.toPx(x2), s_.toPx(y2));
+}
+
+inline void DrawingSurface::Batch::point(double x, double y)
+{
+    if (direct_) {
+        s_.PSet(x, y, color_);
+        return;
+    }
+    if (s_.recording_)
+        s_.record(DrawOp::PSet, x, y, x, y, color_);
+    if (keep_ && fits()) {
+        const double none = std::numeric_limits<double>::quiet_NaN();
+        for (const double v : {x, y, none, none})
+            s_.batchShapes_.push_back(v);
+    }
+    lastX_ = x;
+    lastY_ = y;
+    writer_.point(s_.toPx(x), s_.toPx(y));
+}
 
 // A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise
 // a run-time error, and it must come where the first shape is drawn, as a plain PSet would raise it.

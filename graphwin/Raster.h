@@ -42,7 +42,13 @@ public:
     SameColourWriter& operator=(const SameColourWriter&) = delete;
     ~SameColourWriter() { flush(); }
     void line(double x1, double y1, double x2, double y2);
-    void point(double x, double y) { raster::point(t_, x, y, pen_, color_); }
+    void point(double x, double y)
+    {
+        if (pen_ == 1 && x >= 0 && y >= 0 && x < t_.width && y < t_.height)  // inside: its pixel, at once
+            t_.bits[static_cast<long>(y) * t_.stride + static_cast<long>(x)] = color_;
+        else
+            raster::point(t_, x, y, pen_, color_);
+    }
     // Writes the gathered vertical runs.
     void flush();
 
