@@ -123,6 +123,10 @@ TEST(Keyboard, MnemonicsAndSteppers)
         EXPECT_GT(checked, 3) << str(window->windowTitle());
     }
     auto& grapher = static_cast<GraphScreen&>(*windows[1]);
+    const Shown named(std::make_unique<frmClasses>());  // a stepper is a button named by what it does
+    const auto spoken = [](QWidget* w) { return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name); };
+    EXPECT_EQ(spoken(named.screen->lblA) + '|' + spoken(named.screen->lblXmaxR),
+              QStringLiteral("raise or lower A|raise Xmax by one"));
     const std::tuple<ClickLabel*, Qt::Key, Qt::KeyboardModifiers, QLineEdit*, const char*> keys[] = {
         {grapher.lblA, Qt::Key_Up, {}, grapher.txtA, "2"},
         {grapher.lblA, Qt::Key_Down, {}, grapher.txtA, "1"},

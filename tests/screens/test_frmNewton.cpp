@@ -26,6 +26,7 @@ struct Newton : ScreenFixture<frmNewton> {
 
 TEST_F(Newton, ASequenceOnXSquaredMinusFourFromOne)
 {
+    EXPECT_EQ(screen->grdGuess->tabSeparated(), QStringLiteral("Guess #\tValue\n"));  // no guess yet: the heading
     screen->txtGuess->setText(QStringLiteral("1"));
     screen->cmdApply->click();
     EXPECT_EQ(screen->txtGuess->text(), QStringLiteral("2.5"));
@@ -44,6 +45,8 @@ TEST_F(Newton, ASequenceOnXSquaredMinusFourFromOne)
     EXPECT_EQ(std::tuple(labels(), rows(1, 4), screen->GuessNumber),  // "x1" only under the first guess
               std::tuple(1L, QStringLiteral("1|2.5|2.05|"), 4));
     expectDescribed("Guesses: 1: 1; 2: 2.5; 3: 2.05");
+    // What Ctrl+C in the grid copies: the heading and the rows that hold a guess.
+    EXPECT_EQ(screen->grdGuess->tabSeparated(), QStringLiteral("Guess #\tValue\n1\t1\n2\t2.5\n3\t2.05\n"));
     for (int i = 0; i < 13; ++i)  // the grid holds fourteen guesses and the count goes on
         screen->cmdApply_Click();
     EXPECT_EQ(std::tuple(rows(14, 14).isEmpty(), screen->GuessNumber, screen->txtGuess->text()),
