@@ -176,15 +176,6 @@ void DrawingSurface::record(DrawOp::Kind kind, double x1, double y1, double x2, 
     ops_.push_back(DrawOp{kind, x1, y1, x2, y2, color, drawWidth_, text});
 }
 
-void DrawingSurface::setPoint(double x, double y, QRgb color)
-{
-    if (recording_)
-        record(DrawOp::PSet, x, y, x, y, color);
-    retain(Kept::Point, x, y, 0, 0, color, drawWidth_);
-    raster::point(target(), toPx(x), toPx(y), penPx_, color);
-    touched();
-}
-
 void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color)
 {
     if (recording_)

@@ -46,19 +46,16 @@ public:
     // A line from (x1, y1) by the offset (dx, dy).
     void LineStep(double x1, double y1, double dx, double dy, QRgb color) { Line(x1, y1, x1 + dx, y1 + dy, color); }
     // The pixel under a twip point, as wide as the drawing width; the current point moves there.
-    // One-pixel points inside the image, the common case of every plot, are set here directly.
+    // Inline: one-pixel points inside the image, the common case, cost a store.
     void PSet(double x, double y, QRgb color)
     {
         CurrentX = x;
         CurrentY = y;
-        const double fx = toPx(x), fy = toPx(y);
-        if (!recording_ && penPx_ == 1 && fx >= 0 && fy >= 0 && fx < widthPx_ && fy < heightPx_) {
-            retain(Kept::Point, x, y, 0, 0, color, 1);
-            bits_[static_cast<long>(fy) * stride_ + static_cast<long>(fx)] = color;
-            touched();
-            return;
-        }
-        setPoint(x, y, color);
+        if (recording_)
+            record(DrawOp::PSet, x, y, x, y, color);
+        retain(Kept::Point, x, y, 0, 0, color, drawWidth_);
+        raster::point(target(), toPx(x), toPx(y), penPx_, color);
+        touched();
     }
     // A circle outline of radius r twips around (x, y).
     void Circle(double x, double y, double r, QRgb color);
@@ -198,7 +195,6 @@ private:
     // A twip coordinate in device pixels. Multiplying by the reciprocal leaves multiples of 15 an
     // ulp short of their whole pixel; the small bias puts them back on it.
     double toPx(double twips) const { return twips * pxPerTwip_ + 1e-7; }
-    void setPoint(double x, double y, QRgb color);
     raster::Target target() const { return {bits_, stride_, widthPx_, heightPx_}; }
     void record(DrawOp::Kind kind, double x1, double y1, double x2, double y2, QRgb color, const QString& text = {});
     void touched()

@@ -30,11 +30,16 @@ bool clipSegment(double& x1, double& y1, double& x2, double& y2, double lo, doub
             t1 = std::min(t1, r);
         }
     }
+    // An end that is not cut keeps its exact value (ox + 1 * dx may differ from x2 in the last bit).
     const double ox = x1, oy = y1;
-    x1 = ox + t0 * dx;
-    y1 = oy + t0 * dy;
-    x2 = ox + t1 * dx;
-    y2 = oy + t1 * dy;
+    if (t0 > 0.0) {
+        x1 = ox + t0 * dx;
+        y1 = oy + t0 * dy;
+    }
+    if (t1 < 1.0) {
+        x2 = ox + t1 * dx;
+        y2 = oy + t1 * dy;
+    }
     return true;
 }
 
@@ -53,7 +58,7 @@ void plot(const Target& t, long px, long py, int pen, std::uint32_t color)
             t.bits[y * t.stride + x] = color;
 }
 
-void point(const Target& t, double x, double y, int pen, std::uint32_t color)
+void pointOutside(const Target& t, double x, double y, int pen, std::uint32_t color)
 {
     const double fx = std::floor(x), fy = std::floor(y);
     // Beyond this margin not even a wide pen reaches the target; inside it the casts are safe.
@@ -62,20 +67,33 @@ void point(const Target& t, double x, double y, int pen, std::uint32_t color)
         plot(t, static_cast<long>(fx), static_cast<long>(fy), pen, color);
 }
 
-void line(const Target& t, double x1, double y1, double x2, double y2, int pen, std::uint32_t color)
+namespace {
+
+// The whole pixels of a segment's ends after the clipping every line gets: the clip keeps what a
+// wide pen centred just outside could still paint, and nothing further, so the ends stay small.
+// A segment wholly inside the target is left as it is (the clip would not move it). False: nothing
+// of the segment can reach the target.
+bool pixelEnds(const Target& t, int pen, double x1, double y1, double x2, double y2, long& ax, long& ay, long& bx,
+               long& by)
 {
     if (!(std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2) && std::isfinite(y2)))
-        return;
-    pen = std::max(pen, 1);
-    // Keep what a wide pen centred just outside could still paint, and nothing further: the integer
-    // end points below then stay small.
-    const double lo = -1.0 - pen;
-    if (!clipSegment(x1, y1, x2, y2, lo, t.width + pen, t.height + pen))
-        return;
-    long ax = static_cast<long>(std::floor(x1)), ay = static_cast<long>(std::floor(y1));
-    const long bx = static_cast<long>(std::floor(x2)), by = static_cast<long>(std::floor(y2));
+        return false;
+    const bool inside =
+        x1 >= 0 && x2 >= 0 && y1 >= 0 && y2 >= 0 && x1 < t.width && x2 < t.width && y1 < t.height && y2 < t.height;
+    if (!inside && !clipSegment(x1, y1, x2, y2, -1.0 - pen, t.width + pen, t.height + pen))
+        return false;
+    ax = static_cast<long>(std::floor(x1));
+    ay = static_cast<long>(std::floor(y1));
+    bx = static_cast<long>(std::floor(x2));
+    by = static_cast<long>(std::floor(y2));
+    return true;
+}
+
+// The pixels from one whole-pixel end to the other: a thin horizontal or vertical as one run cut to
+// the target (it may lie wholly in the margin), anything else stepped pixel by pixel (Bresenham).
+void pixels(const Target& t, long ax, long ay, long bx, long by, int pen, std::uint32_t color)
+{
     if (pen == 1 && ay == by) {
-        // Horizontal: one run of the row, cut to the target (it may lie wholly in the margin).
         const long from = std::max(0L, std::min(ax, bx)), to = std::min(t.width - 1, std::max(ax, bx));
         if (ay >= 0 && ay < t.height && from <= to)
             std::fill(t.bits + ay * t.stride + from, t.bits + ay * t.stride + to + 1, color);
@@ -107,44 +125,32 @@ void line(const Target& t, double x1, double y1, double x2, double y2, int pen, 
     }
 }
 
+}  // namespace
+
+void line(const Target& t, double x1, double y1, double x2, double y2, int pen, std::uint32_t color)
+{
+    pen = std::max(pen, 1);
+    long ax, ay, bx, by;
+    if (pixelEnds(t, pen, x1, y1, x2, y2, ax, ay, bx, by))
+        pixels(t, ax, ay, bx, by, pen, color);
+}
+
 SameColourWriter::SameColourWriter(const Target& t, int pen, std::uint32_t color)
     : t_(t), pen_(std::max(pen, 1)), color_(color)
 { }
 
 void SameColourWriter::line(double x1, double y1, double x2, double y2)
 {
-    // The same clipping and the same whole pixels as line(); only a vertical run of a thin pen waits.
-    if (pen_ != 1 || !(std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2) && std::isfinite(y2))) {
-        raster::line(t_, x1, y1, x2, y2, pen_, color_);
+    long ax, ay, bx, by;
+    if (!pixelEnds(t_, pen_, x1, y1, x2, y2, ax, ay, bx, by))
+        return;
+    if (pen_ == 1 && ax == bx && ay != by) {  // a thin vertical waits, to be merged with its column
+        const long from = std::max(0L, std::min(ay, by)), to = std::min(t_.height - 1, std::max(ay, by));
+        if (ax >= 0 && ax < t_.width && from <= to)
+            addRun(ax, from, to);
         return;
     }
-    // A segment wholly inside the picture needs no clipping (it would leave it unchanged), and its
-    // whole pixels are its coordinates cut towards zero.
-    if (x1 >= 0 && x2 >= 0 && y1 >= 0 && y2 >= 0 && x1 < t_.width && x2 < t_.width && y1 < t_.height &&
-        y2 < t_.height) {
-        const long ax = static_cast<long>(x1), ay = static_cast<long>(y1);
-        const long bx = static_cast<long>(x2), by = static_cast<long>(y2);
-        if (ay == by)
-            std::fill(t_.bits + ay * t_.stride + std::min(ax, bx), t_.bits + ay * t_.stride + std::max(ax, bx) + 1,
-                      color_);
-        else if (ax == bx)
-            addRun(ax, std::min(ay, by), std::max(ay, by));
-        else
-            raster::line(t_, x1, y1, x2, y2, pen_, color_);
-        return;
-    }
-    double cx1 = x1, cy1 = y1, cx2 = x2, cy2 = y2;
-    if (!clipSegment(cx1, cy1, cx2, cy2, -2.0, t_.width + 1, t_.height + 1))
-        return;
-    const long ax = static_cast<long>(std::floor(cx1)), ay = static_cast<long>(std::floor(cy1));
-    const long bx = static_cast<long>(std::floor(cx2)), by = static_cast<long>(std::floor(cy2));
-    if (ax != bx || ay == by) {
-        raster::line(t_, x1, y1, x2, y2, pen_, color_);
-        return;
-    }
-    const long from = std::max(0L, std::min(ay, by)), to = std::min(t_.height - 1, std::max(ay, by));
-    if (ax >= 0 && ax < t_.width && from <= to)
-        addRun(ax, from, to);
+    pixels(t_, ax, ay, bx, by, pen_, color_);
 }
 
 void SameColourWriter::addRun(long column, long from, long to)

@@ -23,8 +23,16 @@ bool clipSegment(double& x1, double& y1, double& x2, double& y2, double lo, doub
 // the target.
 void plot(const Target& t, long px, long py, int pen, std::uint32_t color);
 
-// The pixel holding the point (x, y), as wide as the pen.
-void point(const Target& t, double x, double y, int pen, std::uint32_t color);
+// The pixel holding the point (x, y), as wide as the pen; pointOutside is its general case (a wide
+// pen, or a point on the edge, far away, NaN), point() writes a thin pen's pixel inside at once.
+void pointOutside(const Target& t, double x, double y, int pen, std::uint32_t color);
+inline void point(const Target& t, double x, double y, int pen, std::uint32_t color)
+{
+    if (pen <= 1 && x >= 0 && y >= 0 && x < t.width && y < t.height)  // inside: its pixel, at once
+        t.bits[static_cast<long>(y) * t.stride + static_cast<long>(x)] = color;
+    else
+        pointOutside(t, x, y, pen, color);
+}
 
 // A line between two points, both ends included, as wide as the pen. Horizontal and vertical
 // one-pixel lines are written as runs; others are stepped pixel by pixel (Bresenham).
@@ -42,13 +50,7 @@ public:
     SameColourWriter& operator=(const SameColourWriter&) = delete;
     ~SameColourWriter() { flush(); }
     void line(double x1, double y1, double x2, double y2);
-    void point(double x, double y)
-    {
-        if (pen_ == 1 && x >= 0 && y >= 0 && x < t_.width && y < t_.height)  // inside: its pixel, at once
-            t_.bits[static_cast<long>(y) * t_.stride + static_cast<long>(x)] = color_;
-        else
-            raster::point(t_, x, y, pen_, color_);
-    }
+    void point(double x, double y) { raster::point(t_, x, y, pen_, color_); }
     // Writes the gathered vertical runs.
     void flush();
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmRiemann.h"
 
-#include <memory>
-
 #include "screens/ConvergenceWindow.h"
 
 #include "funclib/FuncGlobals.h"
@@ -192,57 +190,47 @@ void frmRiemann::cmdParts_Click()
     auto inside = [&](double a, double b, double t) {
         return left < a && a < right && left < b && b < right && 100 < t && t < 6500;
     };
-    // Each method's bars go into a batch of its colour: the loop writes plain numbers, and the batch
-    // draws them when the method's sum is done (or ends with an error).
-    auto batchOf = [this](int colourNumber) {
-        return std::make_unique<DrawingSurface::Batch>(*surface, rgbColor(rt::QBColor(colourNumber)));
+    // Each method draws into a batch of its colour: the loop writes plain numbers, and the batch
+    // draws them when the method's sum is done (or ends with an error), before the result is shown.
+    const auto drawn = [this](int colourNumber, auto sum) {
+        DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(colourNumber)));
+        return sum(batch);
     };
-    auto barsInto = [this, &inside, Y0](DrawingSurface::Batch& bars) {
-        return [this, &inside, &bars, Y0](double xa, double xb, double y) {
+    auto bars = [this, &inside, Y0](DrawingSurface::Batch& batch) {
+        return [this, &inside, &batch, Y0](double xa, double xb, double y) {
             const double a = graph.column(xa), b = graph.column(xb), t = graph.row(y);
             if (!inside(a, b, t))
                 return;
-            bars.line(a, Y0, a, t);
-            bars.line(a, t, b, t);
-            bars.line(b, t, b, Y0);
+            batch.line(a, Y0, a, t);
+            batch.line(a, t, b, t);
+            batch.line(b, t, b, Y0);
         };
     };
-    const auto barSum = [&](CheckBox* check, ClickLabel* label, int colourNumber, auto sum) {
-        if (!check->isChecked())
-            return;
-        Result r;
-        {
-            const auto bars = batchOf(colourNumber);
-            r = sum(barsInto(*bars));
-        }
-        showResult(label, r);
-    };
 
-    barSum(chkLeft, lblLeftE, 2, [&](auto draw) { return leftEndpoint(f, L, dx, n, draw); });
-    barSum(chkRight, lblRightE, 1, [&](auto draw) { return rightEndpoint(f, L, dx, n, draw); });
-    barSum(chkMid, lblMid, 4, [&](auto draw) { return midpoint(f, L, dx, n, draw); });
-    if (chkTrap->isChecked()) {
-        Result r;
-        {
-            const auto bars = batchOf(5);
-            r = trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
-                const double a = graph.column(xa), b = graph.column(xb), t1 = graph.row(y1), t2 = graph.row(y2);
-                if (!inside(a, b, t1))  // only the left height is tested
-                    return;
-                bars->line(a, Y0, a, t1);
-                bars->line(a, t1, b, t2);
-                bars->line(b, t2, b, Y0);
-            });
-        }
-        showResult(lblTrap, r);
-    }
-    barSum(chkRandom, lblRnd, 6, [&](auto draw) { return randomPoint(f, L, dx, n, draw); });
+    if (chkLeft->isChecked())
+        showResult(lblLeftE, drawn(2, [&](auto& b) { return leftEndpoint(f, L, dx, n, bars(b)); }));
+    if (chkRight->isChecked())
+        showResult(lblRightE, drawn(1, [&](auto& b) { return rightEndpoint(f, L, dx, n, bars(b)); }));
+    if (chkMid->isChecked())
+        showResult(lblMid, drawn(4, [&](auto& b) { return midpoint(f, L, dx, n, bars(b)); }));
+    if (chkTrap->isChecked())
+        showResult(lblTrap, drawn(5, [&](DrawingSurface::Batch& batch) {
+                       return trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
+                           const double a = graph.column(xa), b = graph.column(xb);
+                           const double t1 = graph.row(y1), t2 = graph.row(y2);
+                           if (!inside(a, b, t1))  // only the left height is tested
+                               return;
+                           batch.line(a, Y0, a, t1);
+                           batch.line(a, t1, b, t2);
+                           batch.line(b, t2, b, Y0);
+                       });
+                   }));
+    if (chkRandom->isChecked())
+        showResult(lblRnd, drawn(6, [&](auto& b) { return randomPoint(f, L, dx, n, bars(b)); }));
     if (chkSimpson->isChecked()) {
         const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
-        Result r;
-        {
-            const auto outline = batchOf(3);
-            r = simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
+        const Result r = drawn(3, [&](DrawingSurface::Batch& outline) {
+            return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
                 const double a = graph.column(xa), c = graph.column(xc);
                 const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
                 if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
@@ -250,15 +238,16 @@ void frmRiemann::cmdParts_Click()
                 const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
                 const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};
                 for (int i = 0; i + 3 < 16; i += 2)
-                    outline->line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
+                    outline.line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
             });
-        }
+        });
         if (r.odd)
             lblSimpson->setText(QStringLiteral("Parts not even #"));
         else
             showResult(lblSimpson, r);
     }
-    barSum(chkRiemann, lblRiemann, 7, [&](auto draw) { return randomWidths(f, L, R, n, RandomPoints, draw); });
+    if (chkRiemann->isChecked())
+        showResult(lblRiemann, drawn(7, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); }));
 
     lblAreas->setText(QStringLiteral("Area"));
 }
