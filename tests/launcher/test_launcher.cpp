@@ -48,6 +48,14 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
             EXPECT_EQ(shown, 2) << screen->windowTitle().toStdString();
         }
         EXPECT_EQ(l.mnuSelect->menu()->actions().size(), 8);
+        QWidget* tab = l.cmdFuncClasses;  // Tab runs through the buttons in teaching order, Quit last
+        for (QPushButton* next :
+             {l.cmdAnimate, l.cmdSums, l.cmdNewton, l.cmdSlopeField, l.cmdTangent, l.cmdMVT, l.cmdParam, l.cmdExit}) {
+            do
+                tab = tab->nextInFocusChain();
+            while (!(tab->focusPolicy() & Qt::TabFocus));
+            EXPECT_EQ(tab, static_cast<QWidget*>(next));
+        }
         // The grapher found as it was left, but activated afresh: axes and ticks, the plot gone.
         frmClasses& grapher = l.classesScreen();
         grapher.surface->setRecording(true);

@@ -27,6 +27,7 @@ struct Newton : ScreenFixture<frmNewton> {
 TEST_F(Newton, ASequenceOnXSquaredMinusFourFromOne)
 {
     EXPECT_EQ(screen->grdGuess->tabSeparated(), QStringLiteral("Guess #\tValue\n"));  // no guess yet: the heading
+    EXPECT_EQ(screen->grdGuess->columnWidth(0), 670 / 15);  // the numbers' column, 670 twips
     screen->txtGuess->setText(QStringLiteral("1"));
     screen->cmdApply->click();
     EXPECT_EQ(screen->txtGuess->text(), QStringLiteral("2.5"));

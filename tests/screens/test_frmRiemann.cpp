@@ -46,6 +46,7 @@ TEST_F(Sums, AreasAgainstHandWorkedValues)
         EXPECT_EQ(areas(), QString::fromLatin1(shown)) << abcLRn;
     }
     EXPECT_EQ(screen->lblAreas->text(), QStringLiteral("Area"));
+    EXPECT_TRUE(screen->fraSums->rect().contains(screen->lblRiemann->geometry()));  // the panel holds its rows
     expectDescribed("Simpson's (ticked): = -2.469136E+07", {screen->lblLeftE, screen->lblSimpson, screen->lblMid});
     sum("1|0|0|-2|2|2");
     screen->mnuFunc_Click(2);  // the same family: nothing is reset
