@@ -101,13 +101,12 @@ void DrawingSurface::replay()
         case Kept::Clear: drawClear(k.a, k.b, k.c, k.d, k.color); break;
         case Kept::Batch: {
             raster::SameColourWriter w(target(), std::max(1, static_cast<int>(std::lround(k.extra * scale_))), k.color);
-            const double* shape = batchShapes_.data() + static_cast<std::size_t>(k.a) * 4;
-            for (std::size_t i = 0; i < static_cast<std::size_t>(k.b); ++i, shape += 4) {
-                if (std::isnan(shape[2]))
-                    w.point(toPx(shape[0]), toPx(shape[1]));
-                else
-                    w.line(toPx(shape[0]), toPx(shape[1]), toPx(shape[2]), toPx(shape[3]));
-            }
+            const double* p = batchPoints_.data() + static_cast<std::size_t>(k.a) * 2;
+            for (std::size_t i = 0; i < static_cast<std::size_t>(k.b); ++i, p += 2)
+                w.point(toPx(p[0]), toPx(p[1]));
+            const double* l = batchLines_.data() + static_cast<std::size_t>(k.c) * 4;
+            for (std::size_t i = 0; i < static_cast<std::size_t>(k.d); ++i, l += 4)
+                w.line(toPx(l[0]), toPx(l[1]), toPx(l[2]), toPx(l[3]));
             break;
         }
         }
@@ -163,7 +162,8 @@ void DrawingSurface::Cls()
     ops_.clear();
     kept_.clear();
     texts_.clear();
-    batchShapes_.clear();
+    batchPoints_.clear();
+    batchLines_.clear();
     keptComplete_ = true;
     clsColor_ = BackColor;
     CurrentX = CurrentY = 0;
@@ -188,22 +188,25 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
 }
 
 DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
-    : s_(surface), color_(color), writer_(surface.target(), surface.penPx_, color), first_(surface.batchShapes_.size()),
+    : s_(surface), color_(color), writer_(surface.target(), surface.penPx_, color), firstPoint_(surface.batchPoints_.size()),
+      firstLine_(surface.batchLines_.size()),
       lastX_(surface.CurrentX), lastY_(surface.CurrentY), keep_(surface.keptComplete_ && surface.batching_),
       direct_(!surface.batching_)
 {
-    if (keep_ && s_.batchShapes_.capacity() == 0)
-        s_.batchShapes_.reserve(kMaxKept * 4);  // once: later batches append without moving the earlier
+    if (keep_ && s_.batchLines_.capacity() == 0) {  // once: later batches append without moving the earlier
+        s_.batchPoints_.reserve(kMaxKept * 2);
+        s_.batchLines_.reserve(kMaxKept * 4);
+    }
 }
 
 // Whether one more shape fits in what the surface keeps; when it does not, the batch keeps nothing
 // and the surface no longer keeps a complete picture.
 bool DrawingSurface::Batch::fits()
 {
-    if (s_.kept_.size() + s_.batchShapes_.size() / 4 < kMaxKept)
+    if (s_.keptOperations() < kMaxKept)
         return true;
     keep_ = false;
-    s_.batchShapes_.resize(first_);
+    forget();
     s_.keptComplete_ = false;
     return false;
 }
@@ -216,13 +219,21 @@ DrawingSurface::Batch::~Batch()
     s_.CurrentX = lastX_;
     s_.CurrentY = lastY_;
     s_.touched();
-    const std::size_t shapes = (s_.batchShapes_.size() - first_) / 4;
-    if (!keep_ || shapes == 0)
+    const std::size_t points = (s_.batchPoints_.size() - firstPoint_) / 2;
+    const std::size_t lines = (s_.batchLines_.size() - firstLine_) / 4;
+    if (!keep_ || points + lines == 0)
         return;
     // Kept while the shapes fit in what the surface keeps; beyond that the picture is scaled on a resize.
-    if (!s_.retain(Kept::Batch, static_cast<double>(first_ / 4), static_cast<double>(shapes), 0, 0, color_,
-                   s_.drawWidth_))
-        s_.batchShapes_.resize(first_);
+    if (!s_.retain(Kept::Batch, static_cast<double>(firstPoint_ / 2), static_cast<double>(points),
+                   static_cast<double>(firstLine_ / 4), static_cast<double>(lines), color_, s_.drawWidth_))
+        forget();
+}
+
+// Drops the batch's shapes from the surface's stores.
+void DrawingSurface::Batch::forget()
+{
+    s_.batchPoints_.resize(firstPoint_);
+    s_.batchLines_.resize(firstLine_);
 }
 
 void DrawingSurface::Circle(double x, double y, double r, QRgb color)

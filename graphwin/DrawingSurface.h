@@ -77,10 +77,11 @@ public:
 
     private:
         bool fits();
+        void forget();
         DrawingSurface& s_;
         QRgb color_;
         raster::SameColourWriter writer_;
-        std::size_t first_;  // where the batch's shapes begin in the surface's kept shapes
+        std::size_t firstPoint_, firstLine_;  // where the batch's shapes begin in the surface's stores
         double lastX_, lastY_;
         bool keep_;  // whether the surface still keeps what is drawn, for a redraw at another size
         bool direct_;  // shape by shape through Line and PSet, when the surface does not batch
@@ -132,11 +133,11 @@ public:
     // (beyond that a resize scales the image it has instead of drawing it again).
     static constexpr double kMaxZoom = 4.0;
     static constexpr std::size_t kMaxKept = 1500000;
-    std::size_t keptOperations() const { return kept_.size() + batchShapes_.size() / 4; }
+    std::size_t keptOperations() const { return kept_.size() + batchPoints_.size() / 2 + batchLines_.size() / 4; }
     std::size_t keptBytes() const
     {
         return kept_.capacity() * sizeof(Kept) + texts_.capacity() * sizeof(KeptText) +
-               batchShapes_.capacity() * sizeof(double);
+               (batchPoints_.capacity() + batchLines_.capacity()) * sizeof(double);
     }
 
     MouseHandler MouseDown;
@@ -177,7 +178,7 @@ private:
     // Keeps an operation while there is room; false (and the list marked incomplete) once full.
     bool retain(Kept::Kind kind, double a, double b, double c, double d, QRgb color, int extra)
     {
-        if (keptComplete_ && kept_.size() + batchShapes_.size() / 4 < kMaxKept) {
+        if (keptComplete_ && keptOperations() < kMaxKept) {
             kept_.push_back(Kept{kind, a, b, c, d, color, extra});
             return true;
         }
@@ -225,9 +226,12 @@ private:
     std::vector<Kept> kept_;
     std::vector<KeptText> texts_;
     bool keptComplete_ = true;
-    // The shapes of the kept batches, four numbers each: a segment's ends, or a point and two NaNs.
-    // A kept batch names its first shape and their number.
-    std::vector<double> batchShapes_;
+    // The shapes of the kept batches: points two numbers each, segments four (their ends). A batch is
+    // of one colour and pen, so the order of its points and segments cannot change the picture and
+    // they are kept apart, a point in half the room. A kept batch names where its points and its
+    // segments begin and their numbers.
+    std::vector<double> batchPoints_;
+    std::vector<double> batchLines_;
     QRgb clsColor_ = 0xFFFFFFFFu;
     QRectF focusArea_;
     std::uint64_t clears_ = 0;
@@ -245,7 +249,7 @@ inline void DrawingSurface::Batch::line(double x1, double y1, double x2, double 
         s_.record(DrawOp::Line, x1, y1, x2, y2, color_);
     if (keep_ && fits())
         for (const double v : {x1, y1, x2, y2})
-            s_.batchShapes_.push_back(v);  // within the reserved capacity: no move
+            s_.batchLines_.push_back(v);  // within the reserved capacity: no move
     lastX_ = x2;
     lastY_ = y2;
     writer_.line(s_.toPx(x1), s_.toPx(y1), s_.toPx(x2), s_.toPx(y2));
@@ -260,9 +264,8 @@ inline void DrawingSurface::Batch::point(double x, double y)
     if (s_.recording_)
         s_.record(DrawOp::PSet, x, y, x, y, color_);
     if (keep_ && fits()) {
-        const double none = std::numeric_limits<double>::quiet_NaN();
-        for (const double v : {x, y, none, none})
-            s_.batchShapes_.push_back(v);
+        s_.batchPoints_.push_back(x);
+        s_.batchPoints_.push_back(y);
     }
     lastX_ = x;
     lastY_ = y;
