@@ -88,6 +88,7 @@ public:
     };
     // Off: batches hand each shape to Line and PSet, one by one (the plain path, to compare with).
     void setBatching(bool on) { batching_ = on; }
+    bool batching() const { return batching_; }
     // Paints a rectangle with the background colour (a shape's area being refreshed).
     void clearArea(double left, double top, double width, double height);
     // Text at the current point, top left. With newline the current point goes to the start of the

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The mapping between a screen's window limits and the twips of its 6400-twip square.
+#include <cmath>
 #include <cstdint>
+#include <vector>
 
 #include "runtime/Numbers.h"
 
@@ -26,5 +28,29 @@ struct GraphWindow {
         if (difference < INT32_MIN || difference > INT32_MAX) [[unlikely]]
             rt::raise(rt::Overflow);
         return rt::Chk(static_cast<double>(difference) * XRange) / Side;
+    }
+
+    // The rows row(y(worldX(c))) of the columns first..last, for a loop that computes before it draws:
+    // the same operations in plain arithmetic, with no check per column. Every check of worldX and
+    // row fails only on a value that is not finite, and such a value stays not finite to the row, so
+    // when all rows are finite the checked loop would have raised nothing and given the same rows.
+    // False otherwise: the caller then runs its checked loop, which raises where the first check fails.
+    template <class Y> bool plainRows(std::int32_t first, std::int32_t last, Y y, std::vector<double>& rows) const
+    {
+        const auto fits = [this](std::int32_t c) {
+            const std::int64_t d = static_cast<std::int64_t>(c) - XOrigin;
+            return d >= INT32_MIN && d <= INT32_MAX;
+        };
+        if (YRange == 0 || !std::isfinite(XRange) || !std::isfinite(YRange) || !fits(first) || !fits(last))
+            return false;
+        rows.resize(static_cast<std::size_t>(last - first + 1));
+        bool finite = true;
+        for (std::int32_t c = first; c <= last; ++c) {
+            const double x = static_cast<double>(static_cast<std::int64_t>(c) - XOrigin) * XRange / Side;
+            const double r = YOrigin - y(x) * Side / YRange;
+            rows[static_cast<std::size_t>(c - first)] = r;
+            finite = finite && std::isfinite(r);
+        }
+        return finite;
     }
 };

@@ -2,6 +2,7 @@
 #include "screens/frmMVT.h"
 
 #include <cmath>
+#include <functional>
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
@@ -123,16 +124,8 @@ void frmMVT::cmdApplyMVT_Click()
     // The secant across the whole width, dotted column by column in the curve's colour.
     const double k = Chk(fb - Chk(SecantSlope * b));
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
-    {
-        LazyBatch points(*surface, colour);
-        rt::cleanVectorStateForHotLoop();
-        for (int column = squareLeft() + 1; column <= squareLeft() + 6399; ++column) {
-            const double x = graph.worldX(column);
-            const double row = graph.row(Chk(Chk(SecantSlope * x) + k));
-            if (100 <= row && row < 6500)
-                points.point(column, row);
-        }
-    }
+    const double m = SecantSlope;
+    dotLine(squareLeft() + 1, squareLeft() + 6399, colour, [m, k](auto x, auto chk) { return chk(chk(m * x) + k); });
     auto R4 = [](double v) { return qStr(rounded(v, 10000)); };
     lblPt1->setText(QStringLiteral("(") + R4(a) + QStringLiteral(",") + R4(fa) + QStringLiteral(")"));
     lblPt2->setText(QStringLiteral("(") + R4(b) + QStringLiteral(",") + R4(fb) + QStringLiteral(")"));
@@ -151,12 +144,28 @@ void frmMVT::HscMVT_Change()
 
     // Not reduced: family 15 asks for colour 16, which does not exist.
     FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
+    dotLine(squareLeft(), squareLeft() + 6400, colour,
+            [slope, c, fc](auto x, auto chk) { return chk(chk(slope * chk(x - c)) + fc); });
+}
+
+// A line dotted column by column where its row lies in the square. Where the surface batches, the
+// rows are computed first in plain arithmetic and drawn after; when one is not finite, or when the
+// surface draws one by one, the checked loop computes and draws column by column, raising where a
+// check fails. `y` takes x and the check to apply after each operation.
+template <class Y> void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
+{
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
-    for (int column = squareLeft(); column <= squareLeft() + 6400; ++column) {
-        const double x = graph.worldX(column);
-        const double row = graph.row(Chk(Chk(slope * Chk(x - c)) + fc));
-        if (100 <= row && row < 6500)
+    const auto inSquare = [](double row) { return 100 <= row && row < 6500; };
+    if (surface->batching() && graph.plainRows(first, last, [&y](double x) { return y(x, std::identity()); }, rows_)) {
+        for (int column = first; column <= last; ++column)
+            if (const double row = rows_[static_cast<std::size_t>(column - first)]; inSquare(row))
+                points.point(column, row);
+        return;
+    }
+    for (int column = first; column <= last; ++column) {
+        const double row = graph.row(y(graph.worldX(column), [](double v) { return rt::Chk(v); }));
+        if (inSquare(row))
             points.point(column, row);
     }
 }
