@@ -101,12 +101,18 @@ void DrawingSurface::replay()
         case Kept::Clear: drawClear(k.a, k.b, k.c, k.d, k.color); break;
         case Kept::Batch: {
             raster::SameColourWriter w(target(), std::max(1, static_cast<int>(std::lround(k.extra * scale_))), k.color);
-            const double* p = batchPoints_.data() + static_cast<std::size_t>(k.a) * 2;
-            for (std::size_t i = 0; i < static_cast<std::size_t>(k.b); ++i, p += 2)
-                w.point(toPx(p[0]), toPx(p[1]));
-            const double* l = batchLines_.data() + static_cast<std::size_t>(k.c) * 4;
-            for (std::size_t i = 0; i < static_cast<std::size_t>(k.d); ++i, l += 4)
-                w.line(toPx(l[0]), toPx(l[1]), toPx(l[2]), toPx(l[3]));
+            const BatchRanges& r = batchRanges_[static_cast<std::size_t>(k.a)];
+            for (std::size_t i = r.points[0]; i < r.points[1]; i += 2)
+                w.point(toPx(batchPoints_[i]), toPx(batchPoints_[i + 1]));
+            for (std::size_t i = r.lines[0]; i < r.lines[1]; i += 4)
+                w.line(toPx(batchLines_[i]), toPx(batchLines_[i + 1]), toPx(batchLines_[i + 2]), toPx(batchLines_[i + 3]));
+            for (std::size_t i = r.bars[0]; i < r.bars[1]; i += 5) {
+                const double* b = batchBars_.data() + i;
+                const double a = toPx(b[0]), top1 = toPx(b[1]), c = toPx(b[2]), top2 = toPx(b[3]), base = toPx(b[4]);
+                w.line(a, base, a, top1);
+                w.line(a, top1, c, top2);
+                w.line(c, top2, c, base);
+            }
             break;
         }
         }
@@ -164,6 +170,8 @@ void DrawingSurface::Cls()
     texts_.clear();
     batchPoints_.clear();
     batchLines_.clear();
+    batchBars_.clear();
+    batchRanges_.clear();
     keptComplete_ = true;
     clsColor_ = BackColor;
     CurrentX = CurrentY = 0;
@@ -188,14 +196,14 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
 }
 
 DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
-    : s_(surface), color_(color), writer_(surface.target(), surface.penPx_, color), firstPoint_(surface.batchPoints_.size()),
-      firstLine_(surface.batchLines_.size()),
+    : s_(surface), color_(color), writer_(surface.target(), surface.penPx_, color), first_{{surface.batchPoints_.size(), 0}, {surface.batchLines_.size(), 0}, {surface.batchBars_.size(), 0}},
       lastX_(surface.CurrentX), lastY_(surface.CurrentY), keep_(surface.keptComplete_ && surface.batching_),
       direct_(!surface.batching_)
 {
     if (keep_ && s_.batchLines_.capacity() == 0) {  // once: later batches append without moving the earlier
         s_.batchPoints_.reserve(kMaxKept * 2);
         s_.batchLines_.reserve(kMaxKept * 4);
+        s_.batchBars_.reserve(kMaxKept / 3 * 5 + 5);
     }
 }
 
@@ -219,21 +227,25 @@ DrawingSurface::Batch::~Batch()
     s_.CurrentX = lastX_;
     s_.CurrentY = lastY_;
     s_.touched();
-    const std::size_t points = (s_.batchPoints_.size() - firstPoint_) / 2;
-    const std::size_t lines = (s_.batchLines_.size() - firstLine_) / 4;
-    if (!keep_ || points + lines == 0)
+    BatchRanges r = first_;
+    r.points[1] = s_.batchPoints_.size();
+    r.lines[1] = s_.batchLines_.size();
+    r.bars[1] = s_.batchBars_.size();
+    if (!keep_ || (r.points[0] == r.points[1] && r.lines[0] == r.lines[1] && r.bars[0] == r.bars[1]))
         return;
     // Kept while the shapes fit in what the surface keeps; beyond that the picture is scaled on a resize.
-    if (!s_.retain(Kept::Batch, static_cast<double>(firstPoint_ / 2), static_cast<double>(points),
-                   static_cast<double>(firstLine_ / 4), static_cast<double>(lines), color_, s_.drawWidth_))
+    if (s_.retain(Kept::Batch, static_cast<double>(s_.batchRanges_.size()), 0, 0, 0, color_, s_.drawWidth_))
+        s_.batchRanges_.push_back(r);
+    else
         forget();
 }
 
 // Drops the batch's shapes from the surface's stores.
 void DrawingSurface::Batch::forget()
 {
-    s_.batchPoints_.resize(firstPoint_);
-    s_.batchLines_.resize(firstLine_);
+    s_.batchPoints_.resize(first_.points[0]);
+    s_.batchLines_.resize(first_.lines[0]);
+    s_.batchBars_.resize(first_.bars[0]);
 }
 
 void DrawingSurface::Circle(double x, double y, double r, QRgb color)

@@ -66,6 +66,13 @@ public:
     // redraw at another size and asks for a repaint once, when it ends. The picture is exactly the
     // one that the same Line and PSet calls give one by one. Nothing else is drawn on the surface
     // while a batch is open; a run-time error that ends the loop ends the batch with what was drawn.
+private:
+    // Where a batch's shapes lie in the surface's stores: begin and end, in numbers.
+    struct BatchRanges {
+        std::size_t points[2], lines[2], bars[2];
+    };
+
+public:
     class Batch {
     public:
         Batch(DrawingSurface& surface, QRgb color);
@@ -74,6 +81,9 @@ public:
         ~Batch();
         void line(double x1, double y1, double x2, double y2);
         void point(double x, double y);
+        // The outline of a bar standing on the row `base`: up from (a, base) to (a, top1), across to
+        // (b, top2), down to (b, base); the three segments kept in five numbers.
+        void bar(double a, double top1, double b, double top2, double base);
 
     private:
         bool fits();
@@ -81,7 +91,7 @@ public:
         DrawingSurface& s_;
         QRgb color_;
         raster::SameColourWriter writer_;
-        std::size_t firstPoint_, firstLine_;  // where the batch's shapes begin in the surface's stores
+        BatchRanges first_;  // where the batch's shapes begin in the surface's stores
         double lastX_, lastY_;
         bool keep_;  // whether the surface still keeps what is drawn, for a redraw at another size
         bool direct_;  // shape by shape through Line and PSet, when the surface does not batch
@@ -134,11 +144,14 @@ public:
     // (beyond that a resize scales the image it has instead of drawing it again).
     static constexpr double kMaxZoom = 4.0;
     static constexpr std::size_t kMaxKept = 1500000;
-    std::size_t keptOperations() const { return kept_.size() + batchPoints_.size() / 2 + batchLines_.size() / 4; }
+    std::size_t keptOperations() const
+    {
+        return kept_.size() + batchPoints_.size() / 2 + batchLines_.size() / 4 + batchBars_.size() / 5 * 3;
+    }
     std::size_t keptBytes() const
     {
         return kept_.capacity() * sizeof(Kept) + texts_.capacity() * sizeof(KeptText) +
-               (batchPoints_.capacity() + batchLines_.capacity()) * sizeof(double);
+               (batchPoints_.capacity() + batchLines_.capacity() + batchBars_.capacity()) * sizeof(double);
     }
 
     MouseHandler MouseDown;
@@ -227,12 +240,13 @@ private:
     std::vector<Kept> kept_;
     std::vector<KeptText> texts_;
     bool keptComplete_ = true;
-    // The shapes of the kept batches: points two numbers each, segments four (their ends). A batch is
-    // of one colour and pen, so the order of its points and segments cannot change the picture and
-    // they are kept apart, a point in half the room. A kept batch names where its points and its
-    // segments begin and their numbers.
+    // The shapes of the kept batches: points two numbers each, segments four (their ends), bars five.
+    // A batch is of one colour and pen, so the order of its shapes cannot change the picture and each
+    // kind is kept apart in the least room. A kept batch names its ranges in the three stores.
     std::vector<double> batchPoints_;
     std::vector<double> batchLines_;
+    std::vector<double> batchBars_;
+    std::vector<BatchRanges> batchRanges_;
     QRgb clsColor_ = 0xFFFFFFFFu;
     QRectF focusArea_;
     std::uint64_t clears_ = 0;
@@ -271,6 +285,25 @@ inline void DrawingSurface::Batch::point(double x, double y)
     lastX_ = x;
     lastY_ = y;
     writer_.point(s_.toPx(x), s_.toPx(y));
+}
+
+inline void DrawingSurface::Batch::bar(double a, double top1, double b, double top2, double base)
+{
+    if (direct_ || s_.recording_) {  // as three segments, recorded one by one
+        line(a, base, a, top1);
+        line(a, top1, b, top2);
+        line(b, top2, b, base);
+        return;
+    }
+    if (keep_ && fits())
+        for (const double v : {a, top1, b, top2, base})
+            s_.batchBars_.push_back(v);
+    lastX_ = b;
+    lastY_ = base;
+    const double pa = s_.toPx(a), pt1 = s_.toPx(top1), pb = s_.toPx(b), pt2 = s_.toPx(top2), pbase = s_.toPx(base);
+    writer_.line(pa, pbase, pa, pt1);
+    writer_.line(pa, pt1, pb, pt2);
+    writer_.line(pb, pt2, pb, pbase);
 }
 
 // A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise

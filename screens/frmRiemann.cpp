@@ -201,9 +201,7 @@ void frmRiemann::cmdParts_Click()
             const double a = graph.column(xa), b = graph.column(xb), t = graph.row(y);
             if (!inside(a, b, t))
                 return;
-            batch.line(a, Y0, a, t);
-            batch.line(a, t, b, t);
-            batch.line(b, t, b, Y0);
+            batch.bar(a, t, b, t, Y0);
         };
     };
 
@@ -220,9 +218,7 @@ void frmRiemann::cmdParts_Click()
                            const double t1 = graph.row(y1), t2 = graph.row(y2);
                            if (!inside(a, b, t1))  // only the left height is tested
                                return;
-                           batch.line(a, Y0, a, t1);
-                           batch.line(a, t1, b, t2);
-                           batch.line(b, t2, b, Y0);
+                           batch.bar(a, t1, b, t2, Y0);
                        });
                    }));
     if (chkRandom->isChecked())
