@@ -105,7 +105,8 @@ void DrawingSurface::replay()
             for (std::size_t i = r.points[0]; i < r.points[1]; i += 2)
                 w.point(toPx(batchPoints_[i]), toPx(batchPoints_[i + 1]));
             for (std::size_t i = r.lines[0]; i < r.lines[1]; i += 4)
-                w.line(toPx(batchLines_[i]), toPx(batchLines_[i + 1]), toPx(batchLines_[i + 2]), toPx(batchLines_[i + 3]));
+                w.line(toPx(batchLines_[i]), toPx(batchLines_[i + 1]), toPx(batchLines_[i + 2]),
+                       toPx(batchLines_[i + 3]));
             for (std::size_t i = r.bars[0]; i < r.bars[1]; i += 5) {
                 const double* b = batchBars_.data() + i;
                 const double a = toPx(b[0]), top1 = toPx(b[1]), c = toPx(b[2]), top2 = toPx(b[3]), base = toPx(b[4]);
@@ -196,7 +197,10 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
 }
 
 DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
-    : s_(surface), color_(color), writer_(surface.target(), surface.penPx_, color), first_{{surface.batchPoints_.size(), 0}, {surface.batchLines_.size(), 0}, {surface.batchBars_.size(), 0}},
+    : s_(surface), color_(color),
+      writer_(surface.target(), surface.penPx_, color), first_{{surface.batchPoints_.size(), 0},
+                                                               {surface.batchLines_.size(), 0},
+                                                               {surface.batchBars_.size(), 0}},
       lastX_(surface.CurrentX), lastY_(surface.CurrentY), keep_(surface.keptComplete_ && surface.batching_),
       direct_(!surface.batching_)
 {

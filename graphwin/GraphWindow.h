@@ -35,7 +35,8 @@ struct GraphWindow {
     // row fails only on a value that is not finite, and such a value stays not finite to the row, so
     // when all rows are finite the checked loop would have raised nothing and given the same rows.
     // False otherwise: the caller then runs its checked loop, which raises where the first check fails.
-    template <class Y> bool plainRows(std::int32_t first, std::int32_t last, Y y, std::vector<double>& rows) const
+    template <class Y>
+    bool plainRows(std::int32_t first, std::int32_t last, Y y, std::vector<double>& rows) const
     {
         const auto fits = [this](std::int32_t c) {
             const std::int64_t d = static_cast<std::int64_t>(c) - XOrigin;

@@ -152,12 +152,14 @@ void frmMVT::HscMVT_Change()
 // rows are computed first in plain arithmetic and drawn after; when one is not finite, or when the
 // surface draws one by one, the checked loop computes and draws column by column, raising where a
 // check fails. `y` takes x and the check to apply after each operation.
-template <class Y> void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
+template <class Y>
+void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
 {
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
     const auto inSquare = [](double row) { return 100 <= row && row < 6500; };
-    if (surface->batching() && graph.plainRows(first, last, [&y](double x) { return y(x, std::identity()); }, rows_)) {
+    if (surface->batching() && graph.plainRows(
+                                   first, last, [&y](double x) { return y(x, std::identity()); }, rows_)) {
         for (int column = first; column <= last; ++column)
             if (const double row = rows_[static_cast<std::size_t>(column - first)]; inSquare(row))
                 points.point(column, row);

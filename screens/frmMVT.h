@@ -38,7 +38,8 @@ public:
 
 private:
     void keepInWindow(TextBox* box, ClickLabel* echo);
-    template <class Y> void dotLine(int first, int last, FirstUseColour& colour, Y y);
+    template <class Y>
+    void dotLine(int first, int last, FirstUseColour& colour, Y y);
     std::vector<double> rows_;  // the rows of a dotted line, computed before they are drawn
 
 protected:
