@@ -120,6 +120,21 @@ def run(cmd, cwd, timeout=None):
         return "timeout"
 
 
+def failing_tests(tree, timeout):
+    """The test cases that fail in the whole suite (no stop at the first failure), for the kill map."""
+    proc = subprocess.Popen(["ctest", "--preset", "default", "-j2", "--output-on-failure", "-E", "robustness_fresh_seed"],
+                            cwd=tree, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                            start_new_session=True, preexec_fn=limit_memory)
+    try:
+        out, _ = proc.communicate(timeout=timeout)
+    except subprocess.TimeoutExpired:
+        os.killpg(proc.pid, signal.SIGKILL)
+        proc.communicate()
+        return ["(the suite ran out of time)"]
+    names = sorted(set(re.findall(r"^\[  FAILED  \] (\w+\.\w+)", out, re.M)))
+    return names or ["(a test program failed without a failed case: crash or time limit)"]
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
     parser.add_argument("--count", type=int, default=150, help="mutants to run (default 150)")
@@ -130,6 +145,9 @@ def main():
                         help="seconds for the test suite (unmutated it takes about ten); longer counts as killed")
     parser.add_argument("--rev", default="HEAD", help="the commit to mutate (default HEAD)")
     parser.add_argument("--list", action="store_true", help="only show the sample, build nothing")
+    parser.add_argument("--kill-map", action="store_true",
+                        help="for every killed mutant, also list the test cases that fail: a case that alone "
+                             "kills a mutant is one a consolidation must keep (slower)")
     args = parser.parse_args()
     root = os.path.abspath(os.path.join(os.path.dirname(__file__), ".."))
     tree = os.path.abspath(args.tree)
@@ -177,7 +195,8 @@ def main():
                     continue  # not compilable: the next candidate of the layer instead
                 outcome = run(tests, tree, args.test_timeout)
                 verdict = "killed" if outcome != 0 else "survived"
-                results.append((layer, rel, number, op, new.strip(), verdict))
+                killers = failing_tests(tree, args.test_timeout) if verdict == "killed" and args.kill_map else []
+                results.append((layer, rel, number, op, new.strip(), verdict, killers))
                 made += 1
                 print("%3d %-8s %s:%d %s" % (len(results), verdict, rel, number, op), flush=True)
             finally:
@@ -200,6 +219,12 @@ def main():
     lines.append(row("**total**", results))
     lines += ["", "## Survivors", ""]
     lines += ["- `%s:%d` %s: `%s`" % (r[1], r[2], r[3], r[4]) for r in results if r[5] == "survived"]
+    if args.kill_map:
+        lines += ["", "## Kill map", "", "The test cases that fail for each killed mutant; a mutant with one killer "
+                  "is caught by that case alone.", ""]
+        lines += ["- `%s:%d` %s: %s" % (r[1], r[2], r[3], ", ".join(r[6])) for r in results if r[5] == "killed"]
+        alone = sorted({r[6][0] for r in results if r[5] == "killed" and len(r[6]) == 1})
+        lines += ["", "## Cases that alone kill a mutant", ""] + ["- " + name for name in alone]
     os.makedirs(os.path.dirname(os.path.abspath(args.out)), exist_ok=True)
     open(args.out, "w").write("\n".join(lines) + "\n")
     print("\n".join(lines[:12 + 2 * len(LAYERS)]))
