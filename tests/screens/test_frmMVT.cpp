@@ -102,3 +102,38 @@ TEST_F(MVT, TypedXMovesTheSliderAndEndPointsStayInsideTheWindow)
     screen->txtX1->setText(QStringLiteral("1.50"));
     EXPECT_EQ(screen->lbl1->text(), QStringLiteral("1.50"));
 }
+
+// The secant and the slider tangent compute their rows before drawing where the surface batches; one
+// by one, each row is checked as it is computed. Both give the same points and the same error at the
+// same column, also where a row leaves the numbers (A = 6e302: the tangent's y * 6400 overflows
+// towards the right end; A = 1e306: the secant's already does).
+TEST_F(MVT, PlainRowsDrawAndRaiseAsTheCheckedLoop)
+{
+    const std::tuple<const char*, int> cases[] = {{"1", 7000}, {"-3", 20000}, {"6e302", 2500}, {"1e306", 15000}};
+    for (const auto& [a, slider] : cases) {
+        std::vector<std::pair<std::vector<int>, QStringList>> runs;
+        for (bool batching : {true, false}) {
+            TearDown();
+            SetUp();
+            screen->surface->setBatching(batching);
+            script.errors.clear();
+            type({screen->txtA, screen->txtX1, screen->txtX2}, (std::string(a) + "|-3|3").c_str());
+            screen->cmdApplyMVT->click();
+            screen->HscMVT->setValue(slider);
+            QStringList drawn;  // every point and segment, exactly
+            for (const DrawOp& op : ops())
+                drawn << QStringLiteral("%1 %2 %3 %4 %5 %6")
+                             .arg(op.kind)
+                             .arg(op.x1, 0, 'g', 17)
+                             .arg(op.y1, 0, 'g', 17)
+                             .arg(op.x2, 0, 'g', 17)
+                             .arg(op.y2, 0, 'g', 17)
+                             .arg(op.color);
+            runs.emplace_back(script.errors, drawn);
+        }
+        EXPECT_EQ(runs[0].first, runs[1].first) << a << " at " << slider;
+        EXPECT_EQ(runs[0].second, runs[1].second) << a << " at " << slider;
+        EXPECT_EQ(runs[0].first.empty(), std::string(a).size() == 2 || std::string(a) == "1") << a;
+        EXPECT_TRUE(!runs[0].first.empty() || runs[0].second.size() > 100) << a;
+    }
+}
