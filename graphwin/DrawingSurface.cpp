@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -109,10 +108,8 @@ void DrawingSurface::replay()
                        toPx(batchLines_[i + 3]));
             for (std::size_t i = r.bars[0]; i < r.bars[1]; i += 5) {
                 const double* b = batchBars_.data() + i;
-                const double a = toPx(b[0]), top1 = toPx(b[1]), c = toPx(b[2]), top2 = toPx(b[3]), base = toPx(b[4]);
-                w.line(a, base, a, top1);
-                w.line(a, top1, c, top2);
-                w.line(c, top2, c, base);
+                barOutline(toPx(b[0]), toPx(b[1]), toPx(b[2]), toPx(b[3]), toPx(b[4]),
+                           [&w](double x1, double y1, double x2, double y2) { w.line(x1, y1, x2, y2); });
             }
             break;
         }

@@ -11,7 +11,6 @@
 // sharp. Handlers never see the zoom: twips in, twips out, mouse positions in twips.
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -66,6 +65,16 @@ public:
     // redraw at another size and asks for a repaint once, when it ends. The picture is exactly the
     // one that the same Line and PSet calls give one by one. Nothing else is drawn on the surface
     // while a batch is open; a run-time error that ends the loop ends the batch with what was drawn.
+    // The three segments of a bar standing on the row `base`: up from (a, base) to (a, top1), across
+    // to (b, top2), down to (b, base); each handed to `segment` as its two ends.
+    template <class Segment>
+    static void barOutline(double a, double top1, double b, double top2, double base, Segment segment)
+    {
+        segment(a, base, a, top1);
+        segment(a, top1, b, top2);
+        segment(b, top2, b, base);
+    }
+
 private:
     // Where a batch's shapes lie in the surface's stores: begin and end, in numbers.
     struct BatchRanges {
@@ -81,8 +90,7 @@ public:
         ~Batch();
         void line(double x1, double y1, double x2, double y2);
         void point(double x, double y);
-        // The outline of a bar standing on the row `base`: up from (a, base) to (a, top1), across to
-        // (b, top2), down to (b, base); the three segments kept in five numbers.
+        // The outline of a bar standing on the row `base` (see barOutline), kept in five numbers.
         void bar(double a, double top1, double b, double top2, double base);
 
     private:
@@ -290,9 +298,8 @@ inline void DrawingSurface::Batch::point(double x, double y)
 inline void DrawingSurface::Batch::bar(double a, double top1, double b, double top2, double base)
 {
     if (direct_ || s_.recording_) {  // as three segments, recorded one by one
-        line(a, base, a, top1);
-        line(a, top1, b, top2);
-        line(b, top2, b, base);
+        barOutline(a, top1, b, top2, base,
+                   [this](double x1, double y1, double x2, double y2) { line(x1, y1, x2, y2); });
         return;
     }
     if (keep_ && fits())
@@ -300,10 +307,8 @@ inline void DrawingSurface::Batch::bar(double a, double top1, double b, double t
             s_.batchBars_.push_back(v);
     lastX_ = b;
     lastY_ = base;
-    const double pa = s_.toPx(a), pt1 = s_.toPx(top1), pb = s_.toPx(b), pt2 = s_.toPx(top2), pbase = s_.toPx(base);
-    writer_.line(pa, pbase, pa, pt1);
-    writer_.line(pa, pt1, pb, pt2);
-    writer_.line(pb, pt2, pb, pbase);
+    barOutline(s_.toPx(a), s_.toPx(top1), s_.toPx(b), s_.toPx(top2), s_.toPx(base),
+               [this](double x1, double y1, double x2, double y2) { writer_.line(x1, y1, x2, y2); });
 }
 
 // A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise

@@ -25,7 +25,7 @@ struct GraphWindow {
     double worldX(std::int32_t c) const
     {
         const std::int64_t difference = static_cast<std::int64_t>(c) - XOrigin;
-        if (difference < INT32_MIN || difference > INT32_MAX) [[unlikely]]
+        if (!fitsInt32(difference)) [[unlikely]]
             rt::raise(rt::Overflow);
         return rt::Chk(static_cast<double>(difference) * XRange) / Side;
     }
@@ -38,11 +38,9 @@ struct GraphWindow {
     template <class Y>
     bool plainRows(std::int32_t first, std::int32_t last, Y y, std::vector<double>& rows) const
     {
-        const auto fits = [this](std::int32_t c) {
-            const std::int64_t d = static_cast<std::int64_t>(c) - XOrigin;
-            return d >= INT32_MIN && d <= INT32_MAX;
-        };
-        if (YRange == 0 || !std::isfinite(XRange) || !std::isfinite(YRange) || !fits(first) || !fits(last))
+        if (YRange == 0 || !std::isfinite(XRange) || !std::isfinite(YRange) ||
+            !fitsInt32(static_cast<std::int64_t>(first) - XOrigin) ||
+            !fitsInt32(static_cast<std::int64_t>(last) - XOrigin))
             return false;
         rows.resize(static_cast<std::size_t>(last - first + 1));
         bool finite = true;
@@ -54,4 +52,7 @@ struct GraphWindow {
         }
         return finite;
     }
+
+private:
+    static bool fitsInt32(std::int64_t v) { return v >= INT32_MIN && v <= INT32_MAX; }
 };
