@@ -14,6 +14,7 @@ Not part of CI: a developer's tool (scripts/mutants.sh runs it). The whole sampl
 roughly an hour and a half on a 2-core machine; --count makes it smaller.
 """
 import argparse
+import json
 import os
 import random
 import resource
@@ -145,6 +146,10 @@ def main():
                         help="seconds for the test suite (unmutated it takes about ten); longer counts as killed")
     parser.add_argument("--rev", default="HEAD", help="the commit to mutate (default HEAD)")
     parser.add_argument("--list", action="store_true", help="only show the sample, build nothing")
+    parser.add_argument("--recheck", metavar="REPORT.json",
+                        help="run again only the mutants that an earlier run (its .json beside the report) "
+                             "killed, on the same sample; its survivors are carried over as survivors, since "
+                             "tests taken away cannot kill them (a lower bound when tests were also added)")
     parser.add_argument("--kill-map", action="store_true",
                         help="for every killed mutant, also list the test cases that fail: a case that alone "
                              "kills a mutant is one a consolidation must keep (slower)")
@@ -177,14 +182,29 @@ def main():
     if run(tests, tree, args.test_timeout) != 0:
         sys.exit("the unmutated tree fails its tests")
 
-    by_layer, quota = sample(candidates(tree), args.count, args.seed)
-    results = []  # (layer, file, line, op, new, outcome)
+    results = []  # (layer, file, line, op, new, outcome, failing cases)
     started = time.time()
+    if args.recheck:
+        earlier = json.load(open(args.recheck))
+        args.seed = earlier["seed"]
+        todo = {layer: [] for layer in LAYERS}
+        for layer, rel, number, op, new, verdict, _ in reversed(earlier["results"]):
+            if verdict == "survived":
+                results.append((layer, rel, number, op, new, verdict, []))
+            else:
+                todo[layer].append((layer, rel, number, op, new))
+        quota = {layer: len(todo[layer]) for layer in LAYERS}
+        known = set(candidates(tree))
+        by_layer = todo
+    else:
+        by_layer, quota = sample(candidates(tree), args.count, args.seed)
     for layer in LAYERS:
         pool = by_layer.get(layer, [])
         made = 0
         while made < quota.get(layer, 0) and pool:
             _, rel, number, op, new = pool.pop()
+            if args.recheck and (layer, rel, number, op, new) not in known:
+                sys.exit("%s:%d %s is not in this code's candidates: recheck on the code of the earlier run" % (rel, number, op))
             path = os.path.join(tree, rel)
             original = open(path, encoding="utf-8").read().split("\n")
             mutated = list(original)
@@ -196,7 +216,7 @@ def main():
                 outcome = run(tests, tree, args.test_timeout)
                 verdict = "killed" if outcome != 0 else "survived"
                 killers = failing_tests(tree, args.test_timeout) if verdict == "killed" and args.kill_map else []
-                results.append((layer, rel, number, op, new.strip(), verdict, killers))
+                results.append((layer, rel, number, op, new, verdict, killers))
                 made += 1
                 print("%3d %-8s %s:%d %s" % (len(results), verdict, rel, number, op), flush=True)
             finally:
@@ -204,9 +224,10 @@ def main():
     run(env_build, tree)
 
     lines = ["# Mutation check", "",
-             "Sample: %d mutants, seed %d, on %s; %.0f minutes." % (len(results), args.seed,
+             "Sample: %d mutants, seed %d, on %s; %.0f minutes%s." % (len(results), args.seed,
              subprocess.check_output(["git", "rev-parse", "--short", "HEAD"], cwd=tree, text=True).strip(),
-             (time.time() - started) / 60), "",
+             (time.time() - started) / 60, "; the survivors of %s carried over, its killed mutants run again"
+             % os.path.basename(args.recheck) if args.recheck else ""), "",
              "| layer / file | mutants | killed | survived | score |", "|---|---:|---:|---:|---:|"]
     def row(name, rs):
         k = sum(1 for r in rs if r[5] == "killed")
@@ -218,7 +239,7 @@ def main():
             lines.append(row(f, [r for r in rs if r[1] == f]))
     lines.append(row("**total**", results))
     lines += ["", "## Survivors", ""]
-    lines += ["- `%s:%d` %s: `%s`" % (r[1], r[2], r[3], r[4]) for r in results if r[5] == "survived"]
+    lines += ["- `%s:%d` %s: `%s`" % (r[1], r[2], r[3], r[4].strip()) for r in results if r[5] == "survived"]
     if args.kill_map:
         lines += ["", "## Kill map", "", "The test cases that fail for each killed mutant; a mutant with one killer "
                   "is caught by that case alone.", ""]
@@ -227,6 +248,8 @@ def main():
         lines += ["", "## Cases that alone kill a mutant", ""] + ["- " + name for name in alone]
     os.makedirs(os.path.dirname(os.path.abspath(args.out)), exist_ok=True)
     open(args.out, "w").write("\n".join(lines) + "\n")
+    # The same results for a later --recheck.
+    json.dump({"seed": args.seed, "results": results}, open(os.path.splitext(args.out)[0] + ".json", "w"), indent=0)
     print("\n".join(lines[:12 + 2 * len(LAYERS)]))
 
 
