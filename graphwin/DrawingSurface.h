@@ -92,6 +92,11 @@ public:
         void point(double x, double y);
         // The outline of a bar standing on the row `base` (see barOutline), kept in five numbers.
         void bar(double a, double top1, double b, double top2, double base);
+        // Points of a run dotted in order, at most `count` of them (a line drawn column by column):
+        // what point() gives for each, with its checks per shape made once at the start of the run,
+        // and a pixel that the point before wrote not written again. Nothing else draws during a run.
+        void beginRun(std::size_t count);
+        void runPoint(double x, double y);
 
     private:
         bool fits();
@@ -103,6 +108,8 @@ public:
         double lastX_, lastY_;
         bool keep_;  // whether the surface still keeps what is drawn, for a redraw at another size
         bool direct_;  // shape by shape through Line and PSet, when the surface does not batch
+        enum class RunMode { OneByOne, Keep, Draw } run_ = RunMode::OneByOne;
+        long lastPixel_ = -1;  // the pixel the run's last point wrote
     };
     // Off: batches hand each shape to Line and PSet, one by one (the plain path, to compare with).
     void setBatching(bool on) { batching_ = on; }
@@ -311,6 +318,30 @@ inline void DrawingSurface::Batch::bar(double a, double top1, double b, double t
                [this](double x1, double y1, double x2, double y2) { writer_.line(x1, y1, x2, y2); });
 }
 
+inline void DrawingSurface::Batch::beginRun(std::size_t count)
+{
+    // Kept all at once when every point fits in what the surface keeps; otherwise (and when the batch
+    // draws one by one or records) point by point, so that keeping stops where point() stops.
+    const bool fitsAll = s_.keptOperations() + count <= kMaxKept;
+    run_ = direct_ || s_.recording_ || (keep_ && !fitsAll) ? RunMode::OneByOne : keep_ ? RunMode::Keep : RunMode::Draw;
+    lastPixel_ = -1;
+}
+
+inline void DrawingSurface::Batch::runPoint(double x, double y)
+{
+    if (run_ == RunMode::OneByOne) {
+        point(x, y);
+        return;
+    }
+    if (run_ == RunMode::Keep) {
+        s_.batchPoints_.push_back(x);
+        s_.batchPoints_.push_back(y);
+    }
+    lastX_ = x;
+    lastY_ = y;
+    writer_.pointAfter(s_.toPx(x), s_.toPx(y), lastPixel_);
+}
+
 // A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise
 // a run-time error, and it must come where the first shape is drawn, as a plain PSet would raise it.
 class LazyBatch {
@@ -318,8 +349,16 @@ public:
     LazyBatch(DrawingSurface& surface, FirstUseColour& colour) : surface_(surface), colour_(colour) { }
     void point(double x, double y) { open().point(x, y); }
     void line(double x1, double y1, double x2, double y2) { open().line(x1, y1, x2, y2); }
+    // A point of a run of at most `count` (see Batch::beginRun); the batch opens at the first.
+    void runPoint(double x, double y, std::size_t count)
+    {
+        if (!batch_) [[unlikely]]
+            openRun(count);
+        batch_->runPoint(x, y);
+    }
 
 private:
+    [[gnu::noinline]] void openRun(std::size_t count) { open().beginRun(count); }
     DrawingSurface::Batch& open()
     {
         if (!batch_)

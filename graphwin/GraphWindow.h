@@ -30,27 +30,28 @@ struct GraphWindow {
         return rt::Chk(static_cast<double>(difference) * XRange) / Side;
     }
 
-    // The rows row(y(worldX(c))) of the columns first..last, for a loop that computes before it draws:
-    // the same operations in plain arithmetic, with no check per column. Every check of worldX and
-    // row fails only on a value that is not finite, and such a value stays not finite to the row, so
-    // when all rows are finite the checked loop would have raised nothing and given the same rows.
-    // False otherwise: the caller then runs its checked loop, which raises where the first check fails.
-    template <class Y>
-    bool plainRows(std::int32_t first, std::int32_t last, Y y, std::vector<double>& rows) const
+    // The rows row(y(worldX(c))) of the columns first..last, each handed to `sink(c, row)` as it is
+    // computed: the same operations in plain arithmetic, with no check per column. Every check of
+    // worldX and row fails only on a value that is not finite, and such a value stays not finite to
+    // the row, so up to the first row that is not finite the checked loop would have raised nothing
+    // and given the same rows. Returns that column (nothing handed from it on; `first` when the window
+    // itself cannot be mapped), or last + 1: the caller's checked loop goes on from there and raises
+    // where its first check fails.
+    template <class Y, class Sink>
+    std::int32_t plainRows(std::int32_t first, std::int32_t last, Y y, Sink sink) const
     {
         if (YRange == 0 || !std::isfinite(XRange) || !std::isfinite(YRange) ||
             !fitsInt32(static_cast<std::int64_t>(first) - XOrigin) ||
             !fitsInt32(static_cast<std::int64_t>(last) - XOrigin))
-            return false;
-        rows.resize(static_cast<std::size_t>(last - first + 1));
-        bool finite = true;
+            return first;
         for (std::int32_t c = first; c <= last; ++c) {
             const double x = static_cast<double>(static_cast<std::int64_t>(c) - XOrigin) * XRange / Side;
             const double r = YOrigin - y(x) * Side / YRange;
-            rows[static_cast<std::size_t>(c - first)] = r;
-            finite = finite && std::isfinite(r);
+            if (!std::isfinite(r)) [[unlikely]]
+                return c;
+            sink(c, r);
         }
-        return finite;
+        return last + 1;
     }
 
 private:

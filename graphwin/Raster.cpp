@@ -139,7 +139,7 @@ SameColourWriter::SameColourWriter(const Target& t, int pen, std::uint32_t color
     : t_(t), pen_(std::max(pen, 1)), color_(color)
 { }
 
-void SameColourWriter::line(double x1, double y1, double x2, double y2)
+void SameColourWriter::anyLine(double x1, double y1, double x2, double y2)
 {
     long ax, ay, bx, by;
     if (!pixelEnds(t_, pen_, x1, y1, x2, y2, ax, ay, bx, by))

@@ -26,10 +26,17 @@ void plot(const Target& t, long px, long py, int pen, std::uint32_t color);
 // The pixel holding the point (x, y), as wide as the pen; pointOutside is its general case (a wide
 // pen, or a point on the edge, far away, NaN), point() writes a thin pen's pixel inside at once.
 void pointOutside(const Target& t, double x, double y, int pen, std::uint32_t color);
+// The index in the bits of a thin pen's pixel inside the target, -1 for any other point.
+inline long pixelInside(const Target& t, double x, double y, int pen)
+{
+    if (pen <= 1 && x >= 0 && y >= 0 && x < t.width && y < t.height)
+        return static_cast<long>(y) * t.stride + static_cast<long>(x);
+    return -1;
+}
 inline void point(const Target& t, double x, double y, int pen, std::uint32_t color)
 {
-    if (pen <= 1 && x >= 0 && y >= 0 && x < t.width && y < t.height)  // inside: its pixel, at once
-        t.bits[static_cast<long>(y) * t.stride + static_cast<long>(x)] = color;
+    if (const long at = pixelInside(t, x, y, pen); at >= 0)  // inside: its pixel, at once
+        t.bits[at] = color;
     else
         pointOutside(t, x, y, pen, color);
 }
@@ -49,8 +56,34 @@ public:
     SameColourWriter(const SameColourWriter&) = delete;
     SameColourWriter& operator=(const SameColourWriter&) = delete;
     ~SameColourWriter() { flush(); }
-    void line(double x1, double y1, double x2, double y2);
+    void line(double x1, double y1, double x2, double y2)
+    {
+        // Most steps of a finely stepped curve begin and end in one pixel inside the target: that
+        // pixel at once, as the general path would write it. (The tests of the second end come before
+        // its conversion, which a value out of range or not a number would make undefined.)
+        if (pen_ == 1 && x1 >= 0 && y1 >= 0 && x1 < t_.width && y1 < t_.height && x2 >= 0 && y2 >= 0 && x2 < t_.width &&
+            y2 < t_.height) {
+            const long ax = static_cast<long>(x1), ay = static_cast<long>(y1);
+            if (static_cast<long>(x2) == ax && static_cast<long>(y2) == ay) {
+                t_.bits[ay * t_.stride + ax] = color_;
+                return;
+            }
+        }
+        anyLine(x1, y1, x2, y2);
+    }
     void point(double x, double y) { raster::point(t_, x, y, pen_, color_); }
+    // A point of a run given in order, such as a line dotted column by column: when it falls in the
+    // pixel that the point before it wrote (`last`, -1 at the start), that pixel already has the
+    // colour and is not written again. Nothing else may draw between the points of a run.
+    void pointAfter(double x, double y, long& last)
+    {
+        const long at = pixelInside(t_, x, y, pen_);
+        if (at < 0)
+            raster::pointOutside(t_, x, y, pen_, color_);
+        else if (at != last)
+            t_.bits[at] = color_;
+        last = at;
+    }
     // Writes the gathered vertical runs.
     void flush();
 
@@ -59,6 +92,7 @@ private:
         long from, to;
     };
     static constexpr std::size_t kRunsPerColumn = 8;  // beyond this a column's runs are written at once
+    void anyLine(double x1, double y1, double x2, double y2);
     void addRun(long column, long from, long to);
     Target t_;
     int pen_;

@@ -149,23 +149,27 @@ void frmMVT::HscMVT_Change()
 }
 
 // A line dotted column by column where its row lies in the square. Where the surface batches, the
-// rows are computed first in plain arithmetic and drawn after; when one is not finite, or when the
-// surface draws one by one, the checked loop computes and draws column by column, raising where a
-// check fails. `y` takes x and the check to apply after each operation.
+// rows are computed in plain arithmetic and dotted as they come; from a row that is not finite on
+// (or for every column when the surface draws one by one) the checked loop computes and draws
+// column by column, raising where a check fails. `y` takes x and the check to apply after each
+// operation.
 template <class Y>
 void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
 {
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
     const auto inSquare = [](double row) { return 100 <= row && row < 6500; };
-    if (surface->batching() && graph.plainRows(
-                                   first, last, [&y](double x) { return y(x, std::identity()); }, rows_)) {
-        for (int column = first; column <= last; ++column)
-            if (const double row = rows_[static_cast<std::size_t>(column - first)]; inSquare(row))
-                points.point(column, row);
-        return;
+    int column = first;
+    if (surface->batching()) {
+        const auto count = static_cast<std::size_t>(last - first + 1);
+        column = graph.plainRows(
+            first, last, [&y](double x) { return y(x, std::identity()); },
+            [&](int c, double row) {
+                if (inSquare(row))
+                    points.runPoint(c, row, count);
+            });
     }
-    for (int column = first; column <= last; ++column) {
+    for (; column <= last; ++column) {
         const double row = graph.row(y(graph.worldX(column), [](double v) { return rt::Chk(v); }));
         if (inSquare(row))
             points.point(column, row);

@@ -40,7 +40,6 @@ private:
     void keepInWindow(TextBox* box, ClickLabel* echo);
     template <class Y>
     void dotLine(int first, int last, FirstUseColour& colour, Y y);
-    std::vector<double> rows_;  // the rows of a dotted line, computed before they are drawn
 
 protected:
     void describeResults(QStringList& lines) const override;

@@ -179,11 +179,6 @@ void frmParam::HscT_Change()
     txtT->assign(rt::CStr(t));
 }
 
-bool frmParam::inside(double column, double row) const
-{
-    return 100 <= row && row <= 6500 && 2400 < column && column < 8800;
-}
-
 void frmParam::txtT_Change()
 {
     using namespace FuncGlobals;

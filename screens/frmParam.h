@@ -49,7 +49,10 @@ public:
     void mnuAbout_Click() override;
 
 private:
-    bool inside(double column, double row) const;
+    static bool inside(double column, double row)
+    {
+        return 100 <= row && row <= 6500 && 2400 < column && column < 8800;
+    }
     QMenu* xMenu_ = nullptr;
     QMenu* yMenu_ = nullptr;
 
