@@ -197,19 +197,3 @@ TEST(ParametricCatalogue, ValuesOfBothCatalogues)
     EXPECT_STREQ(XtCaption(13), "");
     EXPECT_STREQ(YtCaption(0), "");
 }
-
-TEST(ParametricCatalogue, WideningOutsideTheCatalogueAndTheZeroDenominator)
-{
-    families(1, 1, {0, 1, 0, 0, 1, 0});
-    EXPECT_EQ(XtFunc(0.1f), static_cast<double>(0.1f));  // a single t is widened, not rounded
-    for (int id : {0, 13}) {
-        families(id, id, {1, 1, 1, 1, 1, 1});
-        EXPECT_EQ(XtFunc(1.5f), 0);
-        EXPECT_EQ(YtFunc(1.5f), 0);
-    }
-    families(12, 12, {3, 1, -2, 3, 1, -2});
-    EXPECT_EQ(XtFunc(2.0f), 0);
-    EXPECT_EQ(YtFunc(2.0f), 0);
-    EXPECT_EQ(XtFunc(3.0f), 3);
-    EXPECT_EQ(YtFunc(1.0f), -3);
-}

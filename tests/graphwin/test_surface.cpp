@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The drawing surface: pixels under twip points, recorded shapes, clipping, pens, text, presses in
-// twips; and at every size: the same twips, the picture drawn again, controls and fonts grown
-// together, and a window that opens where it fits.
-#include <QPushButton>
+// The drawing surface: pixels under twip points, recorded shapes, clipping and pens; and at every
+// size the same twips under a press and the picture drawn again.
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "graphwin/Dialogs.h"
 #include "graphwin/DrawingSurface.h"
-#include "graphwin/FormArea.h"
-#include "screens/frmClasses.h"
 
 namespace {
 constexpr QRgb kRed = 0xFFFF0000u, kBlue = 0xFF0000FFu, kWhite = 0xFFFFFFFFu;
@@ -56,32 +51,6 @@ TEST(DrawingSurface, ShapesColourThePixelsUnderTheirTwipsAndAreRecorded)
     EXPECT_EQ(std::tuple(s.pixel(1500, 1500), s.CurrentX), std::tuple(kWhite, 0));
 }
 
-TEST(DrawingSurface, TextMovesTheCurrentPointAndPressesArriveInTwips)
-{
-    DrawingSurface s(6000, 3000);
-    s.setRecording(true);
-    s.setFontSize(8);
-    const double w = s.TextWidth(QStringLiteral("dy  ")), h = s.TextHeight(QStringLiteral("d"));
-    EXPECT_GT(w, 0);
-    EXPECT_GT(h, 0);
-    s.CurrentX = 300;
-    s.CurrentY = 200;
-    s.Print(QStringLiteral("dy  "), false);
-    EXPECT_DOUBLE_EQ(s.CurrentX, 300 + w);
-    EXPECT_EQ(s.CurrentY, 200);
-    s.Print(QStringLiteral("x"));
-    EXPECT_EQ(s.CurrentX, 0);
-    EXPECT_DOUBLE_EQ(s.CurrentY, 200 + h);
-    EXPECT_EQ(std::tuple(s.ops()[0].kind, s.ops()[0].x1), std::tuple(DrawOp::Text, 300));
-    s.Circle(1500, 1500, 300, kRed);
-    EXPECT_EQ(std::tuple(s.ops().back().x2, s.pixel(1800, 1500)), std::tuple(300, kRed));
-
-    std::tuple<int, double, double> pressed;
-    s.MouseDown = [&](int b, int, double x, double y) { pressed = {b, x, y}; };
-    QTest::mousePress(&s, Qt::RightButton, Qt::NoModifier, QPoint(40, 20));
-    EXPECT_EQ(pressed, std::tuple(2, 600.0, 300.0));
-}
-
 TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
 {
     for (double zoom : {1.0, 2.0, 0.5, 1.5, 3.25}) {
@@ -111,36 +80,4 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
     s.setZoom(0.37);
     s.setZoom(1);
     EXPECT_EQ(grab(s), before);
-}
-
-TEST(Zoom, ControlsAndFontsGrowWithTheForm)
-{
-    DialogScript script;
-    setDialogScript(&script);
-    {
-        frmClasses screen;
-        const QRect plot = screen.cmdPlotto->geometry();  // 9400, 600, 1680 x 420 twips
-        const double points = screen.cmdPlotto->font().pointSizeF();
-        screen.surface->setZoom(2);
-        EXPECT_EQ(screen.cmdPlotto->geometry(), QRect(1253, 80, 224, 56));
-        EXPECT_DOUBLE_EQ(screen.cmdPlotto->font().pointSizeF(), points * 2);
-        EXPECT_EQ(screen.shpSquare->geometry(), QRect(320, 16, 854, 854));
-        QTest::mouseClick(screen.lblA, Qt::LeftButton);  // a press at the new size still steps its box
-        EXPECT_EQ(screen.txtA->text(), QStringLiteral("2"));
-        screen.surface->setZoom(1);
-        EXPECT_EQ(screen.cmdPlotto->geometry(), plot);
-    }
-    setDialogScript(nullptr);
-}
-
-TEST(Zoom, AWindowOpensAtItsNormalSizeOrSmallerToFit)
-{
-    const std::tuple<QSize, QSize, QSize, QSize> cases[] = {
-        {{749, 476}, {8, 64}, {1920, 1040}, {757, 540}},  // fits: the normal size
-        {{928, 620}, {8, 64}, {960, 520}, {691, 520}},  // a 200% screen of 1920x1080: scaled down whole
-        {{749, 476}, {8, 64}, {400, 300}, {379, 300}},
-        {{749, 476}, {8, 64}, {4, 4}, {20, 71}},  // no room at all: the smallest zoom
-    };
-    for (const auto& [normal, frame, available, opened] : cases)
-        EXPECT_EQ(openingSize(normal, frame, available), opened) << available.width();
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reading and writing numbers, conversions, the checked arithmetic, run-time errors, the fixed random
-// sequence, the sixteen colours and checked arrays.
+// Reading and writing numbers, conversions and the checked arithmetic with the errors it raises.
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -8,10 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/BoundedArray.h"
 #include "runtime/Numbers.h"
-#include "runtime/QBColor.h"
-#include "runtime/Random.h"
 #include "tests/TestSupport.h"
 
 using namespace rt;
@@ -102,54 +98,5 @@ TEST(Numbers, ConversionsAndCheckedArithmetic)
         double got = 0;
         EXPECT_EQ(errorOf([&] { got = c.f(); }), c.error) << c.what;
         EXPECT_EQ(got, c.value) << c.what;
-    }
-}
-
-TEST(Runtime, ErrorsCarryTheClassicNumbersAndMessages)
-{
-    // clang-format off
-    const std::pair<int, std::string> table[] = {{5, "Invalid procedure call or argument"}, {6, "Overflow"},
-        {9, "Subscript out of range"}, {11, "Division by zero"}, {13, "Type mismatch"}, {380, "Invalid property value"}};
-    // clang-format on
-    for (const auto& [number, message] : table) {
-        try {
-            rt::raise(number);
-            ADD_FAILURE() << "raise returned";
-        } catch (const RuntimeError& e) {
-            EXPECT_EQ(e.number(), number);
-            EXPECT_EQ(std::string(e.what()), message);
-        }
-    }
-}
-
-TEST(Runtime, TheRandomSequenceIsFixedAndInsideTheUnitInterval)
-{
-    resetRnd();
-    for (float e : {0.7055475f, 0.533424f, 0.5795186f, 0.2895625f, 0.301948f, 0.7747401f})
-        EXPECT_FLOAT_EQ(Rnd(), e);
-    for (int i = 0; i < 1 << 17; ++i) {
-        const float r = Rnd();
-        ASSERT_TRUE(r >= 0.0f && r < 1.0f) << r;
-    }
-    resetRnd();
-    EXPECT_FLOAT_EQ(Rnd(), 0.7055475f);
-    resetRnd();
-}
-
-TEST(Runtime, ColoursAndArraysCheckTheirIndex)
-{
-    // clang-format off
-    const std::pair<int, std::uint32_t> colours[] = {
-        {0, 0x000000u}, {1, 0x000080u}, {6, 0x808000u}, {7, 0xC0C0C0u}, {8, 0x808080u}, {12, 0xFF0000u}, {15, 0xFFFFFFu}};
-    // clang-format on
-    for (const auto& [n, rgb] : colours)
-        EXPECT_EQ(QBColor(n), rgb) << n;
-    BoundedArray<int, 0, 20> a;
-    a[0] = 1;
-    a[20] = 2;
-    EXPECT_EQ(a[0] + a[20], 3);
-    for (long bad : {-1L, 16L, 21L, 100000L}) {
-        EXPECT_EQ(errorOf([&] { QBColor(static_cast<int>(bad)); }), InvalidProcedureCall) << bad;
-        EXPECT_EQ(errorOf([&] { a[bad] = 0; }), bad == 16 ? 0 : SubscriptOutOfRange) << bad;
     }
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The convergence tables against values worked out by hand: the exact integral, the orders of the
-// sums and of the step methods, the words where no value exists, and the sums screen's own digits.
+// sums and of the step methods, and the sums screen's own digits.
 #include <cmath>
 
 #include "screens/Convergence.h"
@@ -47,23 +47,6 @@ TEST(ConvergenceOfSums, XSquaredOnZeroToTwo)
         EXPECT_NEAR(ratio(t, r, Trap), 4, 0.1) << r;
     }
     EXPECT_EQ(t.tabSeparated().substr(0, 20), "n\tLeft\tLeft error\tLe");
-}
-
-TEST(ConvergenceOfSums, WordsWhereTheIntegralDoesNotExist)
-{
-    const std::tuple<int, FuncGlobals::CoefficientSet, double, double, const char*> cases[] = {
-        {10, {1, 1, 0, 0, 0, 0}, -1, 1, "not defined everywhere"},  // 1/x, undefined at 0
-        {10, {1, 1, 0.001, 0, 0, 0}, -1, 1, "unbounded"},  // 1/(x + 0.001): a pole, no undefined node
-        {8, {1, 1, 0, 0, 0, 0}, -1, 1, "not defined everywhere"},  // ln x
-        {7, {1, 1, 0, 0, 0, 0}, 1, 2, "unbounded"},  // tan x across pi/2
-    };
-    for (const auto& [family, k, L, R, says] : cases) {
-        selectFamily(family, k);
-        const Table t = Convergence::sums(L, R, 4);
-        EXPECT_FALSE(t.exact) << family;
-        EXPECT_NE(t.exactSource.find(says), std::string::npos) << t.exactSource;
-        EXPECT_EQ(t.cells()[1][2], "") << "no error without an exact value";
-    }
 }
 
 TEST(ConvergenceOfSteps, TheCircleFromFourThree)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The animation screen through its widgets: the continuous and step animations, their frame values,
-// the cut label, the restored coefficients, the status rule and the errors of its boxes.
+// the cut label, the restored coefficients and the status rule.
 #include "screens/frmAnimate.h"
 
 #include "ScreenFixture.h"
@@ -75,27 +75,6 @@ TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurveAndTheStatusFollowsTheT
     EXPECT_EQ(count(DrawOp::PSet), 4 * oneCurve);
     EXPECT_TRUE(frameWithA(1));
     EXPECT_FALSE(frameWithA(-2));
-}
-
-TEST_F(Animate, ErrorsOfTheBoxes)
-{
-    screen->txtEnd->setText(QStringLiteral("2x"));  // read strictly only by the continuous animation
-    screen->cmdAnimate->click();
-    EXPECT_EQ(script.errors, std::vector<int>{rt::TypeMismatch});
-    screen->optSteps->setChecked(true);
-    screen->vscStep->setValue(41);  // leniently 2
-    EXPECT_EQ(screen->lblSlide->text(), QStringLiteral("2"));
-    screen->optCont->setChecked(true);
-    screen->txtEnd->setText(QStringLiteral("2"));
-    screen->txtSteps->setText(QStringLiteral("40000"));  // beyond 16 bits
-    screen->txtSteps->setText(QStringLiteral("0"));  // 0 counts as one step, but the bar's Max is 0
-    screen->cmdAnimate->click();
-    EXPECT_EQ(script.errors, (std::vector<int>{rt::TypeMismatch, rt::Overflow, rt::InvalidPropertyValue}));
-    EXPECT_TRUE(frameWithA(-2));
-    screen->txtSteps->setText(QStringLiteral("-3"));  // a negative count: no frames at all
-    screen->cmdClearIt->click();
-    screen->cmdAnimate_Click();
-    EXPECT_EQ(std::tuple(count(DrawOp::PSet), script.errors.size()), std::tuple(0, 3u));
 }
 
 // The frame counter is 16-bit: after frame 32767 has been drawn, stepping it raises Overflow.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The function grapher through its widgets: axes and ticks, the plot walk, erase, the shared limit
-// controls and coefficient panel, and the faults that end an action.
+// The function grapher through its widgets: axes and ticks, the plot walk, erase, and the faults
+// that end an action.
 #include "screens/frmClasses.h"
 
 #include "ScreenFixture.h"
@@ -82,51 +82,4 @@ TEST_F(Grapher, ArithmeticFaultsEndTheActionWithTheirNumbers)
     EXPECT_EQ(errorOf([&] { screen->mnuFunc_Click(21); }), rt::SubscriptOutOfRange);
     screen->mnuFunc_Click(20);  // inside the caption table: an empty caption
     EXPECT_EQ(screen->lblFunc->text(), QString());
-}
-
-TEST_F(Grapher, LimitBoxesArrowsZoomResetAndSteppers)
-{
-    const auto limits = [&] { return texts({screen->txtXmin, screen->txtXmax, screen->txtYmin, screen->txtYmax}); };
-    screen->cmdPlotto_Click();
-    QTest::keyClicks(screen->txtXmin, QStringLiteral("5"));  // "-105": every keystroke redraws the empty axes
-    EXPECT_EQ(std::pair(count(DrawOp::PSet), screen->graph.XRange), std::pair(0L, 115.0));
-    screen->txtXmin->setText(QStringLiteral("-"));  // a lone minus reads as 0
-    EXPECT_EQ(screen->graph.XOrigin, 2400);
-    screen->cmdSetDefault->click();
-    press(screen->lblXmaxR, Qt::LeftButton);
-    QTest::mouseDClick(screen->lblXmaxR, Qt::LeftButton);  // the click's 1 and the double click's own 4
-    screen->lblXminL_Click();
-    screen->lblXminL_DblClick();
-    screen->lblYminR_Click();
-    screen->lblYmaxL_DblClick();
-    EXPECT_EQ(limits(), QStringLiteral("-15|15|-9|6"));
-    type({screen->txtXmin, screen->txtXmax}, "9.5|10");
-    screen->lblXminR_Click();  // passes Xmax: a mirrored window, no message, no guard on this screen
-    EXPECT_EQ(screen->graph.XRange, -0.5);
-    EXPECT_TRUE(script.shown.empty());
-    screen->cmdSetDefault->click();
-    screen->cmdZoomIn->click();
-    screen->cmdZoomIn_Click();
-    EXPECT_EQ(limits(), QStringLiteral("-2.5|2.5|-2.5|2.5"));
-    type({screen->txtXmin, screen->txtXmax}, "0|3");
-    screen->cmdZoomIn_Click();  // about the centre
-    EXPECT_EQ(texts({screen->txtXmin, screen->txtXmax}), QStringLiteral("0.75|2.25"));
-    type({screen->txtXmin, screen->txtYmax}, "-3.25|abc");
-    screen->cmdClean_Click();
-    screen->cmdSetDefault->click();  // the fixed texts, and a plot
-    EXPECT_EQ(limits(), QStringLiteral("-10|10|-10|10"));
-    EXPECT_TRUE(hasPoint(5600, 3300, colour(1)));
-    screen->txtA->setText(QStringLiteral("2.5"));
-    press(screen->lblA, Qt::LeftButton);
-    EXPECT_EQ(FuncGlobals::Coefficients.A, 3.5);
-    for (int button : {2, 2, 4})  // right presses step down; the middle button does nothing
-        screen->lblA_MouseDown(button, 0, 0, 0);
-    press(screen->lblB, Qt::RightButton);
-    EXPECT_EQ(texts({screen->txtA, screen->txtB}), QStringLiteral("1.5|0"));
-    EXPECT_EQ(FuncGlobals::Coefficients.B, 0);
-    press(screen->lblFunc, Qt::RightButton);
-    EXPECT_EQ(FuncGlobals::FunctionId, 15);
-    for (int i = 0; i < 15; ++i)
-        screen->lblFunc_MouseDown(1, 0, 0, 0);
-    EXPECT_EQ(FuncGlobals::FunctionId, 15);
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The slope-field screen through its widgets: the field, presses and typed starts, the smooth curve
-// and the approximations, the rate labels, the formula display, the settings and their messages.
+// and the approximations, and the formula display.
 #include <cmath>
 
 #include "screens/frmFlowField.h"
@@ -136,41 +136,6 @@ TEST_F(Field, PlotButtonPressesFortyOrEightyTimesWithItsShifts)
     screen->cmdPlotto_Click();
     EXPECT_TRUE(segmentFrom(2401, screen->graph.YOrigin - 320));
     EXPECT_EQ(segments().front().color, colour(3));
-}
-
-TEST_F(Field, RateLabelsCycleAndTheDxLabelKeepsItsWrapTest)
-{
-    press(screen->lbldy, Qt::RightButton);
-    EXPECT_EQ(FuncGlobals::DyFuncId, 15);
-    press(screen->lbldy, Qt::LeftButton);
-    EXPECT_EQ(FuncGlobals::DyFuncId, 1);
-    press(screen->lbldx, Qt::RightButton);
-    EXPECT_EQ(std::tuple(FuncGlobals::DxFuncId, screen->lbldx->text()), std::tuple(0, QString()));
-    screen->cmdShowFlow_Click();  // dx = 0: vertical arrows where dy is not 0
-    const auto arrows = segments();
-    EXPECT_EQ(arrows.size(), 19u * 18u);  // none on the column x = 0, where dy = -x is 0 too
-    EXPECT_TRUE(std::all_of(arrows.begin(), arrows.end(), [](const DrawOp& op) { return op.x1 == op.x2; }));
-    press(screen->lbldx, Qt::RightButton);  // -1: the caption lookup fails
-    EXPECT_EQ(script.errors, std::vector<int>{rt::SubscriptOutOfRange});
-}
-
-TEST_F(Field, SettingsHandlersAndTheirMessages)
-{
-    screen->optRunga4->setChecked(true);  // refused in the curve purpose, but the colour is taken
-    EXPECT_EQ(script.shown.back(),
-              std::pair(QStringLiteral("Sorry"), QStringLiteral("In the curve option, Euler is "
-                                                                "the only method for calculating points.")));
-    EXPECT_TRUE(screen->optEuler->isChecked());
-    EXPECT_EQ(screen->MethodColour, 4);
-    screen->optApprox->setChecked(true);
-    EXPECT_EQ(texts({screen->txtCurvePoints, screen->txtDelta}), QStringLiteral("4|.5"));
-    screen->optCurve->setChecked(true);
-    EXPECT_EQ(texts({screen->lblDeltaX, screen->txtCurvePoints}), QStringLiteral("Delta Vmag=|1000"));
-    EXPECT_EQ(screen->MethodColour, 4);  // Euler was already selected: selecting it again clicks nothing
-    screen->optApprox->setChecked(true);
-    screen->optRunga2->setChecked(true);
-    screen->optCurve->setChecked(true);  // Euler selected from Runga-Kutta 2: its Click runs
-    EXPECT_EQ(screen->MethodColour, 5);
 }
 
 TEST(FormulaDisplay, TheWalkDropsOnesCutsZeroTermsAndWritesOtherValues)

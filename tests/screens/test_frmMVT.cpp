@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The mean value theorem screen through its widgets: the secant and its labels, slider tangents and
-// their colour, the typed x, the Find c scan and the end-point boxes.
+// their colour and the Find c scan.
 #include "screens/frmMVT.h"
 
 #include "ScreenFixture.h"
@@ -84,23 +84,6 @@ TEST_F(MVT, SliderTangentLabelsAndColour)
     screen->HscMVT->setValue(10000);
     EXPECT_EQ(script.errors, std::vector<int>{rt::InvalidProcedureCall});
     EXPECT_EQ(screen->lblFindc->text(), QStringLiteral("x =  1"));
-}
-
-TEST_F(MVT, TypedXMovesTheSliderAndEndPointsStayInsideTheWindow)
-{
-    interval("0|2");
-    script.answers = {QStringLiteral("1.5"), QString(), QStringLiteral("5"), QStringLiteral("0")};
-    QTest::mouseClick(screen->lblFindc, Qt::LeftButton);
-    EXPECT_EQ(screen->HscMVT->value(), 15000);
-    EXPECT_EQ(script.shown.back(), std::pair(QStringLiteral("Enter X"), QStringLiteral("Enter an x value to check")));
-    const size_t drawn = ops().size();
-    for (int i = 0; i < 3; ++i)  // Cancel, outside, and the end point itself do nothing
-        screen->lblFindc_Click();
-    EXPECT_EQ(std::tuple(screen->HscMVT->value(), ops().size()), std::tuple(15000, drawn));
-    interval("50|-50");
-    EXPECT_EQ(texts({screen->txtX1, screen->lbl1, screen->txtX2, screen->lbl2}), QStringLiteral("10|10|-10|-10"));
-    screen->txtX1->setText(QStringLiteral("1.50"));
-    EXPECT_EQ(screen->lbl1->text(), QStringLiteral("1.50"));
 }
 
 // The secant and the slider tangent compute their rows before drawing where the surface batches; one

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sums screen through its widgets: areas against hand-worked values in single-precision text,
-// the random sums, the partition and boundary boxes, and what is drawn at the bounds of the graph box.
+// the random sums, the boundary boxes, and what is drawn at the bounds of the graph box.
 #include "screens/frmRiemann.h"
 
 #include "ScreenFixture.h"
@@ -80,35 +80,6 @@ TEST_F(Sums, RandomSumsFollowTheFixedSequence)
     screen->cmdParts_Click();
     EXPECT_EQ(linesIn(colour(7)), 3 * 2000);
     rt::resetRnd();
-}
-
-TEST_F(Sums, PartitionBoxStepperAndDoubling)
-{
-    const Shown positive{{QStringLiteral("Positive only"), QStringLiteral("Partitions must be a positive number")}};
-    const Shown limit{
-        {QStringLiteral("Limit Reached"), QStringLiteral("The limit to the number of partitions is 32000")}};
-    const Shown none;
-    const std::tuple<const char*, const Shown&, const char*, int> cases[] = {{"0", positive, "1", 1},
-                                                                             {"-3", positive, "1", 1},
-                                                                             {"abc", positive, "1", 1},
-                                                                             {"40000", limit, "32000", 32000},
-                                                                             {"7.9", none, "7.9", 7}};
-    for (const auto& [typed, shown, text, count] : cases) {
-        script.shown.clear();
-        screen->txtParts->setText(QString::fromLatin1(typed));
-        EXPECT_EQ(script.shown, shown) << typed;
-        EXPECT_EQ(screen->txtParts->text(), QString::fromLatin1(text)) << typed;
-        EXPECT_EQ(screen->PartitionCount, count) << typed;
-    }
-    screen->txtParts->setText(QStringLiteral("1"));
-    script.shown.clear();
-    press(screen->lblPartitions, Qt::RightButton);  // at 1: the message, and 1 stays
-    EXPECT_EQ(script.shown, positive);
-    press(screen->lblPartitions, Qt::LeftButton);
-    EXPECT_EQ(std::pair(screen->txtParts->text(), screen->PartitionCount), std::pair(QStringLiteral(" 2"), 2));
-    screen->cmdDouble->click();
-    screen->cmdDouble->click();
-    EXPECT_EQ(screen->txtParts->text(), QStringLiteral("8"));
 }
 
 TEST_F(Sums, BoundariesArePulledBackIntoTheWindowAndIntoOrder)
