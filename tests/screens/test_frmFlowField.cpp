@@ -43,8 +43,10 @@ TEST_F(Field, ArrowsAreAHundredAndSixtyTwipsLongAndNoneWhereBothRatesVanish)
     screen->cmdShowFlow->click();
     const auto arrows = segments();
     ASSERT_EQ(arrows.size(), 361u);
-    for (const DrawOp& a : arrows)
+    for (const DrawOp& a : arrows) {
         EXPECT_NEAR(std::hypot(a.x2 - a.x1, a.y2 - a.y1), 160, 1e-9);
+        EXPECT_EQ(a.y2 < a.y1, a.x1 > 5600) << a.x1;  // up right of the y axis, level or down left of it
+    }
     EXPECT_TRUE(hasLine(5600, 3300, 5760, 3300));  // at x = 0 the slope is 0: pointing right
     screen->cmdClean_Click();
     screen->mnuDx_Click(1);
