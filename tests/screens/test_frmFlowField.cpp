@@ -45,7 +45,7 @@ TEST_F(Field, ArrowsAreAHundredAndSixtyTwipsLongAndNoneWhereBothRatesVanish)
     ASSERT_EQ(arrows.size(), 361u);
     for (const DrawOp& a : arrows) {
         EXPECT_NEAR(std::hypot(a.x2 - a.x1, a.y2 - a.y1), 160, 1e-9);
-        EXPECT_EQ(a.y2 < a.y1, a.x1 > 5600) << a.x1;  // up right of the y axis, level or down left of it
+        EXPECT_EQ(a.y2<a.y1, a.x1> 5600) << a.x1;  // up right of the y axis, level or down left of it
     }
     EXPECT_TRUE(hasLine(5600, 3300, 5760, 3300));  // at x = 0 the slope is 0: pointing right
     screen->cmdClean_Click();
@@ -99,6 +99,8 @@ TEST_F(Field, MouseMovesShowTheStartAndATypedStartIsNotTheCurrentPoint)
     approximate("1", "3");
     script.answers = {QStringLiteral("4"), QStringLiteral("3")};
     QTest::mouseClick(screen->lblPos, Qt::LeftButton);
+    EXPECT_EQ(script.shown, (Shown{{QStringLiteral("X ="), QStringLiteral("Enter x coordinate:")},
+                                   {QStringLiteral("Y ="), QStringLiteral("Enter y coordinate:")}}));
     EXPECT_EQ(texts({screen->lblPos, screen->lblEndpt}), QStringLiteral("Start( 4 , 3 ) |EndPt ( 7, 3.167"));
     EXPECT_EQ(std::pair(segments().size(), screen->CurrentX), std::pair(std::size_t(3), 1.25));
 }
