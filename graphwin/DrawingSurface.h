@@ -59,12 +59,6 @@ public:
     // A circle outline of radius r twips around (x, y).
     void Circle(double x, double y, double r, QRgb color);
 
-    // Segments and points of one colour drawn together, for the per-point loops: a loop hands its
-    // shapes to the batch (plain arithmetic, no toolkit call per shape) and the batch writes them
-    // straight into the picture, merging the vertical runs of one column, then keeps them for a
-    // redraw at another size and asks for a repaint once, when it ends. The picture is exactly the
-    // one that the same Line and PSet calls give one by one. Nothing else is drawn on the surface
-    // while a batch is open; a run-time error that ends the loop ends the batch with what was drawn.
     // The three segments of a bar standing on the row `base`: up from (a, base) to (a, top1), across
     // to (b, top2), down to (b, base); each handed to `segment` as its two ends.
     template <class Segment>
@@ -82,6 +76,12 @@ private:
     };
 
 public:
+    // Segments and points of one colour drawn together, for the per-point loops: a loop hands its
+    // shapes to the batch (plain arithmetic, no toolkit call per shape) and the batch writes them
+    // straight into the picture, merging the vertical runs of one column, then keeps them for a
+    // redraw at another size and asks for a repaint once, when it ends. The picture is exactly the
+    // one that the same Line and PSet calls give one by one. Nothing else is drawn on the surface
+    // while a batch is open; a run-time error that ends the loop ends the batch with what was drawn.
     class Batch {
     public:
         Batch(DrawingSurface& surface, QRgb color);
@@ -353,12 +353,11 @@ public:
     void runPoint(double x, double y, std::size_t count)
     {
         if (!batch_) [[unlikely]]
-            openRun(count);
+            open().beginRun(count);
         batch_->runPoint(x, y);
     }
 
 private:
-    [[gnu::noinline]] void openRun(std::size_t count) { open().beginRun(count); }
     DrawingSurface::Batch& open()
     {
         if (!batch_)

@@ -3,7 +3,6 @@
 // The mapping between a screen's window limits and the twips of its 6400-twip square.
 #include <cmath>
 #include <cstdint>
-#include <vector>
 
 #include "runtime/Numbers.h"
 

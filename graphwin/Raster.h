@@ -59,15 +59,10 @@ public:
     void line(double x1, double y1, double x2, double y2)
     {
         // Most steps of a finely stepped curve begin and end in one pixel inside the target: that
-        // pixel at once, as the general path would write it. (The tests of the second end come before
-        // its conversion, which a value out of range or not a number would make undefined.)
-        if (pen_ == 1 && x1 >= 0 && y1 >= 0 && x1 < t_.width && y1 < t_.height && x2 >= 0 && y2 >= 0 && x2 < t_.width &&
-            y2 < t_.height) {
-            const long ax = static_cast<long>(x1), ay = static_cast<long>(y1);
-            if (static_cast<long>(x2) == ax && static_cast<long>(y2) == ay) {
-                t_.bits[ay * t_.stride + ax] = color_;
-                return;
-            }
+        // pixel at once, as the general path would write it.
+        if (const long at = pixelInside(t_, x1, y1, pen_); at >= 0 && at == pixelInside(t_, x2, y2, pen_)) {
+            t_.bits[at] = color_;
+            return;
         }
         anyLine(x1, y1, x2, y2);
     }
