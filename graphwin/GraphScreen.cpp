@@ -35,14 +35,6 @@ constexpr const char* kCoefficientNames = "ABCDEF";
 
 }  // namespace
 
-void placeTwips(QWidget* widget, double left, double top, double width, double height)
-{
-    // The place in twips is kept, so that a zoomed form can put the widget where it belongs.
-    widget->setProperty("plottoTwips", QRectF(left, top, width, height));
-    widget->setGeometry(static_cast<int>(std::lround(left / 15)), static_cast<int>(std::lround(top / 15)),
-                        static_cast<int>(std::lround(width / 15)), static_cast<int>(std::lround(height / 15)));
-}
-
 GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 {
     setWindowTitle(config_.caption);
@@ -91,101 +83,75 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 
 GraphScreen::~GraphScreen() { leaveDescriptions(); }
 
-ClickLabel* GraphScreen::makeLabel(const QString& caption, double left, double top, double width, double height)
-{
-    auto* label = new ClickLabel(surface, caption);
-    placeTwips(label, left, top, width, height);
-    return label;
-}
+double GraphScreen::buttonColumn() const { return config_.squareLeft + 6400 + 600; }
 
 void GraphScreen::buildLimits()
 {
-    const double L = config_.squareLeft;
-    auto makeLimit = [this](const char* text, double left, double top, ClickLabel*& lower, ClickLabel*& upper) {
-        auto* box = new TextBox(surface, QString::fromLatin1(text));
-        placeTwips(box, left, top, kBoxWidth, kBoxHeight);
-        lower = new ClickLabel(surface, QStringLiteral("<"), true);
-        placeTwips(lower, left - kArrowWidth, top, kArrowWidth, kBoxHeight);
-        upper = new ClickLabel(surface, QStringLiteral(">"), true);
-        placeTwips(upper, left + kBoxWidth, top, kArrowWidth, kBoxHeight);
-        return box;
-    };
-    txtXmin = makeLimit("-10", L - 240, 3240, lblXminL, lblXminR);
-    txtXmax = makeLimit("10", L + 6240, 3240, lblXmaxL, lblXmaxR);
-    txtYmin = makeLimit("-10", L + 2880, 6360, lblYminL, lblYminR);
-    txtYmax = makeLimit("10", L + 3000, 0, lblYmaxL, lblYmaxR);
-
-    txtXmin->Change = [this] { txtXmin_Change(); };
-    txtXmax->Change = [this] { txtXmax_Change(); };
-    txtYmin->Change = [this] { txtYmin_Change(); };
-    txtYmax->Change = [this] { txtYmax_Change(); };
-    lblXminL->Click = [this] { lblXminL_Click(); };
-    lblXminR->Click = [this] { lblXminR_Click(); };
-    lblXmaxL->Click = [this] { lblXmaxL_Click(); };
-    lblXmaxR->Click = [this] { lblXmaxR_Click(); };
-    lblYminL->Click = [this] { lblYminL_Click(); };
-    lblYminR->Click = [this] { lblYminR_Click(); };
-    lblYmaxL->Click = [this] { lblYmaxL_Click(); };
-    lblYmaxR->Click = [this] { lblYmaxR_Click(); };
-    lblXminL->DblClick = [this] { lblXminL_DblClick(); };
-    lblXminR->DblClick = [this] { lblXminR_DblClick(); };
-    lblXmaxL->DblClick = [this] { lblXmaxL_DblClick(); };
-    lblXmaxR->DblClick = [this] { lblXmaxR_DblClick(); };
-    lblYminL->DblClick = [this] { lblYminL_DblClick(); };
-    lblYminR->DblClick = [this] { lblYminR_DblClick(); };
-    lblYmaxL->DblClick = [this] { lblYmaxL_DblClick(); };
-    lblYmaxR->DblClick = [this] { lblYmaxR_DblClick(); };
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double L = config_.squareLeft, W = kBoxWidth, H = kBoxHeight, A = kArrowWidth;
+    // Each limit box stands between the arrow that lowers it and the arrow that raises it.
+    // clang-format off
+    form::buildForm(surface, {
+        // name       kind           caption  place                        handlers
+        {&txtXmin,  Kind::Box,     "-10",  {L - 240,        3240, W, H}, {.Change = on(&GraphScreen::txtXmin_Change)}},
+        {&lblXminL, Kind::Stepper, "<",    {L - 240 - A,    3240, A, H}, {.Click = on(&GraphScreen::lblXminL_Click), .DblClick = on(&GraphScreen::lblXminL_DblClick)}},
+        {&lblXminR, Kind::Stepper, ">",    {L - 240 + W,    3240, A, H}, {.Click = on(&GraphScreen::lblXminR_Click), .DblClick = on(&GraphScreen::lblXminR_DblClick)}},
+        {&txtXmax,  Kind::Box,     "10",   {L + 6240,       3240, W, H}, {.Change = on(&GraphScreen::txtXmax_Change)}},
+        {&lblXmaxL, Kind::Stepper, "<",    {L + 6240 - A,   3240, A, H}, {.Click = on(&GraphScreen::lblXmaxL_Click), .DblClick = on(&GraphScreen::lblXmaxL_DblClick)}},
+        {&lblXmaxR, Kind::Stepper, ">",    {L + 6240 + W,   3240, A, H}, {.Click = on(&GraphScreen::lblXmaxR_Click), .DblClick = on(&GraphScreen::lblXmaxR_DblClick)}},
+        {&txtYmin,  Kind::Box,     "-10",  {L + 2880,       6360, W, H}, {.Change = on(&GraphScreen::txtYmin_Change)}},
+        {&lblYminL, Kind::Stepper, "<",    {L + 2880 - A,   6360, A, H}, {.Click = on(&GraphScreen::lblYminL_Click), .DblClick = on(&GraphScreen::lblYminL_DblClick)}},
+        {&lblYminR, Kind::Stepper, ">",    {L + 2880 + W,   6360, A, H}, {.Click = on(&GraphScreen::lblYminR_Click), .DblClick = on(&GraphScreen::lblYminR_DblClick)}},
+        {&txtYmax,  Kind::Box,     "10",   {L + 3000,          0, W, H}, {.Change = on(&GraphScreen::txtYmax_Change)}},
+        {&lblYmaxL, Kind::Stepper, "<",    {L + 3000 - A,      0, A, H}, {.Click = on(&GraphScreen::lblYmaxL_Click), .DblClick = on(&GraphScreen::lblYmaxL_DblClick)}},
+        {&lblYmaxR, Kind::Stepper, ">",    {L + 3000 + W,      0, A, H}, {.Click = on(&GraphScreen::lblYmaxR_Click), .DblClick = on(&GraphScreen::lblYmaxR_DblClick)}},
+    });
+    // clang-format on
 }
 
 void GraphScreen::buildCoefficients()
 {
-    lblVariables = makeLabel(QStringLiteral("Variables"), 120, 600, 1455, 300);
-    lblVariables->setAlignment(Qt::AlignCenter);
+    using form::Kind;
+    // The panel has five or six rows, so its table is written row by row: the box, then the
+    // stepper label on its left.
+    // clang-format off
+    std::vector<form::Control> table{
+        {&lblVariables, Kind::Label, "Variables", {120, 600, 1455, 300}, {}, {.align = Qt::AlignCenter}}};
     TextBox** boxes[6] = {&txtA, &txtB, &txtC, &txtD, &txtE, &txtF};
     ClickLabel** labels[6] = {&lblA, &lblB, &lblC, &lblD, &lblE, &lblF};
     for (int i = 0; i < config_.coefficientCount; ++i) {
         const double top = 960 + 360 * i;
-        auto* box = new TextBox(surface, QString::fromLatin1(config_.coefficientDefaults[i]));
-        placeTwips(box, 840, top, 1215, kBoxHeight);
-        box->Change = [this, i] { coefficientEdited(i); };
-        auto* label = new ClickLabel(surface, QStringLiteral("%1=").arg(QChar::fromLatin1(kCoefficientNames[i])), true);
-        placeTwips(label, 240, top, 495, kBoxHeight);
-        label->MouseDown = [this, i](int Button, int, double, double) { stepCoefficient(i, Button); };
-        *boxes[i] = box;
-        *labels[i] = label;
+        table.push_back({boxes[i], Kind::Box, QString::fromLatin1(config_.coefficientDefaults[i]),
+                         {840, top, 1215, kBoxHeight}, {.Change = [this, i] { coefficientEdited(i); }}});
+        table.push_back({labels[i], Kind::Stepper, QStringLiteral("%1=").arg(QChar::fromLatin1(kCoefficientNames[i])),
+                         {240, top, 495, kBoxHeight},
+                         {.MouseDown = [this, i](int Button, int, double, double) { stepCoefficient(i, Button); }}});
     }
-    if (config_.functionMenu) {
-        lblFunc = makeLabel(config_.functionLabelCaption, 120, 960 + 360 * config_.coefficientCount + 120, 1800, 660);
-        lblFunc->setWordWrap(true);
-        lblFunc->setAlignment(Qt::AlignCenter);
-        lblFunc->setFrameStyle(QFrame::Box | QFrame::Plain);  // all four edges, on white too
-        lblFunc->MouseDown = [this](int Button, int Shift, double X, double Y) {
-            lblFunc_MouseDown(Button, Shift, X, Y);
-        };
-    }
-}
-
-QPushButton* GraphScreen::addButton(const QString& caption, double top, std::function<void()> click)
-{
-    QPushButton* b = makeButton(surface, caption, std::move(click));
-    placeTwips(b, config_.squareLeft + 6400 + 600, top, 1680, 420);
-    return b;
-}
-
-TextBox* GraphScreen::makeBox(const QString& text, double left, double top, double width, double height)
-{
-    auto* box = new TextBox(surface, text);
-    placeTwips(box, left, top, width, height);
-    return box;
+    if (config_.functionMenu)
+        table.push_back({&lblFunc, Kind::Label, config_.functionLabelCaption,
+                         {120, 960 + 360.0 * config_.coefficientCount + 120, 1800, 660},
+                         {.MouseDown = form::bind(this)(&GraphScreen::lblFunc_MouseDown)},
+                         {.align = Qt::AlignCenter, .wrap = true, .boxed = true}});
+    // clang-format on
+    form::buildForm(surface, table);
 }
 
 void GraphScreen::buildButtons()
 {
-    cmdPlotto = addButton(config_.plotCaption, 600, [this] { cmdPlotto_Click(); });
-    cmdClean = addButton(config_.cleanCaption, 1200, [this] { cmdClean_Click(); });
-    cmdZoomIn = addButton(config_.zoomCaption, 1800, [this] { cmdZoomIn_Click(); });
-    cmdSetDefault = addButton(config_.defaultsCaption, 2400, [this] { cmdSetDefault_Click(); });
-    cmdExit = addButton(QStringLiteral("E&xit"), 6000, [this] { cmdExit_Click(); });
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double C = buttonColumn(), W = 1680, H = 420;
+    // clang-format off
+    form::buildForm(surface, {
+        // name            kind          caption                   place           handlers
+        {&cmdPlotto,     Kind::Button, config_.plotCaption,      {C,  600, W, H}, {.Click = on(&GraphScreen::cmdPlotto_Click)}},
+        {&cmdClean,      Kind::Button, config_.cleanCaption,     {C, 1200, W, H}, {.Click = on(&GraphScreen::cmdClean_Click)}},
+        {&cmdZoomIn,     Kind::Button, config_.zoomCaption,      {C, 1800, W, H}, {.Click = on(&GraphScreen::cmdZoomIn_Click)}},
+        {&cmdSetDefault, Kind::Button, config_.defaultsCaption,  {C, 2400, W, H}, {.Click = on(&GraphScreen::cmdSetDefault_Click)}},
+        {&cmdExit,       Kind::Button, QStringLiteral("E&xit"),  {C, 6000, W, H}, {.Click = on(&GraphScreen::cmdExit_Click)}},
+    });
+    // clang-format on
 }
 
 QMenu* GraphScreen::addMenu(const QString& caption) { return menuBar->addMenu(caption); }

@@ -18,14 +18,12 @@
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Controls.h"
 #include "graphwin/DrawingSurface.h"
+#include "graphwin/FormTable.h"
 #include "graphwin/GraphWindow.h"
 
 class QAction;
 class QMenu;
 class QMenuBar;
-
-// Places a widget at a position and size given in twips.
-void placeTwips(QWidget* widget, double left, double top, double width, double height);
 
 class GraphScreen : public QDialog {
     Q_OBJECT
@@ -156,10 +154,8 @@ protected:
     void plotFunction();
     // The same column walk for any evaluator of the selected family (the derivative, say).
     void plotColumns(double (*evaluate)(const double&));
-    // Places a button in the screen's right-hand column of buttons, at the given top.
-    QPushButton* addButton(const QString& caption, double top, std::function<void()> click);
-    // A text box on the surface.
-    TextBox* makeBox(const QString& text, double left, double top, double width, double height = 300);
+    // The left edge, in twips, of the screen's right-hand column of buttons (1680 wide, 420 high).
+    double buttonColumn() const;
     // Fills the function captions and the menu, and selects a family.
     void loadFunctionMenu();
     // Writes the default limits "-10", "10", "-10", "10".
@@ -181,8 +177,6 @@ protected:
     void noteDrawn(const QString& what);
     // The selected family's caption with the coefficients' values.
     QString describeFamily() const;
-    // A plain label on the surface.
-    ClickLabel* makeLabel(const QString& caption, double left, double top, double width, double height);
 
 private:
     // Joins (leaves) the screens whose description is refreshed after every action.

@@ -22,70 +22,45 @@ constexpr double kPanel = 11220, kPanelWidth = 2580, kInner = 2340;
 
 frmAnimate::frmAnimate() : GraphScreen(animateConfig())
 {
-    lblChoice = makeLabel(QStringLiteral("Animation"), kPanel, 60, kPanelWidth, 300);
-    lblChoice->setAlignment(Qt::AlignCenter);
-
-    fraHow = new QGroupBox(QStringLiteral("Continuous/Steps"), surface);
-    placeTwips(fraHow, kPanel, 360, kPanelWidth, 1560);
-    OptionButton** options[] = {&optSteps, &optStepErase, &optCont, &optContErase};
-    const char* captions[] = {"Steps", "Steps+Erase", "Continuous", "Continuous+Erase"};
-    for (int i = 0; i < 4; ++i) {
-        *options[i] = new OptionButton(fraHow, QString::fromLatin1(captions[i]));
-        placeTwips(*options[i], 120, 300 + 300 * i, kInner, 300);
-    }
-    optCont->setChecked(true);
-
-    fraRange = new QGroupBox(QStringLiteral("Variable Range"), surface);
-    placeTwips(fraRange, kPanel, 2040, kPanelWidth, 1380);
-    auto row = [this](const char* caption, const char* text, double top, ClickLabel*& label) {
-        label = new ClickLabel(fraRange, QString::fromLatin1(caption));
-        placeTwips(label, 120, top, 900, 300);
-        auto* box = new TextBox(fraRange, QString::fromLatin1(text));
-        placeTwips(box, 1080, top, 1380, 300);
-        return box;
-    };
-    txtStart = row("Start:", "-2", 300, lblStart);
-    txtEnd = row("End:", "2", 660, lblEnd);
-    txtSteps = row("Steps:", "41", 1020, lblSteps);
-
-    fraVariable = new QGroupBox(QStringLiteral("Which Variable?"), surface);
-    placeTwips(fraVariable, kPanel, 3540, 1500, 1980);
-    CheckBox** checks[] = {&chkA, &chkB, &chkC, &chkD, &chkE};
-    for (int i = 0; i < 5; ++i) {
-        *checks[i] = new CheckBox(fraVariable, QString(QChar::fromLatin1(static_cast<char>('A' + i))));
-        placeTwips(*checks[i], 240, 300 + 330 * i, 1000, 300);
-    }
-    chkA->setChecked(true);
-
-    vscStep = new ScrollBar(Qt::Vertical, surface);
-    vscStep->setMin(0);
-    vscStep->setMax(41);
-    vscStep->setSingleStep(1);
-    vscStep->setPageStep(1);
-    placeTwips(vscStep, kPanel + 1620, 3600, 255, 1920);
-    lblSlide = makeLabel(QStringLiteral("-2"), kPanel + 1920, 4380, 660, 300);
-    lblClickAnimate = makeLabel(QStringLiteral("Select Variable(s)"), kPanel, 5580, kPanelWidth, 300);
-    lblClickAnimate->setAlignment(Qt::AlignCenter);
-    cmdAnimate = makeButton(surface, QStringLiteral("&Animate It!"), [this] { cmdAnimate_Click(); });
-    placeTwips(cmdAnimate, kPanel, 5940, kPanelWidth, 420);
-    cmdClearIt = makeButton(surface, QStringLiteral("Erase Graph"), [this] { cmdClearIt_Click(); });
-    placeTwips(cmdClearIt, kPanel, 6480, kPanelWidth, 420);
-
-    optSteps->Click = [this] { optSteps_Click(); };
-    optStepErase->Click = [this] { optStepErase_Click(); };
-    optCont->Click = [this] { optCont_Click(); };
-    optContErase->Click = [this] { optContErase_Click(); };
-    chkA->Click = [this] { chkA_Click(); };
-    chkB->Click = [this] { chkB_Click(); };
-    chkC->Click = [this] { chkC_Click(); };
-    chkD->Click = [this] { chkD_Click(); };
-    chkE->Click = [this] { chkE_Click(); };
-    txtSteps->Change = [this] { txtSteps_Change(); };
-    vscStep->Change = [this] { vscStep_Change(); };
-    vscStep->Scroll = [this] { vscStep_Scroll(); };
-    vscStep->Spoken = [this] { return tickedLetters() + QStringLiteral(" = ") + lblSlide->text(); };
-    vscStep->setAccessibleName(QStringLiteral("Animation frame"));
-    cmdClearIt->setAccessibleName(QStringLiteral("Erase Graph, animation panel"));
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double P = kPanel, W = kPanelWidth, I = kInner;
+    // clang-format off
+    form::buildForm(surface, {
+        // name             kind           caption                place                  handlers / look
+        {&lblChoice,        Kind::Label,   "Animation",           {P, 60, W, 300},       {}, {.align = Qt::AlignCenter}},
+        {&fraHow,           Kind::Frame,   "Continuous/Steps",    {P, 360, W, 1560}, {}, {}, {
+            {&optSteps,     Kind::Option,  "Steps",               {120,  300, I, 300},   {.Click = on(&frmAnimate::optSteps_Click)}},
+            {&optStepErase, Kind::Option,  "Steps+Erase",         {120,  600, I, 300},   {.Click = on(&frmAnimate::optStepErase_Click)}},
+            {&optCont,      Kind::Option,  "Continuous",          {120,  900, I, 300},   {.Click = on(&frmAnimate::optCont_Click)}, {.checked = true}},
+            {&optContErase, Kind::Option,  "Continuous+Erase",    {120, 1200, I, 300},   {.Click = on(&frmAnimate::optContErase_Click)}},
+        }},
+        {&fraRange,         Kind::Frame,   "Variable Range",      {P, 2040, W, 1380}, {}, {}, {
+            {&lblStart,     Kind::Label,   "Start:",              {120,   300, 900, 300}},
+            {&txtStart,     Kind::Box,     "-2",                  {1080,  300, 1380, 300}},
+            {&lblEnd,       Kind::Label,   "End:",                {120,   660, 900, 300}},
+            {&txtEnd,       Kind::Box,     "2",                   {1080,  660, 1380, 300}},
+            {&lblSteps,     Kind::Label,   "Steps:",              {120,  1020, 900, 300}},
+            {&txtSteps,     Kind::Box,     "41",                  {1080, 1020, 1380, 300}, {.Change = on(&frmAnimate::txtSteps_Change)}},
+        }},
+        {&fraVariable,      Kind::Frame,   "Which Variable?",     {P, 3540, 1500, 1980}, {}, {}, {
+            {&chkA,         Kind::Check,   "A",                   {240,  300, 1000, 300}, {.Click = on(&frmAnimate::chkA_Click)}, {.checked = true}},
+            {&chkB,         Kind::Check,   "B",                   {240,  630, 1000, 300}, {.Click = on(&frmAnimate::chkB_Click)}},
+            {&chkC,         Kind::Check,   "C",                   {240,  960, 1000, 300}, {.Click = on(&frmAnimate::chkC_Click)}},
+            {&chkD,         Kind::Check,   "D",                   {240, 1290, 1000, 300}, {.Click = on(&frmAnimate::chkD_Click)}},
+            {&chkE,         Kind::Check,   "E",                   {240, 1620, 1000, 300}, {.Click = on(&frmAnimate::chkE_Click)}},
+        }},
+        {&vscStep,          Kind::VScroll, "",                    {P + 1620, 3600, 255, 1920},
+            {.Change = on(&frmAnimate::vscStep_Change), .Scroll = on(&frmAnimate::vscStep_Scroll),
+             .Spoken = [this] { return tickedLetters() + QStringLiteral(" = ") + lblSlide->text(); }},
+            {.name = "Animation frame", .bar = {.min = 0, .max = 41, .small = 1, .large = 1}}},
+        {&lblSlide,         Kind::Label,   "-2",                  {P + 1920, 4380, 660, 300}},
+        {&lblClickAnimate,  Kind::Label,   "Select Variable(s)",  {P, 5580, W, 300},     {}, {.align = Qt::AlignCenter}},
+        {&cmdAnimate,       Kind::Button,  "&Animate It!",        {P, 5940, W, 420},     {.Click = on(&frmAnimate::cmdAnimate_Click)}},
+        {&cmdClearIt,       Kind::Button,  "Erase Graph",         {P, 6480, W, 420},     {.Click = on(&frmAnimate::cmdClearIt_Click)},
+                                                                                         {.name = "Erase Graph, animation panel"}},
+    });
+    // clang-format on
     Form_Load();
 }
 

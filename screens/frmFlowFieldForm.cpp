@@ -28,60 +28,47 @@ constexpr double kOptions = 11220, kOptionsWidth = 2580;
 
 frmFlowField::frmFlowField() : GraphScreen(flowConfig())
 {
-    // Left panel: rate labels, the formula display, the start and end points.
-    lbldy = new ClickLabel(surface, QStringLiteral("dy = Ax + By + C"), true);
-    placeTwips(lbldy, 60, 3180, 1860, 300);
-    lbldx = new ClickLabel(surface, QStringLiteral("dx = Dx + Ey + F"), true);
-    placeTwips(lbldx, 60, 3540, 1860, 300);
-    auto* shape = new QFrame(surface);
-    shape->setFrameStyle(QFrame::Box | QFrame::Plain);
-    shape->setAttribute(Qt::WA_TransparentForMouseEvents);
-    placeTwips(shape, 60, 3900, 2280, 900);
-    shpDyDx = shape;
-    lblIntegral = makeLabel(QStringLiteral("Click in the graph to generate an integral curve."), 60, 4920, 2280, 600);
-    lblIntegral->setWordWrap(true);
-    lblPos = makeLabel(QStringLiteral("Start (____, ____)"), 60, 5640, 2280, 300);
-    lblPos->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    lblEndpt = makeLabel(QStringLiteral("Endpt ( ____, ____ )"), 60, 6060, 2280, 300);
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double O = kOptions, W = kOptionsWidth, I = kOptionsWidth - 240;
+    // clang-format off
+    form::buildForm(surface, {
+        // Left panel: rate labels, the formula display, the start and end points.
+        // name          kind           caption                            place                   handlers / look
+        {&lbldy,         Kind::Stepper, "dy = Ax + By + C",                {60, 3180, 1860, 300},  {.MouseDown = on(&frmFlowField::lbldy_MouseDown)}},
+        {&lbldx,         Kind::Stepper, "dx = Dx + Ey + F",                {60, 3540, 1860, 300},  {.MouseDown = on(&frmFlowField::lbldx_MouseDown)}},
+        {&shpDyDx,       Kind::Outline, "",                                {60, 3900, 2280, 900}},
+        {&lblIntegral,   Kind::Label,   "Click in the graph to generate an integral curve.",
+                                                                           {60, 4920, 2280, 600},  {}, {.wrap = true}},
+        {&lblPos,        Kind::Label,   "Start (____, ____)",              {60, 5640, 2280, 300},  {.Click = on(&frmFlowField::lblPos_Click)}, {.raised = true}},
+        {&lblEndpt,      Kind::Label,   "Endpt ( ____, ____ )",            {60, 6060, 2280, 300}},
+        {&cmdShowFlow,   Kind::Button,  "&Show Slope Field",               {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmFlowField::cmdShowFlow_Click)}},
 
-    cmdShowFlow = addButton(QStringLiteral("&Show Slope Field"), 3000, [this] { cmdShowFlow_Click(); });
-
-    // Right panel: purpose, method and the plot button's settings.
-    fraPurpose = new QGroupBox(QStringLiteral("Purpose"), surface);
-    placeTwips(fraPurpose, kOptions, 120, kOptionsWidth, 1080);
-    optApprox = new OptionButton(fraPurpose, QStringLiteral("Find &Appoximation"));
-    placeTwips(optApprox, 120, 330, kOptionsWidth - 240, 300);
-    optCurve = new OptionButton(fraPurpose, QStringLiteral("See smooth &curve"));
-    placeTwips(optCurve, 120, 660, kOptionsWidth - 240, 300);
-    optCurve->setChecked(true);
-
-    fraMethod = new QGroupBox(QStringLiteral("Method Options"), surface);
-    placeTwips(fraMethod, kOptions, 1320, kOptionsWidth, 1380);
-    optRunga4 = new OptionButton(fraMethod, QStringLiteral("Runga-Kutta &4"));
-    placeTwips(optRunga4, 120, 330, kOptionsWidth - 240, 300);
-    optRunga2 = new OptionButton(fraMethod, QStringLiteral("Runga-Kutta &2"));
-    placeTwips(optRunga2, 120, 660, kOptionsWidth - 240, 300);
-    optEuler = new OptionButton(fraMethod, QStringLiteral("Euler's Metho&d"));
-    placeTwips(optEuler, 120, 990, kOptionsWidth - 240, 300);
-    optEuler->setChecked(true);
-
-    fraPlotto = new QGroupBox(QStringLiteral("Plotto Options"), surface);
-    placeTwips(fraPlotto, kOptions, 2820, kOptionsWidth, 4080);
-    auto row = [this](const char* caption, const char* text, double top, ClickLabel*& label) {
-        label = new ClickLabel(fraPlotto, QString::fromLatin1(caption), true);
-        placeTwips(label, 120, top, kOptionsWidth - 240, 300);
-        auto* box = new TextBox(fraPlotto, QString::fromLatin1(text));
-        placeTwips(box, 120, top + 330, kOptionsWidth - 240, 300);
-        return box;
-    };
-    txtHorShift = row("Horizontal Shift", "0", 300, lblHorShift);
-    txtVerShift = row("Vertical Shift", "0", 1020, lblVerShift);
-    chkBiDirect = new CheckBox(fraPlotto, QStringLiteral("Bi-directional"));
-    placeTwips(chkBiDirect, 120, 1740, kOptionsWidth - 240, 300);
-    txtCurvePoints = row("Number of Curve Points", "500", 2160, lblplots);
-    lblplots->setToolTip(QStringLiteral("Maximum of 10000 points"));
-    txtDelta = row("Delta x = ", "0.02", 2880, lblDeltaX);
-    lblDeltaX->setToolTip(QStringLiteral("This value is used in Euler's Method to find succeeding points."));
+        // Right panel: purpose, method and the plot button's settings.
+        {&fraPurpose,    Kind::Frame,   "Purpose",                         {O, 120, W, 1080}, {}, {}, {
+            {&optApprox,   Kind::Option,  "Find &Appoximation",            {120, 330, I, 300},     {.Click = on(&frmFlowField::optApprox_Click)}},
+            {&optCurve,    Kind::Option,  "See smooth &curve",             {120, 660, I, 300},     {.Click = on(&frmFlowField::optCurve_Click)}, {.checked = true}},
+        }},
+        {&fraMethod,     Kind::Frame,   "Method Options",                  {O, 1320, W, 1380}, {}, {}, {
+            {&optRunga4,   Kind::Option,  "Runga-Kutta &4",                {120, 330, I, 300},     {.Click = on(&frmFlowField::optRunga4_Click)}},
+            {&optRunga2,   Kind::Option,  "Runga-Kutta &2",                {120, 660, I, 300},     {.Click = on(&frmFlowField::optRunga2_Click)}},
+            {&optEuler,    Kind::Option,  "Euler's Metho&d",               {120, 990, I, 300},     {.Click = on(&frmFlowField::optEuler_Click)}, {.checked = true}},
+        }},
+        {&fraPlotto,     Kind::Frame,   "Plotto Options",                  {O, 2820, W, 4080}, {}, {}, {
+            {&lblHorShift, Kind::Stepper, "Horizontal Shift",              {120,  300, I, 300},    {.MouseDown = on(&frmFlowField::lblHorShift_MouseDown)}},
+            {&txtHorShift, Kind::Box,     "0",                             {120,  630, I, 300}},
+            {&lblVerShift, Kind::Stepper, "Vertical Shift",                {120, 1020, I, 300},    {.MouseDown = on(&frmFlowField::lblVerShift_MouseDown)}},
+            {&txtVerShift, Kind::Box,     "0",                             {120, 1350, I, 300}},
+            {&chkBiDirect, Kind::Check,   "Bi-directional",                {120, 1740, I, 300}},
+            {&lblplots,    Kind::Stepper, "Number of Curve Points",        {120, 2160, I, 300},    {.MouseDown = on(&frmFlowField::lblplots_MouseDown)},
+                                                                                                   {.tip = "Maximum of 10000 points"}},
+            {&txtCurvePoints, Kind::Box,  "500",                           {120, 2490, I, 300},    {.Change = on(&frmFlowField::txtCurvePoints_Change)}},
+            {&lblDeltaX,   Kind::Stepper, "Delta x = ",                    {120, 2880, I, 300},    {.MouseDown = on(&frmFlowField::lblDeltaX_MouseDown)},
+                                                                           {.tip = "This value is used in Euler's Method to find succeeding points."}},
+            {&txtDelta,    Kind::Box,     "0.02",                          {120, 3210, I, 300}},
+        }},
+    });
+    // clang-format on
 
     // The two rate menus after the File menu.
     dyMenu_ = addMenu(QStringLiteral("Select d&y - Function"));
@@ -91,19 +78,6 @@ frmFlowField::frmFlowField() : GraphScreen(flowConfig())
     startMenuArray(dyMenu_, mnuDy);
     startMenuArray(dxMenu_, mnuDx);
 
-    optApprox->Click = [this] { optApprox_Click(); };
-    optCurve->Click = [this] { optCurve_Click(); };
-    optEuler->Click = [this] { optEuler_Click(); };
-    optRunga2->Click = [this] { optRunga2_Click(); };
-    optRunga4->Click = [this] { optRunga4_Click(); };
-    txtCurvePoints->Change = [this] { txtCurvePoints_Change(); };
-    lbldy->MouseDown = [this](int b, int s, double x, double y) { lbldy_MouseDown(b, s, x, y); };
-    lbldx->MouseDown = [this](int b, int s, double x, double y) { lbldx_MouseDown(b, s, x, y); };
-    lblplots->MouseDown = [this](int b, int s, double x, double y) { lblplots_MouseDown(b, s, x, y); };
-    lblHorShift->MouseDown = [this](int b, int s, double x, double y) { lblHorShift_MouseDown(b, s, x, y); };
-    lblVerShift->MouseDown = [this](int b, int s, double x, double y) { lblVerShift_MouseDown(b, s, x, y); };
-    lblDeltaX->MouseDown = [this](int b, int s, double x, double y) { lblDeltaX_MouseDown(b, s, x, y); };
-    lblPos->Click = [this] { lblPos_Click(); };
     surface->MouseDown = [this](int b, int s, double x, double y) { Form_MouseDown(b, s, x, y); };
     surface->MouseMove = [this](int b, int s, double x, double y) { Form_MouseMove(b, s, x, y); };
     Form_Load();

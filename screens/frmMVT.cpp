@@ -33,53 +33,37 @@ double rounded(double v, double scale) { return rt::Int(rt::Chk(rt::Chk(v * scal
 
 frmMVT::frmMVT() : GraphScreen(mvtConfig())
 {
-    auto label = [](QWidget* parent, const char* caption, double left, double top, double width) {
-        auto* l = new ClickLabel(parent, QString::fromLatin1(caption));
-        placeTwips(l, left, top, width, 300);
-        return l;
-    };
-    fraMVTSet = new QGroupBox(QStringLiteral("MVT Set Up"), surface);
-    placeTwips(fraMVTSet, kLeft, 120, kWidth, 3120);
-    lblX1 = label(fraMVTSet, "Left endpt", 120, 330, 1080);
-    txtX1 = new TextBox(fraMVTSet, QStringLiteral("a"));
-    placeTwips(txtX1, 1260, 330, 1200, 300);
-    lblX2 = label(fraMVTSet, "Right endpt", 120, 690, 1080);
-    txtX2 = new TextBox(fraMVTSet, QStringLiteral("b"));
-    placeTwips(txtX2, 1260, 690, 1200, 300);
-    cmdApplyMVT = makeButton(fraMVTSet, QStringLiteral("Apply to Graph"), [this] { cmdApplyMVT_Click(); });
-    placeTwips(cmdApplyMVT, 120, 1080, kInner, 420);
-    lblPt1 = label(fraMVTSet, "( _______ , _______)", 120, 1590, kInner);
-    lblto = label(fraMVTSet, "to", 120, 1890, kInner);
-    lblto->setAlignment(Qt::AlignCenter);
-    lblPt2 = label(fraMVTSet, "( _______ , _______)", 120, 2190, kInner);
-    lblSlope1 = label(fraMVTSet, "Slope", 120, 2580, kInner);
-
-    fraFindPt = new QGroupBox(QStringLiteral("Find c"), surface);
-    placeTwips(fraFindPt, kLeft, 3360, kWidth, 5520);
-    lblSlideIt = label(fraFindPt, "Use the Slider", 120, 300, kInner);
-    lblSlideIt->setAlignment(Qt::AlignCenter);
-    HscMVT = new ScrollBar(Qt::Horizontal, fraFindPt);
-    HscMVT->setRange(0, 20000);
-    HscMVT->setPageStep(100);
-    HscMVT->setSingleStep(1);
-    placeTwips(HscMVT, 120, 600, kInner, 255);
-    lbl1 = label(fraFindPt, "a", 120, 900, 1100);
-    lbl2 = label(fraFindPt, "b", 1360, 900, 1100);
-    lbl2->setAlignment(Qt::AlignRight | Qt::AlignTop);
-    lblFindc = label(fraFindPt, "x =", 120, 1230, kInner);
-    lblFindc->setFrameStyle(QFrame::Panel | QFrame::Raised);
-    lblSlope2 = label(fraFindPt, "Slope = ", 120, 1560, kInner);
-    cmdAnimateIt = makeButton(fraFindPt, QStringLiteral("Find c"), [this] { cmdAnimateIt_Click(); });
-    placeTwips(cmdAnimateIt, 120, 1920, kInner, 420);
-    gridC = new Grid(fraFindPt, kGridRows, 3);
-    gridC->setAccessibleName(QStringLiteral("Values of c"));
-    placeTwips(gridC, 120, 2460, kInner, 2940);
-
-    txtX1->Change = [this] { txtX1_Change(); };
-    txtX2->Change = [this] { txtX2_Change(); };
-    HscMVT->Change = [this] { HscMVT_Change(); };
-    HscMVT->Spoken = [this] { return lblFindc->text().trimmed(); };
-    lblFindc->Click = [this] { lblFindc_Click(); };
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double I = kInner;
+    // clang-format off
+    form::buildForm(surface, {
+        // name           kind          caption                  place                 handlers / look
+        {&fraMVTSet,      Kind::Frame,  "MVT Set Up",            {kLeft, 120, kWidth, 3120}, {}, {}, {
+            {&lblX1,      Kind::Label,  "Left endpt",            {120,   330, 1080, 300}},
+            {&txtX1,      Kind::Box,    "a",                     {1260,  330, 1200, 300}, {.Change = on(&frmMVT::txtX1_Change)}},
+            {&lblX2,      Kind::Label,  "Right endpt",           {120,   690, 1080, 300}},
+            {&txtX2,      Kind::Box,    "b",                     {1260,  690, 1200, 300}, {.Change = on(&frmMVT::txtX2_Change)}},
+            {&cmdApplyMVT, Kind::Button, "Apply to Graph",       {120,  1080, I, 420},    {.Click = on(&frmMVT::cmdApplyMVT_Click)}},
+            {&lblPt1,     Kind::Label,  "( _______ , _______)",  {120,  1590, I, 300}},
+            {&lblto,      Kind::Label,  "to",                    {120,  1890, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {&lblPt2,     Kind::Label,  "( _______ , _______)",  {120,  2190, I, 300}},
+            {&lblSlope1,  Kind::Label,  "Slope",                 {120,  2580, I, 300}},
+        }},
+        {&fraFindPt,      Kind::Frame,  "Find c",                {kLeft, 3360, kWidth, 5520}, {}, {}, {
+            {&lblSlideIt, Kind::Label,  "Use the Slider",        {120,   300, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {&HscMVT,     Kind::HScroll, "",                     {120,   600, I, 255},
+                {.Change = on(&frmMVT::HscMVT_Change), .Spoken = [this] { return lblFindc->text().trimmed(); }},
+                {.bar = {.min = 0, .max = 20000, .small = 1, .large = 100}}},
+            {&lbl1,       Kind::Label,  "a",                     {120,   900, 1100, 300}},
+            {&lbl2,       Kind::Label,  "b",                     {1360,  900, 1100, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
+            {&lblFindc,   Kind::Label,  "x =",                   {120,  1230, I, 300},    {.Click = on(&frmMVT::lblFindc_Click)}, {.raised = true}},
+            {&lblSlope2,  Kind::Label,  "Slope = ",              {120,  1560, I, 300}},
+            {&cmdAnimateIt, Kind::Button, "Find c",              {120,  1920, I, 420},    {.Click = on(&frmMVT::cmdAnimateIt_Click)}},
+            {&gridC,      Kind::Grid,   "",                      {120,  2460, I, 2940},   {}, {.name = "Values of c", .rows = kGridRows, .columns = 3}},
+        }},
+    });
+    // clang-format on
     Form_Load();
 }
 

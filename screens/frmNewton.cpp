@@ -21,23 +21,26 @@ constexpr int kGridRows = 15;
 
 frmNewton::frmNewton() : GraphScreen(newtonConfig())
 {
-    const double left = squareLeft() + 6400 + 600;
-    lblNewtonMethod = makeLabel(QStringLiteral("Newton's Method"), left, 3060, 1680, 300);
-    lblNewtonMethod->setAlignment(Qt::AlignCenter);
-    lblGuess = makeLabel(QStringLiteral("Guess:"), left, 3420, 1680, 300);
-    txtGuess = makeBox(QStringLiteral("FirstGuess"), left, 3720, 1680);
-    txtGuess->Click = [this] { txtGuess_Click(); };
-    cmdApply = addButton(QStringLiteral("Apply Newton's"), 4140, [this] { cmdApply_Click(); });
-    cmdDeriv = addButton(QStringLiteral("Graph &Derivative"), 4680, [this] { cmdDeriv_Click(); });
-    grdGuess = new Grid(surface, kGridRows, 2);
-    placeTwips(grdGuess, 11220, 600, 2460, 4500);
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double C = buttonColumn(), W = 1680;
+    // clang-format off
+    form::buildForm(surface, {
+        // name            kind          caption              place                   handlers / look
+        {&lblNewtonMethod, Kind::Label,  "Newton's Method",   {C, 3060, W, 300},      {}, {.align = Qt::AlignCenter}},
+        {&lblGuess,        Kind::Label,  "Guess:",            {C, 3420, W, 300}},
+        {&txtGuess,        Kind::Box,    "FirstGuess",        {C, 3720, W, 300},      {.Click = on(&frmNewton::txtGuess_Click)}},
+        {&cmdApply,        Kind::Button, "Apply Newton's",    {C, 4140, W, 420},      {.Click = on(&frmNewton::cmdApply_Click)}},
+        {&cmdDeriv,        Kind::Button, "Graph &Derivative", {C, 4680, W, 420},      {.Click = on(&frmNewton::cmdDeriv_Click)}},
+        {&grdGuess,        Kind::Grid,   "",                  {11220, 600, 2460, 4500}, {}, {.name = "Guesses", .rows = kGridRows, .columns = 2}},
+    });
+    // clang-format on
     Form_Load();
 }
 
 void frmNewton::Form_Load()
 {
     GraphScreen::Form_Load();
-    grdGuess->setAccessibleName(QStringLiteral("Guesses"));
     grdGuess->setCell(0, 0, QStringLiteral("Guess #"));
     grdGuess->setCell(0, 1, QStringLiteral("Value"));
     grdGuess->setColumnWidthTwips(0, 670);

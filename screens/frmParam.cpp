@@ -31,59 +31,41 @@ float cut4(float v) { return rt::CSng(rt::Int(rt::CSng(static_cast<double>(v) * 
 
 frmParam::frmParam() : GraphScreen(paramConfig())
 {
-    lblXPar = new ClickLabel(surface, QStringLiteral("x = A*Sin(Bt) + C"), true);
-    placeTwips(lblXPar, 60, 3180, 1860, 300);
-    lblYPar = new ClickLabel(surface, QStringLiteral("y = D*Cos(Et) + F"), true);
-    placeTwips(lblYPar, 60, 3540, 1860, 300);
-    lblInstruct = makeLabel(QStringLiteral("Select x && y functions and enter their constants."), 60, 3960, 2280, 600);
-    lblInstruct->setWordWrap(true);
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double I = kInner;
+    // clang-format off
+    form::buildForm(surface, {
+        // name          kind           caption                  place                    handlers / look
+        {&lblXPar,       Kind::Stepper, "x = A*Sin(Bt) + C",     {60, 3180, 1860, 300},   {.MouseDown = on(&frmParam::lblXPar_MouseDown)}},
+        {&lblYPar,       Kind::Stepper, "y = D*Cos(Et) + F",     {60, 3540, 1860, 300},   {.MouseDown = on(&frmParam::lblYPar_MouseDown)}},
+        {&lblInstruct,   Kind::Label,   "Select x && y functions and enter their constants.",
+                                                                 {60, 3960, 2280, 600},   {}, {.wrap = true}},
+        {&cmdZout,       Kind::Button,  "Zoom &Out",             {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmParam::cmdZout_Click)}},
+        {&fraSetup,      Kind::Frame,   "Graphing Set up",       {kPanel, 120, kPanelWidth, 2280}, {}, {}, {
+            {&lblT0,     Kind::Stepper, "Initial  t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lblT0_MouseDown)}},
+            {&txtT0,     Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT0_Change)}},
+            {&lblFinalT, Kind::Stepper, "Final  t =",            {120,   690, 1440, 300}, {.MouseDown = on(&frmParam::lblFinalT_MouseDown)}},
+            {&txtTn,     Kind::Box,     "6.3",                   {1620,  690, 840, 300},  {.Change = on(&frmParam::txtTn_Change)}},
+            {&lblTstep,  Kind::Stepper, "Number of Steps",       {120,  1050, 1440, 300}, {.MouseDown = on(&frmParam::lblTstep_MouseDown)}},
+            {&txtTstep,  Kind::Box,     "1000",                  {1620, 1050, 840, 300},  {.Change = on(&frmParam::txtTstep_Change)}},
+            {&optCont,   Kind::Option,  "Connected Points",      {120,  1440, I, 300}},
+            {&optPoints, Kind::Option,  "Separate Points",       {120,  1800, I, 300},    {}, {.checked = true}},
+        }},
+        {&fraTrace,      Kind::Frame,   "Trace",                 {kPanel, 2520, kPanelWidth, 2400}, {}, {}, {
+            {&lbltTrace, Kind::Stepper, "Trace at t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lbltTrace_MouseDown)}},
+            {&txtT,      Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT_Change)}},
+            {&lblXY,     Kind::Label,   "( ______ , _______ )",  {120,   720, I, 300}},
+            {&lblTslide, Kind::Label,   "t - slider",            {120,  1140, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {&HscT,      Kind::HScroll, "",                      {120,  1470, I, 255},
+                {.Change = on(&frmParam::HscT_Change), .Spoken = [this] { return QStringLiteral("t = ") + txtT->text(); }},
+                {.bar = {.min = 0, .max = 1000, .small = 1, .large = 20}}},
+            {&lblTmin,   Kind::Label,   "0",                     {120,  1800, 1100, 300}},
+            {&lblTmax,   Kind::Label,   "6.3",                   {1360, 1800, 1100, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
+        }},
+    });
+    // clang-format on
     lblInstruct->setBuddy(lblXPar);  // so that "&&" shows as one ampersand
-    cmdZout = addButton(QStringLiteral("Zoom &Out"), 3000, [this] { cmdZout_Click(); });
-
-    auto label = [](QWidget* parent, const char* caption, double top, bool stepper) {
-        auto* l = new ClickLabel(parent, QString::fromLatin1(caption), stepper);
-        placeTwips(l, 120, top, 1440, 300);
-        return l;
-    };
-    auto box = [](QWidget* parent, const char* text, double top) {
-        auto* b = new TextBox(parent, QString::fromLatin1(text));
-        placeTwips(b, 1620, top, 840, 300);
-        return b;
-    };
-    fraSetup = new QGroupBox(QStringLiteral("Graphing Set up"), surface);
-    placeTwips(fraSetup, kPanel, 120, kPanelWidth, 2280);
-    lblT0 = label(fraSetup, "Initial  t =", 330, true);
-    txtT0 = box(fraSetup, "0", 330);
-    lblFinalT = label(fraSetup, "Final  t =", 690, true);
-    txtTn = box(fraSetup, "6.3", 690);
-    lblTstep = label(fraSetup, "Number of Steps", 1050, true);
-    txtTstep = box(fraSetup, "1000", 1050);
-    optCont = new OptionButton(fraSetup, QStringLiteral("Connected Points"));
-    placeTwips(optCont, 120, 1440, kInner, 300);
-    optPoints = new OptionButton(fraSetup, QStringLiteral("Separate Points"));
-    placeTwips(optPoints, 120, 1800, kInner, 300);
-    optPoints->setChecked(true);
-
-    fraTrace = new QGroupBox(QStringLiteral("Trace"), surface);
-    placeTwips(fraTrace, kPanel, 2520, kPanelWidth, 2400);
-    lbltTrace = label(fraTrace, "Trace at t =", 330, true);
-    txtT = box(fraTrace, "0", 330);
-    lblXY = new ClickLabel(fraTrace, QStringLiteral("( ______ , _______ )"));
-    placeTwips(lblXY, 120, 720, kInner, 300);
-    lblTslide = new ClickLabel(fraTrace, QStringLiteral("t - slider"));
-    placeTwips(lblTslide, 120, 1140, kInner, 300);
-    lblTslide->setAlignment(Qt::AlignCenter);
-    HscT = new ScrollBar(Qt::Horizontal, fraTrace);
-    HscT->setMin(0);
-    HscT->setMax(1000);
-    HscT->setPageStep(20);
-    HscT->setSingleStep(1);
-    placeTwips(HscT, 120, 1470, kInner, 255);
-    lblTmin = new ClickLabel(fraTrace, QStringLiteral("0"));
-    placeTwips(lblTmin, 120, 1800, 1100, 300);
-    lblTmax = new ClickLabel(fraTrace, QStringLiteral("6.3"));
-    placeTwips(lblTmax, 1360, 1800, 1100, 300);
-    lblTmax->setAlignment(Qt::AlignRight | Qt::AlignTop);
 
     xMenu_ = addMenu(QStringLiteral("Select &x Function"));
     mnuSelectX = xMenu_->menuAction();
@@ -91,19 +73,6 @@ frmParam::frmParam() : GraphScreen(paramConfig())
     mnuSelectY = yMenu_->menuAction();
     startMenuArray(xMenu_, mnuXFunc);
     startMenuArray(yMenu_, mnuYFunc);
-
-    lblXPar->MouseDown = [this](int b, int s, double x, double y) { lblXPar_MouseDown(b, s, x, y); };
-    lblYPar->MouseDown = [this](int b, int s, double x, double y) { lblYPar_MouseDown(b, s, x, y); };
-    lblT0->MouseDown = [this](int b, int s, double x, double y) { lblT0_MouseDown(b, s, x, y); };
-    lblFinalT->MouseDown = [this](int b, int s, double x, double y) { lblFinalT_MouseDown(b, s, x, y); };
-    lblTstep->MouseDown = [this](int b, int s, double x, double y) { lblTstep_MouseDown(b, s, x, y); };
-    lbltTrace->MouseDown = [this](int b, int s, double x, double y) { lbltTrace_MouseDown(b, s, x, y); };
-    txtT0->Change = [this] { txtT0_Change(); };
-    txtTn->Change = [this] { txtTn_Change(); };
-    txtTstep->Change = [this] { txtTstep_Change(); };
-    txtT->Change = [this] { txtT_Change(); };
-    HscT->Change = [this] { HscT_Change(); };
-    HscT->Spoken = [this] { return QStringLiteral("t = ") + txtT->text(); };
     Form_Load();
 }
 

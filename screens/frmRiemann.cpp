@@ -60,71 +60,44 @@ frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
 
 void frmRiemann::buildSumsPanel()
 {
-    auto button = [this](const QString& caption, double top, std::function<void()> click) {
-        QPushButton* b = makeButton(surface, caption, std::move(click));
-        placeTwips(b, kPanel, top, kPanelWidth, 420);
-        return b;
-    };
-    auto box = [this](const char* text, double top) {
-        return makeBox(QString::fromLatin1(text), kPanel, top, kPanelWidth);
-    };
-    auto stepper = [this](const char* caption, double top) {
-        auto* l = new ClickLabel(surface, QString::fromLatin1(caption), true);
-        placeTwips(l, kPanel, top, kPanelWidth, 300);
-        return l;
-    };
-
-    cmdCleanParts = button(QStringLiteral("&Erase Partitions"), 1140, [this] { cmdCleanParts_Click(); });
-    lblPartitions = stepper("Number of Partitions", 3420);
-    txtParts = box("1", 3720);
-    cmdDouble = button(QStringLiteral("&Double Partitions"), 4140, [this] { cmdDouble_Click(); });
-    cmdDouble->setToolTip(QStringLiteral("Automatically double Number of Partitions"));
-    cmdParts = button(QStringLiteral("Graph &Partitions"), 4680, [this] { cmdParts_Click(); });
-    cmdParts->setToolTip(QStringLiteral("See the partitions from the Riemann Sums"));
-    lblLBound = stepper("Left Boundary", 5340);
-    txtLBound = box("-2", 5640);
-    lblRBound = stepper("Right Boundary", 6060);
-    txtRBound = box("2", 6360);
-
-    txtParts->Change = [this] { txtParts_Change(); };
-    txtLBound->Change = [this] { txtLBound_Change(); };
-    txtRBound->Change = [this] { txtRBound_Change(); };
-    lblPartitions->MouseDown = [this](int b, int s, double x, double y) { lblPartitions_MouseDown(b, s, x, y); };
-    lblLBound->MouseDown = [this](int b, int s, double x, double y) { lblLBound_MouseDown(b, s, x, y); };
-    lblRBound->MouseDown = [this](int b, int s, double x, double y) { lblRBound_MouseDown(b, s, x, y); };
-
-    lblAreas = makeLabel(QStringLiteral("AREA"), kSums, 240, kSumsWidth, 300);
-    lblAreas->setAlignment(Qt::AlignCenter);
-    fraSums = new QGroupBox(QStringLiteral("Area Sums"), surface);
-    fraSums->setToolTip(QStringLiteral("Check one to see partitions when clicking Graph Partitions"));
-    placeTwips(fraSums, kSums, 600, kSumsWidth, 3300);
-    struct Row {
-        CheckBox** check;
-        ClickLabel** result;
-        const char* caption;
-        const char* tip;
-    };
-    const Row rows[] = {
-        {&chkLeft, &lblLeftE, "Left Endpoint", nullptr},
-        {&chkRight, &lblRightE, "Right Endpoint", nullptr},
-        {&chkMid, &lblMid, "Midpoint", nullptr},
-        {&chkTrap, &lblTrap, "Trapezoidal", nullptr},
-        {&chkRandom, &lblRnd, "Random point", "A random point is picked on the equal width intervals "},
-        {&chkSimpson, &lblSimpson, "Simpson's", nullptr},
-        {&chkRiemann, &lblRiemann, "Riemann", "Random width Interval and point on it"},
-    };
-    double top = 360;
-    for (const Row& row : rows) {
-        auto* check = new CheckBox(fraSums, QString::fromLatin1(row.caption));
-        placeTwips(check, 120, top, 1620, 360);
-        if (row.tip)
-            check->setToolTip(QString::fromLatin1(row.tip));
-        auto* result = new ClickLabel(fraSums, kAreaText);
-        placeTwips(result, 1800, top, 1500, 360);
-        *row.check = check;
-        *row.result = result;
-        top += 420;
-    }
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double P = kPanel, W = kPanelWidth;
+    // clang-format off
+    form::buildForm(surface, {
+        // name           kind           caption                  place               handlers / look
+        {&cmdCleanParts,  Kind::Button,  "&Erase Partitions",     {P, 1140, W, 420},  {.Click = on(&frmRiemann::cmdCleanParts_Click)}},
+        {&lblPartitions,  Kind::Stepper, "Number of Partitions",  {P, 3420, W, 300},  {.MouseDown = on(&frmRiemann::lblPartitions_MouseDown)}},
+        {&txtParts,       Kind::Box,     "1",                     {P, 3720, W, 300},  {.Change = on(&frmRiemann::txtParts_Change)}},
+        {&cmdDouble,      Kind::Button,  "&Double Partitions",    {P, 4140, W, 420},  {.Click = on(&frmRiemann::cmdDouble_Click)},
+                                                                                     {.tip = "Automatically double Number of Partitions"}},
+        {&cmdParts,       Kind::Button,  "Graph &Partitions",     {P, 4680, W, 420},  {.Click = on(&frmRiemann::cmdParts_Click)},
+                                                                                     {.tip = "See the partitions from the Riemann Sums"}},
+        {&lblLBound,      Kind::Stepper, "Left Boundary",         {P, 5340, W, 300},  {.MouseDown = on(&frmRiemann::lblLBound_MouseDown)}},
+        {&txtLBound,      Kind::Box,     "-2",                    {P, 5640, W, 300},  {.Change = on(&frmRiemann::txtLBound_Change)}},
+        {&lblRBound,      Kind::Stepper, "Right Boundary",        {P, 6060, W, 300},  {.MouseDown = on(&frmRiemann::lblRBound_MouseDown)}},
+        {&txtRBound,      Kind::Box,     "2",                     {P, 6360, W, 300},  {.Change = on(&frmRiemann::txtRBound_Change)}},
+        {&lblAreas,       Kind::Label,   "AREA",                  {kSums, 240, kSumsWidth, 300}, {}, {.align = Qt::AlignCenter}},
+        {&fraSums,        Kind::Frame,   "Area Sums",             {kSums, 600, kSumsWidth, 3300}, {},
+                                                                  {.tip = "Check one to see partitions when clicking Graph Partitions"}, {
+            // One row for each sum: the check that shows its partitions, and its area.
+            {&chkLeft,    Kind::Check, "Left Endpoint",   {120,   360, 1620, 360}},
+            {&lblLeftE,   Kind::Label, kAreaText,         {1800,  360, 1500, 360}},
+            {&chkRight,   Kind::Check, "Right Endpoint",  {120,   780, 1620, 360}},
+            {&lblRightE,  Kind::Label, kAreaText,         {1800,  780, 1500, 360}},
+            {&chkMid,     Kind::Check, "Midpoint",        {120,  1200, 1620, 360}},
+            {&lblMid,     Kind::Label, kAreaText,         {1800, 1200, 1500, 360}},
+            {&chkTrap,    Kind::Check, "Trapezoidal",     {120,  1620, 1620, 360}},
+            {&lblTrap,    Kind::Label, kAreaText,         {1800, 1620, 1500, 360}},
+            {&chkRandom,  Kind::Check, "Random point",    {120,  2040, 1620, 360}, {}, {.tip = "A random point is picked on the equal width intervals "}},
+            {&lblRnd,     Kind::Label, kAreaText,         {1800, 2040, 1500, 360}},
+            {&chkSimpson, Kind::Check, "Simpson's",       {120,  2460, 1620, 360}},
+            {&lblSimpson, Kind::Label, kAreaText,         {1800, 2460, 1500, 360}},
+            {&chkRiemann, Kind::Check, "Riemann",         {120,  2880, 1620, 360}, {}, {.tip = "Random width Interval and point on it"}},
+            {&lblRiemann, Kind::Label, kAreaText,         {1800, 2880, 1500, 360}},
+        }},
+    });
+    // clang-format on
 }
 
 void frmRiemann::Form_Load()

@@ -24,50 +24,38 @@ double cut(double v, double scale) { return rt::Int(rt::Chk(v * scale)) / scale;
 
 frmTangent::frmTangent() : GraphScreen(tangentConfig())
 {
-    lblTan = makeLabel(QStringLiteral("Tangent Problem Set up"), kLeft, 240, kWidth, 300);
-    lblTan->setAlignment(Qt::AlignCenter);
-    lblXat = new ClickLabel(surface, QStringLiteral("Tangent at x ="), true);
-    placeTwips(lblXat, kLeft, 600, 1380, 300);
-    txtX = makeBox(QStringLiteral("1"), kLeft + 1440, 600, kWidth - 1440);
-    lblDeltaX = new ClickLabel(surface, QStringLiteral("Delta x"), true);
-    placeTwips(lblDeltaX, kLeft, 960, 1380, 300);
-    txtDeltaX = makeBox(QStringLiteral("1"), kLeft + 1440, 960, kWidth - 1440);
-    cmdApply = makeButton(surface, QStringLiteral("&Apply to graph"), [this] { cmdApply_Click(); });
-    placeTwips(cmdApply, kLeft, 1380, kWidth, 420);
-    cmdHalfDx = makeButton(surface, QStringLiteral("Half Delta x"), [this] { cmdHalfDx_Click(); });
-    placeTwips(cmdHalfDx, kLeft, 1860, kWidth, 420);
-
-    lblSlide = makeLabel(QStringLiteral("Delta X slider"), kLeft, 2460, kWidth, 300);
-    lblSlide->setAlignment(Qt::AlignCenter);
-    hscDx = new ScrollBar(Qt::Horizontal, surface);
-    hscDx->setRange(0, 2000);
-    hscDx->setPageStep(100);
-    hscDx->setSingleStep(1);
-    hscDx->setValue(2000);
-    placeTwips(hscDx, kLeft, 2760, kWidth, 255);
-    lblxminuDx = makeLabel(QStringLiteral("x-dx"), kLeft, 3060, 600, 300);
-    lblHsc = makeLabel(QStringLiteral("x=1"), kLeft + 630, 3060, 1200, 300);
-    lblHsc->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    lblXaddDx = makeLabel(QStringLiteral("x+dx"), kLeft + kWidth - 600, 3060, 600, 300);
-    lblXaddDx->setAlignment(Qt::AlignRight | Qt::AlignTop);
-
-    fraApply = new QGroupBox(QStringLiteral("Secant Line Results"), surface);
-    placeTwips(fraApply, kLeft - 120, 3540, kWidth + 120, 1500);  // clear of the window's right edge
-    lblPoints = new ClickLabel(fraApply, QStringLiteral("( ___, ___ ) to ( ___ , ___ )"));
-    placeTwips(lblPoints, 120, 360, kWidth, 420);
-    lblPoints->setWordWrap(true);
-    lblTLine = new ClickLabel(fraApply, QStringLiteral("Line Equation"));
-    placeTwips(lblTLine, 120, 900, kWidth, 420);
-    lblTLine->setWordWrap(true);
-
-    txtX->Change = [this] { txtX_Change(); };
-    hscDx->Change = [this] { hscDx_Change(); };
-    hscDx->Spoken = [this] {
-        return QStringLiteral("Delta x = ") + qTrimStr((hscDx->value() - 1000) * txtDeltaX->value() / 1000);
-    };
-    lblXat->MouseDown = [this](int b, int s, double x, double y) { lblXat_MouseDown(b, s, x, y); };
-    lblDeltaX->MouseDown = [this](int b, int s, double x, double y) { lblDeltaX_MouseDown(b, s, x, y); };
+    using form::Kind;
+    const auto on = form::bind(this);
+    const double L = kLeft, W = kWidth, box = kLeft + 1440;
+    // clang-format off
+    form::buildForm(surface, {
+        // name       kind           caption                          place                       handlers / look
+        {&lblTan,     Kind::Label,   "Tangent Problem Set up",        {L, 240, W, 300},            {}, {.align = Qt::AlignCenter}},
+        {&lblXat,     Kind::Stepper, "Tangent at x =",                {L, 600, 1380, 300},         {.MouseDown = on(&frmTangent::lblXat_MouseDown)}},
+        {&txtX,       Kind::Box,     "1",                             {box, 600, W - 1440, 300},   {.Change = on(&frmTangent::txtX_Change)}},
+        {&lblDeltaX,  Kind::Stepper, "Delta x",                       {L, 960, 1380, 300},         {.MouseDown = on(&frmTangent::lblDeltaX_MouseDown)}},
+        {&txtDeltaX,  Kind::Box,     "1",                             {box, 960, W - 1440, 300}},
+        {&cmdApply,   Kind::Button,  "&Apply to graph",               {L, 1380, W, 420},           {.Click = on(&frmTangent::cmdApply_Click)}},
+        {&cmdHalfDx,  Kind::Button,  "Half Delta x",                  {L, 1860, W, 420},           {.Click = on(&frmTangent::cmdHalfDx_Click)}},
+        {&lblSlide,   Kind::Label,   "Delta X slider",                {L, 2460, W, 300},           {}, {.align = Qt::AlignCenter}},
+        {&hscDx,      Kind::HScroll, "",                              {L, 2760, W, 255},           {.Change = on(&frmTangent::hscDx_Change), .Spoken = [this] { return spokenDeltaX(); }},
+                                                                                                   {.bar = {.min = 0, .max = 2000, .small = 1, .large = 100, .value = 2000}}},
+        {&lblxminuDx, Kind::Label,   "x-dx",                          {L, 3060, 600, 300}},
+        {&lblHsc,     Kind::Label,   "x=1",                           {L + 630, 3060, 1200, 300},  {}, {.align = Qt::AlignHCenter | Qt::AlignTop}},
+        {&lblXaddDx,  Kind::Label,   "x+dx",                          {L + W - 600, 3060, 600, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
+        // Stands out to the left of the column, clear of the window's right edge.
+        {&fraApply,   Kind::Frame,   "Secant Line Results",           {L - 120, 3540, W + 120, 1500}, {}, {}, {
+            {&lblPoints, Kind::Label, "( ___, ___ ) to ( ___ , ___ )", {120, 360, W, 420},        {}, {.wrap = true}},
+            {&lblTLine,  Kind::Label, "Line Equation",                 {120, 900, W, 420},        {}, {.wrap = true}},
+        }},
+    });
+    // clang-format on
     Form_Load();
+}
+
+QString frmTangent::spokenDeltaX() const
+{
+    return QStringLiteral("Delta x = ") + qTrimStr((hscDx->value() - 1000) * txtDeltaX->value() / 1000);
 }
 
 void frmTangent::DrawSecant(double dx)

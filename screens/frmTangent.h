@@ -30,4 +30,8 @@ public:
 
 protected:
     void describeResults(QStringList& lines) const override;
+
+private:
+    // What the slider's position means: the Delta x it gives.
+    QString spokenDeltaX() const;
 };

@@ -6,6 +6,7 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormTable.h"
 #include "tests/TestSupport.h"
 
 struct Controls : ::testing::Test {
@@ -37,4 +38,58 @@ TEST_F(Controls, TextBoxChangesOncePerTextReportsAPersonsErrorsAndStopsEndlessCo
     };
     box.setText(QStringLiteral("3"));
     EXPECT_EQ(std::tuple(runs, script.errors.size()), std::tuple(TextBox::kMaxNestedChanges, 1u));
+}
+
+// A form table: rows inside a frame stand in the frame's twips, the look is given and nothing set
+// while building runs a handler; a row that cannot be built as written stops the build.
+TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
+{
+    using form::Kind;
+    QGroupBox* frame = nullptr;
+    OptionButton *first = nullptr, *second = nullptr;
+    ScrollBar* bar = nullptr;
+    ClickLabel* label = nullptr;
+    TextBox* box = nullptr;
+    std::vector<int> ran;
+    auto note = [&](int which) { return [&ran, which] { ran.push_back(which); }; };
+    // clang-format off
+    form::buildForm(&parent, {
+        {&frame, Kind::Frame, "Frame", {600, 300, 3000, 1500}, {}, {.tip = "tip"}, {
+            {&first, Kind::Option, "One", {120, 300, 900, 300}, {.Click = note(1)}},
+            {&second, Kind::Option, "Two", {120, 600, 900, 300}, {.Click = note(2)}, {.checked = true}},
+        }},
+        {&bar, Kind::VScroll, "", {0, 0, 255, 1500}, {.Change = note(3)},
+         {.bar = {.min = 5, .max = 1, .small = 2, .large = 3, .value = 4}}},
+        {&label, Kind::Stepper, "<", {0, 1500, 180, 300},
+         {.MouseDown = [&](int b, int, double, double) { ran.push_back(10 + b); }}, {.align = Qt::AlignRight, .name = "lower"}},
+        {&box, Kind::Box, "7", {180, 1500, 600, 300}, {.Change = note(4)}},
+    });
+    // clang-format on
+    EXPECT_TRUE(ran.empty());
+    EXPECT_EQ(std::tuple(first->parentWidget(), second->geometry(), second->isChecked(), first->isChecked()),
+              std::tuple(static_cast<QWidget*>(frame), QRect(8, 40, 60, 20), true, false));
+    EXPECT_EQ(std::tuple(bar->orientation(), bar->Min(), bar->Max(), bar->value(), bar->singleStep(), bar->pageStep()),
+              std::tuple(Qt::Vertical, 5, 1, 4, 2, 3));
+    EXPECT_EQ(
+        std::tuple(label->alignment(), label->accessibleName(), frame->toolTip(), box->text()),
+        std::tuple(Qt::Alignment(Qt::AlignRight), QStringLiteral("lower"), QStringLiteral("tip"), QStringLiteral("7")));
+    first->click();
+    label->activate(RightButton);
+    box->setText(QStringLiteral("8"));
+    bar->setValueChecked(3);
+    EXPECT_EQ(ran, (std::vector<int>{1, 12, 4, 3}));
+
+    TextBox* typed = nullptr;
+    ClickLabel* plain = nullptr;
+    QPushButton* button = nullptr;
+    const std::vector<std::pair<const char*, form::Control>> mistakes = {
+        {"member of another type", {&typed, Kind::Label, "x", {}}},
+        {"event the kind does not raise", {&plain, Kind::Label, "x", {}, {.Change = [] {}}}},
+        {"a button without its click", {&button, Kind::Button, "x", {}}},
+        {"a ticked label", {&plain, Kind::Label, "x", {}, {}, {.checked = true}}},
+        {"an aligned box", {&typed, Kind::Box, "x", {}, {}, {.align = Qt::AlignCenter}}},
+        {"rows in a label", {&plain, Kind::Label, "x", {}, {}, {}, {{&typed, Kind::Box, "y", {}}}}},
+    };
+    for (const auto& [what, row] : mistakes)
+        EXPECT_THROW(form::buildForm(&parent, {row}), std::logic_error) << what;
 }
