@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "graphwin/Controls.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <QStringList>
-#include <QStyleOptionFocusRect>
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingSurface.h"
@@ -195,25 +192,6 @@ void ClickLabel::raiseMouseDown(QMouseEvent* event)
     announceStep();
 }
 
-void ClickLabel::announceStep()
-{
-    if (!steps)
-        return;
-    QAccessibleValueChangeEvent changed(this, steps->text());
-    QAccessible::updateAccessibility(&changed);
-}
-
-void ClickLabel::activate(int button, int shift)
-{
-    const double x = width() * twipsPerPixel(this) / 2, y = height() * twipsPerPixel(this) / 2;  // the middle
-    if (MouseDown) {
-        guarded([&] { MouseDown(button, shift, x, y); });
-        announceStep();
-    }
-    if (button == LeftButton && Click)
-        guarded(Click);
-}
-
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
 {
     if (releaseEndsDoubleClick_) {
@@ -232,45 +210,6 @@ void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
     raiseMouseDown(event);
     if (event->button() == Qt::LeftButton && DblClick)
         guarded(DblClick);
-}
-
-void ClickLabel::keyPressEvent(QKeyEvent* event)
-{
-    const int key = event->key();
-    const bool left = key == Qt::Key_Up || key == Qt::Key_Right || key == Qt::Key_Plus || key == Qt::Key_Space ||
-                      key == Qt::Key_Return || key == Qt::Key_Enter;
-    const bool right = key == Qt::Key_Down || key == Qt::Key_Left || key == Qt::Key_Minus;
-    if (!interactive() || !(left || right) || event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) {
-        QLabel::keyPressEvent(event);
-        return;
-    }
-    activate(left ? LeftButton : RightButton, shiftCode(event->modifiers()));
-    // Shift with a pressing key stands for a double click where the label answers one (the limit
-    // arrows: a click and a double click, five steps in all).
-    if (left && event->modifiers() & Qt::ShiftModifier && DblClick)
-        guarded(DblClick);
-}
-
-void paintFocusRing(QWidget* widget)
-{
-    if (!widget->hasFocus())
-        return;
-    QPainter painter(widget);
-    painter.setPen(QPen(QColor(0x00, 0x00, 0x99), 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(widget->rect()).adjusted(1, 1, -1, -1));
-}
-
-void ClickLabel::paintEvent(QPaintEvent* event)
-{
-    QLabel::paintEvent(event);
-    paintFocusRing(this);
-}
-
-void ScrollBar::paintEvent(QPaintEvent* event)
-{
-    QScrollBar::paintEvent(event);
-    paintFocusRing(this);
 }
 
 ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(orientation, parent)
