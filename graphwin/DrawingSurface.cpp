@@ -16,6 +16,8 @@
 namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
+// The property that keeps a widget's place in twips.
+constexpr const char* kTwipsProperty = "plottoTwips";
 
 }  // namespace
 
@@ -137,8 +139,7 @@ void DrawingSurface::placeChildren()
     scaleFont(this);
     const double k = zoom_ / kTwipsPerPixel;
     for (QWidget* w : findChildren<QWidget*>()) {
-        const QVariant twips = w->property("plottoTwips");
-        if (twips.isValid()) {
+        if (const QVariant twips = w->property(kTwipsProperty); twips.isValid()) {
             const QRectF r = twips.toRectF();
             w->setGeometry(static_cast<int>(std::lround(r.x() * k)), static_cast<int>(std::lround(r.y() * k)),
                            std::max(1, static_cast<int>(std::lround(r.width() * k))),
@@ -150,6 +151,17 @@ void DrawingSurface::placeChildren()
             grid->applyZoom(zoom_);
     }
 }
+
+void placeTwips(QWidget* widget, double left, double top, double width, double height)
+{
+    // The place in twips is kept, so that a zoomed form can put the widget where it belongs.
+    widget->setProperty(kTwipsProperty, QRectF(left, top, width, height));
+    const double k = kTwipsPerPixel;
+    widget->setGeometry(static_cast<int>(std::lround(left / k)), static_cast<int>(std::lround(top / k)),
+                        static_cast<int>(std::lround(width / k)), static_cast<int>(std::lround(height / k)));
+}
+
+QRectF twipsOf(const QWidget* widget) { return widget->property(kTwipsProperty).toRectF(); }
 
 double twipsPerPixel(const QWidget* widget)
 {

@@ -372,3 +372,8 @@ private:
 // Twips per logical pixel for a widget placed on a surface: 15 at the normal size, less when the
 // form is zoomed in.
 double twipsPerPixel(const QWidget* widget);
+// Places a widget on the surface (or in a frame on it) at a position and size given in twips; the
+// surface puts it there again at every zoom.
+void placeTwips(QWidget* widget, double left, double top, double width, double height);
+// The place in twips a widget was given, whatever the zoom (its pixels change with it).
+QRectF twipsOf(const QWidget* widget);

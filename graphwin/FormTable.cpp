@@ -1,17 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "graphwin/FormTable.h"
 
-#include <cmath>
 #include <stdexcept>
 #include <string>
-
-void placeTwips(QWidget* widget, double left, double top, double width, double height)
-{
-    // The place in twips is kept, so that a zoomed form can put the widget where it belongs.
-    widget->setProperty("plottoTwips", QRectF(left, top, width, height));
-    widget->setGeometry(static_cast<int>(std::lround(left / 15)), static_cast<int>(std::lround(top / 15)),
-                        static_cast<int>(std::lround(width / 15)), static_cast<int>(std::lround(height / 15)));
-}
 
 namespace form {
 

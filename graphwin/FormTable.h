@@ -20,9 +20,7 @@
 #include <QString>
 
 #include "graphwin/Controls.h"
-
-// Places a widget at a position and size given in twips.
-void placeTwips(QWidget* widget, double left, double top, double width, double height);
+#include "graphwin/DrawingSurface.h"
 
 namespace form {
 

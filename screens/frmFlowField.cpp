@@ -56,9 +56,9 @@ void frmFlowField::coefficientChanged(int) { ShowDyDx(); }
 
 void frmFlowField::ShowDyDx()
 {
-    const QRect r = shpDyDx->geometry();
-    const double left = r.x() * 15.0, top = r.y() * 15.0;
-    surface->clearArea(left + 15, top + 15, r.width() * 15.0 - 30, r.height() * 15.0 - 30);
+    const QRectF r = twipsOf(shpDyDx);
+    const double left = r.x(), top = r.y();
+    surface->clearArea(left + 15, top + 15, r.width() - 30, r.height() - 30);
     surface->setFontSize(8);
     const QRgb ink = surface->ForeColor;
     const double lineHeight = surface->TextHeight(QStringLiteral("d"));

@@ -171,6 +171,18 @@ TEST_F(Field, TheScreenPrintsTheWalkedFormulaAndAnUnmovableCounterEnds)
     EXPECT_TRUE(std::any_of(ops().begin(), ops().end(), [](const DrawOp& op) {
         return op.kind == DrawOp::Text && op.text == QStringLiteral("2x + 3y + ");
     }));
+    // On a form zoomed to twice its size (maximized) the formula is printed in the same place of
+    // the form as at the normal size.
+    auto printedAt = [&] {
+        const auto last = std::find_if(ops().rbegin(), ops().rend(), [](const DrawOp& op) {
+            return op.kind == DrawOp::Text && op.text.startsWith(QStringLiteral("2x + 3y + "));
+        });
+        return QPointF(last->x1, last->y1);
+    };
+    const QPointF normal = printedAt();
+    screen->surface->setZoom(2);
+    screen->txtC->setText(QStringLiteral("2"));
+    EXPECT_EQ(printedAt(), normal);
     screen->txtXmax->setText(QStringLiteral("100000000000000040"));
     screen->txtXmin->setText(QStringLiteral("1e17"));  // a 32-bit origin is out of reach: Overflow
     EXPECT_EQ(script.errors, std::vector<int>{rt::Overflow});
