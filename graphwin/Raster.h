@@ -5,6 +5,7 @@
 // NaN, infinite) may come in, and nothing is ever written outside the target's width x height.
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 namespace raster {
@@ -59,9 +60,17 @@ public:
     void line(double x1, double y1, double x2, double y2)
     {
         // Most steps of a finely stepped curve begin and end in one pixel inside the target: that
-        // pixel at once, as the general path would write it.
-        if (const long at = pixelInside(t_, x1, y1, pen_); at >= 0 && at == pixelInside(t_, x2, y2, pen_)) {
-            t_.bits[at] = color_;
+        // pixel at once, as the general path would write it. A step of a connected curve begins where
+        // the step before it ended, whose pixel that step has written (or gathered) already.
+        const bool continues = x1 == endX_ && y1 == endY_;
+        const long from = continues ? endPixel_ : pixelInside(t_, x1, y1, pen_);
+        const long to = pixelInside(t_, x2, y2, pen_);
+        endX_ = x2;
+        endY_ = y2;
+        endPixel_ = to;
+        if (from >= 0 && from == to) {
+            if (!continues)
+                t_.bits[from] = color_;
             return;
         }
         anyLine(x1, y1, x2, y2);
@@ -91,6 +100,9 @@ private:
     void addRun(long column, long from, long to);
     Target t_;
     int pen_;
+    // Where the last segment ended, in pixels, and its pixel (-1 outside or with a wide pen).
+    double endX_ = std::numeric_limits<double>::quiet_NaN(), endY_ = endX_;
+    long endPixel_ = -1;
     std::uint32_t color_;
     std::vector<std::vector<Run>> columns_;  // the gathered runs of each pixel column
     std::vector<long> used_;  // the columns that hold runs

@@ -229,13 +229,6 @@ Integer toInteger(double v)
 std::int16_t CInt(double v) { return toInteger<std::int16_t>(v); }
 std::int32_t CLng(double v) { return toInteger<std::int32_t>(v); }
 
-float CSng(double v)
-{
-    if (!(std::fabs(v) <= static_cast<double>(FLT_MAX)))
-        raise(Overflow);
-    return static_cast<float>(v);
-}
-
 int Mod(int a, int b)
 {
     if (b == 0)

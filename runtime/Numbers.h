@@ -3,6 +3,7 @@
 // Numbers as the classic run time treats them: lenient and strict reading of text, the number-to-text
 // rules, floor, whole-number conversions with banker's rounding, single precision, and arithmetic that
 // raises the run time's errors instead of producing infinities or NaNs.
+#include <cfloat>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -73,8 +74,14 @@ double Pow(double a, double b);
 std::int16_t CInt(double v);
 std::int32_t CLng(double v);
 
-// Conversion to single precision: round to float, Overflow (6) beyond its range.
-float CSng(double v);
+// Conversion to single precision: round to float, Overflow (6) beyond its range. Inline, as Chk is:
+// the parametric plot converts twice a step.
+inline float CSng(double v)
+{
+    if (!(std::fabs(v) <= static_cast<double>(FLT_MAX))) [[unlikely]]
+        raiseNonFinite();
+    return static_cast<float>(v);
+}
 
 // Integer remainder with the sign of the dividend; Division by zero (11) for a zero divisor.
 int Mod(int a, int b);
