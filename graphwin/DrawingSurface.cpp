@@ -205,62 +205,6 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
     touched();
 }
 
-DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
-    : s_(surface), color_(color),
-      writer_(surface.target(), surface.penPx_, color), first_{{surface.batchPoints_.size(), 0},
-                                                               {surface.batchLines_.size(), 0},
-                                                               {surface.batchBars_.size(), 0}},
-      lastX_(surface.CurrentX), lastY_(surface.CurrentY), keep_(surface.keptComplete_ && surface.batching_),
-      direct_(!surface.batching_)
-{
-    if (keep_ && s_.batchLines_.capacity() == 0) {  // once: later batches append without moving the earlier
-        s_.batchPoints_.reserve(kMaxKept * 2);
-        s_.batchLines_.reserve(kMaxKept * 4);
-        s_.batchBars_.reserve(kMaxKept / 3 * 5 + 5);
-    }
-}
-
-// Whether one more shape fits in what the surface keeps; when it does not, the batch keeps nothing
-// and the surface no longer keeps a complete picture.
-bool DrawingSurface::Batch::fits()
-{
-    if (s_.keptOperations() < kMaxKept)
-        return true;
-    keep_ = false;
-    forget();
-    s_.keptComplete_ = false;
-    return false;
-}
-
-DrawingSurface::Batch::~Batch()
-{
-    if (direct_)
-        return;
-    writer_.flush();
-    s_.CurrentX = lastX_;
-    s_.CurrentY = lastY_;
-    s_.touched();
-    BatchRanges r = first_;
-    r.points[1] = s_.batchPoints_.size();
-    r.lines[1] = s_.batchLines_.size();
-    r.bars[1] = s_.batchBars_.size();
-    if (!keep_ || (r.points[0] == r.points[1] && r.lines[0] == r.lines[1] && r.bars[0] == r.bars[1]))
-        return;
-    // Kept while the shapes fit in what the surface keeps; beyond that the picture is scaled on a resize.
-    if (s_.retain(Kept::Batch, static_cast<double>(s_.batchRanges_.size()), 0, 0, 0, color_, s_.drawWidth_))
-        s_.batchRanges_.push_back(r);
-    else
-        forget();
-}
-
-// Drops the batch's shapes from the surface's stores.
-void DrawingSurface::Batch::forget()
-{
-    s_.batchPoints_.resize(first_.points[0]);
-    s_.batchLines_.resize(first_.lines[0]);
-    s_.batchBars_.resize(first_.bars[0]);
-}
-
 void DrawingSurface::Circle(double x, double y, double r, QRgb color)
 {
     if (recording_)

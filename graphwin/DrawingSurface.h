@@ -92,11 +92,12 @@ public:
         void point(double x, double y);
         // The outline of a bar standing on the row `base` (see barOutline), kept in five numbers.
         void bar(double a, double top1, double b, double top2, double base);
-        // Points of a run dotted in order, at most `count` of them (a line drawn column by column):
+        // A line dotted column by column, at most `count` points in all: beginRun, then the rows in
+        // chunks, in order. runColumns dots (first + i, rows[i]) for each row in [fromRow, toRow):
         // what point() gives for each, with its checks per shape made once at the start of the run,
         // and a pixel that the point before wrote not written again. Nothing else draws during a run.
         void beginRun(std::size_t count);
-        void runPoint(double x, double y);
+        void runColumns(int first, const double* rows, std::size_t n, double fromRow, double toRow);
 
     private:
         bool fits();
@@ -327,21 +328,6 @@ inline void DrawingSurface::Batch::beginRun(std::size_t count)
     lastPixel_ = -1;
 }
 
-inline void DrawingSurface::Batch::runPoint(double x, double y)
-{
-    if (run_ == RunMode::OneByOne) {
-        point(x, y);
-        return;
-    }
-    if (run_ == RunMode::Keep) {
-        s_.batchPoints_.push_back(x);
-        s_.batchPoints_.push_back(y);
-    }
-    lastX_ = x;
-    lastY_ = y;
-    writer_.pointAfter(s_.toPx(x), s_.toPx(y), lastPixel_);
-}
-
 // A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise
 // a run-time error, and it must come where the first shape is drawn, as a plain PSet would raise it.
 class LazyBatch {
@@ -349,12 +335,22 @@ public:
     LazyBatch(DrawingSurface& surface, FirstUseColour& colour) : surface_(surface), colour_(colour) { }
     void point(double x, double y) { open().point(x, y); }
     void line(double x1, double y1, double x2, double y2) { open().line(x1, y1, x2, y2); }
-    // A point of a run of at most `count` (see Batch::beginRun); the batch opens at the first.
-    void runPoint(double x, double y, std::size_t count)
+    // A chunk of a column run of at most `count` points (see Batch::runColumns); the batch opens at
+    // the first row in [fromRow, toRow).
+    void runColumns(int first, const double* rows, std::size_t n, double fromRow, double toRow, std::size_t count)
     {
-        if (!batch_) [[unlikely]]
+        if (!batch_) {
+            std::size_t i = 0;
+            while (i < n && !(fromRow <= rows[i] && rows[i] < toRow))
+                ++i;
+            if (i == n)
+                return;
             open().beginRun(count);
-        batch_->runPoint(x, y);
+            first += static_cast<int>(i);
+            rows += i;
+            n -= i;
+        }
+        batch_->runColumns(first, rows, n, fromRow, toRow);
     }
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmMVT.h"
 
+#include <array>
 #include <cmath>
 #include <functional>
 
@@ -142,16 +143,29 @@ void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
 {
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
-    const auto inSquare = [](double row) { return 100 <= row && row < 6500; };
+    constexpr double kTop = 100, kBottom = 6500;  // rows of the square
+    const auto inSquare = [](double row) { return kTop <= row && row < kBottom; };
     int column = first;
     if (surface->batching()) {
+        // The rows are gathered in chunks, so that the loop computing them does nothing else, and
+        // each chunk is dotted in one call.
         const auto count = static_cast<std::size_t>(last - first + 1);
+        std::array<double, 512> rows;
+        std::size_t n = 0;
+        int chunk = first;
+        const auto dot = [&] {
+            points.runColumns(chunk, rows.data(), n, kTop, kBottom, count);
+            chunk += static_cast<int>(n);
+            n = 0;
+        };
         column = graph.plainRows(
             first, last, [&y](double x) { return y(x, std::identity()); },
-            [&](int c, double row) {
-                if (inSquare(row))
-                    points.runPoint(c, row, count);
+            [&](int, double row) {
+                rows[n++] = row;
+                if (n == rows.size())
+                    dot();
             });
+        dot();
     }
     for (; column <= last; ++column) {
         const double row = graph.row(y(graph.worldX(column), [](double v) { return rt::Chk(v); }));
