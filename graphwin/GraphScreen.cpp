@@ -61,11 +61,9 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
             showFullScreen();
     });
 
-    auto* square = new QFrame(surface);
-    square->setFrameStyle(QFrame::Box | QFrame::Plain);
-    square->setAttribute(Qt::WA_TransparentForMouseEvents);
-    placeTwips(square, config_.squareLeft, config_.frameTop, 6405, 6405);
-    shpSquare = square;
+    form::buildForm(
+        surface,
+        {{&shpSquare, form::Kind::Outline, "", {double(config_.squareLeft), double(config_.frameTop), 6405, 6405}}});
 
     buildLimits();
     buildCoefficients();
