@@ -1,10 +1,16 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Writes docs/performance.md from two Google Benchmark JSON reports of one run of
+"""Writes docs/performance.md from the Google Benchmark JSON reports of one run of
 scripts/performance.sh: the handlers (bench/, a process with the toolkit started) and their floors
-(bench/floors.cpp, a separate process that never starts it). Medians of the repetitions."""
+(bench/floors.cpp, a separate process that never starts it), in rounds that alternate the two
+processes. Usage: performance.py HANDLERS.json[,...] FLOORS.json[,...] OUT.md, one pair per round.
+
+Each round gives a time per benchmark (the median of its repetitions) and, for each handler, its
+ratio to the floor measured in the same round. The page shows the median over the rounds of each:
+a burst of load on a shared machine slows one round's processes, not the others."""
 import json
 import platform
+import statistics
 import sys
 
 # (title, handler, floor, target ratio)
@@ -48,17 +54,31 @@ def dirty(value):
     return "not reported" if value < 0 else ("dirty" if value >= 0.5 else "clean")
 
 
+def over_rounds(rounds, name):
+    """The median over the rounds of a benchmark's time, and its state in the first round."""
+    return statistics.median(r[name][0] for r in rounds), rounds[0][name][1]
+
+
 def main():
-    handlers = json.load(open(sys.argv[1]))
-    floors = json.load(open(sys.argv[2]))
-    h, f = medians(handlers), medians(floors)
-    ctx = handlers["context"]
+    handler_reports = [json.load(open(p)) for p in sys.argv[1].split(",")]
+    floor_reports = [json.load(open(p)) for p in sys.argv[2].split(",")]
+    hs, fs = [medians(r) for r in handler_reports], [medians(r) for r in floor_reports]
+    h = {name: over_rounds(hs, name) for name in hs[0] if all(name in r for r in hs)}
+    f = {name: over_rounds(fs, name) for name in fs[0] if all(name in r for r in fs)}
+
+    def ratio(side, handler, floor):
+        """The median over the rounds of the handler's time over its floor's in the same round."""
+        return statistics.median(hr[handler][0] / fr[floor][0] for hr, fr in zip(side, fs))
+
+    ctx = handler_reports[0]["context"]
     lines = [
         "# Performance",
         "",
         "Each heavy handler is timed in a process that runs the toolkit, and compared with its floor (the",
         "same evaluations, nothing drawn) timed in a separate process that never starts the toolkit, in the",
-        "same run of `scripts/performance.sh`. Times are medians of the repetitions, in milliseconds. The",
+        f"same run of `scripts/performance.sh`, in {len(hs)} rounds that alternate the two processes. A time is the",
+        "median over the rounds of the median of a round's repetitions, in milliseconds; a ratio is the median",
+        "over the rounds of the handler's time over the floor's of the same round. The",
         "state columns say whether the upper halves of the AVX registers were in use when the hot loop",
         "started (read with XGETBV; the handler's is the state it found before clearing it at the boundary).",
         "",
@@ -70,11 +90,12 @@ def main():
     for title, handler, floor, target in PAIRS:
         if handler in h and floor in f:
             (t, hd), (b, fd) = h[handler], f[floor]
-            within = "" if target is None else (f"{target}x" + ("" if t / b <= target else " (missed)"))
-            lines.append(f"| {title} | {t:.3f} | {b:.3f} | {t / b:.2f} | {within} | {dirty(hd)} | {dirty(fd)} |")
+            q = ratio(hs, handler, floor)
+            within = "" if target is None else (f"{target}x" + ("" if q <= target else " (missed)"))
+            lines.append(f"| {title} | {t:.3f} | {b:.3f} | {q:.2f} | {within} | {dirty(hd)} | {dirty(fd)} |")
         elif handler in f and floor in f:
             (t, hd), (b, fd) = f[handler], f[floor]
-            lines.append(f"| {title} | {t:.3f} | {b:.3f} | {t / b:.2f} | | {dirty(hd)} | {dirty(fd)} |")
+            lines.append(f"| {title} | {t:.3f} | {b:.3f} | {ratio(fs, handler, floor):.2f} | | {dirty(hd)} | {dirty(fd)} |")
     if "BM_ResizeWithEightyCurves" in h:
         lines.append(f"| Slope fields: resize with the eighty curves (redrawn) | {h['BM_ResizeWithEightyCurves'][0]:.3f} | | | 100 ms | | |")
     lines += [
@@ -83,9 +104,9 @@ def main():
         "",
         "    bash scripts/performance.sh",
         "",
-        "which builds both benchmark programs, runs them one after the other with repetitions and rewrites",
-        "this page. The machines are shared and their CPUs differ; the ratios, measured in one run, vary less",
-        "than the times.",
+        "which builds both benchmark programs, runs them in alternating rounds (`ROUNDS=5` for more) with",
+        "repetitions and rewrites this page. The machines are shared and their CPUs differ; the ratios,",
+        "each measured within one round, vary less than the times.",
         "",
     ]
     open(sys.argv[3], "w").write("\n".join(lines))
