@@ -93,11 +93,12 @@ public:
         // The outline of a bar standing on the row `base` (see barOutline), kept in five numbers.
         void bar(double a, double top1, double b, double top2, double base);
         // A line dotted column by column, at most `count` points in all: beginRun, then the rows in
-        // chunks, in order. runColumns dots (first + i, rows[i]) for each row in [fromRow, toRow):
-        // what point() gives for each, with its checks per shape made once at the start of the run,
-        // and a pixel that the point before wrote not written again. Nothing else draws during a run.
+        // chunks, in order. runColumns dots (first + i, rows[i]) for each row in [fromRow, toRow)
+        // (`dotted`): what point() gives for each, with its checks per shape made once at the start
+        // of the run, and a pixel that the point before wrote not written again.
         void beginRun(std::size_t count);
         void runColumns(int first, const double* rows, std::size_t n, double fromRow, double toRow);
+        static bool dotted(double row, double fromRow, double toRow) { return fromRow <= row && row < toRow; }
 
     private:
         bool fits();
@@ -110,7 +111,6 @@ public:
         bool keep_;  // whether the surface still keeps what is drawn, for a redraw at another size
         bool direct_;  // shape by shape through Line and PSet, when the surface does not batch
         enum class RunMode { OneByOne, Keep, Draw } run_ = RunMode::OneByOne;
-        long lastPixel_ = -1;  // the pixel the run's last point wrote
     };
     // Off: batches hand each shape to Line and PSet, one by one (the plain path, to compare with).
     void setBatching(bool on) { batching_ = on; }
@@ -325,7 +325,6 @@ inline void DrawingSurface::Batch::beginRun(std::size_t count)
     // draws one by one or records) point by point, so that keeping stops where point() stops.
     const bool fitsAll = s_.keptOperations() + count <= kMaxKept;
     run_ = direct_ || s_.recording_ || (keep_ && !fitsAll) ? RunMode::OneByOne : keep_ ? RunMode::Keep : RunMode::Draw;
-    lastPixel_ = -1;
 }
 
 // A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise
@@ -341,7 +340,7 @@ public:
     {
         if (!batch_) {
             std::size_t i = 0;
-            while (i < n && !(fromRow <= rows[i] && rows[i] < toRow))
+            while (i < n && !DrawingSurface::Batch::dotted(rows[i], fromRow, toRow))
                 ++i;
             if (i == n)
                 return;

@@ -77,16 +77,16 @@ public:
     }
     void point(double x, double y) { raster::point(t_, x, y, pen_, color_); }
     // A point of a run given in order, such as a line dotted column by column: when it falls in the
-    // pixel that the point before it wrote (`last`, -1 at the start), that pixel already has the
-    // colour and is not written again. Nothing else may draw between the points of a run.
-    void pointAfter(double x, double y, long& last)
+    // pixel that the last such point wrote, that pixel already has the colour (nothing of another
+    // colour is drawn while the writer lives) and is not written again.
+    void pointAfter(double x, double y)
     {
         const long at = pixelInside(t_, x, y, pen_);
         if (at < 0)
             raster::pointOutside(t_, x, y, pen_, color_);
-        else if (at != last)
+        else if (at != lastDotted_)
             t_.bits[at] = color_;
-        last = at;
+        lastDotted_ = at;
     }
     // Writes the gathered vertical runs.
     void flush();
@@ -103,6 +103,7 @@ private:
     // Where the last segment ended, in pixels, and its pixel (-1 outside or with a wide pen).
     double endX_ = std::numeric_limits<double>::quiet_NaN(), endY_ = endX_;
     long endPixel_ = -1;
+    long lastDotted_ = -1;  // the pixel pointAfter last wrote (-1: none, or outside)
     std::uint32_t color_;
     std::vector<std::vector<Run>> columns_;  // the gathered runs of each pixel column
     std::vector<long> used_;  // the columns that hold runs

@@ -56,10 +56,9 @@ DrawingSurface::Batch::~Batch()
 
 void DrawingSurface::Batch::runColumns(int first, const double* rows, std::size_t n, double fromRow, double toRow)
 {
-    const auto dotted = [fromRow, toRow](double row) { return fromRow <= row && row < toRow; };
     if (run_ == RunMode::OneByOne) {
         for (std::size_t i = 0; i < n; ++i)
-            if (dotted(rows[i]))
+            if (dotted(rows[i], fromRow, toRow))
                 point(first + static_cast<int>(i), rows[i]);
         return;
     }
@@ -68,14 +67,14 @@ void DrawingSurface::Batch::runColumns(int first, const double* rows, std::size_
         std::size_t lastDotted = n;
         for (std::size_t i = 0; i < n; ++i) {
             const double row = rows[i];
-            if (!dotted(row))
+            if (!dotted(row, fromRow, toRow))
                 continue;
             const double x = first + static_cast<int>(i);
             if constexpr (keep) {
                 s_.batchPoints_.push_back(x);
                 s_.batchPoints_.push_back(row);
             }
-            writer_.pointAfter(s_.toPx(x), s_.toPx(row), lastPixel_);
+            writer_.pointAfter(s_.toPx(x), s_.toPx(row));
             lastDotted = i;
         }
         if (lastDotted < n) {

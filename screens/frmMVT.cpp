@@ -134,7 +134,7 @@ void frmMVT::HscMVT_Change()
 }
 
 // A line dotted column by column where its row lies in the square. Where the surface batches, the
-// rows are computed in plain arithmetic and dotted as they come; from a row that is not finite on
+// rows are computed in plain arithmetic and dotted a chunk at a time; from a row that is not finite on
 // (or for every column when the surface draws one by one) the checked loop computes and draws
 // column by column, raising where a check fails. `y` takes x and the check to apply after each
 // operation.
@@ -144,7 +144,6 @@ void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
     constexpr double kTop = 100, kBottom = 6500;  // rows of the square
-    const auto inSquare = [](double row) { return kTop <= row && row < kBottom; };
     int column = first;
     if (surface->batching()) {
         // The rows are gathered in chunks, so that the loop computing them does nothing else, and
@@ -169,7 +168,7 @@ void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
     }
     for (; column <= last; ++column) {
         const double row = graph.row(y(graph.worldX(column), [](double v) { return rt::Chk(v); }));
-        if (inSquare(row))
+        if (DrawingSurface::Batch::dotted(row, kTop, kBottom))
             points.point(column, row);
     }
 }
