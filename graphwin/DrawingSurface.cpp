@@ -105,9 +105,10 @@ void DrawingSurface::replay()
             const BatchRanges& r = batchRanges_[static_cast<std::size_t>(k.a)];
             for (std::size_t i = r.points[0]; i < r.points[1]; i += 2)
                 w.point(toPx(batchPoints_[i]), toPx(batchPoints_[i + 1]));
-            for (std::size_t i = r.lines[0]; i < r.lines[1]; i += 4)
-                w.line(toPx(batchLines_[i]), toPx(batchLines_[i + 1]), toPx(batchLines_[i + 2]),
-                       toPx(batchLines_[i + 3]));
+            for (std::size_t p = r.paths[0], from = r.lines[0]; p < r.paths[1]; from = batchPathEnds_[p++])
+                for (std::size_t i = from + 2; i < batchPathEnds_[p]; i += 2)
+                    w.line(toPx(batchLines_[i - 2]), toPx(batchLines_[i - 1]), toPx(batchLines_[i]),
+                           toPx(batchLines_[i + 1]));
             for (std::size_t i = r.bars[0]; i < r.bars[1]; i += 5) {
                 const double* b = batchBars_.data() + i;
                 barOutline(toPx(b[0]), toPx(b[1]), toPx(b[2]), toPx(b[3]), toPx(b[4]),
@@ -180,6 +181,7 @@ void DrawingSurface::Cls()
     texts_.clear();
     batchPoints_.clear();
     batchLines_.clear();
+    batchPathEnds_.clear();
     batchBars_.clear();
     batchRanges_.clear();
     keptComplete_ = true;

@@ -72,7 +72,7 @@ public:
 private:
     // Where a batch's shapes lie in the surface's stores: begin and end, in numbers.
     struct BatchRanges {
-        std::size_t points[2], lines[2], bars[2];
+        std::size_t points[2], lines[2], paths[2], bars[2];
     };
 
 public:
@@ -101,7 +101,12 @@ public:
         static bool dotted(double row, double fromRow, double toRow) { return fromRow <= row && row < toRow; }
 
     private:
-        bool fits();
+        bool fits()
+        {
+            return s_.keptOperations() < kMaxKept || full();
+        }
+        bool full();
+        void keepSegment(double x1, double y1, double x2, double y2);
         void forget();
         DrawingSurface& s_;
         QRgb color_;
@@ -162,12 +167,14 @@ public:
     static constexpr std::size_t kMaxKept = 1500000;
     std::size_t keptOperations() const
     {
-        return kept_.size() + batchPoints_.size() / 2 + batchLines_.size() / 4 + batchBars_.size() / 5 * 3;
+        return kept_.size() + batchPoints_.size() / 2 + (batchLines_.size() / 2 - batchPathEnds_.size()) +
+               batchBars_.size() / 5 * 3;
     }
     std::size_t keptBytes() const
     {
         return kept_.capacity() * sizeof(Kept) + texts_.capacity() * sizeof(KeptText) +
-               (batchPoints_.capacity() + batchLines_.capacity() + batchBars_.capacity()) * sizeof(double);
+               (batchPoints_.capacity() + batchLines_.capacity() + batchBars_.capacity()) * sizeof(double) +
+               batchPathEnds_.capacity() * sizeof(std::size_t);
     }
 
     MouseHandler MouseDown;
@@ -256,11 +263,15 @@ private:
     std::vector<Kept> kept_;
     std::vector<KeptText> texts_;
     bool keptComplete_ = true;
-    // The shapes of the kept batches: points two numbers each, segments four (their ends), bars five.
-    // A batch is of one colour and pen, so the order of its shapes cannot change the picture and each
-    // kind is kept apart in the least room. A kept batch names its ranges in the three stores.
+    // The shapes of the kept batches: points two numbers each, bars five, and segments as paths: the
+    // corners of a path, two numbers each, joined one to the next, so that a segment that begins
+    // exactly where the one before it ended (a connected curve) takes two numbers instead of four.
+    // batchPathEnds_ holds where each path's corners end in batchLines_; a path begins where the one
+    // before it ended. A batch is of one colour and pen, so the order of its shapes cannot change the
+    // picture and each kind is kept apart in the least room. A kept batch names its ranges in the stores.
     std::vector<double> batchPoints_;
     std::vector<double> batchLines_;
+    std::vector<std::size_t> batchPathEnds_;
     std::vector<double> batchBars_;
     std::vector<BatchRanges> batchRanges_;
     QRgb clsColor_ = 0xFFFFFFFFu;
@@ -279,8 +290,7 @@ inline void DrawingSurface::Batch::line(double x1, double y1, double x2, double 
     if (s_.recording_)
         s_.record(DrawOp::Line, x1, y1, x2, y2, color_);
     if (keep_ && fits())
-        for (const double v : {x1, y1, x2, y2})
-            s_.batchLines_.push_back(v);  // within the reserved capacity: no move
+        keepSegment(x1, y1, x2, y2);
     lastX_ = x2;
     lastY_ = y2;
     writer_.line(s_.toPx(x1), s_.toPx(y1), s_.toPx(x2), s_.toPx(y2));

@@ -2,6 +2,8 @@
 // A batch of shapes of one colour on the drawing surface: opened before a per-point loop, written
 // straight into the picture shape by shape, kept for a redraw at another size, closed with one
 // repaint request. The short per-shape members are inline in DrawingSurface.h.
+#include <bit>
+#include <cstdint>
 #include <type_traits>
 
 #include "graphwin/DrawingSurface.h"
@@ -10,6 +12,7 @@ DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
     : s_(surface), color_(color),
       writer_(surface.target(), surface.penPx_, color), first_{{surface.batchPoints_.size(), 0},
                                                                {surface.batchLines_.size(), 0},
+                                                               {surface.batchPathEnds_.size(), 0},
                                                                {surface.batchBars_.size(), 0}},
       lastX_(surface.CurrentX), lastY_(surface.CurrentY), keep_(surface.keptComplete_ && surface.batching_),
       direct_(!surface.batching_)
@@ -17,16 +20,15 @@ DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
     if (keep_ && s_.batchLines_.capacity() == 0) {  // once: later batches append without moving the earlier
         s_.batchPoints_.reserve(kMaxKept * 2);
         s_.batchLines_.reserve(kMaxKept * 4);
+        s_.batchPathEnds_.reserve(kMaxKept);
         s_.batchBars_.reserve(kMaxKept / 3 * 5 + 5);
     }
 }
 
-// Whether one more shape fits in what the surface keeps; when it does not, the batch keeps nothing
-// and the surface no longer keeps a complete picture.
-bool DrawingSurface::Batch::fits()
+// No more shape fits in what the surface keeps (fits): the batch keeps nothing and the surface no
+// longer keeps a complete picture.
+bool DrawingSurface::Batch::full()
 {
-    if (s_.keptOperations() < kMaxKept)
-        return true;
     keep_ = false;
     forget();
     s_.keptComplete_ = false;
@@ -44,6 +46,7 @@ DrawingSurface::Batch::~Batch()
     BatchRanges r = first_;
     r.points[1] = s_.batchPoints_.size();
     r.lines[1] = s_.batchLines_.size();
+    r.paths[1] = s_.batchPathEnds_.size();
     r.bars[1] = s_.batchBars_.size();
     if (!keep_ || (r.points[0] == r.points[1] && r.lines[0] == r.lines[1] && r.bars[0] == r.bars[1]))
         return;
@@ -88,10 +91,29 @@ void DrawingSurface::Batch::runColumns(int first, const double* rows, std::size_
         dot(std::false_type());
 }
 
+// A segment that begins exactly (to the bit: the sign of a zero included) where the batch's last kept
+// segment ended adds its end to that path; any other begins a new path of two corners.
+void DrawingSurface::Batch::keepSegment(double x1, double y1, double x2, double y2)
+{
+    std::vector<double>& corners = s_.batchLines_;  // within the reserved capacity: no move
+    std::vector<std::size_t>& ends = s_.batchPathEnds_;
+    const auto same = [](double a, double b) { return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b); };
+    if (ends.size() > first_.paths[0] && same(corners.end()[-2], x1) && same(corners.back(), y1)) {
+        corners.push_back(x2);
+        corners.push_back(y2);
+        ends.back() = corners.size();
+        return;
+    }
+    for (const double v : {x1, y1, x2, y2})
+        corners.push_back(v);
+    ends.push_back(corners.size());
+}
+
 // Drops the batch's shapes from the surface's stores.
 void DrawingSurface::Batch::forget()
 {
     s_.batchPoints_.resize(first_.points[0]);
     s_.batchLines_.resize(first_.lines[0]);
+    s_.batchPathEnds_.resize(first_.paths[0]);
     s_.batchBars_.resize(first_.bars[0]);
 }

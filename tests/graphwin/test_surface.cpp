@@ -81,3 +81,32 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
     s.setZoom(1);
     EXPECT_EQ(grab(s), before);
 }
+
+// Kept batches drawn again at another size: each batch in its own colour, its segments joined into
+// paths where one begins where the last ended, and never joined to the batch before.
+TEST(Zoom, KeptBatchesOfSegmentsAreDrawnAgainAsTheyWereDrawnOneByOne)
+{
+    struct Segment {
+        double x1, y1, x2, y2;
+    };
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const std::vector<std::pair<QRgb, std::vector<Segment>>> batches = {
+        {kRed, {{300, 300, 1200, 900}, {1200, 900, 1500, 300}, {1500, 300, 1507, 301}}},
+        {kBlue, {{1507, 301, 2700, 2700}, {2700, 2700, 300, 2500}}},  // goes on from the red end
+        {kRed, {{nan, 0, 600, 600}, {600, 600, 600, 2900}, {0, 1500, 2900, 1500}, {2900, 1500, 2900, 100}}},
+        {kBlue, {{-0.0, 0, 900, 0}, {0, 0, 0, 900}}},
+    };
+    DrawingSurface one(3000, 3000), batched(3000, 3000);
+    one.setBatching(false);
+    for (DrawingSurface* s : {&one, &batched})
+        for (const auto& [colour, segments] : batches) {
+            DrawingSurface::Batch b(*s, colour);
+            for (const Segment& g : segments)
+                b.line(g.x1, g.y1, g.x2, g.y2);
+        }
+    for (double zoom : {1.0, 2.0, 0.5, 3.25}) {
+        one.setZoom(zoom);
+        batched.setZoom(zoom);
+        EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000))) << zoom;
+    }
+}
