@@ -89,6 +89,9 @@ public:
         Batch& operator=(const Batch&) = delete;
         ~Batch();
         void line(double x1, double y1, double x2, double y2);
+        // n segments, four numbers each (x1, y1, x2, y2): what line() gives for each, in order, with
+        // its checks per shape made once for them all.
+        void lines(const double* ends, std::size_t n);
         void point(double x, double y);
         // The outline of a bar standing on the row `base` (see barOutline), kept in five numbers.
         void bar(double a, double top1, double b, double top2, double base);
@@ -363,6 +366,7 @@ public:
     }
 
 private:
+    friend class ChunkedLines;
     DrawingSurface::Batch& open()
     {
         if (!batch_)
@@ -372,6 +376,44 @@ private:
     DrawingSurface& surface_;
     FirstUseColour& colour_;
     std::optional<DrawingSurface::Batch> batch_;
+};
+
+// Segments gathered in chunks on the stack and handed to a lazy batch a chunk at a time, so that the
+// loop that computes them does nothing else. The batch opens (its colour looked up) at the first
+// segment, where line() would open it; the segments gathered when a run-time error ends the loop are
+// drawn as this goes out of scope, before the batch closes (declare it after the batch).
+class ChunkedLines {
+public:
+    explicit ChunkedLines(LazyBatch& batch) : batch_(batch), oneByOne_(!batch.surface_.batching()) { }
+    ChunkedLines(const ChunkedLines&) = delete;
+    ChunkedLines& operator=(const ChunkedLines&) = delete;
+    ~ChunkedLines() { flush(); }
+    void line(double x1, double y1, double x2, double y2)
+    {
+        if (oneByOne_) {  // the plain path, segment by segment, to compare with
+            batch_.open().line(x1, y1, x2, y2);
+            return;
+        }
+        if (n_ == 0)
+            batch_.open();
+        double* e = ends_ + 4 * n_;
+        e[0] = x1, e[1] = y1, e[2] = x2, e[3] = y2;
+        if (++n_ == kChunk)
+            flush();
+    }
+    void flush()
+    {
+        if (n_ > 0)
+            batch_.open().lines(ends_, n_);
+        n_ = 0;
+    }
+
+private:
+    static constexpr std::size_t kChunk = 256;
+    LazyBatch& batch_;
+    bool oneByOne_;
+    std::size_t n_ = 0;
+    double ends_[4 * kChunk];
 };
 
 // Twips per logical pixel for a widget placed on a surface: 15 at the normal size, less when the

@@ -109,6 +109,32 @@ void DrawingSurface::Batch::keepSegment(double x1, double y1, double x2, double 
     ends.push_back(corners.size());
 }
 
+void DrawingSurface::Batch::lines(const double* ends, std::size_t n)
+{
+    if (n == 0)
+        return;
+    // One by one where line() would check something per segment: drawing through Line, recording,
+    // or keeping shapes when not all of these fit in what the surface keeps.
+    if (direct_ || s_.recording_ || (keep_ && s_.keptOperations() + n > kMaxKept)) {
+        for (const double* e = ends; e != ends + 4 * n; e += 4)
+            line(e[0], e[1], e[2], e[3]);
+        return;
+    }
+    auto draw = [&](auto keep) {
+        for (const double* e = ends; e != ends + 4 * n; e += 4) {
+            if constexpr (keep)
+                keepSegment(e[0], e[1], e[2], e[3]);
+            writer_.line(s_.toPx(e[0]), s_.toPx(e[1]), s_.toPx(e[2]), s_.toPx(e[3]));
+        }
+    };
+    if (keep_)
+        draw(std::true_type());
+    else
+        draw(std::false_type());
+    lastX_ = ends[4 * n - 2];
+    lastY_ = ends[4 * n - 1];
+}
+
 // Drops the batch's shapes from the surface's stores.
 void DrawingSurface::Batch::forget()
 {

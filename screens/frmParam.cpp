@@ -172,6 +172,7 @@ void frmParam::cmdPlotto_Click()
     const bool points = optPoints->isChecked();
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
     LazyBatch figure(*surface, colour);
+    ChunkedLines segments(figure);
     rt::cleanVectorStateForHotLoop();
     for (std::int32_t i = 1; i <= n; ++i) {
         const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
@@ -182,7 +183,7 @@ void frmParam::cmdPlotto_Click()
             if (inside(c1, r1))
                 figure.point(c1, r1);
         } else if (inside(c1, r1)) {
-            figure.line(c0, r0, c1, r1);
+            segments.line(c0, r0, c1, r1);
         }
         c0 = c1;
         r0 = r1;
