@@ -235,7 +235,8 @@ private:
 
     // A twip coordinate in device pixels. Multiplying by the reciprocal leaves multiples of 15 an
     // ulp short of their whole pixel; the small bias puts them back on it.
-    double toPx(double twips) const { return twips * pxPerTwip_ + 1e-7; }
+    double toPx(double twips) const { return toPx(twips, pxPerTwip_); }
+    static double toPx(double twips, double pxPerTwip) { return twips * pxPerTwip + 1e-7; }
     raster::Target target() const { return {bits_, stride_, widthPx_, heightPx_}; }
     void record(DrawOp::Kind kind, double x1, double y1, double x2, double y2, QRgb color, const QString& text = {});
     void touched()

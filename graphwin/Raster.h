@@ -88,6 +88,38 @@ public:
             t_.bits[at] = color_;
         lastDotted_ = at;
     }
+    // pointAfter for each point that at(i, x, y) gives, i < n (at returns false for none), with the
+    // writer's state held in locals for the loop. Returns the last i given, or n when none was.
+    template <class At>
+    std::size_t pointsAfter(std::size_t n, At at)
+    {
+        std::size_t given = n;
+        double x, y;
+        if (pen_ > 1) {
+            for (std::size_t i = 0; i < n; ++i)
+                if (at(i, x, y)) {
+                    pointAfter(x, y);
+                    given = i;
+                }
+            return given;
+        }
+        const Target t = t_;
+        const std::uint32_t color = color_;
+        long last = lastDotted_;
+        for (std::size_t i = 0; i < n; ++i) {
+            if (!at(i, x, y))
+                continue;
+            given = i;
+            const long p = pixelInside(t, x, y, 1);
+            if (p < 0)
+                pointOutside(t_, x, y, 1, color);  // the member: the local's address stays unknown
+            else if (p != last)
+                t.bits[p] = color;
+            last = p;
+        }
+        lastDotted_ = last;
+        return given;
+    }
     // Writes the gathered vertical runs.
     void flush();
 

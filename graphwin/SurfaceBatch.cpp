@@ -66,20 +66,21 @@ void DrawingSurface::Batch::runColumns(int first, const double* rows, std::size_
         return;
     }
     // One loop per mode, with nothing in it but the point's own work.
+    const double pxPerTwip = s_.pxPerTwip_;  // in a register: a point outside calls out of the loop
     auto dot = [&](auto keep) {
-        std::size_t lastDotted = n;
-        for (std::size_t i = 0; i < n; ++i) {
+        const std::size_t lastDotted = writer_.pointsAfter(n, [&](std::size_t i, double& px, double& py) {
             const double row = rows[i];
             if (!dotted(row, fromRow, toRow))
-                continue;
+                return false;
             const double x = first + static_cast<int>(i);
             if constexpr (keep) {
                 s_.batchPoints_.push_back(x);
                 s_.batchPoints_.push_back(row);
             }
-            writer_.pointAfter(s_.toPx(x), s_.toPx(row));
-            lastDotted = i;
-        }
+            px = toPx(x, pxPerTwip);
+            py = toPx(row, pxPerTwip);
+            return true;
+        });
         if (lastDotted < n) {
             lastX_ = first + static_cast<int>(lastDotted);
             lastY_ = rows[lastDotted];
