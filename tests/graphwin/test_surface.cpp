@@ -110,3 +110,29 @@ TEST(Zoom, KeptBatchesOfSegmentsAreDrawnAgainAsTheyWereDrawnOneByOne)
         EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000))) << zoom;
     }
 }
+
+// Column runs in chunks: the kept store counts their dotted points as the one-by-one drawing counts
+// its points (and one more for each kept batch), and both agree at another size once full.
+TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
+{
+    DrawingSurface one(3000, 3000), batched(3000, 3000);
+    one.setBatching(false);
+    std::vector<double> rows(3000);
+    for (int batch = 0; batch < 800; ++batch) {
+        for (std::size_t i = 0; i < rows.size(); ++i)  // a third of the rows lie outside the band
+            rows[i] = i % 3 == 0 ? -5.0 * batch : std::fmod(7.3 * batch + 0.3 * static_cast<double>(i), 2990);
+        for (DrawingSurface* s : {&one, &batched}) {
+            DrawingSurface::Batch b(*s, batch % 2 ? kRed : kBlue);
+            b.beginRun(rows.size());
+            for (std::size_t from = 0; from < rows.size(); from += 512)
+                b.runColumns(static_cast<int>(from), rows.data() + from, std::min<std::size_t>(512, rows.size() - from),
+                             0, 2990);
+        }
+        if (batched.keptOperations() + rows.size() < DrawingSurface::kMaxKept)
+            ASSERT_EQ(batched.keptOperations() - one.keptOperations(), batch + 1u) << batch;
+    }
+    EXPECT_GE(one.keptOperations(), DrawingSurface::kMaxKept - 2000);  // the store filled up on the way
+    batched.setZoom(2);
+    one.setZoom(2);
+    EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000)));
+}
