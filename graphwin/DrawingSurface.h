@@ -104,10 +104,7 @@ public:
         static bool dotted(double row, double fromRow, double toRow) { return fromRow <= row && row < toRow; }
 
     private:
-        bool fits()
-        {
-            return s_.keptOperations() < kMaxKept || full();
-        }
+        bool fits() { return s_.keptOperations() < kMaxKept || full(); }
         bool full();
         void keepSegment(double x1, double y1, double x2, double y2);
         void forget();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A batch of shapes of one colour on the drawing surface: opened before a per-point loop, written
-// straight into the picture shape by shape, kept for a redraw at another size, closed with one
-// repaint request. The short per-shape members are inline in DrawingSurface.h.
+// straight into the picture shape by shape or a chunk at a time, kept for a redraw at another size,
+// closed with one repaint request. The short per-shape members are inline in DrawingSurface.h.
 #include <bit>
 #include <cstdint>
 #include <type_traits>
@@ -98,7 +98,9 @@ void DrawingSurface::Batch::keepSegment(double x1, double y1, double x2, double 
 {
     std::vector<double>& corners = s_.batchLines_;  // within the reserved capacity: no move
     std::vector<std::size_t>& ends = s_.batchPathEnds_;
-    const auto same = [](double a, double b) { return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b); };
+    const auto same = [](double a, double b) {
+        return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+    };
     if (ends.size() > first_.paths[0] && same(corners.end()[-2], x1) && same(corners.back(), y1)) {
         corners.push_back(x2);
         corners.push_back(y2);
