@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// Where the screens' functions come from: a family of the catalogues, selected by FunctionId and
+// the other family numbers, or a function the teacher typed. A screen evaluates through the
+// procedures below and does not need to know which it has. A family keeps its rules (an undefined
+// point is 0, overflows raise the run-time errors); a typed function never raises and yields NaN
+// wherever it is undefined or not finite, which the screens draw as a gap and report in words.
+#include <memory>
+#include <string>
+
+#include "funclib/TypedExpression.h"
+
+namespace FuncGlobals {
+
+// A typed y = f(x) in x and A to E, with its exact derivative.
+struct TypedFunction {
+    std::unique_ptr<TypedExpression> f;
+    // Reads `text`; null with `error` set when it cannot be taken.
+    static std::shared_ptr<const TypedFunction> make(const std::string& text, std::string& error);
+    double value(double x) const { return (*f)(x); }
+    // f'(x), NaN where f or its derivative is undefined or the derivative could not be found.
+    double slope(double x) const;
+};
+
+// Typed rates dy and dx of the slope field, in x, y and A to F.
+struct TypedRates {
+    std::unique_ptr<TypedExpression> dy, dx;
+    static std::shared_ptr<const TypedRates> make(const std::string& dyText, const std::string& dxText,
+                                                  std::string& error);
+};
+
+// A typed parametric curve x(t), y(t) in t and A to F.
+struct TypedCurve {
+    std::unique_ptr<TypedExpression> x, y;
+    static std::shared_ptr<const TypedCurve> make(const std::string& xText, const std::string& yText,
+                                                  std::string& error);
+};
+
+// The typed functions in use instead of the families, or null while the families are in use. Each
+// screen installs its own when it is activated and when the teacher types one, as it copies its
+// coefficients.
+extern const TypedFunction* TypedExplicit;
+extern const TypedRates* TypedRate;
+extern const TypedCurve* TypedParametric;
+
+// y = f(x) and f'(x): the typed function in use, else YFunc and YPrimeFunc.
+double ExplicitValue(const double& x);
+double ExplicitSlope(const double& x);
+// True where the function in use is defined at x (YDefined for a family).
+bool ExplicitDefined(const double& x);
+
+// dy and dx at (x, y) and the two Runge-Kutta increments: the typed rates in use, else DyFunc,
+// DxFunc, Runga2Step and Runga4Step. With typed rates the increments follow the same stages and
+// give NaN where a stage is undefined or dx is 0.
+double RateDy(const double& x, const double& y);
+double RateDx(const double& x, const double& y);
+double RateStep2(const double& x, const double& y, const double& h);
+double RateStep4(const double& x, const double& y, const double& h);
+
+// x(t) and y(t): the typed curve in use, else XtFunc and YtFunc.
+double CurveX(const float& t);
+double CurveY(const float& t);
+
+}  // namespace FuncGlobals

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Typed functions: what the reader takes and how it understands it, what it refuses and where, the
+// values (gaps as NaN) and the exact derivatives, each against values worked out by hand.
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
+
+using namespace FuncGlobals;
+
+namespace {
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+std::unique_ptr<TypedExpression> read(const std::string& text, VariableNames vars = {"x"})
+{
+    std::string error;
+    auto e = TypedExpression::compile(text, vars, error);
+    EXPECT_TRUE(e) << text << ": " << error;
+    return e;
+}
+
+void expectValue(double expected, double actual, const std::string& what)
+{
+    if (std::isnan(expected))
+        EXPECT_TRUE(std::isnan(actual)) << what << " gave " << actual;
+    else
+        EXPECT_NEAR(expected, actual, 1e-12 * std::max(1.0, std::fabs(expected))) << what;
+}
+
+}  // namespace
+
+struct ValueCase {
+    const char* name;
+    const char* text;
+    double x;
+    double value;  // NaN: a gap
+    double slope;  // NaN: no derivative there
+};
+
+TEST(TypedExpression, ValuesAndExactDerivatives)
+{
+    Coefficients = {2, 3, 0.5, -1, 4, 0};
+    const double e = std::exp(1.0), pi = std::acos(-1.0);
+    const ValueCase cases[] = {
+        {"textbook cubic", "x^3 - 2*x - 5", 2, -1, 10},
+        {"coefficients inside", "A*sin(B*x + C) + D*x + E", 0.25, 2 * std::sin(1.25) - 0.25 + 4, 6 * std::cos(1.25) - 1},
+        {"power before unary minus", "-x^2", 3, -9, -6},
+        {"power groups to the right", "2^3^2", 0, 512, 0},
+        {"negative exponent", "2^-x", 1, 0.5, -0.5 * std::log(2.0)},
+        {"gaussian", "exp(-x^2)", 1, std::exp(-1.0), -2 * std::exp(-1.0)},
+        {"sinc", "sin(x)/x", 0.5, std::sin(0.5) / 0.5, std::cos(0.5) / 0.5 - std::sin(0.5) / 0.25},
+        {"sinc at 0 is a gap", "sin(x)/x", 0, kNaN, kNaN},
+        {"ln is natural", "ln(x)", e, 1, 1 / e},
+        {"log is natural too", "log(x)", e * e, 2, 1 / (e * e)},
+        {"ln of a negative is a gap", "ln(x)", -1, kNaN, kNaN},
+        {"semicircle", "sqrt(4 - x^2)", 1, std::sqrt(3.0), -1 / std::sqrt(3.0)},
+        {"outside the semicircle", "sqrt(4 - x^2)", 3, kNaN, kNaN},
+        {"abs left", "abs(x)", -2, 2, -1},
+        {"abs right", "abs(x)", 2, 2, 1},
+        {"abs corner has no slope", "abs(x)", 0, 0, kNaN},
+        {"witch of Agnesi", "1/(1 + x^2)", 1, 0.5, -0.5},
+        {"pole is a gap", "1/x", 0, kNaN, kNaN},
+        {"overflow is a gap", "exp(x)", 1000, kNaN, kNaN},
+        {"constants", "e^x + pi", 0, 1 + pi, 1},
+        {"capitalised function names", "Sin(x) + LN(x)", 1, std::sin(1.0), std::cos(1.0) + 1},
+        {"reciprocal trigonometry", "sec(x) + csc(x) + cot(x)", 1,
+         1 / std::cos(1.0) + 1 / std::sin(1.0) + 1 / std::tan(1.0),
+         std::tan(1.0) / std::cos(1.0) - 1 / (std::sin(1.0) * std::tan(1.0)) - 1 / std::pow(std::sin(1.0), 2)},
+        {"python power", "x**2", 3, 9, 6},
+        {"decimal exponent", "1.5e1*x", 2, 30, 15},
+        {"blanks anywhere", "  x  *  x ", 4, 16, 8},
+        {"huge constant power folded, not expanded", "9^(9^9) + x", 1, kNaN, kNaN},
+    };
+    for (const ValueCase& c : cases) {
+        auto f = read(c.text);
+        if (!f)
+            continue;
+        expectValue(c.value, (*f)(c.x), std::string(c.name) + " value");
+        TypedFunction typed;
+        typed.f = std::move(f);
+        expectValue(c.slope, typed.slope(c.x), std::string(c.name) + " slope");
+    }
+}
+
+struct RefusalCase {
+    const char* text;
+    const char* message;
+};
+
+TEST(TypedExpression, RefusesWithReasonAndPlace)
+{
+    const RefusalCase cases[] = {
+        {"sinn(x)", "unknown name 'sinn' at 1"},
+        {"sin(x + (1 - x)", "missing ')' at 16"},
+        {"(x + 1", "missing ')' at 7"},
+        {"x + 1)", "unexpected ')' at 6"},
+        {"2x", "missing '*': write 2*x for a product at 2"},
+        {"3 sin(x)", "missing '*': write 3*sin for a product at 3"},
+        {"x(x + 1)", "missing '*': write x*( for a product at 2"},
+        {"x +", "missing a term after '+' at 4"},
+        {"x * / 2", "missing a term before '/' at 5"},
+        {"", "nothing typed: type a function, for example x^2 - 4 at 1"},
+        {"sin x", "missing '(' after 'sin' at 5"},
+        {"y + 1", "unknown name 'y' at 1"},
+        {"a*x", "unknown name 'a' at 1 (the coefficients are the capitals A to F)"},
+        {"Ax", "unknown name 'Ax' at 1: write A*x for a product"},
+        {"x # 2", "unexpected character '#' at 3"},
+        {"x × 2", "unexpected character '×' at 3"},
+        {"max(x, 2)", "unknown name 'max' at 1"},
+        {"sin(x, 2)", "unexpected ',' (each function takes one argument) at 6"},
+        {"1e999", "number too large at 1"},
+    };
+    for (const RefusalCase& c : cases) {
+        std::string error;
+        EXPECT_FALSE(TypedExpression::compile(c.text, {"x"}, error)) << c.text;
+        EXPECT_EQ(error, c.message) << c.text;
+    }
+    std::string error;
+    EXPECT_FALSE(TypedExpression::compile(std::string(TypedExpression::MaxLength + 1, 'x'), {"x"}, error));
+    EXPECT_EQ(error, "too long: at most 240 characters");
+    EXPECT_FALSE(TypedExpression::compile(std::string(100, '(') + "x" + std::string(100, ')'), {"x"}, error));
+    EXPECT_EQ(error, "too deeply nested at 60");
+}
+
+TEST(TypedExpression, UnderstoodTextShowsTheOrderOfOperations)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"-x^2", "-(x^2)"},
+        {"2^3^2", "2^(3^2)"},
+        {"x^3-2*x-5", "x^3 - 2*x - 5"},
+        {"x-(1-x)", "x - (1 - x)"},
+        {"(x-1)-x", "x - 1 - x"},
+        {"1/(2*x)", "1/(2*x)"},
+        {"(-x)^2", "(-x)^2"},
+        {"LOG(x)", "ln(x)"},
+        {"arcsin(x)", "asin(x)"},
+    };
+    for (const auto& [typed, understood] : cases) {
+        if (auto f = read(typed))
+            EXPECT_EQ(f->understood(), understood) << typed;
+    }
+    auto cubic = read("x^3 - 2*x - 5");
+    ASSERT_TRUE(cubic && cubic->derivative());
+    EXPECT_EQ(cubic->derivativeText(), "-2+3*x^2");
+    auto logarithm = read("ln(x^2)");
+    ASSERT_TRUE(logarithm && logarithm->derivative());
+    EXPECT_EQ(logarithm->derivativeText(), "2*x^(-1)");
+}
+
+TEST(TypedExpression, ReadsTheCoefficientsAtEachEvaluation)
+{
+    auto f = read("A*x + B");
+    ASSERT_TRUE(f);
+    Coefficients = {2, 1, 0, 0, 0, 0};
+    EXPECT_EQ((*f)(3), 7);
+    Coefficients.A = -1;
+    EXPECT_EQ((*f)(3), -2);
+    ASSERT_TRUE(f->derivative());
+    EXPECT_EQ((*f->derivative())(3), -1);
+}
+
+TEST(TypedSources, RatesAndCurvesName_TheTextAtFault)
+{
+    std::string error;
+    EXPECT_FALSE(TypedRates::make("x - y^2", "1 +", error));
+    EXPECT_EQ(error, "dx: missing a term after '+' at 4");
+    EXPECT_FALSE(TypedRates::make("x - t", "1", error));
+    EXPECT_EQ(error, "dy: unknown name 't' at 5");
+    EXPECT_FALSE(TypedCurve::make("t - sin(t)", "1 - cos(x)", error));
+    EXPECT_EQ(error, "y(t): unknown name 'x' at 9");
+    auto rates = TypedRates::make("x - y^2", "1", error);
+    ASSERT_TRUE(rates) << error;
+    EXPECT_EQ((*rates->dy)(2, 3), -7);
+    auto curve = TypedCurve::make("t - sin(t)", "1 - cos(t)", error);
+    ASSERT_TRUE(curve) << error;
+    EXPECT_DOUBLE_EQ((*curve->x)(std::acos(-1.0)), std::acos(-1.0));
+}
+
+TEST(TypedSources, DispatchFallsBackToTheFamilies)
+{
+    std::string error;
+    auto typed = TypedFunction::make("x^2 - 4", error);
+    ASSERT_TRUE(typed);
+    FunctionId = 2;
+    Coefficients = {1, 0, 1, 0, 0, 0};  // family 2: x^2 + 1
+    TypedExplicit = nullptr;
+    EXPECT_EQ(ExplicitValue(3), 10);
+    EXPECT_EQ(ExplicitSlope(3), 6);
+    TypedExplicit = typed.get();
+    EXPECT_EQ(ExplicitValue(3), 5);
+    EXPECT_EQ(ExplicitSlope(3), 6);
+    EXPECT_FALSE(ExplicitDefined(std::nan("")));
+    EXPECT_EQ(YFunc(3), 10);  // the family procedure itself is untouched by the typed selection
+    TypedExplicit = nullptr;
+
+    // dy = x with dx = 1 from (0, 0), h = 1: the same increments as the families' worked example.
+    auto rates = TypedRates::make("x", "1", error);
+    ASSERT_TRUE(rates);
+    TypedRate = rates.get();
+    EXPECT_EQ(RateStep2(0, 0, 1), 0.5);
+    EXPECT_EQ(RateStep4(0, 0, 1), 0.5);
+    auto vertical = TypedRates::make("1", "x", error);
+    TypedRate = vertical.get();
+    EXPECT_TRUE(std::isnan(RateStep4(0, 0, 1)));  // dx = 0 at the first stage: no step, no error
+    TypedRate = nullptr;
+}
