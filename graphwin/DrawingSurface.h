@@ -115,7 +115,10 @@ public:
         double lastX_, lastY_;
         bool keep_;  // whether the surface still keeps what is drawn, for a redraw at another size
         bool direct_;  // shape by shape through Line and PSet, when the surface does not batch
+        // How `count` shapes given together are drawn: one by one through point() and line(), or in
+        // one loop that keeps them all or keeps none.
         enum class RunMode { OneByOne, Keep, Draw } run_ = RunMode::OneByOne;
+        RunMode modeFor(std::size_t count) const;
     };
     // Off: batches hand each shape to Line and PSet, one by one (the plain path, to compare with).
     void setBatching(bool on) { batching_ = on; }
@@ -330,13 +333,15 @@ inline void DrawingSurface::Batch::bar(double a, double top1, double b, double t
                [this](double x1, double y1, double x2, double y2) { writer_.line(x1, y1, x2, y2); });
 }
 
-inline void DrawingSurface::Batch::beginRun(std::size_t count)
+inline DrawingSurface::Batch::RunMode DrawingSurface::Batch::modeFor(std::size_t count) const
 {
-    // Kept all at once when every point fits in what the surface keeps; otherwise (and when the batch
-    // draws one by one or records) point by point, so that keeping stops where point() stops.
+    // Kept all at once when every shape fits in what the surface keeps; otherwise (and when the batch
+    // draws one by one or records) shape by shape, so that keeping stops where point() and line() stop.
     const bool fitsAll = s_.keptOperations() + count <= kMaxKept;
-    run_ = direct_ || s_.recording_ || (keep_ && !fitsAll) ? RunMode::OneByOne : keep_ ? RunMode::Keep : RunMode::Draw;
+    return direct_ || s_.recording_ || (keep_ && !fitsAll) ? RunMode::OneByOne : keep_ ? RunMode::Keep : RunMode::Draw;
 }
+
+inline void DrawingSurface::Batch::beginRun(std::size_t count) { run_ = modeFor(count); }
 
 // A batch opened at its first shape, in a colour looked up only then: looking a colour up may raise
 // a run-time error, and it must come where the first shape is drawn, as a plain PSet would raise it.

@@ -76,43 +76,27 @@ public:
         anyLine(x1, y1, x2, y2);
     }
     void point(double x, double y) { raster::point(t_, x, y, pen_, color_); }
-    // A point of a run given in order, such as a line dotted column by column: when it falls in the
-    // pixel that the last such point wrote, that pixel already has the colour (nothing of another
-    // colour is drawn while the writer lives) and is not written again.
-    void pointAfter(double x, double y)
-    {
-        const long at = pixelInside(t_, x, y, pen_);
-        if (at < 0)
-            raster::pointOutside(t_, x, y, pen_, color_);
-        else if (at != lastDotted_)
-            t_.bits[at] = color_;
-        lastDotted_ = at;
-    }
-    // pointAfter for each point that at(i, x, y) gives, i < n (at returns false for none), with the
-    // writer's state held in locals for the loop. Returns the last i given, or n when none was.
+    // The points of a run given in order, such as a line dotted column by column: each point that
+    // at(i, x, y) gives, i < n (at returns false for none), as point() writes it, except that a point
+    // in the pixel the run's last point wrote leaves it alone: it already has the colour (nothing of
+    // another colour is drawn while the writer lives). The writer's state is held in locals for the
+    // loop. Returns the last i given, or n when none was.
     template <class At>
     std::size_t pointsAfter(std::size_t n, At at)
     {
         std::size_t given = n;
         double x, y;
-        if (pen_ > 1) {
-            for (std::size_t i = 0; i < n; ++i)
-                if (at(i, x, y)) {
-                    pointAfter(x, y);
-                    given = i;
-                }
-            return given;
-        }
         const Target t = t_;
+        const int pen = pen_;
         const std::uint32_t color = color_;
         long last = lastDotted_;
         for (std::size_t i = 0; i < n; ++i) {
             if (!at(i, x, y))
                 continue;
             given = i;
-            const long p = pixelInside(t, x, y, 1);
+            const long p = pixelInside(t, x, y, pen);
             if (p < 0)
-                pointOutside(t_, x, y, 1, color);  // the member: the local's address stays unknown
+                pointOutside(t_, x, y, pen, color);  // the member: the local's address stays unknown
             else if (p != last)
                 t.bits[p] = color;
             last = p;
@@ -135,7 +119,7 @@ private:
     // Where the last segment ended, in pixels, and its pixel (-1 outside or with a wide pen).
     double endX_ = std::numeric_limits<double>::quiet_NaN(), endY_ = endX_;
     long endPixel_ = -1;
-    long lastDotted_ = -1;  // the pixel pointAfter last wrote (-1: none, or outside)
+    long lastDotted_ = -1;  // the pixel pointsAfter last wrote (-1: none, or outside)
     std::uint32_t color_;
     std::vector<std::vector<Run>> columns_;  // the gathered runs of each pixel column
     std::vector<long> used_;  // the columns that hold runs

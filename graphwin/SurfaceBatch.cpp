@@ -116,9 +116,8 @@ void DrawingSurface::Batch::lines(const double* ends, std::size_t n)
 {
     if (n == 0)
         return;
-    // One by one where line() would check something per segment: drawing through Line, recording,
-    // or keeping shapes when not all of these fit in what the surface keeps.
-    if (direct_ || s_.recording_ || (keep_ && s_.keptOperations() + n > kMaxKept)) {
+    const RunMode mode = modeFor(n);
+    if (mode == RunMode::OneByOne) {
         for (const double* e = ends; e != ends + 4 * n; e += 4)
             line(e[0], e[1], e[2], e[3]);
         return;
@@ -130,7 +129,7 @@ void DrawingSurface::Batch::lines(const double* ends, std::size_t n)
             writer_.line(s_.toPx(e[0]), s_.toPx(e[1]), s_.toPx(e[2]), s_.toPx(e[3]));
         }
     };
-    if (keep_)
+    if (mode == RunMode::Keep)
         draw(std::true_type());
     else
         draw(std::false_type());

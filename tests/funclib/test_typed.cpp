@@ -123,7 +123,7 @@ TEST(TypedExpression, RefusesWithReasonAndPlace)
     EXPECT_FALSE(TypedExpression::compile(std::string(TypedExpression::MaxLength + 1, 'x'), {"x"}, error));
     EXPECT_EQ(error, "too long: at most 240 characters");
     EXPECT_FALSE(TypedExpression::compile(std::string(100, '(') + "x" + std::string(100, ')'), {"x"}, error));
-    EXPECT_EQ(error, "too deeply nested at 60");
+    EXPECT_EQ(error, "too deeply nested at 61");
 }
 
 TEST(TypedExpression, UnderstoodTextShowsTheOrderOfOperations)
@@ -140,8 +140,9 @@ TEST(TypedExpression, UnderstoodTextShowsTheOrderOfOperations)
         {"arcsin(x)", "asin(x)"},
     };
     for (const auto& [typed, understood] : cases) {
-        if (auto f = read(typed))
-            EXPECT_EQ(f->understood(), understood) << typed;
+        auto f = read(typed);
+        ASSERT_TRUE(f);
+        EXPECT_EQ(f->understood(), understood) << typed;
     }
     auto cubic = read("x^3 - 2*x - 5");
     ASSERT_TRUE(cubic && cubic->derivative());
