@@ -152,7 +152,13 @@ void GraphScreen::buildButtons()
     // clang-format on
 }
 
-QMenu* GraphScreen::addMenu(const QString& caption) { return menuBar->addMenu(caption); }
+QMenu* GraphScreen::addMenu(const QString& caption)
+{
+    // The Tools menu stays last: a screen's own menus go before it.
+    auto* menu = new QMenu(caption, menuBar);
+    menuBar->insertMenu(mnuTools, menu);
+    return menu;
+}
 
 void GraphScreen::buildMenus()
 {
@@ -167,6 +173,98 @@ void GraphScreen::buildMenus()
         mnuSelect = select->menuAction();
         startMenuArray(select, mnuFunc);
     }
+    buildToolsMenu();
+}
+
+void GraphScreen::buildToolsMenu()
+{
+    toolsMenu_ = menuBar->addMenu(QStringLiteral("&Tools"));
+    mnuTools = toolsMenu_->menuAction();
+    const QString entry = config_.functionMenu ? QStringLiteral("&Type a Function...") : QStringLiteral("&Type...");
+    mnuTypeFunction = toolsMenu_->addAction(entry);
+    mnuTypeFunction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
+    mnuTypeFunction->setShortcutContext(Qt::WindowShortcut);
+    connect(mnuTypeFunction, &QAction::triggered, this, [this] { guarded([this] { mnuTypeFunction_Click(); }); });
+}
+
+void GraphScreen::rememberTyped(const QString& caption, std::function<void()> apply)
+{
+    for (QAction* old : history_)
+        if (old->text() == caption) {
+            history_.removeOne(old);
+            delete old;
+            break;
+        }
+    if (!historySeparator_)
+        historySeparator_ = toolsMenu_->insertSeparator(nullptr);
+    QAction* before = history_.isEmpty() ? nullptr : history_.front();
+    auto* action = new QAction(caption, toolsMenu_);
+    connect(action, &QAction::triggered, this, [this, apply] { guarded([this, &apply] {
+                                                                 apply();
+                                                                 refreshDescription();
+                                                             }); });
+    toolsMenu_->insertAction(before, action);
+    history_.prepend(action);
+    constexpr int kRemembered = 8;
+    while (history_.size() > kRemembered)
+        delete history_.takeLast();
+}
+
+void GraphScreen::runTypedEntry(TypedEntrySpec spec, const std::function<QString(const QStringList&)>& take)
+{
+    const std::optional<QStringList> texts = openTypedEntry(this, spec);
+    if (!texts)
+        return;
+    const QString refusal = take(*texts);
+    if (!refusal.isEmpty())
+        MsgBox(refusal, QStringLiteral("Typed function"));
+    refreshDescription();
+}
+
+void GraphScreen::mnuTypeFunction_Click()
+{
+    if (!config_.functionMenu)
+        return;
+    TypedEntrySpec spec;
+    spec.title = QStringLiteral("Type a function y = f(x)");
+    spec.fields = {QStringLiteral("y =")};
+    spec.initial = {typed_ ? QString::fromStdString(typed_->f->text()) : QString()};
+    spec.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")}, {QStringLiteral("x^3 - 2*x - 5")},
+                     {QStringLiteral("exp(-x^2)")}, {QStringLiteral("sin(x)/x")}, {QStringLiteral("ln(x)")},
+                     {QStringLiteral("sqrt(4 - x^2)")}, {QStringLiteral("abs(x)")}, {QStringLiteral("1/(1 + x^2)")}};
+    spec.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
+    spec.check = [](const QStringList& texts, QString& preview) {
+        std::string error;
+        const auto f = FuncGlobals::TypedFunction::make(texts.value(0).toStdString(), error);
+        if (!f)
+            return QString::fromStdString(error);
+        preview = QStringLiteral("Understood: y = ") + QString::fromStdString(f->f->understood()) +
+                  QStringLiteral("\nDerivative: y' = ") + QString::fromStdString(f->f->derivativeText());
+        return QString();
+    };
+    runTypedEntry(spec, [this](const QStringList& texts) { return setTypedFunction(texts.value(0)); });
+}
+
+QString GraphScreen::setTypedFunction(const QString& text)
+{
+    if (!config_.functionMenu)
+        return QStringLiteral("This screen does not graph a function y = f(x).");
+    std::string error;
+    auto made = FuncGlobals::TypedFunction::make(text.toStdString(), error);
+    if (!made)
+        return QString::fromStdString(error);
+    typed_ = std::move(made);
+    installTyped();
+    lblFunc->setText(QStringLiteral("y = ") + text.trimmed());
+    functionReplaced();
+    rememberTyped(QStringLiteral("y = ") + text.trimmed(), [this, text] { setTypedFunction(text); });
+    return QString();
+}
+
+void GraphScreen::installTyped()
+{
+    if (config_.functionMenu)
+        FuncGlobals::TypedExplicit = typed_.get();
 }
 
 void GraphScreen::loadFunctionMenu()
@@ -191,6 +289,7 @@ void GraphScreen::Form_Activate()
 {
     CleanGraph();
     copyCoefficients();
+    installTyped();
 }
 
 void GraphScreen::copyCoefficients()
@@ -220,7 +319,7 @@ void GraphScreen::CleanGraph()
 void GraphScreen::plotFunction()
 {
     noteDrawn(describeFamily() + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
-    plotColumns(FuncGlobals::YFunc);
+    plotColumns(FuncGlobals::ExplicitValue);
 }
 
 void GraphScreen::plotColumns(double (*evaluate)(const double&))
@@ -230,6 +329,19 @@ void GraphScreen::plotColumns(double (*evaluate)(const double&))
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
+    if (typedInUse()) {
+        // A typed function leaves a gap where it is undefined (NaN) or beyond what the window can map.
+        typedGuard(
+            [&] {
+                rt::For16(first, last, 1, [&](std::int16_t c) {
+                    const double ty = graph.YOrigin - evaluate(graph.worldX(c)) * 6400 / graph.YRange;
+                    if (ty >= 100 && ty <= 6500)
+                        points.point(c, ty);
+                });
+            },
+            [](const rt::RuntimeError&) {});
+        return;
+    }
     rt::For16(first, last, 1, [&](std::int16_t c) {
         const double x = graph.worldX(c);
         const double y = evaluate(x);
@@ -385,6 +497,12 @@ void GraphScreen::lblFunc_MouseDown(int Button, int, double, double)
 void GraphScreen::mnuFunc_Click(int Index)
 {
     using namespace FuncGlobals;
+    // A family chosen from the menu (or by the function label) replaces a typed function.
+    const bool leavingTyped = typed_ != nullptr;
+    typed_.reset();
+    installTyped();
+    if (leavingTyped)
+        functionReplaced();
     FunctionId = rt::CInt(Index);
     const std::string& caption = FuncCaption[FunctionId];
     if (lblFunc)

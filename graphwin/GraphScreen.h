@@ -7,7 +7,9 @@
 // controls and overrides the handlers whose behaviour it changes.
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -16,10 +18,13 @@
 #include <QStringList>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "graphwin/Controls.h"
 #include "graphwin/DrawingSurface.h"
 #include "graphwin/FormTable.h"
 #include "graphwin/GraphWindow.h"
+#include "graphwin/TypedEntry.h"
+#include "runtime/RuntimeError.h"
 
 class QAction;
 class QMenu;
@@ -127,6 +132,16 @@ public:
     void cmdExit_Click();
     void mnuExit_Click();
 
+    // Typed functions (the Tools menu, Ctrl+E). Takes `text` as this screen's y = f(x) in x and A to E
+    // and returns "", or returns the reason it cannot be taken and changes nothing. A screen without
+    // an explicit function refuses every text.
+    QString setTypedFunction(const QString& text);
+    QAction *mnuTools = nullptr, *mnuTypeFunction = nullptr;
+    // Opens the entry of the screen's function (Ctrl+E).
+    virtual void mnuTypeFunction_Click();
+    // True while the screen shows a typed function instead of a family.
+    virtual bool typedInUse() const { return typed_ != nullptr; }
+
     // Makes the screen usable from the keyboard and by a screen reader: every control gets an
     // accessible name (its caption, or for a box the label beside or above it), the labels that answer
     // the mouse take the focus, and Tab runs through the panels in order (left panel, the window
@@ -171,6 +186,33 @@ protected:
     void showHelp(std::initializer_list<std::pair<const char*, const char*>> boxes);
     // Adds a top-level menu to the menu bar.
     QMenu* addMenu(const QString& caption);
+    // Writes the screen's typed function (or none) into the module state, as the coefficients are.
+    virtual void installTyped();
+    // Runs `body`. While a typed function is in use, a run-time error inside it ends only `body` and
+    // is handed to `fault`: a typed function never ends the program. Otherwise errors go on as ever.
+    template <class Body, class Fault>
+    void typedGuard(Body&& body, Fault&& fault)
+    {
+        if (!typedInUse()) {
+            body();
+            return;
+        }
+        try {
+            body();
+        } catch (const rt::RuntimeError& error) {
+            fault(error);
+        }
+    }
+    // Offers `caption` again in the Tools menu (the session's typed functions, newest first); the
+    // entry runs `apply`.
+    void rememberTyped(const QString& caption, std::function<void()> apply);
+    // Shows `spec` and, on OK, hands the lines to `take` (which may still refuse them).
+    void runTypedEntry(TypedEntrySpec spec, const std::function<QString(const QStringList&)>& take);
+    // Called after the screen took a typed function or went back to the families; a screen clears
+    // results that belonged to the function before.
+    virtual void functionReplaced() { }
+    std::shared_ptr<const FuncGlobals::TypedFunction> typed_;
+
     // Adds the screen's own results to its description, a line each.
     virtual void describeResults(QStringList& lines) const;
     // Records what was drawn, for the description (cleared with the picture).
@@ -192,6 +234,11 @@ private:
     void coefficientEdited(int index);
     void stepCoefficient(int index, int Button);
     TextBox* coefficientBox(int index) const;
+
+    void buildToolsMenu();
+    QMenu* toolsMenu_ = nullptr;
+    QAction* historySeparator_ = nullptr;
+    QList<QAction*> history_;
 
     Config config_;
     bool arranged_ = false;

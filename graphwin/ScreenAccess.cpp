@@ -71,8 +71,9 @@ void GraphScreen::describeResults(QStringList&) const { }
 QString GraphScreen::describeFamily() const
 {
     using namespace FuncGlobals;
-    QString text = FunctionId >= 1 && FunctionId <= 15 ? QString::fromStdString(FuncCaption[FunctionId])
-                                                       : QStringLiteral("y = 0 (no function chosen)");
+    QString text = typed_ ? QStringLiteral("the typed function y = ") + QString::fromStdString(typed_->f->text())
+                   : FunctionId >= 1 && FunctionId <= 15 ? QString::fromStdString(FuncCaption[FunctionId])
+                                                         : QStringLiteral("y = 0 (no function chosen)");
     const TextBox* boxes[6] = {txtA, txtB, txtC, txtD, txtE, txtF};
     QStringList values;
     for (int i = 0; i < config_.coefficientCount; ++i)

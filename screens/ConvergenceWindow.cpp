@@ -90,7 +90,9 @@ ConvergenceWindow* addConvergenceMenu(QWidget* screen, QMenuBar* bar, const QStr
                                       std::function<Convergence::Table()> compute)
 {
     auto* window = new ConvergenceWindow(screen, title, std::move(compute));
-    QMenu* menu = bar->addMenu(QStringLiteral("Con&vergence"));
+    // Before the last menu (Tools), which every screen keeps at the end.
+    auto* menu = new QMenu(QStringLiteral("Con&vergence"), bar);
+    bar->insertMenu(bar->actions().isEmpty() ? nullptr : bar->actions().last(), menu);
     QAction* open = menu->addAction(QStringLiteral("Convergence &Table..."));
     open->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     QObject::connect(open, &QAction::triggered, window, [window] {

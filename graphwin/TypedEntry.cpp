@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "graphwin/TypedEntry.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+QString typedNamesHelp(const QString& variables, const QString& coefficients)
+{
+    return QStringLiteral("Use %1, the coefficients %2, the numbers e and pi, + - * / and ^ (a power, "
+                          "taken before a minus sign: -x^2 is -(x^2)). Write every product with *, as 2*x. "
+                          "Functions: sin cos tan cot sec csc asin acos atan sinh cosh tanh exp sqrt abs, "
+                          "and ln or log, both the natural logarithm.")
+        .arg(variables, coefficients);
+}
+
+std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec& spec)
+{
+    QDialog dialog(parent);
+    dialog.setWindowTitle(spec.title);
+    dialog.setFont(parent ? parent->font() : dialog.font());
+    auto* layout = new QVBoxLayout(&dialog);
+
+    auto* form = new QFormLayout;
+    QVector<QLineEdit*> lines;
+    for (int i = 0; i < spec.fields.size(); ++i) {
+        auto* line = new QLineEdit(spec.initial.value(i), &dialog);
+        line->setMinimumWidth(line->fontMetrics().horizontalAdvance(QLatin1Char('x')) * 40);
+        line->setAccessibleName(spec.fields[i]);
+        form->addRow(spec.fields[i], line);
+        lines << line;
+    }
+    layout->addLayout(form);
+
+    auto* examples = new QComboBox(&dialog);
+    examples->addItem(QStringLiteral("Examples..."));
+    for (const QStringList& example : spec.examples)
+        examples->addItem(example.join(QStringLiteral(",   ")), example);
+    examples->setAccessibleName(QStringLiteral("Examples"));
+    layout->addWidget(examples);
+
+    auto* preview = new QLabel(&dialog);
+    preview->setWordWrap(true);
+    preview->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    preview->setAccessibleName(QStringLiteral("Preview"));
+    layout->addWidget(preview);
+    auto* names = new QLabel(spec.names, &dialog);
+    names->setWordWrap(true);
+    layout->addWidget(names);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    layout->addWidget(buttons);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+
+    auto texts = [&lines] {
+        QStringList t;
+        for (QLineEdit* line : lines)
+            t << line->text();
+        return t;
+    };
+    auto refresh = [&] {
+        QString shown;
+        const QString refusal = spec.check(texts(), shown);
+        buttons->button(QDialogButtonBox::Ok)->setEnabled(refusal.isEmpty());
+        preview->setText(refusal.isEmpty() ? shown : QStringLiteral("Cannot be taken: ") + refusal);
+        preview->setAccessibleDescription(preview->text());
+    };
+    for (QLineEdit* line : lines)
+        QObject::connect(line, &QLineEdit::textChanged, &dialog, refresh);
+    QObject::connect(examples, &QComboBox::activated, &dialog, [&](int index) {
+        const QStringList example = examples->itemData(index).toStringList();
+        for (int i = 0; i < lines.size() && i < example.size(); ++i)
+            lines[i]->setText(example[i]);
+    });
+    refresh();
+    if (!lines.isEmpty())
+        lines.front()->selectAll();
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return texts();
+}
