@@ -261,6 +261,28 @@ QString GraphScreen::setTypedFunction(const QString& text)
     return QString();
 }
 
+bool GraphScreen::typedDefinedAt(std::initializer_list<double> xs, QLabel* label, const QString& before) const
+{
+    if (!typed_)
+        return true;
+    for (double x : xs)
+        if (std::isnan(typed_->value(x))) {
+            label->setText(before + QStringLiteral("undefined: no f(x) at x = ") + qTrimStr(x));
+            return false;
+        }
+    return true;
+}
+
+bool GraphScreen::typedSlopeAt(double slope, double x, QLabel* label) const
+{
+    if (!typed_ || !std::isnan(slope))
+        return true;
+    label->setText(QStringLiteral("no slope: f'(x) is undefined at x = ") + qTrimStr(x));
+    return false;
+}
+
+QString GraphScreen::typedTooLarge() { return QStringLiteral("cannot be computed: the numbers are too large"); }
+
 void GraphScreen::installTyped()
 {
     if (config_.functionMenu)

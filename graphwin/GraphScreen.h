@@ -212,6 +212,13 @@ protected:
     // results that belonged to the function before.
     virtual void functionReplaced() { }
     std::shared_ptr<const FuncGlobals::TypedFunction> typed_;
+    // With a typed function in use: false, and `label` saying where in words, when it is undefined at
+    // one of `xs`. Always true for a family, whose undefined points have the value 0.
+    bool typedDefinedAt(std::initializer_list<double> xs, QLabel* label, const QString& before = {}) const;
+    // With a typed function in use: false, and `label` saying so, when its derivative is undefined at x.
+    bool typedSlopeAt(double slope, double x, QLabel* label) const;
+    // What a label says when a typed function's numbers are too large to compute a result.
+    static QString typedTooLarge();
 
     // Adds the screen's own results to its description, a line each.
     virtual void describeResults(QStringList& lines) const;

@@ -8,6 +8,7 @@
 #include <boost/numeric/odeint.hpp>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "screens/IntegralCurves.h"
@@ -82,14 +83,14 @@ Table sums(double L, double R, std::int32_t currentN)
     Table t;
     t.methods.assign(kSumMethods.begin(), kSumMethods.end());
     t.rowHeadings.push_back("n");
-    auto f = [](double x) { return FuncGlobals::YFunc(x); };
+    auto f = [](double x) { return FuncGlobals::ExplicitValue(x); };
 
     // The exact value: first the domain, then an adaptive Gauss-Kronrod rule.
     try {
         std::optional<double> gap;
         for (int i = 0; i <= 4096 && !gap; ++i) {
             const double x = L + (R - L) * i / 4096;
-            if (!FuncGlobals::YDefined(x))
+            if (!FuncGlobals::ExplicitDefined(x))
                 gap = x;
         }
         if (gap) {
@@ -135,6 +136,8 @@ Table sums(double L, double R, std::int32_t currentN)
                 }
                 if (r.odd)
                     cell.note = "n odd";
+                else if (r.gap)
+                    cell.note = "undefined at x = " + rt::Trim(rt::Str(r.gapAt));
                 else if (r.error)
                     cell.note = "error value";
                 else {
@@ -161,8 +164,8 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
     try {
         using State = double;
         auto rhs = [](const State& y, State& dydx, double x) {
-            const double dx = FuncGlobals::DxFunc(x, y);
-            dydx = dx == 0 ? std::nan("") : FuncGlobals::DyFunc(x, y) / dx;
+            const double dx = FuncGlobals::RateDx(x, y);
+            dydx = dx == 0 ? std::nan("") : FuncGlobals::RateDy(x, y) / dx;
         };
         namespace ode = boost::numeric::odeint;
         // The controlled stepper's own loop, with a budget: near a vertical slope the step shrinks

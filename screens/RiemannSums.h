@@ -23,16 +23,38 @@ struct Result {
     float area = 0;  // accumulated in single precision
     bool error = false;  // a value of the method was the error value
     bool odd = false;  // Simpson's rule refused an odd number of partitions
+    // A typed function was undefined (NaN) at a point of the method: the sum left that term out and
+    // does not exist; gapAt is the first such x.
+    bool gap = false;
+    double gapAt = 0;
 };
 
 namespace detail {
 
-inline void add(Result& r, double term) { r.area = rt::CSng(static_cast<double>(r.area) + rt::Chk(term)); }
+// A family's terms are always numbers; a typed function's NaN marks a gap, whose term is left out.
+inline void add(Result& r, double term)
+{
+    if (std::isnan(term)) [[unlikely]]
+        return;
+    r.area = rt::CSng(static_cast<double>(r.area) + rt::Chk(term));
+}
+
+// Chk for a value that may be a typed function's NaN, which passes unchecked.
+inline double chkNumber(double v) { return std::isnan(v) ? v : rt::Chk(v); }
+
+inline double noteGap(Result& r, double x, double y)
+{
+    if (std::isnan(y) && !r.gap) [[unlikely]] {
+        r.gap = true;
+        r.gapAt = x;
+    }
+    return y;
+}
 
 template <class F>
 double eval(F& f, double x, Result& r)
 {
-    const double y = f(x);
+    const double y = noteGap(r, x, f(x));
     if (std::fabs(y) == ErrorValue)
         r.error = true;
     return y;
@@ -93,7 +115,7 @@ Result trapezoidal(F&& f, double L, double dx, std::int32_t n, Trapezoid&& trape
         const double xr = rt::Chk(x + dx);
         const double y1 = detail::eval(f, x, r);
         const double y2 = detail::eval(f, xr, r);
-        detail::add(r, rt::Chk(y1 + y2) * (dx * 0.5));
+        detail::add(r, detail::chkNumber(y1 + y2) * (dx * 0.5));
         trapezoid(x, xr, y1, y2);
     }
     return r;
@@ -127,10 +149,11 @@ Result simpson(F&& f, double L, double dx, std::int32_t n, Pair&& pair)
     for (std::int32_t i = 0; i <= n - 2; i += 2) {
         const double x = detail::at(L, i, dx);
         const double y0 = detail::eval(f, x, r);
-        const double y1 = f(rt::Chk(x + dx));
+        const double x1 = rt::Chk(x + dx);
+        const double y1 = detail::noteGap(r, x1, f(x1));
         const double xc = rt::Chk(x + rt::Chk(2 * dx));
-        const double y2 = f(xc);
-        detail::add(r, rt::Chk(rt::Chk(4 * y1) + y0 + y2) * (dx / 3));
+        const double y2 = detail::noteGap(r, xc, f(xc));
+        detail::add(r, detail::chkNumber(detail::chkNumber(4 * y1) + y0 + y2) * (dx / 3));
         pair(x, xc, y0, y1, y2);
     }
     return r;

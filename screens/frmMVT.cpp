@@ -90,12 +90,19 @@ void frmMVT::cmdPlotto_Click()
 
 void frmMVT::cmdApplyMVT_Click()
 {
+    if (!typedDefinedAt({txtX1->value(), txtX2->value()}, lblSlope1))
+        return;
+    typedGuard([this] { applyMVT(); }, [this](const rt::RuntimeError&) { lblSlope1->setText(typedTooLarge()); });
+}
+
+void frmMVT::applyMVT()
+{
     using rt::Chk;
     const double a = txtX1->value();
-    const double fa = FuncGlobals::YFunc(a);
+    const double fa = FuncGlobals::ExplicitValue(a);
     const double ca = graph.column(a), ra = graph.row(fa);
     const double b = txtX2->value();
-    const double fb = FuncGlobals::YFunc(b);
+    const double fb = FuncGlobals::ExplicitValue(b);
     const double cb = graph.column(b), rb = graph.row(fb);
     if (b == a) {
         lblSlope1->setText(QStringLiteral("ERROR!  0/0"));
@@ -119,13 +126,20 @@ void frmMVT::cmdApplyMVT_Click()
 
 void frmMVT::HscMVT_Change()
 {
+    typedGuard([this] { slideTangent(); }, [this](const rt::RuntimeError&) { lblSlope2->setText(typedTooLarge()); });
+}
+
+void frmMVT::slideTangent()
+{
     using rt::Chk;
     const double a = txtX1->value(), b = txtX2->value();
     const double c = Chk(a + rt::Div(Chk(Chk(b - a) * HscMVT->value()), HscMVT->maximum()));
     lblFindc->setText(QStringLiteral("x = ") + qStr(rounded(c, 10000)));
-    const double slope = FuncGlobals::YPrimeFunc(c);
+    const double slope = FuncGlobals::ExplicitSlope(c);
+    if (!typedDefinedAt({c}, lblSlope2) || !typedSlopeAt(slope, c, lblSlope2))
+        return;
     lblSlope2->setText(QStringLiteral("Slope =") + qStr(rounded(slope, 10000)));
-    const double fc = FuncGlobals::YFunc(c);
+    const double fc = FuncGlobals::ExplicitValue(c);
 
     // Not reduced: family 15 asks for colour 16, which does not exist.
     FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
@@ -189,6 +203,11 @@ void frmMVT::lblFindc_Click()
 
 void frmMVT::cmdAnimateIt_Click()
 {
+    typedGuard([this] { findC(); }, [this](const rt::RuntimeError&) { lblFindc->setText(typedTooLarge()); });
+}
+
+void frmMVT::findC()
+{
     using rt::Chk;
     double last = txtXmin->value();
     const double a = txtX1->value(), b = txtX2->value();
@@ -208,9 +227,9 @@ void frmMVT::cmdAnimateIt_Click()
     std::int16_t count = 0;
     rt::cleanVectorStateForHotLoop();
     for (double x = a; x <= b;) {
-        const double slope = FuncGlobals::YPrimeFunc(x);
-        if (thousandths(slope) == target) {
-            const double fx = FuncGlobals::YFunc(x);
+        const double slope = FuncGlobals::ExplicitSlope(x);
+        if (!std::isnan(slope) && thousandths(slope) == target) {  // a typed function's gaps are skipped
+            const double fx = FuncGlobals::ExplicitValue(x);
             surface->setDrawWidth(3);
             surface->PSet(graph.column(x), graph.row(fx), surface->ForeColor);
             surface->setDrawWidth(1);

@@ -37,6 +37,9 @@ public:
     void mnuAbout_Click() override;
 
 private:
+    void applyMVT();
+    void slideTangent();
+    void findC();
     void keepInWindow(TextBox* box, ClickLabel* echo);
     template <class Y>
     void dotLine(int first, int last, FirstUseColour& colour, Y y);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmNewton.h"
 
+#include <cmath>
+
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
@@ -67,12 +69,16 @@ void frmNewton::mnuFunc_Click(int Index)
 
 void frmNewton::coefficientChanged(int) { NewSequence = true; }
 
+void frmNewton::functionReplaced()
+{
+    NewSequence = true;
+    GuessNumber = 1;
+}
+
 void frmNewton::txtGuess_Click() { txtGuess->setSelection(0, static_cast<int>(txtGuess->text().size())); }
 
 void frmNewton::cmdApply_Click()
 {
-    using rt::Chk;
-    const QRgb black = 0xFF000000u;
     if (NewSequence) {
         for (int k = 1; k < kGridRows; ++k)
             grdGuess->setCell(k, 1, QString());
@@ -80,8 +86,32 @@ void frmNewton::cmdApply_Click()
         GuessNumber = 1;
     }
     const double x = txtGuess->value();
+    if (typedInUse()) {
+        // A typed function cannot go on from a guess where it or its derivative is undefined, or where
+        // the numbers outgrow the window: the guess's row says so in words.
+        const bool noValue = std::isnan(FuncGlobals::ExplicitValue(x));
+        QString stopped;
+        if (noValue || std::isnan(FuncGlobals::ExplicitSlope(x)))
+            stopped = noValue ? QStringLiteral(" (no f(x) here)") : QStringLiteral(" (no f'(x) here)");
+        else
+            typedGuard([&] { applyNewton(x); }, [&](const rt::RuntimeError&) { stopped = QStringLiteral(" (too large)"); });
+        if (!stopped.isEmpty()) {
+            NewSequence = false;
+            if (GuessNumber < kGridRows)
+                grdGuess->setCell(GuessNumber, 1, qTrimStr(x) + stopped);
+            GuessNumber = rt::CInt(GuessNumber + 1.0);
+        }
+        return;
+    }
+    applyNewton(x);
+}
+
+void frmNewton::applyNewton(double x)
+{
+    using rt::Chk;
+    const QRgb black = 0xFF000000u;
     const double c = graph.column(x);
-    const double y = FuncGlobals::YFunc(x);
+    const double y = FuncGlobals::ExplicitValue(x);
     const double r = graph.row(y);
     const double Y0 = graph.YOrigin;
     if (100 < r && r < 6500) {
@@ -93,7 +123,7 @@ void frmNewton::cmdApply_Click()
             surface->Print(label);
     }
     NewSequence = false;
-    const double s = FuncGlobals::YPrimeFunc(x);
+    const double s = FuncGlobals::ExplicitSlope(x);
     if (s != 0) {
         const double next = Chk(x - rt::Div(y, s));
         surface->Line(c, r, graph.column(next), Y0, black);
@@ -106,7 +136,7 @@ void frmNewton::cmdApply_Click()
     GuessNumber = rt::CInt(GuessNumber + 1.0);
 }
 
-void frmNewton::cmdDeriv_Click() { plotColumns(FuncGlobals::YPrimeFunc); }
+void frmNewton::cmdDeriv_Click() { plotColumns(FuncGlobals::ExplicitSlope); }
 
 void frmNewton::mnuAbout_Click()
 {

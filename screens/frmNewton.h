@@ -31,5 +31,10 @@ public:
 
 protected:
     void coefficientChanged(int index) override;
+    void functionReplaced() override;
     void describeResults(QStringList& lines) const override;
+
+private:
+    // One step from guess x: the tangent to the axis, the next guess and the guess's row.
+    void applyNewton(double x);
 };

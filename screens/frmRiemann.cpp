@@ -144,7 +144,17 @@ void frmRiemann::mnuFunc_Click(int Index)
 
 void frmRiemann::showResult(ClickLabel* label, const RiemannSums::Result& result)
 {
+    if (result.gap) {
+        label->setText(QStringLiteral("undefined at x = ") + qTrimStr(result.gapAt));
+        return;
+    }
     label->setText(result.error ? QStringLiteral("= error!") : QStringLiteral("= ") + qStr(result.area));
+}
+
+void frmRiemann::functionReplaced()
+{
+    for (ClickLabel* label : {lblLeftE, lblRightE, lblMid, lblTrap, lblRnd, lblRiemann})
+        label->setText(kAreaText);
 }
 
 void frmRiemann::cmdParts_Click()
@@ -159,7 +169,7 @@ void frmRiemann::cmdParts_Click()
     const double dx = rt::Div(rt::Chk(R - L), n);
     const double left = squareLeft(), right = left + 6400;
     const double Y0 = graph.YOrigin;
-    auto f = [](double x) { return FuncGlobals::YFunc(x); };
+    auto f = [](double x) { return FuncGlobals::ExplicitValue(x); };
     auto inside = [&](double a, double b, double t) {
         return left < a && a < right && left < b && b < right && 100 < t && t < 6500;
     };
@@ -169,8 +179,17 @@ void frmRiemann::cmdParts_Click()
         DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(colourNumber)));
         return sum(batch);
     };
+    // With a typed function a method whose numbers grow too large says so, and the others go on.
+    const auto tooLarge = [](ClickLabel* label) {
+        return [label](const rt::RuntimeError&) { label->setText(QStringLiteral("= too large")); };
+    };
+    const auto shown = [&](ClickLabel* label, auto compute) {
+        typedGuard([&] { showResult(label, compute()); }, tooLarge(label));
+    };
     auto bars = [this, &inside, Y0](DrawingSurface::Batch& batch) {
         return [this, &inside, &batch, Y0](double xa, double xb, double y) {
+            if (std::isnan(y))  // a typed function's gap: no bar
+                return;
             const double a = graph.column(xa), b = graph.column(xb), t = graph.row(y);
             if (!inside(a, b, t))
                 return;
@@ -179,44 +198,51 @@ void frmRiemann::cmdParts_Click()
     };
 
     if (chkLeft->isChecked())
-        showResult(lblLeftE, drawn(2, [&](auto& b) { return leftEndpoint(f, L, dx, n, bars(b)); }));
+        shown(lblLeftE, [&] { return drawn(2, [&](auto& b) { return leftEndpoint(f, L, dx, n, bars(b)); }); });
     if (chkRight->isChecked())
-        showResult(lblRightE, drawn(1, [&](auto& b) { return rightEndpoint(f, L, dx, n, bars(b)); }));
+        shown(lblRightE, [&] { return drawn(1, [&](auto& b) { return rightEndpoint(f, L, dx, n, bars(b)); }); });
     if (chkMid->isChecked())
-        showResult(lblMid, drawn(4, [&](auto& b) { return midpoint(f, L, dx, n, bars(b)); }));
+        shown(lblMid, [&] { return drawn(4, [&](auto& b) { return midpoint(f, L, dx, n, bars(b)); }); });
     if (chkTrap->isChecked())
-        showResult(lblTrap, drawn(5, [&](DrawingSurface::Batch& batch) {
+        shown(lblTrap, [&] { return drawn(5, [&](DrawingSurface::Batch& batch) {
                        return trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
+                           if (std::isnan(y1) || std::isnan(y2))
+                               return;
                            const double a = graph.column(xa), b = graph.column(xb);
                            const double t1 = graph.row(y1), t2 = graph.row(y2);
                            if (!inside(a, b, t1))  // only the left height is tested
                                return;
                            batch.bar(a, t1, b, t2, Y0);
                        });
-                   }));
+                   }); });
     if (chkRandom->isChecked())
-        showResult(lblRnd, drawn(6, [&](auto& b) { return randomPoint(f, L, dx, n, bars(b)); }));
-    if (chkSimpson->isChecked()) {
-        const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
-        const Result r = drawn(3, [&](DrawingSurface::Batch& outline) {
-            return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
-                const double a = graph.column(xa), c = graph.column(xc);
-                const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
-                if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
-                    return;
-                const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
-                const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};
-                for (int i = 0; i + 3 < 16; i += 2)
-                    outline.line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
+        shown(lblRnd, [&] { return drawn(6, [&](auto& b) { return randomPoint(f, L, dx, n, bars(b)); }); });
+    if (chkSimpson->isChecked())
+        typedGuard(
+            [&] {
+            const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
+            const Result r = drawn(3, [&](DrawingSurface::Batch& outline) {
+                return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
+                    if (std::isnan(y0) || std::isnan(y1) || std::isnan(y2))
+                        return;
+                    const double a = graph.column(xa), c = graph.column(xc);
+                    const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
+                    if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
+                        return;
+                    const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
+                    const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};
+                    for (int i = 0; i + 3 < 16; i += 2)
+                        outline.line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
+                });
             });
-        });
-        if (r.odd)
-            lblSimpson->setText(QStringLiteral("Parts not even #"));
-        else
-            showResult(lblSimpson, r);
-    }
+            if (r.odd)
+                lblSimpson->setText(QStringLiteral("Parts not even #"));
+            else
+                showResult(lblSimpson, r);
+            },
+            tooLarge(lblSimpson));
     if (chkRiemann->isChecked())
-        showResult(lblRiemann, drawn(7, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); }));
+        shown(lblRiemann, [&] { return drawn(7, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); }); });
 
     lblAreas->setText(QStringLiteral("Area"));
 }

@@ -64,4 +64,5 @@ private:
 
 protected:
     void describeResults(QStringList& lines) const override;
+    void functionReplaced() override;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmTangent.h"
 
+#include <cmath>
+
 #include "funclib/FuncGlobals.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
@@ -60,13 +62,21 @@ QString frmTangent::spokenDeltaX() const
 
 void frmTangent::DrawSecant(double dx)
 {
+    const double x1 = txtX->value();
+    if (!typedDefinedAt({x1, x1 + dx}, lblTLine))
+        return;
+    typedGuard([this, dx] { drawSecant(dx); }, [this](const rt::RuntimeError&) { lblTLine->setText(typedTooLarge()); });
+}
+
+void frmTangent::drawSecant(double dx)
+{
     using rt::Chk;
     using rt::Div;
     const double x1 = txtX->value();
-    const double y1 = FuncGlobals::YFunc(x1);
+    const double y1 = FuncGlobals::ExplicitValue(x1);
     const double c1 = graph.column(x1), r1 = graph.row(y1);
     const double x2 = Chk(x1 + dx);
-    const double y2 = FuncGlobals::YFunc(x2);
+    const double y2 = FuncGlobals::ExplicitValue(x2);
     const double c2 = graph.column(x2), r2 = graph.row(y2);
     if (x2 == x1) {
         lblTLine->setText(QStringLiteral("ERROR!  0/0"));
@@ -149,4 +159,11 @@ void frmTangent::describeResults(QStringList& lines) const
                  QStringLiteral(", Delta x = ") + txtDeltaX->text() + QLatin1Char('.');
     lines << QStringLiteral("Secant through ") + lblPoints->text() + QStringLiteral(": ") + lblTLine->text() +
                  QLatin1Char('.');
+    if (typedInUse()) {
+        // The exact tangent the secants turn into, from the symbolic derivative.
+        const double x = txtX->value(), y = FuncGlobals::ExplicitValue(x), m = FuncGlobals::ExplicitSlope(x);
+        lines << (std::isnan(m) ? QStringLiteral("The tangent at x = %1 has no slope there.").arg(qTrimStr(x))
+                                : QStringLiteral("The exact tangent at x = %1: y = %2x + %3.")
+                                      .arg(qTrimStr(x), qTrimStr(m), qTrimStr(y - m * x)));
+    }
 }

@@ -32,6 +32,7 @@ protected:
     void describeResults(QStringList& lines) const override;
 
 private:
+    void drawSecant(double dx);
     // What the slider's position means: the Delta x it gives.
     QString spokenDeltaX() const;
 };
