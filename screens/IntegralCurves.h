@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "runtime/Numbers.h"
 
 namespace IntegralCurves {
@@ -31,7 +32,7 @@ inline Step step(const Settings& s, double x, double y, double h)
     using rt::Chk;
     Step st;
     if (s.smooth) {
-        const double p = FuncGlobals::DxFunc(x, y), q = FuncGlobals::DyFunc(x, y);
+        const double p = FuncGlobals::RateDx(x, y), q = FuncGlobals::RateDy(x, y);
         const double m = rt::Pow(Chk(rt::Pow(p, 2) + rt::Pow(q, 2)), 0.5);
         if (m != 0) {
             st.dx = Chk(rt::Div(p, m) * h);
@@ -39,16 +40,16 @@ inline Step step(const Settings& s, double x, double y, double h)
         }
         return st;
     }
-    const double p = FuncGlobals::DxFunc(x, y);
+    const double p = FuncGlobals::RateDx(x, y);
     if (p == 0) {
         st.vertical = true;
         return st;
     }
     st.dx = h;
     switch (s.method) {
-    case Method::Euler: st.dy = rt::Div(Chk(h * FuncGlobals::DyFunc(x, y)), p); break;
-    case Method::Midpoint: st.dy = FuncGlobals::Runga2Step(x, y, h); break;
-    case Method::FourthOrder: st.dy = FuncGlobals::Runga4Step(x, y, h); break;
+    case Method::Euler: st.dy = rt::Div(Chk(h * FuncGlobals::RateDy(x, y)), p); break;
+    case Method::Midpoint: st.dy = FuncGlobals::RateStep2(x, y, h); break;
+    case Method::FourthOrder: st.dy = FuncGlobals::RateStep4(x, y, h); break;
     }
     return st;
 }

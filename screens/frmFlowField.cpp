@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
@@ -42,6 +43,7 @@ void frmFlowField::Form_Load()
 void frmFlowField::Form_Activate()
 {
     copyCoefficients();
+    installTyped();
     CleanGraph();
     MethodColour = 5;
 }
@@ -80,10 +82,14 @@ void frmFlowField::ShowDyDx()
     using namespace FuncGlobals;
     const auto& k = Coefficients;
     const std::string dyCaption = DyCaption(DyFuncId), dxCaption = DxCaption(DxFuncId);
-    const std::string dy = FormulaWithCoefficients(
-        std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())), "ABC", {k.A, k.B, k.C});
-    const std::string dx = FormulaWithCoefficients(
-        std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())), "DEF", {k.D, k.E, k.F});
+    const std::string dy = typedRates_ ? typedRates_->dy->text()
+                                       : FormulaWithCoefficients(
+                                             std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())),
+                                             "ABC", {k.A, k.B, k.C});
+    const std::string dx = typedRates_ ? typedRates_->dx->text()
+                                       : FormulaWithCoefficients(
+                                             std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())),
+                                             "DEF", {k.D, k.E, k.F});
     const double formula = equals + surface->TextWidth(QStringLiteral("= "));
     surface->setFontUnderline(true);
     surface->CurrentX = formula;
@@ -99,6 +105,8 @@ void frmFlowField::ShowDyDx()
 void frmFlowField::mnuDy_Click(int Index)
 {
     using namespace FuncGlobals;
+    typedRates_.reset();  // a family chosen from the menu replaces typed rates
+    installTyped();
     DyFuncId = rt::CInt(Index);
     lbldx->setText(QString::fromStdString(DxCaptions[DxFuncId]));
     lbldy->setText(QString::fromStdString(DyCaptions[DyFuncId]));
@@ -108,6 +116,8 @@ void frmFlowField::mnuDy_Click(int Index)
 void frmFlowField::mnuDx_Click(int Index)
 {
     using namespace FuncGlobals;
+    typedRates_.reset();
+    installTyped();
     DxFuncId = rt::CInt(Index);
     lbldx->setText(QString::fromStdString(DxCaptions[DxFuncId]));
     lbldy->setText(QString::fromStdString(DyCaptions[DyFuncId]));
@@ -156,6 +166,11 @@ void frmFlowField::lblDeltaX_MouseDown(int Button, int, double, double)
 
 void frmFlowField::cmdShowFlow_Click()
 {
+    typedGuard([this] { fieldArrows(); }, [](const rt::RuntimeError&) {});
+}
+
+void frmFlowField::fieldArrows()
+{
     using rt::Chk;
     const double xmin = txtXmin->value(), xmax = txtXmax->value();
     const double ymin = txtYmin->value(), ymax = txtYmax->value();
@@ -178,7 +193,9 @@ void frmFlowField::cmdShowFlow_Click()
     rt::cleanVectorStateForHotLoop();
     counted(Chk(xmin + sx), Chk(xmax - sx), sx, [&](double x) {
         counted(Chk(ymin + sy), Chk(ymax - sy), sy, [&](double y) {
-            const double p = FuncGlobals::DxFunc(x, y), q = FuncGlobals::DyFunc(x, y);
+            const double p = FuncGlobals::RateDx(x, y), q = FuncGlobals::RateDy(x, y);
+            if (std::isnan(p) || std::isnan(q))  // typed rates undefined here: no arrow
+                return;
             const double m = rt::Pow(Chk(rt::Pow(p, 2) + rt::Pow(q, 2)), 0.5);
             if (m == 0)
                 return;
@@ -206,6 +223,13 @@ IntegralCurves::Settings frmFlowField::settings() const
 bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X < kRight && kTop < Y && Y < kBottom; }
 
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
+{
+    typedGuard([&] { startCurve(Button, X, Y); }, [this](const rt::RuntimeError&) {
+        lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
+    });
+}
+
+void frmFlowField::startCurve(int Button, double X, double Y)
 {
     using rt::Chk;
     StepH = txtDelta->value();
@@ -253,8 +277,61 @@ void frmFlowField::followCurve(double& x, double& y, bool backward)
     lblEndpt->setText(QStringLiteral("EndPt (") + end(x) + QStringLiteral(",") + end(y));
 }
 
-void frmFlowField::FollowCurveForward(double& x, double& y) { followCurve(x, y, false); }
-void frmFlowField::FollowCurveBackward(double& x, double& y) { followCurve(x, y, true); }
+void frmFlowField::followGuarded(double& x, double& y, bool backward)
+{
+    typedGuard([&] { followCurve(x, y, backward); }, [this](const rt::RuntimeError&) {
+        lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
+    });
+}
+
+void frmFlowField::FollowCurveForward(double& x, double& y) { followGuarded(x, y, false); }
+void frmFlowField::FollowCurveBackward(double& x, double& y) { followGuarded(x, y, true); }
+
+void frmFlowField::installTyped() { FuncGlobals::TypedRate = typedRates_.get(); }
+
+QString frmFlowField::setTypedRates(const QString& dy, const QString& dx)
+{
+    const QString dxText = dx.trimmed().isEmpty() ? QStringLiteral("1") : dx.trimmed();
+    std::string error;
+    auto made = FuncGlobals::TypedRates::make(dy.toStdString(), dxText.toStdString(), error);
+    if (!made)
+        return QString::fromStdString(error);
+    typedRates_ = std::move(made);
+    installTyped();
+    lbldy->setText(QStringLiteral("dy = ") + dy.trimmed());
+    lbldx->setText(QStringLiteral("dx = ") + dxText);
+    ShowDyDx();
+    rememberTyped(QStringLiteral("dy = %1, dx = %2").arg(dy.trimmed(), dxText),
+                  [this, dy, dxText] { setTypedRates(dy, dxText); });
+    return QString();
+}
+
+void frmFlowField::mnuTypeFunction_Click()
+{
+    TypedEntrySpec spec;
+    spec.title = QStringLiteral("Type the rates dy and dx");
+    spec.fields = {QStringLiteral("dy ="), QStringLiteral("dx =")};
+    spec.initial = {typedRates_ ? QString::fromStdString(typedRates_->dy->text()) : QString(),
+                    typedRates_ ? QString::fromStdString(typedRates_->dx->text()) : QStringLiteral("1")};
+    spec.examples = {{QStringLiteral("x - y^2"), QStringLiteral("1")},
+                     {QStringLiteral("-x"), QStringLiteral("y")},
+                     {QStringLiteral("A*y*(1 - y/B)"), QStringLiteral("1")},
+                     {QStringLiteral("sin(x*y)"), QStringLiteral("1")},
+                     {QStringLiteral("x + y"), QStringLiteral("x - y")}};
+    spec.names = typedNamesHelp(QStringLiteral("x and y"), QStringLiteral("A to F")) +
+                 QStringLiteral(" With dx = 1 the field is the slope field of dy/dx = dy.");
+    spec.check = [](const QStringList& texts, QString& preview) {
+        std::string error;
+        const QString dx = texts.value(1).trimmed().isEmpty() ? QStringLiteral("1") : texts.value(1);
+        const auto rates = FuncGlobals::TypedRates::make(texts.value(0).toStdString(), dx.toStdString(), error);
+        if (!rates)
+            return QString::fromStdString(error);
+        preview = QStringLiteral("Understood: dy = ") + QString::fromStdString(rates->dy->understood()) +
+                  QStringLiteral(",  dx = ") + QString::fromStdString(rates->dx->understood());
+        return QString();
+    };
+    runTypedEntry(spec, [this](const QStringList& texts) { return setTypedRates(texts.value(0), texts.value(1)); });
+}
 
 void frmFlowField::Form_MouseMove(int, int, double X, double Y)
 {
@@ -417,7 +494,10 @@ void frmFlowField::describeResults(QStringList& lines) const
                                            letters, values))
             .trimmed();
     };
-    lines << QStringLiteral("Rates: %1, that is dy = %2; %3, that is dx = %4.")
+    if (typedRates_)
+        lines << QStringLiteral("Typed rates: %1; %2.").arg(lbldy->text(), lbldx->text());
+    else
+        lines << QStringLiteral("Rates: %1, that is dy = %2; %3, that is dx = %4.")
                  .arg(lbldy->text(), withValues(dyCaption, "ABC", {k.A, k.B, k.C}), lbldx->text(),
                       withValues(dxCaption, "DEF", {k.D, k.E, k.F}));
     lines << (optApprox->isChecked() ? QStringLiteral("Purpose: approximation by %1, %2 %3.")

@@ -81,6 +81,24 @@ protected:
     void coefficientChanged(int index) override;
     void describeResults(QStringList& lines) const override;
 
+public:
+    // Typed rates (Tools › Type the Rates..., Ctrl+E): dy and dx in x, y and A to F; an empty dx is 1.
+    // Returns "" when taken, else the reason (naming dy or dx and the place), changing nothing.
+    QString setTypedRates(const QString& dy, const QString& dx);
+    void mnuTypeFunction_Click() override;
+    bool typedInUse() const override { return typedRates_ != nullptr; }
+
+protected:
+    void installTyped() override;
+
+private:
+    std::shared_ptr<const FuncGlobals::TypedRates> typedRates_;
+    // A curve from a press, guarded: with typed rates a curve that meets an undefined rate stops and
+    // the end point label says so.
+    void startCurve(int Button, double X, double Y);
+    void followGuarded(double& x, double& y, bool backward);
+    void fieldArrows();
+
 private:
     IntegralCurves::Settings settings() const;
     void followCurve(double& x, double& y, bool backward);

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmParam.h"
 
+#include <cmath>
+#include <utility>
+
+#include "funclib/FunctionSource.h"
+
 #include <QMenu>
 
 #include "funclib/FuncGlobals.h"
@@ -97,12 +102,16 @@ void frmParam::Form_Load()
 
 void frmParam::mnuXFunc_Click(int Index)
 {
+    typedCurve_.reset();  // a family chosen from the menu replaces a typed curve
+    installTyped();
     FuncGlobals::XtFuncId = rt::CInt(Index);
     lblXPar->setText(QString::fromStdString(XCaptions[FuncGlobals::XtFuncId]));
 }
 
 void frmParam::mnuYFunc_Click(int Index)
 {
+    typedCurve_.reset();
+    installTyped();
     FuncGlobals::YtFuncId = rt::CInt(Index);
     lblYPar->setText(QString::fromStdString(YCaptions[FuncGlobals::YtFuncId]));
 }
@@ -152,7 +161,14 @@ void frmParam::txtT_Change()
 {
     using namespace FuncGlobals;
     const float t = rt::CSng(txtT->value());
-    const float x = rt::CSng(XtFunc(t)), y = rt::CSng(YtFunc(t));
+    if (typedCurve_) {
+        const double tx = CurveX(t), ty = CurveY(t);
+        if (std::isnan(tx) || std::isnan(ty) || std::fabs(tx) > 3e38 || std::fabs(ty) > 3e38) {
+            lblXY->setText(QStringLiteral("(undefined at t = ") + qTrimStr(t) + QStringLiteral(")"));
+            return;
+        }
+    }
+    const float x = rt::CSng(CurveX(t)), y = rt::CSng(CurveY(t));
     lblXY->setText(QStringLiteral("(") + qStr(cut4(x)) + QStringLiteral(",") + qStr(cut4(y)) + QStringLiteral(")"));
     const double column = graph.column(x), row = graph.row(y);
     if (!inside(column, row))
@@ -165,6 +181,10 @@ void frmParam::txtT_Change()
 void frmParam::cmdPlotto_Click()
 {
     using namespace FuncGlobals;
+    if (typedCurve_) {
+        typedGuard([this] { plotTypedCurve(); }, [](const rt::RuntimeError&) {});
+        return;
+    }
     const float t0 = rt::CSng(txtT0->value()), tn = rt::CSng(txtTn->value());
     const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
@@ -188,6 +208,79 @@ void frmParam::cmdPlotto_Click()
         c0 = c1;
         r0 = r1;
     }
+}
+
+void frmParam::plotTypedCurve()
+{
+    const float t0 = rt::CSng(txtT0->value()), tn = rt::CSng(txtTn->value());
+    const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
+    const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
+    // The same mapping as graph.column and graph.row, in plain arithmetic: NaN marks a gap.
+    auto column = [this](double x) { return graph.XOrigin + x * 6400 / graph.XRange; };
+    auto row = [this](double y) { return graph.YOrigin - y * 6400 / graph.YRange; };
+    auto at = [&](float t) { return std::pair{column(FuncGlobals::CurveX(t)), row(FuncGlobals::CurveY(t))}; };
+    auto [c0, r0] = at(t0);
+    const bool points = optPoints->isChecked();
+    FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
+    LazyBatch figure(*surface, colour);
+    ChunkedLines segments(figure);
+    auto drawable = [this](double c, double r) { return std::isfinite(c) && std::isfinite(r) && inside(c, r); };
+    rt::cleanVectorStateForHotLoop();
+    for (std::int32_t i = 1; i <= n; ++i) {
+        const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
+        const auto [c1, r1] = at(t);
+        if (points) {
+            if (i == 1 && drawable(c0, r0))
+                figure.point(c0, r0);
+            if (drawable(c1, r1))
+                figure.point(c1, r1);
+        } else if (drawable(c1, r1) && std::isfinite(c0) && std::isfinite(r0)) {
+            segments.line(c0, r0, c1, r1);
+        }
+        c0 = c1;
+        r0 = r1;
+    }
+}
+
+void frmParam::installTyped() { FuncGlobals::TypedParametric = typedCurve_.get(); }
+
+QString frmParam::setTypedCurve(const QString& xt, const QString& yt)
+{
+    std::string error;
+    auto made = FuncGlobals::TypedCurve::make(xt.toStdString(), yt.toStdString(), error);
+    if (!made)
+        return QString::fromStdString(error);
+    typedCurve_ = std::move(made);
+    installTyped();
+    lblXPar->setText(QStringLiteral("x = ") + xt.trimmed());
+    lblYPar->setText(QStringLiteral("y = ") + yt.trimmed());
+    rememberTyped(QStringLiteral("x = %1, y = %2").arg(xt.trimmed(), yt.trimmed()), [this, xt, yt] { setTypedCurve(xt, yt); });
+    return QString();
+}
+
+void frmParam::mnuTypeFunction_Click()
+{
+    TypedEntrySpec spec;
+    spec.title = QStringLiteral("Type a parametric curve");
+    spec.fields = {QStringLiteral("x(t) ="), QStringLiteral("y(t) =")};
+    spec.initial = {typedCurve_ ? QString::fromStdString(typedCurve_->x->text()) : QString(),
+                    typedCurve_ ? QString::fromStdString(typedCurve_->y->text()) : QString()};
+    spec.examples = {{QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)")},
+                     {QStringLiteral("A*cos(t)"), QStringLiteral("B*sin(t)")},
+                     {QStringLiteral("cos(3*t)*cos(t)"), QStringLiteral("cos(3*t)*sin(t)")},
+                     {QStringLiteral("t^2 - 1"), QStringLiteral("t^3 - t")},
+                     {QStringLiteral("exp(t/10)*cos(t)"), QStringLiteral("exp(t/10)*sin(t)")}};
+    spec.names = typedNamesHelp(QStringLiteral("t"), QStringLiteral("A to F"));
+    spec.check = [](const QStringList& texts, QString& preview) {
+        std::string error;
+        const auto curve = FuncGlobals::TypedCurve::make(texts.value(0).toStdString(), texts.value(1).toStdString(), error);
+        if (!curve)
+            return QString::fromStdString(error);
+        preview = QStringLiteral("Understood: x = ") + QString::fromStdString(curve->x->understood()) +
+                  QStringLiteral(",  y = ") + QString::fromStdString(curve->y->understood());
+        return QString();
+    };
+    runTypedEntry(spec, [this](const QStringList& texts) { return setTypedCurve(texts.value(0), texts.value(1)); });
 }
 
 void frmParam::cmdZout_Click()

@@ -58,4 +58,20 @@ private:
 
 protected:
     void describeResults(QStringList& lines) const override;
+
+public:
+    // A typed curve (Tools › Type the Curve..., Ctrl+E): x(t) and y(t) in t and A to F. Returns "" when
+    // taken, else the reason (naming x(t) or y(t) and the place), changing nothing.
+    QString setTypedCurve(const QString& xt, const QString& yt);
+    void mnuTypeFunction_Click() override;
+    bool typedInUse() const override { return typedCurve_ != nullptr; }
+
+protected:
+    void installTyped() override;
+
+private:
+    std::shared_ptr<const FuncGlobals::TypedCurve> typedCurve_;
+    // The typed curve's plot: a point is left out, and a connected curve broken, where x(t) or y(t)
+    // is undefined or beyond what the window can map.
+    void plotTypedCurve();
 };
