@@ -34,6 +34,8 @@ void MsgBox(const QString& prompt, const QString& title)
     box.exec();
 }
 
+DialogScript* dialogScript() { return activeScript; }
+
 QString InputBox(const QString& prompt, const QString& title, const QString& defaultText, double xTwips, double yTwips)
 {
     if (activeScript) {

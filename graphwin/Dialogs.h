@@ -22,6 +22,8 @@ struct DialogScript {
 };
 
 void setDialogScript(DialogScript* script);
+// The script in force, or null while the real dialogs are shown.
+DialogScript* dialogScript();
 
 // A modal message box with an OK button only.
 void MsgBox(const QString& prompt, const QString& title);

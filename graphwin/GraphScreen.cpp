@@ -79,7 +79,12 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     joinDescriptions();
 }
 
-GraphScreen::~GraphScreen() { leaveDescriptions(); }
+GraphScreen::~GraphScreen()
+{
+    leaveDescriptions();
+    if (typed_ && FuncGlobals::TypedExplicit == typed_.get())
+        FuncGlobals::TypedExplicit = nullptr;
+}
 
 double GraphScreen::buttonColumn() const { return config_.squareLeft + 6400 + 600; }
 

@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "graphwin/Dialogs.h"
+
 QString typedNamesHelp(const QString& variables, const QString& coefficients)
 {
     return QStringLiteral("Use %1, the coefficients %2, the numbers e and pi, + - * / and ^ (a power, "
@@ -21,6 +23,18 @@ QString typedNamesHelp(const QString& variables, const QString& coefficients)
 
 std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec& spec)
 {
+    if (DialogScript* script = dialogScript()) {
+        script->shown.emplace_back(spec.title, spec.fields.join(QLatin1Char(' ')));
+        if (script->answers.empty())
+            return std::nullopt;
+        QStringList lines;
+        for (int i = 0; i < spec.fields.size(); ++i) {
+            lines << (script->answers.empty() ? QString() : script->answers.front());
+            if (!script->answers.empty())
+                script->answers.pop_front();
+        }
+        return lines;
+    }
     QDialog dialog(parent);
     dialog.setWindowTitle(spec.title);
     dialog.setFont(parent ? parent->font() : dialog.font());

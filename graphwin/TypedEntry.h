@@ -23,7 +23,9 @@ struct TypedEntrySpec {
     std::function<QString(const QStringList& texts, QString& preview)> check;
 };
 
-// Shows the entry modally; the lines on OK, nothing on Cancel.
+// Shows the entry modally; the lines on OK, nothing on Cancel. With a dialog script set (tests, the
+// random walk) the entry is recorded as (title, the fields' captions) and each line is answered from
+// the script; no answer at all is Cancel.
 std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec& spec);
 
 // The words every entry shows about what may be typed; `variables` names the screen's own letters.

@@ -287,6 +287,12 @@ void frmFlowField::followGuarded(double& x, double& y, bool backward)
 void frmFlowField::FollowCurveForward(double& x, double& y) { followGuarded(x, y, false); }
 void frmFlowField::FollowCurveBackward(double& x, double& y) { followGuarded(x, y, true); }
 
+frmFlowField::~frmFlowField()
+{
+    if (typedRates_ && FuncGlobals::TypedRate == typedRates_.get())
+        FuncGlobals::TypedRate = nullptr;
+}
+
 void frmFlowField::installTyped() { FuncGlobals::TypedRate = typedRates_.get(); }
 
 QString frmFlowField::setTypedRates(const QString& dy, const QString& dx)

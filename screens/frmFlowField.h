@@ -82,6 +82,7 @@ protected:
     void describeResults(QStringList& lines) const override;
 
 public:
+    ~frmFlowField() override;
     // Typed rates (Tools › Type the Rates..., Ctrl+E): dy and dx in x, y and A to F; an empty dx is 1.
     // Returns "" when taken, else the reason (naming dy or dx and the place), changing nothing.
     QString setTypedRates(const QString& dy, const QString& dx);

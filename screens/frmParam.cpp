@@ -242,6 +242,12 @@ void frmParam::plotTypedCurve()
     }
 }
 
+frmParam::~frmParam()
+{
+    if (typedCurve_ && FuncGlobals::TypedParametric == typedCurve_.get())
+        FuncGlobals::TypedParametric = nullptr;
+}
+
 void frmParam::installTyped() { FuncGlobals::TypedParametric = typedCurve_.get(); }
 
 QString frmParam::setTypedCurve(const QString& xt, const QString& yt)

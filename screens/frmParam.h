@@ -60,6 +60,7 @@ protected:
     void describeResults(QStringList& lines) const override;
 
 public:
+    ~frmParam() override;
     // A typed curve (Tools › Type the Curve..., Ctrl+E): x(t) and y(t) in t and A to F. Returns "" when
     // taken, else the reason (naming x(t) or y(t) and the place), changing nothing.
     QString setTypedCurve(const QString& xt, const QString& yt);

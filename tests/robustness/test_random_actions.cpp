@@ -25,6 +25,7 @@
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormArea.h"
 #include "launcher/frmGraphingCalc.h"
@@ -41,6 +42,12 @@ const std::vector<QString>& corpus()
                             "|0|1|2|-1|-2|3|0.5|-0.5|10|-10|4|1000|32000|40000|10000|9999|1e10|"
                             "-1e10|0.001|25|2.5")
                  .split(QLatin1Char('|')))
+            t.push_back(s);
+        // Functions a teacher might type, valid and not, for the typed-function entries.
+        for (const QString& s : QStringLiteral("x^3 - 2*x - 5|ln(x)|1/x|sin(x)/x|exp(x^3)|sqrt(-x)|x - y^2|"
+                                               "t - sin(t)|1 - cos(t)|2x|sinn(x)|((((x|tan(x)*1e308|A*x^B + C|"
+                                               "abs(x)|y/x|-x^2^-1|9^9^9^9|exp(exp(exp(x)))|1/(x - x)|x/0")
+                                    .split(QLatin1Char('|')))
             t.push_back(s);
         t.push_back(QString(400, QLatin1Char('9')));
         t.push_back(QStringLiteral("0.") + QString(300, QLatin1Char('1')));
@@ -65,6 +72,7 @@ struct Walk {
     std::vector<std::string> log;
     std::map<int, long> errorsByNumber;  // the allowed errors met, for the closing line
     long actions = 0, restarts = 0;
+    long typedActions = 0;  // actions taken while a typed function, rate or curve was in use
 
     explicit Walk(std::uint64_t seed) : rng(seed)
     {
@@ -294,6 +302,8 @@ TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
         const std::set<int> ok = walk.allowed(current, control);
         walk.log.push_back(walk.act(current, control));
         ++walk.actions;
+        if (FuncGlobals::TypedExplicit || FuncGlobals::TypedRate || FuncGlobals::TypedParametric)
+            ++walk.typedActions;
         if (walk.script.errors.empty())
             continue;
         for (int e : walk.script.errors) {
@@ -317,7 +327,7 @@ TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
     std::string summary;
     for (const auto& [number, count] : walk.errorsByNumber)
         summary += " error " + std::to_string(number) + ": " + std::to_string(count) + ";";
-    std::printf("random walk: seed %llu, %ld actions, %ld restarts;%s\n", static_cast<unsigned long long>(seed),
-                walk.actions, walk.restarts, summary.c_str());
+    std::printf("random walk: seed %llu, %ld actions (%ld with a typed function in use), %ld restarts;%s\n",
+                static_cast<unsigned long long>(seed), walk.actions, walk.typedActions, walk.restarts, summary.c_str());
     EXPECT_EQ(walk.actions, total);
 }
