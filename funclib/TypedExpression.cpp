@@ -33,6 +33,7 @@ struct Node {
     double value = 0;  // Number; the constant's value for Constant
     std::string name;  // Variable, Constant and Call: the name as the evaluators know it
     std::string shown;  // the literal as typed (Number) or the canonical name (Constant, Call)
+    std::size_t at = 0;  // where it starts in the text, in bytes
     std::vector<std::unique_ptr<Node>> args;
 };
 using NodePtr = std::unique_ptr<Node>;
@@ -86,10 +87,24 @@ public:
                 refuse("unexpected ')'", pos_);
             refuseJuxtaposition(pos_);
         }
+        // The nesting that counts is the tree's, so that brackets added to show the order of
+        // operations never make a text too deep to read again.
+        if (const Node* deep = deeper(*n, 1))
+            refuse("too deeply nested", deep->at);
         return n;
     }
 
 private:
+    // The first node below the tree's allowed depth, or null.
+    static const Node* deeper(const Node& n, int depth)
+    {
+        if (depth > TypedExpression::MaxDepth)
+            return &n;
+        for (const NodePtr& a : n.args)
+            if (const Node* d = deeper(*a, depth + 1))
+                return d;
+        return nullptr;
+    }
     [[noreturn]] void refuse(const std::string& what, std::size_t at, const std::string& hint = {}) const
     {
         throw Refusal{what + " at " + std::to_string(place(at)) + hint};
@@ -123,9 +138,10 @@ private:
         return pos_ < text_.size() &&
                (text_[pos_] == '^' || (text_[pos_] == '*' && pos_ + 1 < text_.size() && text_[pos_ + 1] == '*'));
     }
+    // Guards the reader's own recursion (brackets and signs nest without making tree levels).
     void enter(std::size_t at)
     {
-        if (++depth_ > TypedExpression::MaxDepth)
+        if (++depth_ > 4 * TypedExpression::MaxDepth)
             refuse("too deeply nested", at);
     }
 
@@ -133,6 +149,7 @@ private:
     {
         auto n = std::make_unique<Node>();
         n->op = op;
+        n->at = a->at;
         n->args.push_back(std::move(a));
         if (b)
             n->args.push_back(std::move(b));
@@ -186,8 +203,10 @@ private:
         const std::size_t at = pos_;
         enter(at);
         NodePtr n;
-        if (take('-'))
+        if (take('-')) {
             n = make(Op::Negate, signedOperand("-"));
+            n->at = at;
+        }
         else if (take('+'))
             n = signedOperand("+");
         else
@@ -299,6 +318,7 @@ private:
         }
         auto n = std::make_unique<Node>();
         n->op = Op::Number;
+        n->at = at;
         n->shown = text_.substr(at, end - at);
         n->value = std::strtod(n->shown.c_str(), nullptr);
         if (!std::isfinite(n->value))
@@ -316,6 +336,7 @@ private:
         const std::string word = text_.substr(at, end - at);
         pos_ = end;
         auto n = std::make_unique<Node>();
+        n->at = at;
         if (const FunctionName* f = findFunction(word)) {
             skipBlanks();
             if (pos_ >= text_.size() || text_[pos_] != '(')
@@ -485,24 +506,86 @@ bool withoutVariables(const Node& n)
     return true;
 }
 
-// The value of a tree without variables, in doubles (NaN where undefined).
-double fold(const Node& n)
+// The value of a tree in doubles with its variables at `at` (NaN where undefined); a tree without
+// variables needs none.
+double valueAt(const Node& n, const std::map<std::string, double>& at)
 {
+    auto arg = [&](int i) { return valueAt(*n.args[i], at); };
     switch (n.op) {
     case Op::Number:
     case Op::Constant: return n.value;
-    case Op::Negate: return -fold(*n.args[0]);
-    case Op::Add: return fold(*n.args[0]) + fold(*n.args[1]);
-    case Op::Subtract: return fold(*n.args[0]) - fold(*n.args[1]);
-    case Op::Multiply: return fold(*n.args[0]) * fold(*n.args[1]);
-    case Op::Divide: return fold(*n.args[0]) / fold(*n.args[1]);
-    case Op::Power: return std::pow(fold(*n.args[0]), fold(*n.args[1]));
-    default: {
-        std::string error;
-        auto e = TypedExpression::compile(n.shown + "(" + number(fold(*n.args[0])) + ")", {}, error);
-        return e ? (*e)(0) : std::nan("");
+    case Op::Variable: {
+        const auto found = at.find(n.name);
+        return found == at.end() ? std::nan("") : found->second;
     }
+    case Op::Negate: return -arg(0);
+    case Op::Add: return arg(0) + arg(1);
+    case Op::Subtract: return arg(0) - arg(1);
+    case Op::Multiply: return arg(0) * arg(1);
+    case Op::Divide: return arg(0) / arg(1);
+    case Op::Power: return std::pow(arg(0), arg(1));
+    case Op::Call: break;
     }
+    const double a = arg(0);
+    const std::string& f = n.name;
+    if (f == "sin") return std::sin(a);
+    if (f == "cos") return std::cos(a);
+    if (f == "tan") return std::tan(a);
+    if (f == "cot") return 1 / std::tan(a);
+    if (f == "sec") return 1 / std::cos(a);
+    if (f == "csc") return 1 / std::sin(a);
+    if (f == "asin") return std::asin(a);
+    if (f == "acos") return std::acos(a);
+    if (f == "atan") return std::atan(a);
+    if (f == "sinh") return std::sinh(a);
+    if (f == "cosh") return std::cosh(a);
+    if (f == "tanh") return std::tanh(a);
+    if (f == "exp") return std::exp(a);
+    if (f == "ln") return std::log(a);
+    if (f == "sqrt") return std::sqrt(a);
+    return std::fabs(a);
+}
+
+double fold(const Node& n) { return valueAt(n, {}); }
+
+// True when the tree is 0 wherever it is evaluated (x - x, 0*y): GiNaC reduces such a part to 0 and
+// then throws from a division, a power or a logarithm of it, and the C++ exception escapes from the
+// middle of its own code, which does not free what it had built. Such an expression is kept from
+// GiNaC instead: its derivative is reported as not found.
+bool identicallyZero(const Node& n, const std::vector<std::string>& names)
+{
+    if (n.op == Op::Number || n.op == Op::Constant || n.op == Op::Variable)
+        return n.value == 0 && n.op != Op::Variable;
+    const double samples[] = {0.7390851332, -1.3247179572, 2.2360679775, 0.5772156649, -3.1415926536};
+    for (double s : samples) {
+        std::map<std::string, double> at;
+        double v = s;
+        for (const std::string& name : names) {
+            at[name] = v;
+            v = v * 1.6180339887 - 0.4142135624;
+        }
+        const double r = valueAt(n, at);
+        if (!(std::fabs(r) < 1e-9))
+            return false;
+    }
+    return true;
+}
+
+// True when some divisor, power base or logarithm's argument in the tree is identically 0.
+bool dividesByZero(const Node& n, const std::vector<std::string>& names)
+{
+    if (withoutVariables(n))  // becomes one number before GiNaC sees it
+        return false;
+    const bool singular = (n.op == Op::Divide && identicallyZero(*n.args[1], names)) ||
+                          ((n.op == Op::Power || (n.op == Op::Call && (n.name == "ln" || n.name == "cot" ||
+                                                                       n.name == "csc"))) &&
+                           identicallyZero(*n.args[0], names));
+    if (singular)
+        return true;
+    for (const NodePtr& a : n.args)
+        if (dividesByZero(*a, names))
+            return true;
+    return false;
 }
 
 // A number as GiNaC keeps it: an exact integer or decimal fraction when the text has at most 15
@@ -724,6 +807,13 @@ std::unique_ptr<TypedExpression> TypedExpression::compile(const std::string& tex
         return e;
 
     // The exact derivative with respect to the first variable.
+    std::vector<std::string> names(variables.begin(), variables.end());
+    for (char c = 'A'; c <= 'F'; ++c)
+        names.emplace_back(1, c);
+    if (dividesByZero(*tree, names)) {
+        e->derivativeText_ = "no derivative: part of the expression is 0 where it divides or is a base";
+        return e;
+    }
     try {
         std::map<std::string, GiNaC::realsymbol> symbols;
         for (const std::string& v : variables)

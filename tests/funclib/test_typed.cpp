@@ -2,12 +2,16 @@
 // Typed functions: what the reader takes and how it understands it, what it refuses and where, the
 // values (gaps as NaN) and the exact derivatives, each against values worked out by hand.
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <limits>
 
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
+#include "fuzz/TypedProperties.h"
 
 using namespace FuncGlobals;
 
@@ -122,7 +126,8 @@ TEST(TypedExpression, RefusesWithReasonAndPlace)
     std::string error;
     EXPECT_FALSE(TypedExpression::compile(std::string(TypedExpression::MaxLength + 1, 'x'), {"x"}, error));
     EXPECT_EQ(error, "too long: at most 240 characters");
-    EXPECT_FALSE(TypedExpression::compile(std::string(100, '(') + "x" + std::string(100, ')'), {"x"}, error));
+    EXPECT_TRUE(TypedExpression::compile(std::string(100, '(') + "x" + std::string(100, ')'), {"x"}, error));
+    EXPECT_FALSE(TypedExpression::compile(std::string(70, '-') + "x", {"x"}, error));
     EXPECT_EQ(error, "too deeply nested at 61");
 }
 
@@ -208,4 +213,21 @@ TEST(TypedSources, DispatchFallsBackToTheFamilies)
     TypedRate = vertical.get();
     EXPECT_TRUE(std::isnan(RateStep4(0, 0, 1)));  // dx = 0 at the first stage: no step, no error
     TypedRate = nullptr;
+}
+
+TEST(TypedProperties, HoldForTheSeedsAndEveryKeptFinding)
+{
+    int replayed = 0;
+    for (const char* folder : {"fuzz/typed-seeds", "fuzz/typed-regressions"}) {
+        const std::filesystem::path dir = std::filesystem::path(PLOTTO_SOURCE_DIR) / folder;
+        if (!std::filesystem::exists(dir))
+            continue;
+        for (const auto& entry : std::filesystem::directory_iterator(dir)) {
+            std::ifstream in(entry.path(), std::ios::binary);
+            const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+            EXPECT_EQ(fuzzing::checkTypedText(text), "") << entry.path();
+            ++replayed;
+        }
+    }
+    EXPECT_GE(replayed, 15);
 }
