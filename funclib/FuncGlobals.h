@@ -4,15 +4,13 @@
 // the module state shared by every screen (the selected families and the one set of coefficients).
 // The rate families of the slope field and the parametric families keep their selectors here too.
 #include <cstdint>
+#include <iterator>
 #include <string>
 
+#include "funclib/Families.h"
 #include "runtime/BoundedArray.h"
 
 namespace FuncGlobals {
-
-struct CoefficientSet {
-    double A = 0, B = 0, C = 0, D = 0, E = 0, F = 0;
-};
 
 // Number of the selected explicit family, 1 to 15; 0 before any family is chosen.
 extern std::int16_t FunctionId;
@@ -31,7 +29,7 @@ extern std::int16_t YtFuncId;
 // Captions of the explicit families shown by function menus and labels; 1 to 15 are used.
 extern rt::BoundedArray<std::string, 0, 20> FuncCaption;
 
-constexpr int ExplicitFamilyCount = 15;
+constexpr int ExplicitFamilyCount = static_cast<int>(std::size(FamilyTables::kExplicit));
 
 // The catalogue caption of explicit family id (1..15); "" for any other number.
 const char* ExplicitCaption(int id);
@@ -47,7 +45,7 @@ bool YDefined(const double& x);
 double YPrimeFunc(const double& x);
 
 // The rate families of the slope field: captions of family id (1..15), "" for any other number.
-constexpr int RateFamilyCount = 15;
+constexpr int RateFamilyCount = static_cast<int>(std::size(FamilyTables::kRates));
 const char* DyCaption(int id);
 const char* DxCaption(int id);
 
@@ -64,7 +62,7 @@ double Runga4Step(const double& x, const double& y, const double& h);
 
 // The parametric families: x(t) with A, B, C and y(t) with D, E, F; captions of family id (1..12), ""
 // for any other number.
-constexpr int ParametricFamilyCount = 12;
+constexpr int ParametricFamilyCount = static_cast<int>(std::size(FamilyTables::kParametric));
 const char* XtCaption(int id);
 const char* YtCaption(int id);
 

@@ -72,7 +72,7 @@ QString GraphScreen::describeFamily() const
 {
     using namespace FuncGlobals;
     QString text = typed_ ? QStringLiteral("the typed function y = ") + QString::fromStdString(typed_->f->text())
-                   : FunctionId >= 1 && FunctionId <= 15 ? QString::fromStdString(FuncCaption[FunctionId])
+                   : FunctionId >= 1 && FunctionId <= ExplicitFamilyCount ? QString::fromStdString(FuncCaption[FunctionId])
                                                          : QStringLiteral("y = 0 (no function chosen)");
     const TextBox* boxes[6] = {txtA, txtB, txtC, txtD, txtE, txtF};
     QStringList values;

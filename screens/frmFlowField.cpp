@@ -26,7 +26,7 @@ void frmFlowField::Form_Load()
     using namespace FuncGlobals;
     DxFuncId = 1;
     DyFuncId = 1;
-    FamilyCount = 15;
+    FamilyCount = RateFamilyCount;
     Coefficients = {1, 0, 0, 1, 0, 0};
     for (int i = 1; i <= RateFamilyCount; ++i) {
         DyCaptions[i] = DyCaption(i);
@@ -134,7 +134,7 @@ void frmFlowField::lbldy_MouseDown(int Button, int, double, double)
     else
         return;
     if (DyFuncId == 0)
-        DyFuncId = 15;
+        DyFuncId = RateFamilyCount;
     mnuDy_Click(DyFuncId);
 }
 
@@ -148,7 +148,7 @@ void frmFlowField::lbldx_MouseDown(int Button, int, double, double)
     else
         return;
     if (DyFuncId == 0)  // the dy number, deliberately: dx can be left at 0
-        DxFuncId = 15;
+        DxFuncId = RateFamilyCount;
     mnuDx_Click(DxFuncId);
 }
 

@@ -42,8 +42,8 @@ public:
     double StepH = 0;
     std::int16_t PointCounter = 0;
     // Captions of the rate families by number (0 is empty).
-    rt::BoundedArray<std::string, 0, 15> DyCaptions, DxCaptions;
-    std::int16_t FamilyCount = 15;
+    rt::BoundedArray<std::string, 0, FuncGlobals::RateFamilyCount> DyCaptions, DxCaptions;
+    std::int16_t FamilyCount = FuncGlobals::RateFamilyCount;
     // The table of how fast each step method converges (menu Convergence, Ctrl+T).
     class ConvergenceWindow* convergence = nullptr;
 

@@ -86,8 +86,8 @@ void frmParam::Form_Load()
     using namespace FuncGlobals;
     XtFuncId = 4;
     YtFuncId = 5;
-    XFuncCount = 12;
-    YFuncCount = 12;
+    XFuncCount = ParametricFamilyCount;
+    YFuncCount = ParametricFamilyCount;
     for (int i = 1; i <= ParametricFamilyCount; ++i) {
         XCaptions[i] = XtCaption(i);
         YCaptions[i] = YtCaption(i);

@@ -28,7 +28,7 @@ public:
 
     // Captions of the families by number (0 is empty) and the size of each catalogue.
     rt::BoundedArray<std::string, 0, 12> XCaptions, YCaptions;
-    std::int16_t XFuncCount = 12, YFuncCount = 12;
+    std::int16_t XFuncCount = FuncGlobals::ParametricFamilyCount, YFuncCount = FuncGlobals::ParametricFamilyCount;
 
     void mnuXFunc_Click(int Index);
     void mnuYFunc_Click(int Index);
