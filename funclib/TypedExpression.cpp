@@ -621,6 +621,21 @@ GiNaC::ex exactNumber(double v, const std::string& shown)
     return GiNaC::numeric(v);
 }
 
+// a^b, where GiNaC would work out a power of two numbers exactly (and 4^(2^(4e44)) never ends): a
+// small whole power of a small fraction stays exact, any other power of numbers is a double.
+GiNaC::ex raise(const GiNaC::ex& a, const GiNaC::ex& b)
+{
+    using namespace GiNaC;
+    if (!is_a<numeric>(a) || !is_a<numeric>(b))
+        return pow(a, b);
+    const numeric& base = ex_to<numeric>(a);
+    const numeric& exponent = ex_to<numeric>(b);
+    if (exponent.is_integer() && abs(exponent) <= 32 && base.is_rational() && abs(base.numer()) < 1000000 &&
+        base.denom() < 1000000 && !(base.is_zero() && exponent.is_negative()))
+        return pow(a, b);
+    return exactNumber(std::pow(base.to_double(), exponent.to_double()), "");
+}
+
 GiNaC::ex toGinac(const Node& n, const std::map<std::string, GiNaC::realsymbol>& symbols)
 {
     using namespace GiNaC;
@@ -637,10 +652,21 @@ GiNaC::ex toGinac(const Node& n, const std::map<std::string, GiNaC::realsymbol>&
     case Op::Subtract: return toGinac(*n.args[0], symbols) - toGinac(*n.args[1], symbols);
     case Op::Multiply: return toGinac(*n.args[0], symbols) * toGinac(*n.args[1], symbols);
     case Op::Divide: return toGinac(*n.args[0], symbols) / toGinac(*n.args[1], symbols);
-    case Op::Power: return pow(toGinac(*n.args[0], symbols), toGinac(*n.args[1], symbols));
+    case Op::Power: return raise(toGinac(*n.args[0], symbols), toGinac(*n.args[1], symbols));
     case Op::Call: {
         const ex a = toGinac(*n.args[0], symbols);
         const std::string& f = n.name;
+        if (is_a<numeric>(a)) {
+            // GiNaC would evaluate the function of a number in arbitrary precision; a double serves.
+            Node call;
+            call.op = Op::Call;
+            call.name = f;
+            auto argument = std::make_unique<Node>();
+            argument->op = Op::Number;
+            argument->value = ex_to<numeric>(a).to_double();
+            call.args.push_back(std::move(argument));
+            return exactNumber(valueAt(call, {}), "");
+        }
         if (f == "sin") return sin(a);
         if (f == "cos") return cos(a);
         if (f == "tan") return tan(a);
