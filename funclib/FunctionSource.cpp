@@ -33,10 +33,9 @@ std::shared_ptr<const TypedFunction> TypedFunction::make(const std::string& text
 
 double TypedFunction::slope(double x) const
 {
+    // The derivative's byte code is NaN wherever the function is undefined (see TypedExpression).
     const TypedExpression* d = f->derivative();
-    if (!d || std::isnan((*f)(x)))
-        return kNaN;
-    return (*d)(x);
+    return d ? (*d)(x) : kNaN;
 }
 
 std::shared_ptr<const TypedRates> TypedRates::make(const std::string& dyText, const std::string& dxText,

@@ -485,11 +485,12 @@ void writeUnderstood(const Node& n, std::string& out)
         return;
     default: break;
     }
+    // A right operand of the same binding keeps its brackets even where algebra would drop them:
+    // a + (b - c) is not rounded as a + b - c, and the text must say how the value is computed.
     const int b = binding(n.op);
-    const bool rightStrict = n.op == Op::Subtract || n.op == Op::Divide;
     child(*n.args[0], binding(n.args[0]->op) < b);
     out += n.op == Op::Add ? " + " : n.op == Op::Subtract ? " - " : n.op == Op::Multiply ? "*" : "/";
-    child(*n.args[1], binding(n.args[1]->op) < b || (rightStrict && binding(n.args[1]->op) == b));
+    child(*n.args[1], binding(n.args[1]->op) <= b);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -689,6 +690,20 @@ GiNaC::ex toGinac(const Node& n, const std::map<std::string, GiNaC::realsymbol>&
     throw Refusal{"unknown function"};
 }
 
+// True when some operation of the tree is undefined or overflows for some finite arguments.
+bool mayBeUndefined(const Node& n)
+{
+    if (n.op == Op::Divide || n.op == Op::Power)
+        return true;
+    if (n.op == Op::Call && !(n.name == "sin" || n.name == "cos" || n.name == "atan" || n.name == "tanh" ||
+                              n.name == "abs"))
+        return true;
+    for (const NodePtr& a : n.args)
+        if (mayBeUndefined(*a))
+            return true;
+    return false;
+}
+
 constexpr std::size_t kMaxDerivativeText = 100000;
 
 // GiNaC's result as fully bracketed muparser text; false for anything the evaluator cannot take.
@@ -853,6 +868,12 @@ std::unique_ptr<TypedExpression> TypedExpression::compile(const std::string& tex
             e->derivativeText_ = "no derivative: it uses a function that cannot be differentiated here";
             return e;
         }
+        // The derivative exists only where the function does. Where the function has an operation
+        // that can be undefined (a division, a power, a logarithm, a root, ...), the derivative's
+        // byte code also computes the function, times 0: NaN there stays NaN, and one evaluation
+        // does both. A function without such an operation is defined wherever it is finite.
+        if (mayBeUndefined(*tree))
+            derivativeBracketed = "(" + derivativeBracketed + ")+0*(" + bracketed + ")";
         std::unique_ptr<TypedExpression> derivative(new TypedExpression);
         derivative->compiled_ = std::make_unique<Compiled>();
         if (!compileMuparser(*derivative->compiled_, derivativeBracketed, variables)) {
