@@ -49,7 +49,8 @@ inline constexpr Explicit kExplicit[] = {
          return Chk(Pow(u, 3.0) * k.A + k.D);
      },
      [](double x, K k) -> Maybe { return Chk(Pow(Chk(k.B * x - k.C), 2.0) * (k.A * 3 * k.B)); }},
-    {"y = Ax^3 + Bx^2 + Cx + D", [](double x, K k) -> Maybe { return Chk(Pow(x, 3.0) * k.A + k.B * x * x + k.C * x + k.D); },
+    {"y = Ax^3 + Bx^2 + Cx + D",
+     [](double x, K k) -> Maybe { return Chk(Pow(x, 3.0) * k.A + k.B * x * x + k.C * x + k.D); },
      [](double x, K k) -> Maybe { return Chk(Pow(x, 2.0) * (k.A * 3) + (k.B + k.B) * x + k.C); }},
     {"y = A*Sin(Bx + C) + Dx + E",
      [](double x, K k) -> Maybe {
@@ -174,15 +175,25 @@ inline constexpr Rate kRates[] = {
     {"dy = Ax + By + C", "dx = Dx + Ey + F",
      [](double x, double y, double p, double q, double r, bool) { return Chk(Chk(p * x) + Chk(q * y) + r); }},
     {"dy = Ax + Bsin(Cx)", "dx = Dx + Esin(Fx)",
-     [](double x, double, double p, double q, double r, bool) { return Chk(Chk(p * x) + Chk(q * std::sin(Chk(r * x)))); }},
+     [](double x, double, double p, double q, double r, bool) {
+         return Chk(Chk(p * x) + Chk(q * std::sin(Chk(r * x))));
+     }},
     {"dy = Ax + Bcos(Cx)", "dx = Dx + Ecos(Fx)",
-     [](double x, double, double p, double q, double r, bool) { return Chk(Chk(p * x) + Chk(q * std::cos(Chk(r * x)))); }},
+     [](double x, double, double p, double q, double r, bool) {
+         return Chk(Chk(p * x) + Chk(q * std::cos(Chk(r * x))));
+     }},
     {"dy = Ax + Bsin(Cy)", "dx = Dx + Esin(Fy)",
-     [](double x, double y, double p, double q, double r, bool) { return Chk(Chk(p * x) + Chk(q * std::sin(Chk(r * y)))); }},
+     [](double x, double y, double p, double q, double r, bool) {
+         return Chk(Chk(p * x) + Chk(q * std::sin(Chk(r * y))));
+     }},
     {"dy = Ay + Bsin(Cx)", "dx = Dy + Esin(Fx)",
-     [](double x, double y, double p, double q, double r, bool) { return Chk(Chk(p * y) + Chk(q * std::sin(Chk(r * x)))); }},
+     [](double x, double y, double p, double q, double r, bool) {
+         return Chk(Chk(p * y) + Chk(q * std::sin(Chk(r * x))));
+     }},
     {"dy = Ay + Bsin(Cy)", "dx = Dy + Esin(Fy)",
-     [](double, double y, double p, double q, double r, bool) { return Chk(Chk(p * y) + Chk(q * std::sin(Chk(r * y)))); }},
+     [](double, double y, double p, double q, double r, bool) {
+         return Chk(Chk(p * y) + Chk(q * std::sin(Chk(r * y))));
+     }},
     {"dy = Ax + BxSin(Cx)", "dx = Dx + ExSin(Fx)",
      [](double x, double, double p, double q, double r, bool) {
          return Chk(Chk(p * x) + Chk(Chk(q * x) * std::sin(Chk(r * x))));

@@ -108,9 +108,15 @@ double Runga4Step(const double& x, const double& y, const double& h)
     return Chk(Chk(Chk(k2 / 3 + k1 / 6) + k3 / 3) + k4 / 6);
 }
 
-const char* XtCaption(int id) { return id >= 1 && id <= ParametricFamilyCount ? FamilyTables::kParametric[id - 1].x : ""; }
+const char* XtCaption(int id)
+{
+    return id >= 1 && id <= ParametricFamilyCount ? FamilyTables::kParametric[id - 1].x : "";
+}
 
-const char* YtCaption(int id) { return id >= 1 && id <= ParametricFamilyCount ? FamilyTables::kParametric[id - 1].y : ""; }
+const char* YtCaption(int id)
+{
+    return id >= 1 && id <= ParametricFamilyCount ? FamilyTables::kParametric[id - 1].y : "";
+}
 
 namespace {
 

@@ -44,10 +44,10 @@ struct FunctionName {
     const char* shown;  // as the understood text writes it
 };
 constexpr FunctionName kFunctions[] = {
-    {"sin", "sin"},   {"cos", "cos"},   {"tan", "tan"},     {"cot", "cot"},     {"sec", "sec"},
-    {"csc", "csc"},   {"asin", "asin"}, {"acos", "acos"},   {"atan", "atan"},   {"arcsin", "asin"},
+    {"sin", "sin"},     {"cos", "cos"},     {"tan", "tan"},   {"cot", "cot"},   {"sec", "sec"},
+    {"csc", "csc"},     {"asin", "asin"},   {"acos", "acos"}, {"atan", "atan"}, {"arcsin", "asin"},
     {"arccos", "acos"}, {"arctan", "atan"}, {"sinh", "sinh"}, {"cosh", "cosh"}, {"tanh", "tanh"},
-    {"exp", "exp"},   {"ln", "ln"},     {"log", "ln"},      {"sqrt", "sqrt"},   {"abs", "abs"},
+    {"exp", "exp"},     {"ln", "ln"},       {"log", "ln"},    {"sqrt", "sqrt"}, {"abs", "abs"},
 };
 
 std::string lower(std::string s)
@@ -206,8 +206,7 @@ private:
         if (take('-')) {
             n = make(Op::Negate, signedOperand("-"));
             n->at = at;
-        }
-        else if (take('+'))
+        } else if (take('+'))
             n = signedOperand("+");
         else
             n = power();
@@ -430,9 +429,11 @@ void toMuparser(const Node& n, std::string& out)
     }
     default: break;
     }
-    const char* sign = n.op == Op::Add ? "+" : n.op == Op::Subtract ? "-" : n.op == Op::Multiply ? "*"
-                                           : n.op == Op::Divide   ? "/"
-                                                                  : "^";
+    const char* sign = n.op == Op::Add        ? "+"
+                       : n.op == Op::Subtract ? "-"
+                       : n.op == Op::Multiply ? "*"
+                       : n.op == Op::Divide   ? "/"
+                                              : "^";
     out += '(';
     toMuparser(*n.args[0], out);
     out += sign;
@@ -529,21 +530,36 @@ double valueAt(const Node& n, const std::map<std::string, double>& at)
     }
     const double a = arg(0);
     const std::string& f = n.name;
-    if (f == "sin") return std::sin(a);
-    if (f == "cos") return std::cos(a);
-    if (f == "tan") return std::tan(a);
-    if (f == "cot") return 1 / std::tan(a);
-    if (f == "sec") return 1 / std::cos(a);
-    if (f == "csc") return 1 / std::sin(a);
-    if (f == "asin") return std::asin(a);
-    if (f == "acos") return std::acos(a);
-    if (f == "atan") return std::atan(a);
-    if (f == "sinh") return std::sinh(a);
-    if (f == "cosh") return std::cosh(a);
-    if (f == "tanh") return std::tanh(a);
-    if (f == "exp") return std::exp(a);
-    if (f == "ln") return std::log(a);
-    if (f == "sqrt") return std::sqrt(a);
+    if (f == "sin")
+        return std::sin(a);
+    if (f == "cos")
+        return std::cos(a);
+    if (f == "tan")
+        return std::tan(a);
+    if (f == "cot")
+        return 1 / std::tan(a);
+    if (f == "sec")
+        return 1 / std::cos(a);
+    if (f == "csc")
+        return 1 / std::sin(a);
+    if (f == "asin")
+        return std::asin(a);
+    if (f == "acos")
+        return std::acos(a);
+    if (f == "atan")
+        return std::atan(a);
+    if (f == "sinh")
+        return std::sinh(a);
+    if (f == "cosh")
+        return std::cosh(a);
+    if (f == "tanh")
+        return std::tanh(a);
+    if (f == "exp")
+        return std::exp(a);
+    if (f == "ln")
+        return std::log(a);
+    if (f == "sqrt")
+        return std::sqrt(a);
     return std::fabs(a);
 }
 
@@ -577,10 +593,10 @@ bool dividesByZero(const Node& n, const std::vector<std::string>& names)
 {
     if (withoutVariables(n))  // becomes one number before GiNaC sees it
         return false;
-    const bool singular = (n.op == Op::Divide && identicallyZero(*n.args[1], names)) ||
-                          ((n.op == Op::Power || (n.op == Op::Call && (n.name == "ln" || n.name == "cot" ||
-                                                                       n.name == "csc"))) &&
-                           identicallyZero(*n.args[0], names));
+    const bool singular =
+        (n.op == Op::Divide && identicallyZero(*n.args[1], names)) ||
+        ((n.op == Op::Power || (n.op == Op::Call && (n.name == "ln" || n.name == "cot" || n.name == "csc"))) &&
+         identicallyZero(*n.args[0], names));
     if (singular)
         return true;
     for (const NodePtr& a : n.args)
@@ -668,22 +684,38 @@ GiNaC::ex toGinac(const Node& n, const std::map<std::string, GiNaC::realsymbol>&
             call.args.push_back(std::move(argument));
             return exactNumber(valueAt(call, {}), "");
         }
-        if (f == "sin") return sin(a);
-        if (f == "cos") return cos(a);
-        if (f == "tan") return tan(a);
-        if (f == "cot") return 1 / tan(a);
-        if (f == "sec") return 1 / cos(a);
-        if (f == "csc") return 1 / sin(a);
-        if (f == "asin") return asin(a);
-        if (f == "acos") return acos(a);
-        if (f == "atan") return atan(a);
-        if (f == "sinh") return sinh(a);
-        if (f == "cosh") return cosh(a);
-        if (f == "tanh") return tanh(a);
-        if (f == "exp") return exp(a);
-        if (f == "ln") return log(a);
-        if (f == "sqrt") return sqrt(a);
-        if (f == "abs") return abs(a);
+        if (f == "sin")
+            return sin(a);
+        if (f == "cos")
+            return cos(a);
+        if (f == "tan")
+            return tan(a);
+        if (f == "cot")
+            return 1 / tan(a);
+        if (f == "sec")
+            return 1 / cos(a);
+        if (f == "csc")
+            return 1 / sin(a);
+        if (f == "asin")
+            return asin(a);
+        if (f == "acos")
+            return acos(a);
+        if (f == "atan")
+            return atan(a);
+        if (f == "sinh")
+            return sinh(a);
+        if (f == "cosh")
+            return cosh(a);
+        if (f == "tanh")
+            return tanh(a);
+        if (f == "exp")
+            return exp(a);
+        if (f == "ln")
+            return log(a);
+        if (f == "sqrt")
+            return sqrt(a);
+        if (f == "abs")
+            return abs(a);
         break;
     }
     }
@@ -695,8 +727,8 @@ bool mayBeUndefined(const Node& n)
 {
     if (n.op == Op::Divide || n.op == Op::Power)
         return true;
-    if (n.op == Op::Call && !(n.name == "sin" || n.name == "cos" || n.name == "atan" || n.name == "tanh" ||
-                              n.name == "abs"))
+    if (n.op == Op::Call &&
+        !(n.name == "sin" || n.name == "cos" || n.name == "atan" || n.name == "tanh" || n.name == "abs"))
         return true;
     for (const NodePtr& a : n.args)
         if (mayBeUndefined(*a))
@@ -753,9 +785,8 @@ bool fromGinac(const GiNaC::ex& e, std::string& out)
     }
     if (is_a<function>(e) && e.nops() == 1) {
         static const std::map<std::string, std::string> names = {
-            {"sin", "sin"},   {"cos", "cos"},   {"tan", "tan"},   {"asin", "asin"}, {"acos", "acos"},
-            {"atan", "atan"}, {"sinh", "sinh"}, {"cosh", "cosh"}, {"tanh", "tanh"}, {"exp", "exp"},
-            {"log", "ln"},    {"abs", "abs"}};
+            {"sin", "sin"},   {"cos", "cos"},   {"tan", "tan"},   {"asin", "asin"}, {"acos", "acos"}, {"atan", "atan"},
+            {"sinh", "sinh"}, {"cosh", "cosh"}, {"tanh", "tanh"}, {"exp", "exp"},   {"log", "ln"},    {"abs", "abs"}};
         const auto found = names.find(ex_to<function>(e).get_name());
         if (found == names.end())
             return false;

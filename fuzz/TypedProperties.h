@@ -29,7 +29,9 @@ inline std::string checkTypedText(std::string_view input)
     std::string error;
     const auto e = TypedExpression::compile(text, variables, error);
     if (!e)
-        return error.find(" at ") != std::string::npos || error.rfind("too long", 0) == 0 ? "" : "refusal without place: " + error;
+        return error.find(" at ") != std::string::npos || error.rfind("too long", 0) == 0
+                   ? ""
+                   : "refusal without place: " + error;
     // The understood text writes more blanks and brackets than were typed: past the length limit it
     // is shown but not read again.
     if (e->understood().size() > TypedExpression::MaxLength)

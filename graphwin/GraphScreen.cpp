@@ -204,10 +204,12 @@ void GraphScreen::rememberTyped(const QString& caption, std::function<void()> ap
         historySeparator_ = toolsMenu_->insertSeparator(nullptr);
     QAction* before = history_.isEmpty() ? nullptr : history_.front();
     auto* action = new QAction(caption, toolsMenu_);
-    connect(action, &QAction::triggered, this, [this, apply] { guarded([this, &apply] {
-                                                                 apply();
-                                                                 refreshDescription();
-                                                             }); });
+    connect(action, &QAction::triggered, this, [this, apply] {
+        guarded([this, &apply] {
+            apply();
+            refreshDescription();
+        });
+    });
     toolsMenu_->insertAction(before, action);
     history_.prepend(action);
     constexpr int kRemembered = 8;
@@ -234,9 +236,14 @@ void GraphScreen::mnuTypeFunction_Click()
     spec.title = QStringLiteral("Type a function y = f(x)");
     spec.fields = {QStringLiteral("y =")};
     spec.initial = {typed_ ? QString::fromStdString(typed_->f->text()) : QString()};
-    spec.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")}, {QStringLiteral("x^3 - 2*x - 5")},
-                     {QStringLiteral("exp(-x^2)")}, {QStringLiteral("sin(x)/x")}, {QStringLiteral("ln(x)")},
-                     {QStringLiteral("sqrt(4 - x^2)")}, {QStringLiteral("abs(x)")}, {QStringLiteral("1/(1 + x^2)")}};
+    spec.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")},
+                     {QStringLiteral("x^3 - 2*x - 5")},
+                     {QStringLiteral("exp(-x^2)")},
+                     {QStringLiteral("sin(x)/x")},
+                     {QStringLiteral("ln(x)")},
+                     {QStringLiteral("sqrt(4 - x^2)")},
+                     {QStringLiteral("abs(x)")},
+                     {QStringLiteral("1/(1 + x^2)")}};
     spec.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
     spec.check = [](const QStringList& texts, QString& preview) {
         std::string error;

@@ -72,8 +72,9 @@ QString GraphScreen::describeFamily() const
 {
     using namespace FuncGlobals;
     QString text = typed_ ? QStringLiteral("the typed function y = ") + QString::fromStdString(typed_->f->text())
-                   : FunctionId >= 1 && FunctionId <= ExplicitFamilyCount ? QString::fromStdString(FuncCaption[FunctionId])
-                                                         : QStringLiteral("y = 0 (no function chosen)");
+                   : FunctionId >= 1 && FunctionId <= ExplicitFamilyCount
+                       ? QString::fromStdString(FuncCaption[FunctionId])
+                       : QStringLiteral("y = 0 (no function chosen)");
     const TextBox* boxes[6] = {txtA, txtB, txtC, txtD, txtE, txtF};
     QStringList values;
     for (int i = 0; i < config_.coefficientCount; ++i)

@@ -82,14 +82,16 @@ void frmFlowField::ShowDyDx()
     using namespace FuncGlobals;
     const auto& k = Coefficients;
     const std::string dyCaption = DyCaption(DyFuncId), dxCaption = DxCaption(DxFuncId);
-    const std::string dy = typedRates_ ? typedRates_->dy->text()
-                                       : FormulaWithCoefficients(
-                                             std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())),
-                                             "ABC", {k.A, k.B, k.C});
-    const std::string dx = typedRates_ ? typedRates_->dx->text()
-                                       : FormulaWithCoefficients(
-                                             std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())),
-                                             "DEF", {k.D, k.E, k.F});
+    const std::string dy =
+        typedRates_
+            ? typedRates_->dy->text()
+            : FormulaWithCoefficients(std::string_view(dyCaption).substr(std::min<std::size_t>(5, dyCaption.size())),
+                                      "ABC", {k.A, k.B, k.C});
+    const std::string dx =
+        typedRates_
+            ? typedRates_->dx->text()
+            : FormulaWithCoefficients(std::string_view(dxCaption).substr(std::min<std::size_t>(5, dxCaption.size())),
+                                      "DEF", {k.D, k.E, k.F});
     const double formula = equals + surface->TextWidth(QStringLiteral("= "));
     surface->setFontUnderline(true);
     surface->CurrentX = formula;
@@ -224,9 +226,10 @@ bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X
 
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 {
-    typedGuard([&] { startCurve(Button, X, Y); }, [this](const rt::RuntimeError&) {
-        lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
-    });
+    typedGuard([&] { startCurve(Button, X, Y); },
+               [this](const rt::RuntimeError&) {
+                   lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
+               });
 }
 
 void frmFlowField::startCurve(int Button, double X, double Y)
@@ -279,9 +282,10 @@ void frmFlowField::followCurve(double& x, double& y, bool backward)
 
 void frmFlowField::followGuarded(double& x, double& y, bool backward)
 {
-    typedGuard([&] { followCurve(x, y, backward); }, [this](const rt::RuntimeError&) {
-        lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
-    });
+    typedGuard([&] { followCurve(x, y, backward); },
+               [this](const rt::RuntimeError&) {
+                   lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
+               });
 }
 
 void frmFlowField::FollowCurveForward(double& x, double& y) { followGuarded(x, y, false); }
@@ -504,8 +508,8 @@ void frmFlowField::describeResults(QStringList& lines) const
         lines << QStringLiteral("Typed rates: %1; %2.").arg(lbldy->text(), lbldx->text());
     else
         lines << QStringLiteral("Rates: %1, that is dy = %2; %3, that is dx = %4.")
-                 .arg(lbldy->text(), withValues(dyCaption, "ABC", {k.A, k.B, k.C}), lbldx->text(),
-                      withValues(dxCaption, "DEF", {k.D, k.E, k.F}));
+                     .arg(lbldy->text(), withValues(dyCaption, "ABC", {k.A, k.B, k.C}), lbldx->text(),
+                          withValues(dxCaption, "DEF", {k.D, k.E, k.F}));
     lines << (optApprox->isChecked() ? QStringLiteral("Purpose: approximation by %1, %2 %3.")
                                            .arg(spoken(method->text()), spoken(lblDeltaX->text()), txtDelta->text())
                                      : QStringLiteral("Purpose: smooth curves."));

@@ -16,7 +16,6 @@
 #include "screens/IntegralCurves.h"
 #include "screens/RateFormula.h"
 
-
 class frmFlowField : public GraphScreen {
     Q_OBJECT
 public:

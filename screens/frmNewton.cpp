@@ -94,7 +94,8 @@ void frmNewton::cmdApply_Click()
         if (noValue || std::isnan(FuncGlobals::ExplicitSlope(x)))
             stopped = noValue ? QStringLiteral(" (no f(x) here)") : QStringLiteral(" (no f'(x) here)");
         else
-            typedGuard([&] { applyNewton(x); }, [&](const rt::RuntimeError&) { stopped = QStringLiteral(" (too large)"); });
+            typedGuard([&] { applyNewton(x); },
+                       [&](const rt::RuntimeError&) { stopped = QStringLiteral(" (too large)"); });
         if (!stopped.isEmpty()) {
             NewSequence = false;
             if (GuessNumber < kGridRows)

@@ -260,7 +260,8 @@ QString frmParam::setTypedCurve(const QString& xt, const QString& yt)
     installTyped();
     lblXPar->setText(QStringLiteral("x = ") + xt.trimmed());
     lblYPar->setText(QStringLiteral("y = ") + yt.trimmed());
-    rememberTyped(QStringLiteral("x = %1, y = %2").arg(xt.trimmed(), yt.trimmed()), [this, xt, yt] { setTypedCurve(xt, yt); });
+    rememberTyped(QStringLiteral("x = %1, y = %2").arg(xt.trimmed(), yt.trimmed()),
+                  [this, xt, yt] { setTypedCurve(xt, yt); });
     return QString();
 }
 
@@ -279,7 +280,8 @@ void frmParam::mnuTypeFunction_Click()
     spec.names = typedNamesHelp(QStringLiteral("t"), QStringLiteral("A to F"));
     spec.check = [](const QStringList& texts, QString& preview) {
         std::string error;
-        const auto curve = FuncGlobals::TypedCurve::make(texts.value(0).toStdString(), texts.value(1).toStdString(), error);
+        const auto curve =
+            FuncGlobals::TypedCurve::make(texts.value(0).toStdString(), texts.value(1).toStdString(), error);
         if (!curve)
             return QString::fromStdString(error);
         preview = QStringLiteral("Understood: x = ") + QString::fromStdString(curve->x->understood()) +

@@ -204,45 +204,48 @@ void frmRiemann::cmdParts_Click()
     if (chkMid->isChecked())
         shown(lblMid, [&] { return drawn(4, [&](auto& b) { return midpoint(f, L, dx, n, bars(b)); }); });
     if (chkTrap->isChecked())
-        shown(lblTrap, [&] { return drawn(5, [&](DrawingSurface::Batch& batch) {
-                       return trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
-                           if (std::isnan(y1) || std::isnan(y2))
-                               return;
-                           const double a = graph.column(xa), b = graph.column(xb);
-                           const double t1 = graph.row(y1), t2 = graph.row(y2);
-                           if (!inside(a, b, t1))  // only the left height is tested
-                               return;
-                           batch.bar(a, t1, b, t2, Y0);
-                       });
-                   }); });
+        shown(lblTrap, [&] {
+            return drawn(5, [&](DrawingSurface::Batch& batch) {
+                return trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
+                    if (std::isnan(y1) || std::isnan(y2))
+                        return;
+                    const double a = graph.column(xa), b = graph.column(xb);
+                    const double t1 = graph.row(y1), t2 = graph.row(y2);
+                    if (!inside(a, b, t1))  // only the left height is tested
+                        return;
+                    batch.bar(a, t1, b, t2, Y0);
+                });
+            });
+        });
     if (chkRandom->isChecked())
         shown(lblRnd, [&] { return drawn(6, [&](auto& b) { return randomPoint(f, L, dx, n, bars(b)); }); });
     if (chkSimpson->isChecked())
         typedGuard(
             [&] {
-            const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
-            const Result r = drawn(3, [&](DrawingSurface::Batch& outline) {
-                return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
-                    if (std::isnan(y0) || std::isnan(y1) || std::isnan(y2))
-                        return;
-                    const double a = graph.column(xa), c = graph.column(xc);
-                    const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
-                    if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
-                        return;
-                    const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
-                    const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};
-                    for (int i = 0; i + 3 < 16; i += 2)
-                        outline.line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
+                const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
+                const Result r = drawn(3, [&](DrawingSurface::Batch& outline) {
+                    return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
+                        if (std::isnan(y0) || std::isnan(y1) || std::isnan(y2))
+                            return;
+                        const double a = graph.column(xa), c = graph.column(xc);
+                        const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
+                        if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
+                            return;
+                        const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
+                        const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};
+                        for (int i = 0; i + 3 < 16; i += 2)
+                            outline.line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
+                    });
                 });
-            });
-            if (r.odd)
-                lblSimpson->setText(QStringLiteral("Parts not even #"));
-            else
-                showResult(lblSimpson, r);
+                if (r.odd)
+                    lblSimpson->setText(QStringLiteral("Parts not even #"));
+                else
+                    showResult(lblSimpson, r);
             },
             tooLarge(lblSimpson));
     if (chkRiemann->isChecked())
-        shown(lblRiemann, [&] { return drawn(7, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); }); });
+        shown(lblRiemann,
+              [&] { return drawn(7, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); }); });
 
     lblAreas->setText(QStringLiteral("Area"));
 }

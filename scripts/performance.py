@@ -28,6 +28,17 @@ PAIRS = [
     ("Convergence table of the step methods, h to h/64", "BM_StepTableToHOver64", "BM_StepTableFinestRowOnly", None),
 ]
 
+# Typed functions: (title, typed handler, the same handler with the equivalent family, target ratio),
+# both timed in the handlers' process, in the same round.
+TYPED = [
+    ("Grapher: Plotto!, A*sin(B*x + C) + D*x + E against family 5", "BM_TypedGrapherPlot", "BM_GrapherPlot/5", 2),
+    ("Sums: all seven at 32000, A*x^2 + B*x + C against family 2", "BM_TypedGraphPartitionsAllMethods", "BM_GraphPartitionsAllMethods", 2),
+    ("Mean value theorem: Find c scan, typed against family 5", "BM_TypedFindCScan", "BM_FindCScan", 2),
+    ("Slope fields: forty curves, typed A*x + B*y + C, D*x + E*y + F against family 1", "BM_TypedFortyBidirectionalCurves", "BM_FortyBidirectionalCurves", 2),
+    ("Parametric plot, 32000 points, typed against families 4 and 5", "BM_TypedParametricPlot32000/0", "BM_ParametricPlot32000/0", 2),
+    ("Parametric plot, 32000 connected, typed against families 4 and 5", "BM_TypedParametricPlot32000/1", "BM_ParametricPlot32000/1", 2),
+]
+
 
 def medians(report):
     out = {}
@@ -98,6 +109,21 @@ def main():
             lines.append(f"| {title} | {t:.3f} | {b:.3f} | {ratio(fs, handler, floor):.2f} | | {dirty(hd)} | {dirty(fd)} |")
     if "BM_ResizeWithEightyCurves" in h:
         lines.append(f"| Slope fields: resize with the eighty curves (redrawn) | {h['BM_ResizeWithEightyCurves'][0]:.3f} | | | 100 ms | | |")
+    lines += [
+        "",
+        "## Typed functions",
+        "",
+        "Each handler with a typed function against the same handler with the family of the same formula,",
+        "both in the handlers' process; the ratio is the median over the rounds of the two times of one round.",
+        "",
+        "| handler | typed (ms) | family (ms) | ratio | target |",
+        "|---|---:|---:|---:|---:|",
+    ]
+    for title, typed, family, target in TYPED:
+        if typed in h and family in h:
+            q = statistics.median(r[typed][0] / r[family][0] for r in hs)
+            within = f"{target}x" + ("" if q <= target else " (missed)")
+            lines.append(f"| {title} | {h[typed][0]:.3f} | {h[family][0]:.3f} | {q:.2f} | {within} |")
     lines += [
         "",
         "Reproduce with:",

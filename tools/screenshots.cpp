@@ -3,7 +3,9 @@
 // Usage: plotto_shots OUTPUT_DIR
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QPixmap>
+#include <QTimer>
 
 #include "funclib/FuncGlobals.h"
 #include "launcher/frmGraphingCalc.h"
@@ -137,7 +139,78 @@ int main(int argc, char* argv[])
     param.cmdPlotto_Click();
     param.HscT->setValue(160);
     save(param, dir, QStringLiteral("parametric.png"));
+
+    // A typed cycloid, traced at t = pi.
+    param.CleanGraph();
+    param.setTypedCurve(QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)"));
+    param.txtTn->setText(QStringLiteral("12.6"));
+    param.optCont->setChecked(true);
+    param.cmdPlotto_Click();
+    param.txtT->setText(QStringLiteral("3.1416"));
+    save(param, dir, QStringLiteral("typed-parametric.png"));
     param.hide();
+
+    // Typed functions: Newton's method on the textbook cubic x^3 - 2x - 5 from 2, with its exact
+    // derivative, and the entry (Ctrl+E) as the teacher typed it.
+    newton.show();
+    newton.Form_Activate();
+    for (auto [box, text] :
+         {std::pair{newton.txtXmin, "-4"}, {newton.txtXmax, "4"}, {newton.txtYmin, "-10"}, {newton.txtYmax, "10"}})
+        box->setText(QString::fromLatin1(text));
+    newton.setTypedFunction(QStringLiteral("x^3 - 2*x - 5"));
+    newton.cmdPlotto_Click();
+    newton.cmdDeriv_Click();
+    newton.txtGuess->setText(QStringLiteral("2"));
+    for (int i = 0; i < 4; ++i)
+        newton.cmdApply_Click();
+    save(newton, dir, QStringLiteral("typed-newton.png"));
+    QTimer::singleShot(200, [&dir] {
+        QWidget* entry = QApplication::activeModalWidget();
+        if (!entry)
+            return;
+        if (auto* line = entry->findChild<QLineEdit*>())
+            line->setText(QStringLiteral("x^3 - 2*x - 5"));
+        QApplication::processEvents();
+        entry->grab().save(dir.filePath(QStringLiteral("typed-entry.png")));
+        if (auto* line = entry->findChild<QLineEdit*>())
+            line->setText(QStringLiteral("sin(x + (1 - x)"));
+        QApplication::processEvents();
+        entry->grab().save(dir.filePath(QStringLiteral("typed-entry-refused.png")));
+        entry->close();
+    });
+    newton.mnuTypeFunction_Click();
+    newton.hide();
+
+    // The midpoint sums of the Gaussian on [0, 1], typed.
+    sums.show();
+    sums.Form_Activate();
+    for (auto [box, text] :
+         {std::pair{sums.txtXmin, "-2"}, {sums.txtXmax, "2"}, {sums.txtYmin, "-1"}, {sums.txtYmax, "1.5"}})
+        box->setText(QString::fromLatin1(text));
+    sums.setTypedFunction(QStringLiteral("exp(-x^2)"));
+    sums.txtLBound->setText(QStringLiteral("0"));
+    sums.txtRBound->setText(QStringLiteral("1"));
+    sums.txtParts->setText(QStringLiteral("8"));
+    for (CheckBox* c :
+         {sums.chkLeft, sums.chkRight, sums.chkMid, sums.chkTrap, sums.chkRandom, sums.chkSimpson, sums.chkRiemann})
+        c->setChecked(c == sums.chkMid || c == sums.chkSimpson);
+    sums.cmdGraphNow_Click();
+    sums.cmdParts_Click();
+    save(sums, dir, QStringLiteral("typed-sums.png"));
+    sums.hide();
+
+    // The slope field of dy/dx = x - y^2, typed, with its curves.
+    field.show();
+    field.Form_Activate();
+    field.optCurve->setChecked(true);
+    field.txtDelta->setText(QStringLiteral("0.1"));
+    field.txtCurvePoints->setText(QStringLiteral("500"));
+    field.setTypedRates(QStringLiteral("x - y^2"), QStringLiteral("1"));
+    field.CleanGraph();
+    field.cmdShowFlow_Click();
+    field.cmdPlotto_Click();
+    save(field, dir, QStringLiteral("typed-slope-field.png"));
+    field.hide();
 
     // Animating A of the parabola from -2 to 2 in 41 steps.
     frmAnimate& animate = launcher.animateScreen();

@@ -51,7 +51,8 @@ TEST(TypedExpression, ValuesAndExactDerivatives)
     const double e = std::exp(1.0), pi = std::acos(-1.0);
     const ValueCase cases[] = {
         {"textbook cubic", "x^3 - 2*x - 5", 2, -1, 10},
-        {"coefficients inside", "A*sin(B*x + C) + D*x + E", 0.25, 2 * std::sin(1.25) - 0.25 + 4, 6 * std::cos(1.25) - 1},
+        {"coefficients inside", "A*sin(B*x + C) + D*x + E", 0.25, 2 * std::sin(1.25) - 0.25 + 4,
+         6 * std::cos(1.25) - 1},
         {"power before unary minus", "-x^2", 3, -9, -6},
         {"power groups to the right", "2^3^2", 0, 512, 0},
         {"negative exponent", "2^-x", 1, 0.5, -0.5 * std::log(2.0)},
@@ -134,15 +135,9 @@ TEST(TypedExpression, RefusesWithReasonAndPlace)
 TEST(TypedExpression, UnderstoodTextShowsTheOrderOfOperations)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {"-x^2", "-(x^2)"},
-        {"2^3^2", "2^(3^2)"},
-        {"x^3-2*x-5", "x^3 - 2*x - 5"},
-        {"x-(1-x)", "x - (1 - x)"},
-        {"(x-1)-x", "x - 1 - x"},
-        {"1/(2*x)", "1/(2*x)"},
-        {"(-x)^2", "(-x)^2"},
-        {"LOG(x)", "ln(x)"},
-        {"arcsin(x)", "asin(x)"},
+        {"-x^2", "-(x^2)"},         {"2^3^2", "2^(3^2)"},     {"x^3-2*x-5", "x^3 - 2*x - 5"},
+        {"x-(1-x)", "x - (1 - x)"}, {"(x-1)-x", "x - 1 - x"}, {"1/(2*x)", "1/(2*x)"},
+        {"(-x)^2", "(-x)^2"},       {"LOG(x)", "ln(x)"},      {"arcsin(x)", "asin(x)"},
     };
     for (const auto& [typed, understood] : cases) {
         auto f = read(typed);

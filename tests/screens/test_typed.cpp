@@ -163,7 +163,8 @@ TEST_F(TypedField, RatesOfXMinusYSquared)
     for (std::size_t r = 2; r <= 4; ++r)
         EXPECT_NEAR(ratio(t, r, 2), 16, 2.5) << r;  // the fourth-order method
     // A refused rate names which one, and the field keeps the typed rates it had.
-    EXPECT_EQ(screen->setTypedRates(QStringLiteral("x"), QStringLiteral("y +")), QStringLiteral("dx: missing a term after '+' at 4"));
+    EXPECT_EQ(screen->setTypedRates(QStringLiteral("x"), QStringLiteral("y +")),
+              QStringLiteral("dx: missing a term after '+' at 4"));
     EXPECT_EQ(screen->lbldx->text(), QStringLiteral("dx = 1"));
     screen->mnuDy_Click(1);
     EXPECT_EQ(FuncGlobals::TypedRate, nullptr);
