@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QShortcut>
+
 #include "graphwin/DrawingSurface.h"
 
 FormArea::FormArea(QWidget* parent) : QWidget(parent)
@@ -50,4 +52,17 @@ QSize openingSize(QSize normalForm, QSize frame, QSize available)
     return QSize(static_cast<int>(std::lround(normalForm.width() * zoom)),
                  static_cast<int>(std::lround(normalForm.height() * zoom))) +
            frame;
+}
+
+void toggleFullScreen(QWidget* window)
+{
+    // Only the full-screen flag changes: a maximized window keeps its maximized flag under it and
+    // returns to it, where showNormal() would drop it.
+    window->setWindowState(window->windowState() ^ Qt::WindowFullScreen);
+}
+
+void addFullScreenKey(QWidget* window)
+{
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F11), window);
+    QObject::connect(key, &QShortcut::activated, window, [window] { toggleFullScreen(window); });
 }

@@ -24,6 +24,11 @@ private:
     DrawingSurface* form_ = nullptr;
 };
 
+// F11 on `window`: full screen, and back to the state it had before (maximized when it was).
+void toggleFullScreen(QWidget* window);
+// Makes F11 toggle full screen on `window`.
+void addFullScreenKey(QWidget* window);
+
 // The size to open a window at: its normal size, or smaller, scaled as a whole, where the screen's
 // available area is smaller. `frame` is what the window adds around the form (menu bar, borders).
 QSize openingSize(QSize normalForm, QSize frame, QSize available);

@@ -53,13 +53,7 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     menuBar = new QMenuBar(this);
     layout->setMenuBar(menuBar);
     layout->addWidget(formArea_);
-    auto* fullScreen = new QShortcut(QKeySequence(Qt::Key_F11), this);
-    connect(fullScreen, &QShortcut::activated, this, [this] {
-        if (isFullScreen())
-            showNormal();
-        else
-            showFullScreen();
-    });
+    addFullScreenKey(this);
 
     form::buildForm(
         surface,

@@ -12,6 +12,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "graphwin/FormArea.h"
+
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
 #include "screens/frmClasses.h"
@@ -85,8 +87,7 @@ frmGraphingCalc::frmGraphingCalc()
     normalSize_ = sizeHint();
     resize(normalSize_);
     setMinimumSize(1, 1);
-    auto* fullScreen = new QShortcut(QKeySequence(Qt::Key_F11), this);
-    connect(fullScreen, &QShortcut::activated, this, [this] { isFullScreen() ? showNormal() : showFullScreen(); });
+    addFullScreenKey(this);
 }
 
 void frmGraphingCalc::resizeEvent(QResizeEvent* event)

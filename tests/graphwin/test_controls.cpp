@@ -6,6 +6,7 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormArea.h"
 #include "graphwin/FormTable.h"
 #include "tests/TestSupport.h"
 
@@ -92,4 +93,22 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
     };
     for (const auto& [what, row] : mistakes)
         EXPECT_THROW(form::buildForm(&parent, {row}), std::logic_error) << what;
+}
+
+TEST(FullScreenKey, ReturnsToTheStateBefore)
+{
+    struct Case {
+        const char* name;
+        Qt::WindowStates before;
+    };
+    const Case cases[] = {{"normal", Qt::WindowNoState}, {"maximized", Qt::WindowMaximized}};
+    for (const Case& c : cases) {
+        QWidget window;
+        window.setWindowState(c.before);
+        window.show();
+        toggleFullScreen(&window);
+        EXPECT_TRUE(window.windowState() & Qt::WindowFullScreen) << c.name;
+        toggleFullScreen(&window);
+        EXPECT_EQ(window.windowState(), c.before) << c.name;
+    }
 }
