@@ -65,3 +65,24 @@ TEST(ConvergenceOfSteps, TheCircleFromFourThree)
         EXPECT_NEAR(ratio(t, r, 2), 16, 2.5) << r;
     }
 }
+
+TEST(ConvergenceOfSteps, TheReferenceOutlastsTheFourthOrderErrorsToTheLastRow)
+{
+    FuncGlobals::DyFuncId = 1;  // the circle system, dy/dx = -x/y, from (4, 3) to x = 4.8
+    FuncGlobals::DxFuncId = 1;
+    FuncGlobals::Coefficients = {-1, 0, 0, 0, 1, 0};
+    const Table t = Convergence::steps(4, 3, 4.8, 0.1, 6, {});
+    ASSERT_TRUE(t.exact);
+    EXPECT_NEAR(*t.exact, 1.4, 1e-15);  // sqrt(25 - 4.8^2), on the circle of radius 5
+    EXPECT_LT(t.exactAccuracy, 2e-15);
+    const auto cells = t.cells();
+    ASSERT_EQ(cells.size(), 8u);
+    for (std::size_t r = 4; r < cells.size(); ++r)  // h/8 to h/64: the fourth order's 16
+        EXPECT_NEAR(std::stod(cells[r][9]), 16, 1) << cells[r][0];
+
+    // An error within the reference's own accuracy is said as such, with no ratio.
+    Table tiny = t;
+    tiny.exactAccuracy = 1e-9;
+    EXPECT_EQ(tiny.cells()[7][8], "below 1e-09");
+    EXPECT_EQ(tiny.cells()[7][9], "(reference)");
+}
