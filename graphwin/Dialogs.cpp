@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormStyle.h"
 
 #include <QApplication>
 #include <QInputDialog>
@@ -31,6 +32,7 @@ void MsgBox(const QString& prompt, const QString& title)
         return;
     }
     QMessageBox box(QMessageBox::NoIcon, title, prompt, QMessageBox::Ok, dialogParent());
+    box.setFont(FormStyle::zoomed(QApplication::font(), box.parentWidget()));
     box.exec();
 }
 
@@ -47,6 +49,7 @@ QString InputBox(const QString& prompt, const QString& title, const QString& def
         return answer;
     }
     QInputDialog dialog(dialogParent());
+    dialog.setFont(FormStyle::zoomed(QApplication::font(), dialog.parentWidget()));
     dialog.setWindowTitle(title);
     dialog.setLabelText(prompt);
     dialog.setTextValue(defaultText);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QApplication>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -43,7 +44,7 @@ DrawingSurface::DrawingSurface(double widthTwips, double heightTwips, QWidget* p
 void DrawingSurface::allocateImage()
 {
     pxPerTwip_ = scale_ / kTwipsPerPixel;
-    penPx_ = std::max(1, static_cast<int>(std::lround(drawWidth_ * scale_)));
+    penPx_ = penFor(drawWidth_);
     adoptImage(QImage(std::max(1, static_cast<int>(std::ceil(normalSize_.width() * scale_))),
                       std::max(1, static_cast<int>(std::ceil(normalSize_.height() * scale_))), QImage::Format_RGB32));
 }
@@ -81,6 +82,7 @@ void DrawingSurface::setZoom(double zoom)
     }
     placeChildren();
     update();
+    Q_EMIT zoomChanged(zoom_);
 }
 
 void DrawingSurface::replay()
@@ -90,18 +92,18 @@ void DrawingSurface::replay()
         switch (k.kind) {
         case Kept::Line:
         case Kept::Point: {
-            const int pen = std::max(1, static_cast<int>(std::lround(k.extra * scale_)));
+            const int pen = penFor(k.extra);
             if (k.kind == Kept::Line)
-                raster::line(target(), toPx(k.a), toPx(k.b), toPx(k.c), toPx(k.d), pen, k.color);
+                raster::line(target(), toPx(k.a), toPx(k.b), toPx(k.c), toPx(k.d), pen, ink(k.color));
             else
-                raster::point(target(), toPx(k.a), toPx(k.b), pen, k.color);
+                raster::point(target(), toPx(k.a), toPx(k.b), pen, ink(k.color));
             break;
         }
         case Kept::Circle: drawCircle(k.a, k.b, k.c, k.color, k.extra); break;
         case Kept::Text: drawText(k.a, k.b, texts_[static_cast<std::size_t>(k.extra)], k.color); break;
         case Kept::Clear: drawClear(k.a, k.b, k.c, k.d, k.color); break;
         case Kept::Batch: {
-            raster::SameColourWriter w(target(), std::max(1, static_cast<int>(std::lround(k.extra * scale_))), k.color);
+            raster::SameColourWriter w(target(), penFor(k.extra), ink(k.color));
             const BatchRanges& r = batchRanges_[static_cast<std::size_t>(k.a)];
             for (std::size_t i = r.points[0]; i < r.points[1]; i += 2)
                 w.point(toPx(batchPoints_[i]), toPx(batchPoints_[i + 1]));
@@ -203,7 +205,7 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, QRgb color
     retain(Kept::Line, x1, y1, x2, y2, color, drawWidth_);
     CurrentX = x2;
     CurrentY = y2;
-    raster::line(target(), toPx(x1), toPx(y1), toPx(x2), toPx(y2), penPx_, color);
+    raster::line(target(), toPx(x1), toPx(y1), toPx(x2), toPx(y2), penPx_, ink(color));
     touched();
 }
 
@@ -218,19 +220,72 @@ void DrawingSurface::Circle(double x, double y, double r, QRgb color)
     touched();
 }
 
+template <class Paint>
+void DrawingSurface::paintDevice(Paint paint)
+{
+    image_.setDevicePixelRatio(1);
+    {
+        QPainter painter(&image_);
+        paint(painter);
+    }
+    image_.setDevicePixelRatio(scale_);
+    bits_ = reinterpret_cast<QRgb*>(image_.bits());
+}
+
+int DrawingSurface::penFor(double width) const
+{
+    return std::max(1, static_cast<int>(std::lround(width * scale_ * (projector_ ? kProjectorPen : 1.0))));
+}
+
+QRgb DrawingSurface::ink(QRgb color)
+{
+    if (!projector_)
+        return color;
+    // Darkens by steps of a tenth until the colour's contrast against white reaches 3:1 (relative
+    // luminance at most 0.3, the non-text contrast that accessibility guidelines ask for).
+    auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    double r = qRed(color) / 255.0, g = qGreen(color) / 255.0, b = qBlue(color) / 255.0;
+    for (int step = 0; step < 40; ++step) {
+        if (0.2126 * linear(r) + 0.7152 * linear(g) + 0.0722 * linear(b) <= 0.3)
+            break;
+        r *= 0.9;
+        g *= 0.9;
+        b *= 0.9;
+    }
+    return qRgb(static_cast<int>(std::lround(r * 255)), static_cast<int>(std::lround(g * 255)),
+                static_cast<int>(std::lround(b * 255)));
+}
+
+void DrawingSurface::setProjectorMode(bool on)
+{
+    if (on == projector_)
+        return;
+    projector_ = on;
+    for (QWidget* w : QApplication::allWidgets())
+        if (auto* surface = qobject_cast<DrawingSurface*>(w)) {
+            surface->penPx_ = surface->penFor(surface->drawWidth_);
+            if (surface->keptComplete_)
+                surface->replay();
+            surface->update();
+        }
+}
+
 void DrawingSurface::drawCircle(double x, double y, double r, QRgb color, int width)
 {
-    const double cx = x / kTwipsPerPixel, cy = y / kTwipsPerPixel, rr = std::fabs(r) / kTwipsPerPixel;
-    const double limit = 1e6;
+    const double grow = projector_ ? kProjectorPen : 1.0;
+    // Device pixels as the logical ones times the scale, so that a form at its normal size draws to
+    // the very same pixels as a painter in logical pixels did.
+    const double cx = x / kTwipsPerPixel * scale_, cy = y / kTwipsPerPixel * scale_;
+    const double rr = std::fabs(r) / kTwipsPerPixel * scale_ * (projector_ ? 1.5 : 1.0);
+    const double limit = 1e6 * scale_;
     if (!(std::fabs(cx) < limit && std::fabs(cy) < limit && rr < limit))
         return;
-    QPainter painter(&image_);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QPen(QColor(color), width));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(QPointF(cx, cy), rr, rr);
-    painter.end();
-    bits_ = reinterpret_cast<QRgb*>(image_.bits());
+    paintDevice([&](QPainter& painter) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(QPen(QColor(ink(color)), std::max(1.0, std::round(width * scale_ * grow))));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(QPointF(cx, cy), rr, rr);
+    });
 }
 
 void DrawingSurface::clearArea(double left, double top, double width, double height)
@@ -242,12 +297,11 @@ void DrawingSurface::clearArea(double left, double top, double width, double hei
 
 void DrawingSurface::drawClear(double left, double top, double width, double height, QRgb color)
 {
-    QPainter painter(&image_);
-    painter.fillRect(
-        QRectF(left / kTwipsPerPixel, top / kTwipsPerPixel, width / kTwipsPerPixel, height / kTwipsPerPixel),
-        QColor(color));
-    painter.end();
-    bits_ = reinterpret_cast<QRgb*>(image_.bits());
+    paintDevice([&](QPainter& painter) {
+        painter.fillRect(QRectF(left / kTwipsPerPixel * scale_, top / kTwipsPerPixel * scale_,
+                                width / kTwipsPerPixel * scale_, height / kTwipsPerPixel * scale_),
+                         QColor(color));
+    });
 }
 
 QFont DrawingSurface::scaledFont() const
@@ -289,18 +343,21 @@ void DrawingSurface::drawText(double xTwips, double yTwips, const KeptText& text
     const double x = xTwips / kTwipsPerPixel, y = yTwips / kTwipsPerPixel;
     if (!(std::fabs(x) < 1e6 && std::fabs(y) < 1e6))
         return;
-    QPainter painter(&image_);
-    painter.setFont(text.font);
-    painter.setPen(QColor(color));
-    painter.drawText(QPointF(x, y + QFontMetricsF(text.font).ascent()), text.text);
-    painter.end();
-    bits_ = reinterpret_cast<QRgb*>(image_.bits());
+    // The text grows with the form: its font, kept at the normal size, is scaled to device pixels.
+    QFont font = text.font;
+    if (font.pixelSize() > 0)
+        font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * scale_))));
+    paintDevice([&](QPainter& painter) {
+        painter.setFont(font);
+        painter.setPen(QColor(color));
+        painter.drawText(QPointF(x * scale_, y * scale_ + QFontMetricsF(font).ascent()), text.text);
+    });
 }
 
 void DrawingSurface::setDrawWidth(int width)
 {
     drawWidth_ = std::max(1, width);
-    penPx_ = std::max(1, static_cast<int>(std::lround(drawWidth_ * scale_)));
+    penPx_ = penFor(drawWidth_);
 }
 
 void DrawingSurface::setFontSize(double points) { font_.setPointSizeF(std::clamp(points, 1.0, 2048.0)); }

@@ -53,7 +53,7 @@ public:
         if (recording_)
             record(DrawOp::PSet, x, y, x, y, color);
         retain(Kept::Point, x, y, 0, 0, color, drawWidth_);
-        raster::point(target(), toPx(x), toPx(y), penPx_, color);
+        raster::point(target(), toPx(x), toPx(y), penPx_, ink(color));
         touched();
     }
     // A circle outline of radius r twips around (x, y).
@@ -158,10 +158,25 @@ public:
     double widthTwips() const { return widthTwips_; }
     double heightTwips() const { return heightTwips_; }
 
+    // Projector mode, for every surface of the run: lines, points and circles drawn with a pen
+    // kProjectorPen times as wide, circles that much larger, and colours lighter than 3:1 against
+    // white darkened until they reach it. Only how a shape is drawn changes, never where: the
+    // operations and their twips are the same, and each surface draws its picture again.
+    static void setProjectorMode(bool on);
+    static bool projectorMode() { return projector_; }
+    static constexpr double kProjectorPen = 2.5;
+    // A colour as projector mode draws it (unchanged with the mode off).
+    static QRgb ink(QRgb color);
+
     // The form's scale: 1 at the normal size. Resizes the surface and everything placed on it, and
     // draws the picture again at the new resolution.
     void setZoom(double zoom);
     double zoom() const { return zoom_; }
+Q_SIGNALS:
+    // The form took a new zoom (its window grew or shrank).
+    void zoomChanged(double zoom);
+
+public:
     // The surface's size in logical pixels at the normal size.
     QSize normalSize() const { return normalSize_; }
     // The largest zoom the surface accepts, and the number of operations it keeps for redrawing
@@ -231,6 +246,13 @@ private:
     void drawCircle(double x, double y, double r, QRgb color, int width);
     void drawText(double x, double y, const KeptText& text, QRgb color);
     void drawClear(double left, double top, double width, double height, QRgb color);
+    // Paints on the image in device pixels. The image's pixel ratio is set aside meanwhile: the
+    // toolkit does not scale a painter on an image whose ratio is below 1 (a form shown smaller
+    // than its normal size), so a painter always gets device coordinates from us.
+    template <class Paint>
+    void paintDevice(Paint paint);
+    // The drawing width `width` in device pixels at the present scale and mode.
+    int penFor(double width) const;
     void placeChildren();
 
     // A twip coordinate in device pixels. Multiplying by the reciprocal leaves multiples of 15 an
@@ -259,6 +281,7 @@ private:
     long stride_ = 0, widthPx_ = 0, heightPx_ = 0;
     int drawWidth_ = 1;
     int penPx_ = 1;  // drawing width in device pixels
+    static inline bool projector_ = false;
     QFont font_;
     bool recording_ = false;
     bool batching_ = true;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QFrame>
@@ -21,6 +22,7 @@
 #include "graphwin/Axes.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormArea.h"
+#include "graphwin/FormStyle.h"
 #include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
@@ -52,6 +54,9 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     layout->setSpacing(0);
     menuBar = new QMenuBar(this);
     layout->setMenuBar(menuBar);
+    installFormStyle();
+    menuFont_ = menuBar->font();
+    connect(surface, &DrawingSurface::zoomChanged, this, [this](double zoom) { applyFormZoom(zoom); });
     layout->addWidget(formArea_);
     addFullScreenKey(this);
 
@@ -175,6 +180,22 @@ void GraphScreen::buildMenus()
     buildToolsMenu();
 }
 
+void GraphScreen::applyFormZoom(double zoom)
+{
+    FormStyle::setWindowZoom(this, zoom);
+    QFont font = menuFont_;
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * zoom);
+    else if (font.pixelSize() > 0)
+        font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * zoom))));
+    menuBar->setFont(font);
+    for (QMenu* menu : menuBar->findChildren<QMenu*>())
+        menu->setFont(font);
+    for (QWidget* w : surface->findChildren<QWidget*>())
+        if (qobject_cast<QAbstractButton*>(w) || qobject_cast<QScrollBar*>(w))
+            w->update();  // indicators and scroll-bar parts are measured by the style at the zoom
+}
+
 void GraphScreen::buildToolsMenu()
 {
     toolsMenu_ = menuBar->addMenu(QStringLiteral("&Tools"));
@@ -184,6 +205,20 @@ void GraphScreen::buildToolsMenu()
     mnuTypeFunction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
     mnuTypeFunction->setShortcutContext(Qt::WindowShortcut);
     connect(mnuTypeFunction, &QAction::triggered, this, [this] { guarded([this] { mnuTypeFunction_Click(); }); });
+    mnuProjector = toolsMenu_->addAction(QStringLiteral("&Projector Mode"));
+    mnuProjector->setCheckable(true);
+    mnuProjector->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
+    mnuProjector->setShortcutContext(Qt::WindowShortcut);
+    connect(mnuProjector, &QAction::triggered, this, [this] { guarded([this] { mnuProjector_Click(); }); });
+    // The mode belongs to the run: each screen's entry shows it as it is when its menu opens.
+    connect(toolsMenu_, &QMenu::aboutToShow, this,
+            [this] { mnuProjector->setChecked(DrawingSurface::projectorMode()); });
+}
+
+void GraphScreen::mnuProjector_Click()
+{
+    DrawingSurface::setProjectorMode(!DrawingSurface::projectorMode());
+    mnuProjector->setChecked(DrawingSurface::projectorMode());
 }
 
 void GraphScreen::rememberTyped(const QString& caption, std::function<void()> apply)
@@ -557,6 +592,7 @@ void GraphScreen::showEvent(QShowEvent* event)
         arranged_ = true;
         // The first opening: the normal size, or the largest that fits the screen.
         if (QScreen* where = screen()) {
+            applyFormZoom(1.0);  // the frame is measured with the menu bar at the normal size
             const QSize frame(kWindowBorders.width(), menuBar->sizeHint().height() + kWindowBorders.height());
             resize(openingSize(surface->normalSize(), frame, where->availableGeometry().size()) - kWindowBorders);
         }

@@ -137,6 +137,10 @@ public:
     // an explicit function refuses every text.
     QString setTypedFunction(const QString& text);
     QAction *mnuTools = nullptr, *mnuTypeFunction = nullptr;
+    // Projector mode (Tools, Ctrl+Shift+P): wider lines, larger marks and darker light colours on
+    // every screen, for the rest of the run.
+    QAction* mnuProjector = nullptr;
+    void mnuProjector_Click();
     // Opens the entry of the screen's function (Ctrl+E).
     virtual void mnuTypeFunction_Click();
     // True while the screen shows a typed function instead of a family.
@@ -243,6 +247,9 @@ private:
     TextBox* coefficientBox(int index) const;
 
     void buildToolsMenu();
+    // Grows the menu bar and its menus with the form, and tells the style the form's zoom.
+    void applyFormZoom(double zoom);
+    QFont menuFont_;
     QMenu* toolsMenu_ = nullptr;
     QAction* historySeparator_ = nullptr;
     QList<QAction*> history_;

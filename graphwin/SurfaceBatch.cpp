@@ -10,10 +10,10 @@
 
 DrawingSurface::Batch::Batch(DrawingSurface& surface, QRgb color)
     : s_(surface), color_(color),
-      writer_(surface.target(), surface.penPx_, color), first_{{surface.batchPoints_.size(), 0},
-                                                               {surface.batchLines_.size(), 0},
-                                                               {surface.batchPathEnds_.size(), 0},
-                                                               {surface.batchBars_.size(), 0}},
+      writer_(surface.target(), surface.penPx_, DrawingSurface::ink(color)), first_{{surface.batchPoints_.size(), 0},
+                                                                                    {surface.batchLines_.size(), 0},
+                                                                                    {surface.batchPathEnds_.size(), 0},
+                                                                                    {surface.batchBars_.size(), 0}},
       lastX_(surface.CurrentX), lastY_(surface.CurrentY), keep_(surface.keptComplete_ && surface.batching_),
       direct_(!surface.batching_)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "graphwin/TypedEntry.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -11,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormStyle.h"
 
 QString typedNamesHelp(const QString& variables, const QString& coefficients)
 {
@@ -37,7 +39,7 @@ std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec&
     }
     QDialog dialog(parent);
     dialog.setWindowTitle(spec.title);
-    dialog.setFont(parent ? parent->font() : dialog.font());
+    dialog.setFont(FormStyle::zoomed(QApplication::font(), parent));
     auto* layout = new QVBoxLayout(&dialog);
 
     auto* form = new QFormLayout;

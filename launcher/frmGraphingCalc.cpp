@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "graphwin/FormArea.h"
+#include "graphwin/FormStyle.h"
 
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
@@ -88,6 +89,7 @@ frmGraphingCalc::frmGraphingCalc()
     resize(normalSize_);
     setMinimumSize(1, 1);
     addFullScreenKey(this);
+    installFormStyle();
 }
 
 void frmGraphingCalc::resizeEvent(QResizeEvent* event)
@@ -99,6 +101,9 @@ void frmGraphingCalc::resizeEvent(QResizeEvent* event)
     QFont f = font();
     f.setPointSizeF(11 * zoom);
     setFont(f);
+    FormStyle::setWindowZoom(this, zoom);
+    for (QMenu* menu : findChildren<QMenu*>())  // popups do not take the window's font by themselves
+        menu->setFont(f);
     for (QPushButton* b : findChildren<QPushButton*>())
         b->setMinimumSize(static_cast<int>(240 * zoom), static_cast<int>(40 * zoom));
 }

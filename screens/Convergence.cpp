@@ -189,7 +189,8 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
         // The controlled stepper's own loop, with a budget: near a vertical slope the step shrinks
         // without end, and the table must answer at once.
         auto integrate = [&](State tolerance) {
-            auto stepper = ode::make_controlled<ode::runge_kutta_fehlberg78<State, State, State, State>>(tolerance, tolerance);
+            auto stepper =
+                ode::make_controlled<ode::runge_kutta_fehlberg78<State, State, State, State>>(tolerance, tolerance);
             State y = y0, x = x0, dx = (static_cast<State>(xEnd) - x0) / 1000;
             for (int tries = 0; tries < 200000 && std::isfinite(y) && (xEnd - x) * (xEnd - x0) > 0; ++tries) {
                 if ((x + dx - xEnd) * (xEnd - x0) > 0)
