@@ -96,6 +96,7 @@ Table sums(double L, double R, std::int32_t currentN)
 {
     Table t;
     t.methods.assign(kSumMethods.begin(), kSumMethods.end());
+    t.orders = {1, 1, 2, 2, 4};
     t.rowHeadings.push_back("n");
     auto f = [](double x) { return FuncGlobals::ExplicitValue(x); };
 
@@ -136,6 +137,7 @@ Table sums(double L, double R, std::int32_t currentN)
     auto ignore = [](auto&&...) {};
     for (std::int32_t n : ns) {
         t.rowHeadings.push_back(std::to_string(n));
+        t.rowCounts.push_back(n);
         std::vector<Cell> row;
         for (std::size_t m = 0; m < kSumMethods.size(); ++m) {
             Cell cell;
@@ -173,6 +175,7 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
 {
     Table t;
     t.methods.assign(kStepMethods.begin(), kStepMethods.end());
+    t.orders = {1, 2, 4};
     t.rowHeadings.push_back("h");
 
     // The reference: a controlled Runge-Kutta-Fehlberg 7(8) in extended precision, run at two
@@ -233,6 +236,7 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
         const long count = wanted > 0 ? std::max(1L, std::lround(std::fabs(span) / wanted)) : 1;
         const double step = count > 0 ? span / static_cast<double>(count) : 0;
         t.rowHeadings.push_back(format("%.6g", step) + " (" + std::to_string(count) + " steps)");
+        t.rowCounts.push_back(static_cast<double>(count));
         std::vector<Cell> row;
         for (IntegralCurves::Method method : methods) {
             Cell cell;

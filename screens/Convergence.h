@@ -29,6 +29,10 @@ struct Table {
     std::vector<std::string> rowHeadings;
     std::vector<std::string> methods;
     std::vector<std::vector<Cell>> values;  // [row][method]
+    // Each row's number of partitions or steps, for a plot of the error against it.
+    std::vector<double> rowCounts;
+    // The slope each method's error should show against that number on a log-log plot (-1, -2, -4).
+    std::vector<int> orders;
     // The cells as texts: heading row, then one row per value row: the row heading and, per
     // method, the value, its error and the ratio of the previous row's error to this one's.
     std::vector<std::vector<std::string>> cells() const;

@@ -1,21 +1,51 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ConvergenceWindow.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <vector>
+
 #include <QApplication>
+#include <QChart>
+#include <QChartView>
 #include <QClipboard>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLegend>
+#include <QLegendMarker>
 #include <QLineEdit>
+#include <QLineSeries>
+#include <QLogValueAxis>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormStyle.h"
+
+namespace {
+
+// One colour per method, dark enough for a projector; the reference slopes are grey and dashed.
+const QColor kMethodColours[] = {QColor(0x1F, 0x4E, 0xB4), QColor(0xB4, 0x2A, 0x1F), QColor(0x1E, 0x7B, 0x32),
+                                 QColor(0x7A, 0x3E, 0xA8), QColor(0x8A, 0x5A, 0x00)};
+
+std::string number(const char* pattern, double v)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, pattern, v);
+    return text;
+}
+
+}  // namespace
 
 ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::function<Convergence::Table()> compute)
     : QDialog(owner), compute_(std::move(compute))
@@ -31,19 +61,36 @@ ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::
     summary_->setWordWrap(true);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     layout->addWidget(summary_);
+    auto* body = new QHBoxLayout;
     grid_ = new QTableWidget(this);
     grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grid_->setTabKeyNavigation(false);
     grid_->verticalHeader()->hide();
+    grid_->setWordWrap(true);
     grid_->setAccessibleName(title);
-    layout->addWidget(grid_, 1);
+    body->addWidget(grid_);
+    plot_ = new QChartView(this);
+    plot_->setRenderHint(QPainter::Antialiasing);
+    plot_->setFocusPolicy(Qt::StrongFocus);
+    plot_->setAccessibleName(QStringLiteral("Error against the number of steps, log-log"));
+    plot_->setMinimumWidth(320);
+    body->addWidget(plot_, 1);
+    layout->addLayout(body, 1);
     auto* again = new QPushButton(QStringLiteral("Re&compute"), this);
     connect(again, &QPushButton::clicked, this, [this] { guarded([this] { recompute(); }); });
     layout->addWidget(again, 0, Qt::AlignRight);
     auto* copy = new QShortcut(QKeySequence::Copy, this);
-    connect(copy, &QShortcut::activated, this,
-            [this] { copyToClipboard(QString::fromStdString(table_.tabSeparated())); });
-    resize(900, 520);
+    connect(copy, &QShortcut::activated, this, [this] {
+        if (plot_->hasFocus()) {  // the plot as an image, with what it shows in words
+            auto* data = new QMimeData;
+            data->setImageData(plot_->grab().toImage());
+            data->setText(plotDescription());
+            QApplication::clipboard()->setMimeData(data);
+            return;
+        }
+        copyToClipboard(QString::fromStdString(table_.tabSeparated()));
+    });
+    resize(kNormalWidth, kNormalHeight);
 }
 
 QLineEdit* ConvergenceWindow::addInput(const QString& name, const QString& text)
@@ -58,32 +105,192 @@ void ConvergenceWindow::recompute()
 {
     table_ = compute_();
     summary_->setText(QString::fromStdString(table_.exactSource));
+    fillGrid();
+    fillPlot();
+    applyFont();
+}
+
+void ConvergenceWindow::fillGrid()
+{
+    // The row heading, then one column per method: its value, error and ratio one under the other,
+    // from the same cells that Ctrl+C copies.
     const auto cells = table_.cells();
     grid_->clear();
+    const int methods = static_cast<int>(table_.methods.size());
     grid_->setRowCount(static_cast<int>(cells.size()) - 1);
-    grid_->setColumnCount(cells.empty() ? 0 : static_cast<int>(cells.front().size()));
-    for (std::size_t c = 0; c < cells.front().size(); ++c)
-        grid_->setHorizontalHeaderItem(static_cast<int>(c), new QTableWidgetItem(QString::fromStdString(cells[0][c])));
-    for (std::size_t r = 1; r < cells.size(); ++r)
-        for (std::size_t c = 0; c < cells[r].size(); ++c) {
-            auto* item = new QTableWidgetItem(QString::fromStdString(cells[r][c]));
+    grid_->setColumnCount(1 + methods);
+    grid_->setHorizontalHeaderItem(0, new QTableWidgetItem(QString::fromStdString(cells[0][0])));
+    for (int m = 0; m < methods; ++m)
+        grid_->setHorizontalHeaderItem(1 + m, new QTableWidgetItem(QString::fromStdString(table_.methods[m])));
+    for (std::size_t r = 1; r < cells.size(); ++r) {
+        auto* heading = new QTableWidgetItem(QString::fromStdString(cells[r][0]).replace(QStringLiteral(" ("),
+                                                                                         QStringLiteral("\n(")));
+        heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        grid_->setItem(static_cast<int>(r) - 1, 0, heading);
+        for (int m = 0; m < methods; ++m) {
+            const std::string& value = cells[r][1 + 3 * m];
+            const std::string& error = cells[r][2 + 3 * m];
+            const std::string& ratio = cells[r][3 + 3 * m];
+            QString text = QString::fromStdString(value);
+            if (!error.empty())
+                text += QStringLiteral("\nerror ") + QString::fromStdString(error);
+            if (!ratio.empty())
+                text += QStringLiteral("\nratio ") + QString::fromStdString(ratio);
+            auto* item = new QTableWidgetItem(text);
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            grid_->setItem(static_cast<int>(r) - 1, static_cast<int>(c), item);
+            grid_->setItem(static_cast<int>(r) - 1, 1 + m, item);
         }
+    }
+}
+
+void ConvergenceWindow::fillPlot()
+{
+    auto* chart = new QChart;
+    const bool partitions = table_.rowHeadings.empty() || table_.rowHeadings[0] == "n";
+    const QString title = QStringLiteral("Error against the number of %1, log-log")
+                              .arg(partitions ? QStringLiteral("partitions") : QStringLiteral("steps"));
+    chart->setTitle(title);
+    plot_->setAccessibleName(title);
+    auto* x = new QLogValueAxis;
+    x->setBase(2);
+    x->setLabelFormat(QStringLiteral("%g"));
+    x->setTitleText(table_.rowHeadings.empty() || table_.rowHeadings[0] == "n" ? QStringLiteral("n")
+                                                                               : QStringLiteral("steps"));
+    auto* y = new QLogValueAxis;
+    y->setBase(10);
+    y->setLabelFormat(QStringLiteral("%.0e"));
+    y->setTitleText(QStringLiteral("error"));
+    chart->addAxis(x, Qt::AlignBottom);
+    chart->addAxis(y, Qt::AlignLeft);
+    double lowest = 0, highest = 0;
+    // Each method's first measured point, where its order's reference slope starts.
+    std::vector<std::pair<double, double>> first(table_.methods.size(), {0.0, 0.0});
+    for (std::size_t m = 0; m < table_.methods.size() && table_.exact; ++m) {
+        auto* series = new QLineSeries;
+        series->setName(QString::fromStdString(table_.methods[m]));
+        series->setPen(QPen(kMethodColours[m % 5], 2.5));
+        series->setPointsVisible(true);
+        for (std::size_t r = 0; r < table_.values.size() && r < table_.rowCounts.size(); ++r) {
+            const Convergence::Cell& cell = table_.values[r][m];
+            if (!cell.value)
+                continue;
+            const double error = std::fabs(*cell.value - *table_.exact);
+            if (!(error > table_.exactAccuracy) || !std::isfinite(error))
+                continue;  // no measurable error: no point on a log scale
+            series->append(table_.rowCounts[r], error);
+            lowest = lowest == 0 ? error : std::min(lowest, error);
+            highest = std::max(highest, error);
+            if (first[m].first == 0)
+                first[m] = {table_.rowCounts[r], error};
+        }
+        chart->addSeries(series);
+        series->attachAxis(x);
+        series->attachAxis(y);
+    }
+    // The reference slopes -1, -2 and -4, each from the first point of the first method of that
+    // order, across the table's range or down to the smallest error shown.
+    for (int order : {1, 2, 4}) {
+        std::pair<double, double> start{0.0, 0.0};
+        for (std::size_t m = 0; m < table_.orders.size() && m < first.size() && start.first == 0; ++m)
+            if (table_.orders[m] == order)
+                start = first[m];
+        if (start.first == 0 || table_.rowCounts.empty())
+            continue;
+        auto* line = new QLineSeries;
+        line->setName(QStringLiteral("slope -%1").arg(order));
+        line->setPen(QPen(QColor(0x60, 0x60, 0x60), 1.5,
+                          order == 1   ? Qt::DashLine
+                          : order == 2 ? Qt::DashDotLine
+                                       : Qt::DotLine));
+        const double end = std::max(lowest, start.second * std::pow(table_.rowCounts.back() / start.first, -order));
+        line->append(start.first, start.second);
+        line->append(start.first * std::pow(start.second / end, 1.0 / order), end);
+        chart->addSeries(line);
+        line->attachAxis(x);
+        line->attachAxis(y);
+    }
+    if (highest > 0) {
+        y->setRange(lowest / 2, highest * 2);
+        x->setRange(table_.rowCounts.front() / 1.2, table_.rowCounts.back() * 1.2);
+    }
+    chart->legend()->setAlignment(Qt::AlignRight);
+    QChart* old = plot_->chart();
+    plot_->setChart(chart);
+    delete old;
+    plot_->setAccessibleDescription(plotDescription());
+}
+
+QString ConvergenceWindow::plotDescription() const
+{
+    QStringList lines;
+    lines << plot_->accessibleName() + QLatin1Char('.');
+    if (!table_.exact) {
+        lines << QStringLiteral("No errors to plot: ") + QString::fromStdString(table_.exactSource);
+        return lines.join(QLatin1Char('\n'));
+    }
+    // A method's measured slope: the median of the slopes between its successive rows with a
+    // measurable error, so that the rows where single precision or the step's own rounding has
+    // taken over do not decide it.
+    for (std::size_t m = 0; m < table_.methods.size(); ++m) {
+        std::vector<double> slopes;
+        double n0 = 0, e0 = 0;
+        for (std::size_t r = 0; r < table_.values.size() && r < table_.rowCounts.size(); ++r) {
+            const Convergence::Cell& cell = table_.values[r][m];
+            const double error = cell.value ? std::fabs(*cell.value - *table_.exact) : 0;
+            if (!(cell.value && error > table_.exactAccuracy && std::isfinite(error)))
+                continue;
+            if (n0 > 0 && table_.rowCounts[r] > n0)
+                slopes.push_back(std::log(error / e0) / std::log(table_.rowCounts[r] / n0));
+            n0 = table_.rowCounts[r];
+            e0 = error;
+        }
+        const QString expected =
+            m < table_.orders.size() ? QStringLiteral(" (expected -%1)").arg(table_.orders[m]) : QString();
+        if (slopes.empty()) {
+            lines << QString::fromStdString(table_.methods[m]) + QStringLiteral(": too few measurable errors for a slope");
+            continue;
+        }
+        std::nth_element(slopes.begin(), slopes.begin() + static_cast<long>(slopes.size() / 2), slopes.end());
+        lines << QString::fromStdString(table_.methods[m]) + QStringLiteral(": slope ") +
+                     QString::fromStdString(number("%.2f", slopes[slopes.size() / 2])) + expected;
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void ConvergenceWindow::applyFont()
+{
+    // The text grows with the window, as the screens' forms do, from the normal size up.
+    const double factor = std::clamp(
+        std::min(width() / static_cast<double>(kNormalWidth), height() / static_cast<double>(kNormalHeight)), 0.5,
+        4.0);
+    QFont f = font();
+    f.setPointSizeF(baseFont_ * factor);
+    FormStyle::setWindowZoom(this, factor);
+    if (f != font())
+        setFont(f);
+    if (QChart* chart = plot_->chart()) {
+        QFont small = f;
+        small.setPointSizeF(f.pointSizeF() * 0.9);
+        chart->setTitleFont(f);
+        chart->legend()->setFont(small);
+        for (QAbstractAxis* axis : chart->axes()) {
+            axis->setLabelsFont(small);
+            axis->setTitleFont(small);
+        }
+    }
     grid_->resizeColumnsToContents();
+    grid_->resizeRowsToContents();
+    // The table as wide as its columns (and a vertical scroll bar), the plot takes the rest.
+    int width = 2 * grid_->frameWidth() + grid_->verticalScrollBar()->sizeHint().width();
+    for (int c = 0; c < grid_->columnCount(); ++c)
+        width += grid_->columnWidth(c);
+    grid_->setFixedWidth(width);
 }
 
 void ConvergenceWindow::resizeEvent(QResizeEvent* event)
 {
     QDialog::resizeEvent(event);
-    // The text grows with the window, as the screens' forms do.
-    const double factor = std::clamp(std::min(width() / 900.0, height() / 520.0), 0.5, 4.0);
-    QFont f = font();
-    f.setPointSizeF(baseFont_ * factor);
-    if (f != font()) {
-        setFont(f);
-        grid_->resizeColumnsToContents();
-    }
+    applyFont();
 }
 
 ConvergenceWindow* addConvergenceMenu(QWidget* screen, QMenuBar* bar, const QString& title,

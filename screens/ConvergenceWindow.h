@@ -2,7 +2,11 @@
 #pragma once
 // The "Convergence" window of the sums and slope-field screens: a table of how fast each method
 // approaches the exact value, computed from the screen's current state when the window opens or
-// Recompute is pressed. Ctrl+C copies it as tab-separated text; it grows with its window.
+// Recompute is pressed, and beside it a log-log plot of each method's error against the number of
+// partitions or steps with the reference slopes -1, -2 and -4, so that the orders are seen at a
+// glance. Each method is one column (its value, error and ratio one under the other), so that the
+// table fits beside the plot. Ctrl+C copies the table as tab-separated text, or the plot as an image
+// when the plot has the focus; everything grows with the window.
 #include <functional>
 
 #include <QDialog>
@@ -13,6 +17,7 @@ class QLabel;
 class QTableWidget;
 class QLineEdit;
 class QMenuBar;
+class QChartView;
 
 class ConvergenceWindow : public QDialog {
     Q_OBJECT
@@ -28,15 +33,24 @@ public:
     const Convergence::Table& table() const { return table_; }
     QTableWidget* grid() const { return grid_; }
     QLabel* summary() const { return summary_; }
+    QChartView* plot() const { return plot_; }
+    // What the plot shows, in words: each method's measured slope against its expected one.
+    QString plotDescription() const;
+    // The window's size at which its font is the normal one; it grows with the window from there.
+    static constexpr int kNormalWidth = 1180, kNormalHeight = 560;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void fillGrid();
+    void fillPlot();
+    void applyFont();
     std::function<Convergence::Table()> compute_;
     Convergence::Table table_;
     QLabel* summary_ = nullptr;
     QTableWidget* grid_ = nullptr;
+    QChartView* plot_ = nullptr;
     class QFormLayout* inputs_ = nullptr;
     double baseFont_ = 10;
 };

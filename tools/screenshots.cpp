@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "funclib/FuncGlobals.h"
+#include "screens/ConvergenceWindow.h"
 #include "launcher/frmGraphingCalc.h"
 
 namespace {
@@ -74,6 +75,15 @@ int main(int argc, char* argv[])
     sums.cmdCleanParts_Click();
     sums.cmdParts_Click();
     save(sums, dir, QStringLiteral("sums-32000.png"));
+    // Its convergence table with the log-log plot, for y = x^2 on [0, 2], maximized on 1920x1080.
+    sums.txtLBound->setText(QStringLiteral("0"));
+    sums.txtRBound->setText(QStringLiteral("2"));
+    sums.txtParts->setText(QStringLiteral("8"));
+    sums.convergence->show();
+    sums.convergence->recompute();
+    save(*sums.convergence, dir, QStringLiteral("convergence-sums.png"));
+    saveMaximized(*sums.convergence, dir, QStringLiteral("convergence-sums-maximized.png"));
+    sums.convergence->hide();
     sums.hide();
 
     // Newton's method on y = x^2 - 4 from 1, three steps, with the derivative.
@@ -131,6 +141,10 @@ int main(int argc, char* argv[])
     field.optCurve->setChecked(true);
     field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
     save(field, dir, QStringLiteral("slope-field-approximations.png"));
+    field.convergence->show();
+    field.convergence->recompute();
+    save(*field.convergence, dir, QStringLiteral("convergence-steps.png"));
+    field.convergence->hide();
     field.hide();
 
     // The default parametric figure x = 4 sin 3t, y = 3 cos 2t, as points and traced at t = 1.

@@ -3,6 +3,14 @@
 // sums and of the step methods, and the sums screen's own digits.
 #include <cmath>
 
+#include <QApplication>
+#include <QChartView>
+#include <QClipboard>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QTest>
+
 #include "screens/Convergence.h"
 #include "screens/ConvergenceWindow.h"
 #include "screens/frmRiemann.h"
@@ -85,4 +93,39 @@ TEST(ConvergenceOfSteps, TheReferenceOutlastsTheFourthOrderErrorsToTheLastRow)
     tiny.exactAccuracy = 1e-9;
     EXPECT_EQ(tiny.cells()[7][8], "below 1e-09");
     EXPECT_EQ(tiny.cells()[7][9], "(reference)");
+}
+
+TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
+{
+    DialogScript script;
+    setDialogScript(&script);
+    selectFamily(2, {1, 0, 0, 0, 0, 0});  // y = x^2 on [0, 2]
+    ConvergenceWindow window(nullptr, QStringLiteral("Convergence of the sums"),
+                             [] { return Convergence::sums(0, 2, 1); });
+    window.show();
+    window.recompute();
+    for (const QSize size : {QSize(ConvergenceWindow::kNormalWidth, ConvergenceWindow::kNormalHeight),
+                             QSize(1920, 1040), QSize(1280, 680), QSize(1024, 728)}) {
+        window.resize(size);
+        QApplication::processEvents();
+        EXPECT_EQ(window.grid()->horizontalScrollBar()->maximum(), 0) << size.width() << "x" << size.height();
+        EXPECT_GT(window.plot()->width(), size.width() / 4) << size.width();
+    }
+    // The columns hold each method's value, error and ratio; the plot says its slopes in words.
+    EXPECT_EQ(window.grid()->columnCount(), 6);
+    EXPECT_TRUE(window.grid()->item(3, 3)->text().contains(QStringLiteral("ratio 4.00")))
+        << window.grid()->item(3, 3)->text().toStdString();
+    const QString said = window.plotDescription();
+    const std::pair<const char*, double> slopes[] = {{"Left", -1}, {"Right", -1}, {"Midpoint", -2}, {"Trapezoid", -2}};
+    for (const auto& [method, expected] : slopes) {
+        const QString line = said.section(QString::fromLatin1(method) + QStringLiteral(": slope "), 1).section(' ', 0, 0);
+        EXPECT_NEAR(line.toDouble(), expected, 0.05) << method << ": " << said.toStdString();
+    }
+    window.plot()->setFocus();
+    QTest::keyClick(window.plot(), Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* data = QApplication::clipboard()->mimeData();
+    ASSERT_TRUE(data);
+    EXPECT_TRUE(data->hasImage());
+    EXPECT_EQ(data->text(), said);
+    setDialogScript(nullptr);
 }
