@@ -163,6 +163,7 @@ void FormStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         if (!button.isValid())
             continue;
         painter->fillRect(button, QColor(0xD6, 0xD6, 0xD6));
+        painter->setBrush(Qt::NoBrush);  // the arrow before this one left its brush
         painter->setPen(QPen(QColor(0x90, 0x90, 0x90), 1));
         painter->drawRect(QRectF(button).adjusted(0.5, 0.5, -0.5, -0.5));
         const QRectF in = QRectF(button).adjusted(button.width() * 0.28, button.height() * 0.28, -button.width() * 0.28,

@@ -123,8 +123,8 @@ void ConvergenceWindow::fillGrid()
     for (int m = 0; m < methods; ++m)
         grid_->setHorizontalHeaderItem(1 + m, new QTableWidgetItem(QString::fromStdString(table_.methods[m])));
     for (std::size_t r = 1; r < cells.size(); ++r) {
-        auto* heading = new QTableWidgetItem(QString::fromStdString(cells[r][0]).replace(QStringLiteral(" ("),
-                                                                                         QStringLiteral("\n(")));
+        auto* heading = new QTableWidgetItem(
+            QString::fromStdString(cells[r][0]).replace(QStringLiteral(" ("), QStringLiteral("\n(")));
         heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         grid_->setItem(static_cast<int>(r) - 1, 0, heading);
         for (int m = 0; m < methods; ++m) {
@@ -247,7 +247,8 @@ QString ConvergenceWindow::plotDescription() const
         const QString expected =
             m < table_.orders.size() ? QStringLiteral(" (expected -%1)").arg(table_.orders[m]) : QString();
         if (slopes.empty()) {
-            lines << QString::fromStdString(table_.methods[m]) + QStringLiteral(": too few measurable errors for a slope");
+            lines << QString::fromStdString(table_.methods[m]) +
+                         QStringLiteral(": too few measurable errors for a slope");
             continue;
         }
         std::nth_element(slopes.begin(), slopes.begin() + static_cast<long>(slopes.size() / 2), slopes.end());
@@ -261,8 +262,7 @@ void ConvergenceWindow::applyFont()
 {
     // The text grows with the window, as the screens' forms do, from the normal size up.
     const double factor = std::clamp(
-        std::min(width() / static_cast<double>(kNormalWidth), height() / static_cast<double>(kNormalHeight)), 0.5,
-        4.0);
+        std::min(width() / static_cast<double>(kNormalWidth), height() / static_cast<double>(kNormalHeight)), 0.5, 4.0);
     QFont f = font();
     f.setPointSizeF(baseFont_ * factor);
     FormStyle::setWindowZoom(this, factor);

@@ -7,6 +7,8 @@ cd "$(dirname "$0")/.."
 bash scripts/deps.sh
 cmake --preset default >/dev/null
 cmake --build --preset default --target plotto_shots
-QT_QPA_PLATFORM=offscreen ./build/default/plotto_shots docs
+# The screens maximized on a 1920x1080 projector, normal and projector mode, go to docs/projector;
+# PLOTTO_SHOT_SIZES=1920x1080,1280x720,1024x768 makes all three sizes (for a look, not for the page).
+QT_QPA_PLATFORM=offscreen PLOTTO_SHOT_SIZES="${PLOTTO_SHOT_SIZES:-1920x1080}" ./build/default/plotto_shots docs
 # The same at 200% scaling, for high-resolution displays.
-QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 ./build/default/plotto_shots docs/hidpi
+QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 PLOTTO_SHOT_SIZES=none ./build/default/plotto_shots docs/hidpi

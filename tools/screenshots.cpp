@@ -8,8 +8,8 @@
 #include <QTimer>
 
 #include "funclib/FuncGlobals.h"
-#include "screens/ConvergenceWindow.h"
 #include "launcher/frmGraphingCalc.h"
+#include "screens/ConvergenceWindow.h"
 
 namespace {
 
@@ -233,5 +233,33 @@ int main(int argc, char* argv[])
     animate.txtB->setText(QStringLiteral("0"));
     animate.cmdAnimate_Click();
     save(animate, dir, QStringLiteral("animate.png"));
+    animate.hide();
+
+    // Every screen as it was left above, maximized on the common projector sizes (the client area
+    // below a title bar), in normal and in projector mode: docs/projector/.
+    const QDir projector(dir.filePath(QStringLiteral("projector")));
+    projector.mkpath(QStringLiteral("."));
+    const std::pair<QWidget*, const char*> screens[] = {
+        {&grapher, "grapher"},   {&animate, "animate"}, {&sums, "sums"}, {&newton, "newton"},
+        {&field, "slope-field"}, {&tangent, "tangent"}, {&mvt, "mvt"},   {&param, "parametric"}};
+    const QSize sizes[] = {{1920, 1040}, {1280, 680}, {1024, 728}};
+    const QStringList only = qEnvironmentVariable("PLOTTO_SHOT_SIZES").split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (bool mode : {false, true}) {
+        DrawingSurface::setProjectorMode(mode);
+        for (const auto& [window, name] : screens)
+            for (const QSize size : sizes) {
+                const QString tag = QStringLiteral("%1x%2").arg(size.width()).arg(size.height() + 40);
+                if (!only.isEmpty() && !only.contains(tag))
+                    continue;
+                window->show();
+                window->resize(size);
+                QApplication::processEvents();
+                window->grab().save(projector.filePath(
+                    QStringLiteral("%1-%2%3.png")
+                        .arg(QString::fromLatin1(name), tag, mode ? QStringLiteral("-projector") : QString())));
+                window->hide();
+            }
+    }
+    DrawingSurface::setProjectorMode(false);
     return 0;
 }

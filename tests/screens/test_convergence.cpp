@@ -118,7 +118,8 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
     const QString said = window.plotDescription();
     const std::pair<const char*, double> slopes[] = {{"Left", -1}, {"Right", -1}, {"Midpoint", -2}, {"Trapezoid", -2}};
     for (const auto& [method, expected] : slopes) {
-        const QString line = said.section(QString::fromLatin1(method) + QStringLiteral(": slope "), 1).section(' ', 0, 0);
+        const QString line =
+            said.section(QString::fromLatin1(method) + QStringLiteral(": slope "), 1).section(' ', 0, 0);
         EXPECT_NEAR(line.toDouble(), expected, 0.05) << method << ": " << said.toStdString();
     }
     window.plot()->setFocus();
