@@ -3,6 +3,8 @@
 #include "graphwin/FormStyle.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QWidget>
@@ -37,6 +39,24 @@ void MsgBox(const QString& prompt, const QString& title)
 }
 
 DialogScript* dialogScript() { return activeScript; }
+
+QString FileBox(bool saving, const QString& title, const QString& directory)
+{
+    if (activeScript) {
+        activeScript->shown.emplace_back(title, QStringLiteral("file"));
+        if (activeScript->answers.empty())
+            return QString();
+        QString answer = activeScript->answers.front();
+        activeScript->answers.pop_front();
+        return answer;
+    }
+    const QString filter = QStringLiteral("Plotto lessons (*.plotto);;All files (*)");
+    QString path = saving ? QFileDialog::getSaveFileName(dialogParent(), title, directory, filter)
+                          : QFileDialog::getOpenFileName(dialogParent(), title, directory, filter);
+    if (saving && !path.isEmpty() && QFileInfo(path).suffix().isEmpty())
+        path += QStringLiteral(".plotto");
+    return path;
+}
 
 QString InputBox(const QString& prompt, const QString& title, const QString& defaultText, double xTwips, double yTwips)
 {

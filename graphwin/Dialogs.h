@@ -32,6 +32,10 @@ void MsgBox(const QString& prompt, const QString& title);
 QString InputBox(const QString& prompt, const QString& title, const QString& defaultText = QString(),
                  double xTwips = -1, double yTwips = -1);
 
+// A modal file dialog for a lesson (*.plotto): the chosen path, or "" on Cancel. With a script set,
+// it is recorded as (title, "file") and answered from `answers` like an input box.
+QString FileBox(bool saving, const QString& title, const QString& directory = QString());
+
 // Shows "Run-time error 'N':", a blank line and the message, then ends the program (with a script
 // set, records the box and the number and returns).
 void reportRuntimeError(const rt::RuntimeError& error);

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QFrame>
 #include <QGroupBox>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -34,6 +35,20 @@ constexpr double kBoxWidth = 600, kBoxHeight = 300, kArrowWidth = 180;
 // What a window manager typically adds around a window: borders and a title bar.
 const QSize kWindowBorders(8, 40);
 constexpr const char* kCoefficientNames = "ABCDEF";
+
+// The lesson commands the program's owner of the lesson set, and every screen, whose menu bar
+// shows where the lesson stands.
+GraphScreen::LessonCommands& lessonCommands()
+{
+    static GraphScreen::LessonCommands commands;
+    return commands;
+}
+
+std::vector<GraphScreen*>& allScreens()
+{
+    static std::vector<GraphScreen*> screens;
+    return screens;
+}
 
 }  // namespace
 
@@ -81,6 +96,7 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 GraphScreen::~GraphScreen()
 {
     leaveDescriptions();
+    std::erase(allScreens(), this);
     if (typed_ && FuncGlobals::TypedExplicit == typed_.get())
         FuncGlobals::TypedExplicit = nullptr;
 }
@@ -213,6 +229,124 @@ void GraphScreen::buildToolsMenu()
     // The mode belongs to the run: each screen's entry shows it as it is when its menu opens.
     connect(toolsMenu_, &QMenu::aboutToShow, this,
             [this] { mnuProjector->setChecked(DrawingSurface::projectorMode()); });
+    buildLessonCommands();
+}
+
+void GraphScreen::setLessonCommands(LessonCommands commands)
+{
+    lessonCommands() = std::move(commands);
+    refreshLessonPlaces();
+}
+
+void GraphScreen::refreshLessonPlaces()
+{
+    for (GraphScreen* s : allScreens())
+        s->refreshLessonPlace();
+}
+
+void GraphScreen::refreshLessonPlace()
+{
+    const QString place = lessonCommands().place ? lessonCommands().place() : QString();
+    lblLessonPlace->setText(place);
+    lblLessonPlace->setVisible(!place.isEmpty());
+    const bool open = !place.isEmpty();
+    mnuNextStep->setEnabled(open);
+    mnuPreviousStep->setEnabled(open);
+    const bool owned = static_cast<bool>(lessonCommands().add);
+    mnuAddStep->setEnabled(owned);
+    mnuSaveLesson->setEnabled(owned);
+    mnuOpenLesson->setEnabled(owned);
+}
+
+void GraphScreen::buildLessonCommands()
+{
+    toolsMenu_->addSeparator();
+    auto entry = [this](const QString& caption, QKeySequence key, std::function<void()> run) {
+        QAction* a = toolsMenu_->addAction(caption);
+        a->setShortcut(key);
+        a->setShortcutContext(Qt::WindowShortcut);
+        connect(a, &QAction::triggered, this, [run] { guarded(run); });
+        return a;
+    };
+    mnuAddStep =
+        entry(QStringLiteral("&Add This Screen to the Lesson"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
+            if (lessonCommands().add)
+                lessonCommands().add(*this);
+        });
+    mnuOpenLesson = entry(QStringLiteral("&Open Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_O), [] {
+        if (lessonCommands().open)
+            lessonCommands().open();
+    });
+    mnuSaveLesson = entry(QStringLiteral("&Save Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_S), [] {
+        if (lessonCommands().save)
+            lessonCommands().save();
+    });
+    // Page Down and Page Up, which every presentation clicker sends; only while a lesson is open.
+    mnuNextStep = entry(QStringLiteral("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
+        if (lessonCommands().next)
+            lessonCommands().next();
+    });
+    mnuPreviousStep = entry(QStringLiteral("Pre&vious Step"), QKeySequence(Qt::Key_PageUp), [] {
+        if (lessonCommands().previous)
+            lessonCommands().previous();
+    });
+    lblLessonPlace = new QLabel(menuBar);
+    lblLessonPlace->setContentsMargins(8, 0, 12, 0);
+    menuBar->setCornerWidget(lblLessonPlace, Qt::TopRightCorner);
+    allScreens().push_back(this);
+    refreshLessonPlace();
+}
+
+QJsonObject GraphScreen::functionState() const
+{
+    if (!config_.functionMenu)
+        return {};
+    if (typed_)
+        return {{QStringLiteral("typed"), QString::fromStdString(typed_->f->text())}};
+    for (int i = 1; i <= FuncGlobals::ExplicitFamilyCount; ++i)
+        if (lblFunc->text() == QString::fromLatin1(FuncGlobals::ExplicitCaption(i)))
+            return {{QStringLiteral("family"), i}};
+    return {};
+}
+
+QString GraphScreen::checkFunctionState(const QJsonObject& state) const
+{
+    return checkFunctions(state, {{"family", "typed", FuncGlobals::ExplicitFamilyCount, {"x"}}});
+}
+
+void GraphScreen::setFunctionState(const QJsonObject& state)
+{
+    if (state.contains(QStringLiteral("typed")))
+        setTypedFunction(state.value(QStringLiteral("typed")).toString());
+    else if (state.contains(QStringLiteral("family")))
+        mnuFunc_Click(state.value(QStringLiteral("family")).toInt());
+}
+
+QString GraphScreen::checkFunctions(const QJsonObject& state, std::initializer_list<FunctionSlot> functions)
+{
+    QStringList known;
+    for (const FunctionSlot& slot : functions)
+        known << QString::fromLatin1(slot.family) << QString::fromLatin1(slot.typed);
+    for (auto it = state.begin(); it != state.end(); ++it)
+        if (!known.contains(it.key()))
+            return QStringLiteral("the screen has no function '%1'").arg(it.key());
+    for (const FunctionSlot& slot : functions) {
+        const QJsonValue family = state.value(QString::fromLatin1(slot.family));
+        const QJsonValue typed = state.value(QString::fromLatin1(slot.typed));
+        if (!family.isUndefined() && (!family.isDouble() || family.toDouble() != std::floor(family.toDouble()) ||
+                                      family.toDouble() < 1 || family.toDouble() > slot.count))
+            return QStringLiteral("'%1' is a family number from 1 to %2")
+                .arg(QString::fromLatin1(slot.family))
+                .arg(slot.count);
+        if (!typed.isUndefined()) {
+            std::string error;
+            if (!typed.isString() ||
+                !FuncGlobals::TypedExpression::compile(typed.toString().toStdString(), slot.variables, error))
+                return QStringLiteral("the function '%1' cannot be taken: %2")
+                    .arg(typed.toString(), QString::fromStdString(error));
+        }
+    }
+    return {};
 }
 
 void GraphScreen::mnuProjector_Click()

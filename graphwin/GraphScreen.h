@@ -14,6 +14,7 @@
 #include <vector>
 
 #include <QDialog>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -146,6 +147,28 @@ public:
     // True while the screen shows a typed function instead of a family.
     virtual bool typedInUse() const { return typed_ != nullptr; }
 
+    // The screen's function, for a lesson: {"family": n} for the family its label shows,
+    // {"typed": text} for a typed one, {} while it shows none. The slope-field and parametric
+    // screens name their two functions. `checkFunctionState` says why a state cannot be taken ("" when
+    // it can); `setFunctionState` does what choosing it by hand does.
+    virtual QJsonObject functionState() const;
+    virtual QString checkFunctionState(const QJsonObject& state) const;
+    virtual void setFunctionState(const QJsonObject& state);
+
+    // Lessons: the commands of the Tools menu run what the program's owner of the lesson set here
+    // (the lesson belongs to the run, not to one screen). `place` says where the lesson stands
+    // ("Step 3 of 7"), shown at the right of every screen's menu bar.
+    struct LessonCommands {
+        std::function<void(GraphScreen&)> add;
+        std::function<void()> save, open, next, previous;
+        std::function<QString()> place;
+    };
+    static void setLessonCommands(LessonCommands commands);
+    static void refreshLessonPlaces();
+    QAction *mnuAddStep = nullptr, *mnuSaveLesson = nullptr, *mnuOpenLesson = nullptr;
+    QAction *mnuNextStep = nullptr, *mnuPreviousStep = nullptr;
+    QLabel* lblLessonPlace = nullptr;
+
     // Makes the screen usable from the keyboard and by a screen reader: every control gets an
     // accessible name (its caption, or for a box the label beside or above it), the labels that answer
     // the mouse take the focus, and Tab runs through the panels in order (left panel, the window
@@ -207,6 +230,15 @@ protected:
             fault(error);
         }
     }
+    // Checks a lesson's function state against the screen's functions: each slot has a family key
+    // (a number from 1 to `count`) and a typed key (a text in `variables` and the coefficients).
+    struct FunctionSlot {
+        const char* family;
+        const char* typed;
+        int count;
+        FuncGlobals::VariableNames variables;
+    };
+    static QString checkFunctions(const QJsonObject& state, std::initializer_list<FunctionSlot> functions);
     // Offers `caption` again in the Tools menu (the session's typed functions, newest first); the
     // entry runs `apply`.
     void rememberTyped(const QString& caption, std::function<void()> apply);
@@ -247,6 +279,8 @@ private:
     TextBox* coefficientBox(int index) const;
 
     void buildToolsMenu();
+    void buildLessonCommands();
+    void refreshLessonPlace();
     // Grows the menu bar and its menus with the form, and tells the style the form's zoom.
     void applyFormZoom(double zoom);
     QFont menuFont_;

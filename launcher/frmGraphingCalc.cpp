@@ -2,6 +2,7 @@
 #include "launcher/frmGraphingCalc.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAction>
 #include <QGridLayout>
@@ -90,6 +91,7 @@ frmGraphingCalc::frmGraphingCalc()
     setMinimumSize(1, 1);
     addFullScreenKey(this);
     installFormStyle();
+    buildLessonMenu();
 }
 
 void frmGraphingCalc::resizeEvent(QResizeEvent* event)
@@ -108,7 +110,10 @@ void frmGraphingCalc::resizeEvent(QResizeEvent* event)
         b->setMinimumSize(static_cast<int>(240 * zoom), static_cast<int>(40 * zoom));
 }
 
-frmGraphingCalc::~frmGraphingCalc() = default;
+frmGraphingCalc::~frmGraphingCalc()
+{
+    GraphScreen::setLessonCommands({});  // the screens' lesson commands end with the launcher
+}
 
 QPushButton* frmGraphingCalc::addScreen(int place, const QString& button, const QString& entry, QAction*& action,
                                         void (frmGraphingCalc::*open)())
@@ -132,10 +137,23 @@ QPushButton* frmGraphingCalc::addScreen(int place, const QString& button, const 
     return b;
 }
 
-void frmGraphingCalc::showScreen(GraphScreen& screen)
+void frmGraphingCalc::showScreen(GraphScreen& first)
 {
-    screen.Form_Activate();
-    screen.exec();
+    // A lesson moves from one screen to another by closing the one shown: the next is then shown here.
+    for (GraphScreen* next = &first; next;) {
+        GraphScreen& screen = *next;
+        pending_ = nullptr;
+        screen.Form_Activate();
+        if (pendingStep_ >= 0) {
+            step_ = std::exchange(pendingStep_, -1);
+            GraphScreen::refreshLessonPlaces();
+            lesson::apply(lesson_.steps[static_cast<std::size_t>(step_)], screen);
+        }
+        shown_ = &screen;
+        screen.exec();
+        shown_ = nullptr;
+        next = pending_;
+    }
 }
 
 void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(classesScreen()); }

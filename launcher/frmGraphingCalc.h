@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include "screens/Lesson.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
@@ -69,6 +70,18 @@ public:
     void mnuExit_Click();
     void mnuAbout_Click();
 
+    // Lessons: the menu "&Lessons" here and the lesson commands of every screen's Tools menu.
+    QAction *mnuLessons = nullptr, *mnuOpenLesson = nullptr, *mnuSaveLesson = nullptr, *mnuStartLesson = nullptr;
+    // Reads the lesson at `path`, checks every step against its screen, and shows the first step;
+    // a file that cannot be opened gets a message box that says what and where, and changes nothing.
+    void openLesson(const QString& path);
+    // Shows step `index` (0-based) of the open lesson: its screen, its controls and its actions.
+    void goToStep(int index);
+    const lesson::Lesson& currentLesson() const { return lesson_; }
+    int currentStep() const { return step_; }
+    // The example lessons found beside the program (installed, or in the source tree).
+    static QStringList exampleLessons();
+
     // The screens, each created (loaded) on first use.
     frmClasses& classesScreen() { return screen(classes_); }
     frmRiemann& riemannScreen() { return screen(riemann_); }
@@ -92,6 +105,16 @@ private:
         return *slot;
     }
     void showScreen(GraphScreen& screen);
+    GraphScreen& screenFor(const QString& key);
+    void buildLessonMenu();
+    void addStep(GraphScreen& screen);
+    void chooseLesson();
+    void saveLesson();
+    lesson::Lesson lesson_;
+    int step_ = -1;
+    GraphScreen* shown_ = nullptr;  // the screen shown now, if any
+    GraphScreen* pending_ = nullptr;  // the screen to show when the one shown closes
+    int pendingStep_ = -1;  // the step to open on the screen shown next
     // Adds a screen's button to the grid and its entry to the Selections menu.
     // Buttons stand in teaching order (`place`), two to a row.
     QPushButton* addScreen(int place, const QString& button, const QString& entry, QAction*& action,

@@ -3,9 +3,12 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QFont>
 #include <QStringList>
+#include <QTimer>
 
+#include "graphwin/Dialogs.h"
 #include "launcher/frmGraphingCalc.h"
 
 namespace {
@@ -48,6 +51,8 @@ int answerCommandLine(int argc, char* argv[])
         "coefficients, Riemann and other sums, Newton's method, slope fields, tangent lines, the mean\n"
         "value theorem and parametric curves. Qt's standard options (-platform, -style, ...) are accepted."));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addPositionalArgument(QStringLiteral("lesson"), QStringLiteral("A lesson to open (a .plotto file)."),
+                                 QStringLiteral("[lesson]"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     for (const auto& [name, value] : kQtOptions) {
@@ -73,8 +78,8 @@ int answerCommandLine(int argc, char* argv[])
                     qPrintable(QCoreApplication::applicationVersion()));
         return 0;
     }
-    if (!parser.positionalArguments().isEmpty()) {
-        std::fprintf(stderr, "plotto: unexpected argument '%s'\n\n%s", qPrintable(parser.positionalArguments().first()),
+    if (parser.positionalArguments().size() > 1) {  // one lesson at a time
+        std::fprintf(stderr, "plotto: unexpected argument '%s'\n\n%s", qPrintable(parser.positionalArguments().at(1)),
                      qPrintable(usage));
         return 2;
     }
@@ -96,5 +101,14 @@ int main(int argc, char* argv[])
     QApplication::setFont(QFont(QStringLiteral("Times New Roman"), 10));
     frmGraphingCalc launcher;
     launcher.show();
+    // A lesson named on the command line (or opened from the file manager) opens once the launcher is up.
+    const QStringList arguments = QCoreApplication::arguments();
+    QString lessonPath;
+    for (int i = 1; i < arguments.size(); ++i)
+        if (!arguments[i].startsWith(QLatin1Char('-')))
+            lessonPath = arguments[i];
+    if (!lessonPath.isEmpty())
+        QTimer::singleShot(0, &launcher,
+                           [&launcher, lessonPath] { guarded([&] { launcher.openLesson(lessonPath); }); });
     return QApplication::exec();
 }

@@ -297,6 +297,42 @@ frmFlowField::~frmFlowField()
         FuncGlobals::TypedRate = nullptr;
 }
 
+QJsonObject frmFlowField::functionState() const
+{
+    if (typedRates_)
+        return {{QStringLiteral("dyTyped"), QString::fromStdString(typedRates_->dy->text())},
+                {QStringLiteral("dxTyped"), QString::fromStdString(typedRates_->dx->text())}};
+    QJsonObject state;
+    for (int i = 1; i <= FuncGlobals::RateFamilyCount; ++i) {
+        if (lbldy->text() == QString::fromLatin1(FuncGlobals::DyCaption(i)))
+            state.insert(QStringLiteral("dy"), i);
+        if (lbldx->text() == QString::fromLatin1(FuncGlobals::DxCaption(i)))
+            state.insert(QStringLiteral("dx"), i);
+    }
+    return state;
+}
+
+QString frmFlowField::checkFunctionState(const QJsonObject& state) const
+{
+    if (state.contains(QStringLiteral("dyTyped")) != state.contains(QStringLiteral("dxTyped")))
+        return QStringLiteral("typed rates name both dyTyped and dxTyped");
+    return checkFunctions(state, {{"dy", "dyTyped", FuncGlobals::RateFamilyCount, {"x", "y"}},
+                                  {"dx", "dxTyped", FuncGlobals::RateFamilyCount, {"x", "y"}}});
+}
+
+void frmFlowField::setFunctionState(const QJsonObject& state)
+{
+    if (state.contains(QStringLiteral("dyTyped"))) {
+        setTypedRates(state.value(QStringLiteral("dyTyped")).toString(),
+                      state.value(QStringLiteral("dxTyped")).toString());
+        return;
+    }
+    if (state.contains(QStringLiteral("dy")))
+        mnuDy_Click(state.value(QStringLiteral("dy")).toInt());
+    if (state.contains(QStringLiteral("dx")))
+        mnuDx_Click(state.value(QStringLiteral("dx")).toInt());
+}
+
 void frmFlowField::installTyped() { FuncGlobals::TypedRate = typedRates_.get(); }
 
 QString frmFlowField::setTypedRates(const QString& dy, const QString& dx)

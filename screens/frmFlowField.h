@@ -87,6 +87,10 @@ public:
     QString setTypedRates(const QString& dy, const QString& dx);
     void mnuTypeFunction_Click() override;
     bool typedInUse() const override { return typedRates_ != nullptr; }
+    // For a lesson: {"dy": n, "dx": m} (the families the labels show) or {"dyTyped": .., "dxTyped": ..}.
+    QJsonObject functionState() const override;
+    QString checkFunctionState(const QJsonObject& state) const override;
+    void setFunctionState(const QJsonObject& state) override;
 
 protected:
     void installTyped() override;

@@ -248,6 +248,42 @@ frmParam::~frmParam()
         FuncGlobals::TypedParametric = nullptr;
 }
 
+QJsonObject frmParam::functionState() const
+{
+    if (typedCurve_)
+        return {{QStringLiteral("xTyped"), QString::fromStdString(typedCurve_->x->text())},
+                {QStringLiteral("yTyped"), QString::fromStdString(typedCurve_->y->text())}};
+    QJsonObject state;
+    for (int i = 1; i <= FuncGlobals::ParametricFamilyCount; ++i) {
+        if (lblXPar->text() == QString::fromLatin1(FuncGlobals::XtCaption(i)))
+            state.insert(QStringLiteral("x"), i);
+        if (lblYPar->text() == QString::fromLatin1(FuncGlobals::YtCaption(i)))
+            state.insert(QStringLiteral("y"), i);
+    }
+    return state;
+}
+
+QString frmParam::checkFunctionState(const QJsonObject& state) const
+{
+    if (state.contains(QStringLiteral("xTyped")) != state.contains(QStringLiteral("yTyped")))
+        return QStringLiteral("a typed curve names both xTyped and yTyped");
+    return checkFunctions(state, {{"x", "xTyped", FuncGlobals::ParametricFamilyCount, {"t"}},
+                                  {"y", "yTyped", FuncGlobals::ParametricFamilyCount, {"t"}}});
+}
+
+void frmParam::setFunctionState(const QJsonObject& state)
+{
+    if (state.contains(QStringLiteral("xTyped"))) {
+        setTypedCurve(state.value(QStringLiteral("xTyped")).toString(),
+                      state.value(QStringLiteral("yTyped")).toString());
+        return;
+    }
+    if (state.contains(QStringLiteral("x")))
+        mnuXFunc_Click(state.value(QStringLiteral("x")).toInt());
+    if (state.contains(QStringLiteral("y")))
+        mnuYFunc_Click(state.value(QStringLiteral("y")).toInt());
+}
+
 void frmParam::installTyped() { FuncGlobals::TypedParametric = typedCurve_.get(); }
 
 QString frmParam::setTypedCurve(const QString& xt, const QString& yt)

@@ -66,6 +66,10 @@ public:
     QString setTypedCurve(const QString& xt, const QString& yt);
     void mnuTypeFunction_Click() override;
     bool typedInUse() const override { return typedCurve_ != nullptr; }
+    // For a lesson: {"x": n, "y": m} (the families the captions show) or {"xTyped": .., "yTyped": ..}.
+    QJsonObject functionState() const override;
+    QString checkFunctionState(const QJsonObject& state) const override;
+    void setFunctionState(const QJsonObject& state) override;
 
 protected:
     void installTyped() override;

@@ -38,7 +38,12 @@ echo "the staged program starts and runs"
 
 if [ "$(id -u)" -eq 0 ]; then
   DEBIAN_FRONTEND=noninteractive apt-get install -y "$deb" >/dev/null
-  exec_line=$(sed -n 's/^Exec=//p' /usr/share/applications/plotto.desktop)
+  # Lessons: the examples, the file type and the desktop entry's association are installed.
+  ls /usr/share/plotto/lessons/*.plotto >/dev/null
+  grep -q '^MimeType=application/x-plotto-lesson;' /usr/share/applications/plotto.desktop
+  grep -q 'application/x-plotto-lesson' /usr/share/mime/packages/plotto.xml
+  echo "installed: $(ls /usr/share/plotto/lessons | wc -l) example lessons, the lesson file type and its desktop association"
+  exec_line=$(sed -n 's/^Exec=//p' /usr/share/applications/plotto.desktop | sed 's/ %[fFuU]//')
   status=0
   xvfb-run -a bash -c "$exec_line & p=\$!; sleep 2; xdotool search --sync --name 'Calculus Calculator' >/dev/null; r=\$?; kill \$p; exit \$r" \
     >/dev/null 2>&1 || status=$?

@@ -21,6 +21,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -30,6 +31,7 @@
 #include "graphwin/FormArea.h"
 #include "launcher/frmGraphingCalc.h"
 #include "runtime/Random.h"
+#include "screens/Lesson.h"
 
 namespace {
 
@@ -58,7 +60,21 @@ const std::vector<QString>& corpus()
 }
 
 struct Control {
-    enum Kind { Box, Button, Label, Check, Option, Scroll, Menu, Surface, Resize, GraphKeys, Assist, Copy } kind;
+    enum Kind {
+        Box,
+        Button,
+        Label,
+        Check,
+        Option,
+        Scroll,
+        Menu,
+        Surface,
+        Resize,
+        GraphKeys,
+        Assist,
+        Copy,
+        Lesson
+    } kind;
     QObject* object;
     QString name;
 };
@@ -73,6 +89,7 @@ struct Walk {
     std::map<int, long> errorsByNumber;  // the allowed errors met, for the closing line
     long actions = 0, restarts = 0;
     long typedActions = 0;  // actions taken while a typed function, rate or curve was in use
+    QTemporaryDir lessonDir;  // where the walk saves and opens its lessons
 
     explicit Walk(std::uint64_t seed) : rng(seed)
     {
@@ -130,6 +147,7 @@ struct Walk {
         list.push_back({Control::Surface, s.surface, QStringLiteral("surface")});
         list.push_back({Control::Resize, s.surface, QStringLiteral("window")});
         list.push_back({Control::GraphKeys, s.surface, QStringLiteral("graph from the keyboard")});
+        list.push_back({Control::Lesson, s.surface, QStringLiteral("lesson")});
         // What a screen reader does: press a label's button actions; and Ctrl+C anywhere.
         for (ClickLabel* w : s.findChildren<ClickLabel*>())
             if (w->interactive())
@@ -150,6 +168,11 @@ struct Walk {
             return {};
         std::set<int> ok{rt::Overflow, rt::DivisionByZero};
         GraphScreen* s = screens[screen].get();
+        if (c.kind == Control::Lesson) {  // opening a step presses the screen's buttons, as by hand
+            for (int e :
+                 {rt::InvalidProcedureCall, rt::SubscriptOutOfRange, rt::TypeMismatch, rt::InvalidPropertyValue})
+                ok.insert(e);
+        }
         if (auto* mvt = dynamic_cast<frmMVT*>(s); mvt && (c.object == mvt->HscMVT || c.object == mvt->lblFindc))
             ok.insert(rt::InvalidProcedureCall);  // family 15's tangent colour
         if (auto* field = dynamic_cast<frmFlowField*>(s); field && c.object == field->lbldx)
@@ -242,6 +265,32 @@ struct Walk {
                 box->selectAll();
             QTest::keyClick(w, Qt::Key_C, Qt::ControlModifier);
             s.refreshDescription();  // what a screen reader reads, whether or not the window is shown
+            break;
+        }
+        case Control::Lesson: {
+            // Saves the screen as a one-step lesson into the walk's folder, or opens the lesson
+            // there (from any screen) on the screen it names, after checking it as the program does.
+            const QString path = lessonDir.filePath(QStringLiteral("walk.plotto"));
+            if (pick(2) == 0) {
+                lesson::Step step = lesson::capture(s);
+                const QStringList buttons = {QStringLiteral("Plotto!"), QStringLiteral("Graph Partitions"),
+                                             QStringLiteral("Apply Newton's"), QStringLiteral("Find c")};
+                step.actions = {{buttons[pick(4)], 1 + pick(2), {}}};
+                what += "saves a lesson (" + lesson::save({{step}}, path).toStdString() + ")";
+            } else {
+                const lesson::Read read = lesson::load(path);
+                what += "opens the lesson";
+                if (read.lesson) {
+                    const lesson::Step& step = read.lesson->steps.front();
+                    for (std::size_t i = 0; i < screens.size(); ++i)
+                        if (lesson::screenKey(*screens[i]) == step.screen &&
+                            lesson::check(step, *screens[i]).isEmpty()) {
+                            screens[i]->Form_Activate();
+                            lesson::apply(step, *screens[i]);
+                            what += " on " + step.screen.toStdString();
+                        }
+                }
+            }
             break;
         }
         case Control::Surface: {

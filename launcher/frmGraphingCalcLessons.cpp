@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The launcher's part in lessons: the Lessons menu, the commands every screen's Tools menu runs, and
+// the moves from step to step, across screens.
+#include <QAction>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "graphwin/Dialogs.h"
+#include "launcher/frmGraphingCalc.h"
+
+namespace {
+
+// Turns what the teacher typed ("Plotto!, Apply Newton's*4") into the step's actions.
+std::vector<lesson::Action> parseActions(const QString& text)
+{
+    std::vector<lesson::Action> actions;
+    for (QString part : text.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        part = part.trimmed();
+        lesson::Action a{part, 1, {}};
+        const int star = part.lastIndexOf(QLatin1Char('*'));
+        bool ok = false;
+        const int times = star > 0 ? part.mid(star + 1).trimmed().toInt(&ok) : 0;
+        if (ok) {
+            a.click = part.left(star).trimmed();
+            a.times = times;
+        }
+        if (!a.click.isEmpty())
+            actions.push_back(a);
+    }
+    return actions;
+}
+
+}  // namespace
+
+QStringList frmGraphingCalc::exampleLessons()
+{
+    // Installed beside the program (/usr/bin/plotto -> /usr/share/plotto/lessons), or in the source
+    // tree this program was built from.
+    QStringList found;
+    const QString dirs[] = {QCoreApplication::applicationDirPath() + QStringLiteral("/../share/plotto/lessons"),
+#ifdef PLOTTO_EXAMPLES_DIR
+                            QStringLiteral(PLOTTO_EXAMPLES_DIR)
+#endif
+    };
+    for (const QString& d : dirs) {
+        const QDir dir(d);
+        for (const QString& name : dir.entryList({QStringLiteral("*.plotto")}, QDir::Files, QDir::Name))
+            found << dir.absoluteFilePath(name);
+        if (!found.isEmpty())
+            break;
+    }
+    return found;
+}
+
+void frmGraphingCalc::buildLessonMenu()
+{
+    QMenu* menu = menuBar->addMenu(QStringLiteral("&Lessons"));
+    mnuLessons = menu->menuAction();
+    mnuOpenLesson = menu->addAction(QStringLiteral("&Open Lesson..."));
+    mnuOpenLesson->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
+    onTriggered(mnuOpenLesson, [this] { chooseLesson(); });
+    mnuStartLesson = menu->addAction(QStringLiteral("S&tart the Lesson"));
+    onTriggered(mnuStartLesson, [this] { goToStep(0); });
+    mnuSaveLesson = menu->addAction(QStringLiteral("&Save Lesson..."));
+    mnuSaveLesson->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    onTriggered(mnuSaveLesson, [this] { saveLesson(); });
+    const QStringList examples = exampleLessons();
+    if (!examples.isEmpty()) {
+        QMenu* shipped = menu->addMenu(QStringLiteral("&Examples"));
+        for (const QString& path : examples) {
+            QAction* a =
+                shipped->addAction(QFileInfo(path).completeBaseName().replace(QLatin1Char('-'), QLatin1Char(' ')));
+            onTriggered(a, [this, path] { openLesson(path); });
+        }
+    }
+    GraphScreen::setLessonCommands({
+        .add = [this](GraphScreen& screen) { addStep(screen); },
+        .save = [this] { saveLesson(); },
+        .open = [this] { chooseLesson(); },
+        .next = [this] { goToStep(step_ + 1); },
+        .previous = [this] { goToStep(step_ - 1); },
+        .place =
+            [this] {
+                return step_ >= 0 && !lesson_.steps.empty()
+                           ? QStringLiteral("Step %1 of %2").arg(step_ + 1).arg(lesson_.steps.size())
+                           : QString();
+            },
+    });
+}
+
+GraphScreen& frmGraphingCalc::screenFor(const QString& key)
+{
+    const auto& keys = lesson::screenKeys();
+    const auto at = std::find(keys.begin(), keys.end(), key) - keys.begin();
+    switch (at) {
+    case 0: return classesScreen();
+    case 1: return animateScreen();
+    case 2: return riemannScreen();
+    case 3: return newtonScreen();
+    case 4: return slopeFieldScreen();
+    case 5: return tangentScreen();
+    case 6: return mvtScreen();
+    default: return paramScreen();
+    }
+}
+
+void frmGraphingCalc::openLesson(const QString& path)
+{
+    const lesson::Read read = lesson::load(path);
+    if (!read.lesson) {
+        MsgBox(read.error, QStringLiteral("Open Lesson"));
+        return;
+    }
+    // Every step is checked before anything changes: a lesson that cannot be shown whole is refused.
+    for (std::size_t i = 0; i < read.lesson->steps.size(); ++i) {
+        const lesson::Step& step = read.lesson->steps[i];
+        const QString refusal = lesson::check(step, screenFor(step.screen));
+        if (!refusal.isEmpty()) {
+            MsgBox(QStringLiteral("%1: step %2 (%3): %4.").arg(path).arg(i + 1).arg(step.screen, refusal),
+                   QStringLiteral("Open Lesson"));
+            return;
+        }
+    }
+    lesson_ = *read.lesson;
+    step_ = -1;
+    goToStep(0);
+}
+
+void frmGraphingCalc::goToStep(int index)
+{
+    if (index < 0 || index >= static_cast<int>(lesson_.steps.size()))
+        return;  // before the first step or after the last: nothing to move to
+    GraphScreen& target = screenFor(lesson_.steps[static_cast<std::size_t>(index)].screen);
+    if (shown_ == &target) {
+        step_ = index;
+        GraphScreen::refreshLessonPlaces();
+        target.Form_Activate();
+        lesson::apply(lesson_.steps[static_cast<std::size_t>(index)], target);
+        return;
+    }
+    pendingStep_ = index;
+    if (shown_) {
+        pending_ = &target;
+        shown_->hide();  // its exec returns, and showScreen shows the target
+        return;
+    }
+    showScreen(target);
+}
+
+void frmGraphingCalc::addStep(GraphScreen& screen)
+{
+    lesson::Step step = lesson::capture(screen);
+    const QString text =
+        InputBox(QStringLiteral("Buttons to press when this step opens, by their captions, separated by commas "
+                                "(a button pressed more than once: Apply Newton's*4). Leave empty for none."),
+                 QStringLiteral("Add to the Lesson"), QStringLiteral("Plotto!"));
+    step.actions = parseActions(text);
+    if (const QString refusal = lesson::check(step, screen); !refusal.isEmpty()) {
+        MsgBox(QStringLiteral("The step was not added: ") + refusal + QLatin1Char('.'),
+               QStringLiteral("Add to the Lesson"));
+        return;
+    }
+    lesson_.steps.push_back(std::move(step));
+    step_ = static_cast<int>(lesson_.steps.size()) - 1;
+    GraphScreen::refreshLessonPlaces();
+}
+
+void frmGraphingCalc::chooseLesson()
+{
+    const QStringList examples = exampleLessons();
+    const QString path = FileBox(false, QStringLiteral("Open Lesson"),
+                                 examples.isEmpty() ? QDir::homePath() : QFileInfo(examples.front()).absolutePath());
+    if (!path.isEmpty())
+        openLesson(path);
+}
+
+void frmGraphingCalc::saveLesson()
+{
+    if (lesson_.steps.empty()) {
+        MsgBox(QStringLiteral("The lesson has no steps yet: add a screen with Tools, Add This Screen to the Lesson."),
+               QStringLiteral("Save Lesson"));
+        return;
+    }
+    const QString path = FileBox(true, QStringLiteral("Save Lesson"), QDir::homePath());
+    if (path.isEmpty())
+        return;
+    if (const QString error = lesson::save(lesson_, path); !error.isEmpty())
+        MsgBox(error, QStringLiteral("Save Lesson"));
+}

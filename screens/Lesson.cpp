@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/Lesson.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSaveFile>
+
+#include "graphwin/Controls.h"
+#include "graphwin/GraphScreen.h"
+
+namespace lesson {
+
+namespace {
+
+// Screen classes and their keys, in the launcher's teaching order.
+const std::pair<const char*, const char*> kScreens[] = {
+    {"frmClasses", "grapher"},       {"frmAnimate", "animation"}, {"frmRiemann", "sums"}, {"frmNewton", "newton"},
+    {"frmFlowField", "slope-field"}, {"frmTangent", "tangent"},   {"frmMVT", "mvt"},      {"frmParam", "parametric"},
+};
+
+// The controls a teacher sets, by their names (each screen's names are unique, as a screen reader
+// hears them), in the form's order.
+std::vector<QWidget*> settable(GraphScreen& screen)
+{
+    if (screen.txtXmin->accessibleName().isEmpty())
+        screen.arrangeForKeyboard();
+    std::vector<QWidget*> out;
+    for (QWidget* w : screen.surface->findChildren<QWidget*>())
+        if ((qobject_cast<TextBox*>(w) || qobject_cast<CheckBox*>(w) || qobject_cast<OptionButton*>(w) ||
+             qobject_cast<ScrollBar*>(w)) &&
+            !w->accessibleName().isEmpty())
+            out.push_back(w);
+    return out;
+}
+
+QWidget* named(GraphScreen& screen, const QString& name)
+{
+    for (QWidget* w : settable(screen))
+        if (w->accessibleName() == name)
+            return w;
+    return nullptr;
+}
+
+QAbstractButton* button(GraphScreen& screen, const QString& caption)
+{
+    for (QPushButton* b : screen.surface->findChildren<QPushButton*>())
+        if (QString(b->text()).remove(QLatin1Char('&')) == caption)
+            return b;
+    return nullptr;
+}
+
+// A menu entry of the screen's own menus (not the lesson commands, which would move the lesson).
+QAction* menuEntry(GraphScreen& screen, const QString& caption)
+{
+    for (QAction* menu : screen.menuBar->actions())
+        if (menu != screen.mnuTools && menu->menu())
+            for (QAction* entry : menu->menu()->actions())
+                if (QString(entry->text()).remove(QLatin1Char('&')) == caption)
+                    return entry;
+    return nullptr;
+}
+
+// What a box takes from a lesson: what a person could type into it, text of one line (at most 64
+// characters) or a number. Its own handler then reads it as it reads a person's typing.
+bool typable(const QJsonValue& value)
+{
+    if (value.isDouble())
+        return std::isfinite(value.toDouble());
+    if (!value.isString())
+        return false;
+    const QString text = value.toString();
+    return text.size() <= 64 &&
+           std::none_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+QString boxText(const QJsonValue& value)
+{
+    return value.isDouble() ? QString::number(value.toDouble(), 'g', 15) : value.toString();
+}
+
+}  // namespace
+
+const std::vector<QString>& screenKeys()
+{
+    static const std::vector<QString> keys = [] {
+        std::vector<QString> k;
+        for (const auto& [cls, key] : kScreens)
+            k.push_back(QString::fromLatin1(key));
+        return k;
+    }();
+    return keys;
+}
+
+QString screenKey(const GraphScreen& screen)
+{
+    for (const auto& [cls, key] : kScreens)
+        if (qstrcmp(screen.metaObject()->className(), cls) == 0)
+            return QString::fromLatin1(key);
+    return {};
+}
+
+Step capture(GraphScreen& screen)
+{
+    Step step;
+    step.screen = screenKey(screen);
+    step.function = screen.functionState();
+    for (QWidget* w : settable(screen)) {
+        const QString name = w->accessibleName();
+        if (auto* box = qobject_cast<TextBox*>(w))
+            step.controls.insert(name, box->text());
+        else if (auto* tick = qobject_cast<QAbstractButton*>(w))
+            step.controls.insert(name, tick->isChecked());
+        else if (auto* bar = qobject_cast<ScrollBar*>(w))
+            step.controls.insert(name, bar->value());
+    }
+    return step;
+}
+
+QString check(const Step& step, GraphScreen& screen)
+{
+    if (const QString refusal = screen.checkFunctionState(step.function); !refusal.isEmpty())
+        return refusal;
+    for (auto it = step.controls.begin(); it != step.controls.end(); ++it) {
+        QWidget* w = named(screen, it.key());
+        if (!w)
+            return QStringLiteral("the screen has no control named '%1'").arg(it.key());
+        if (qobject_cast<TextBox*>(w)) {
+            if (!typable(it.value()))
+                return QStringLiteral("the box '%1' cannot take %2")
+                    .arg(it.key(),
+                         QString::fromUtf8(QJsonDocument(QJsonArray{it.value()}).toJson(QJsonDocument::Compact))
+                             .mid(1)
+                             .chopped(1));
+        } else if (auto* bar = qobject_cast<ScrollBar*>(w)) {
+            const double v = it.value().toDouble(std::nan(""));
+            if (!it.value().isDouble() || v != std::floor(v) || v < std::min(bar->minimum(), bar->maximum()) ||
+                v > std::max(bar->minimum(), bar->maximum()))
+                return QStringLiteral("the scroll bar '%1' cannot take that position").arg(it.key());
+        } else if (!it.value().isBool()) {
+            return QStringLiteral("'%1' is ticked or not: true or false").arg(it.key());
+        }
+    }
+    for (const Action& a : step.actions) {
+        if (!a.menu.isEmpty() ? !menuEntry(screen, a.menu) : !button(screen, a.click))
+            return !a.menu.isEmpty() ? QStringLiteral("the screen has no menu entry '%1'").arg(a.menu)
+                                     : QStringLiteral("the screen has no button '%1'").arg(a.click);
+        if (a.times < 1 || a.times > 100)
+            return QStringLiteral("'%1' is pressed 1 to 100 times").arg(a.click);
+    }
+    return {};
+}
+
+void apply(const Step& step, GraphScreen& screen)
+{
+    screen.setFunctionState(step.function);
+    // Ticks and options first (an option's handler may write boxes, as choosing Euler's method sets
+    // Delta x), then the boxes as they were saved, then the scroll bars.
+    for (int pass = 0; pass < 3; ++pass)
+        for (QWidget* w : settable(screen)) {
+            const QJsonValue value = step.controls.value(w->accessibleName());
+            if (value.isUndefined())
+                continue;
+            if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && pass == 0) {
+                // An option is chosen by choosing it; one the lesson leaves off is left to the one chosen.
+                if (qobject_cast<OptionButton*>(w) && !value.toBool())
+                    continue;
+                tick->setChecked(value.toBool());
+            } else if (auto* box = qobject_cast<TextBox*>(w); box && pass == 1) {
+                box->setText(boxText(value));
+            } else if (auto* bar = qobject_cast<ScrollBar*>(w); bar && pass == 2) {
+                bar->setValue(value.toInt());
+            }
+        }
+    for (const Action& a : step.actions)
+        for (int i = 0; i < a.times; ++i) {
+            if (QAction* entry = a.menu.isEmpty() ? nullptr : menuEntry(screen, a.menu))
+                entry->trigger();
+            else if (QAbstractButton* b = button(screen, a.click))
+                b->click();
+        }
+}
+
+QByteArray toJson(const Lesson& lesson)
+{
+    QJsonArray steps;
+    for (const Step& s : lesson.steps) {
+        QJsonObject o{{QStringLiteral("screen"), s.screen}};
+        if (!s.function.isEmpty())
+            o.insert(QStringLiteral("function"), s.function);
+        o.insert(QStringLiteral("controls"), s.controls);
+        QJsonArray actions;
+        for (const Action& a : s.actions) {
+            QJsonObject action{a.menu.isEmpty() ? QJsonObject{{QStringLiteral("click"), a.click}}
+                                                : QJsonObject{{QStringLiteral("menu"), a.menu}}};
+            if (a.times != 1)
+                action.insert(QStringLiteral("times"), a.times);
+            actions.append(action);
+        }
+        if (!actions.isEmpty())
+            o.insert(QStringLiteral("actions"), actions);
+        steps.append(o);
+    }
+    const QJsonObject root{{QStringLiteral("format"), QString::fromLatin1(kFormat)},
+                           {QStringLiteral("version"), kVersion},
+                           {QStringLiteral("steps"), steps}};
+    return QJsonDocument(root).toJson(QJsonDocument::Indented);
+}
+
+Read fromJson(const QByteArray& text)
+{
+    QJsonParseError parse;
+    const QJsonDocument doc = QJsonDocument::fromJson(text, &parse);
+    if (parse.error != QJsonParseError::NoError)
+        return {std::nullopt,
+                QStringLiteral("This is not a lesson: %1 at character %2.").arg(parse.errorString()).arg(parse.offset)};
+    const QJsonObject root = doc.object();
+    if (!doc.isObject() || root.value(QStringLiteral("format")).toString() != QString::fromLatin1(kFormat))
+        return {std::nullopt, QStringLiteral("This is not a Plotto lesson (it does not say \"format\": \"%1\").")
+                                  .arg(QString::fromLatin1(kFormat))};
+    const QJsonValue version = root.value(QStringLiteral("version"));
+    if (!version.isDouble() || version.toDouble() < 1 || version.toDouble() != std::floor(version.toDouble()))
+        return {std::nullopt, QStringLiteral("The lesson has no valid version number.")};
+    if (version.toDouble() > kVersion)
+        return {std::nullopt, QStringLiteral("The lesson was made by a newer Plotto (lesson version %1; this Plotto "
+                                             "reads version %2 and older).")
+                                  .arg(version.toInt())
+                                  .arg(kVersion)};
+    const QJsonValue steps = root.value(QStringLiteral("steps"));
+    if (!steps.isArray() || steps.toArray().isEmpty())
+        return {std::nullopt, QStringLiteral("The lesson has no steps.")};
+    Lesson lesson;
+    int number = 0;
+    for (const QJsonValue& v : steps.toArray()) {
+        ++number;
+        const QString where = QStringLiteral("Step %1: ").arg(number);
+        const QJsonObject o = v.toObject();
+        Step s;
+        s.screen = o.value(QStringLiteral("screen")).toString();
+        if (!v.isObject() || std::find(screenKeys().begin(), screenKeys().end(), s.screen) == screenKeys().end())
+            return {std::nullopt,
+                    where + QStringLiteral("unknown screen '%1' (the screens are %2).")
+                                .arg(s.screen,
+                                     QStringList(screenKeys().begin(), screenKeys().end()).join(QStringLiteral(", ")))};
+        s.function = o.value(QStringLiteral("function")).toObject();
+        s.controls = o.value(QStringLiteral("controls")).toObject();
+        for (const QJsonValue& a : o.value(QStringLiteral("actions")).toArray()) {
+            const QJsonObject action = a.toObject();
+            if (!action.value(QStringLiteral("click")).isString() && !action.value(QStringLiteral("menu")).isString())
+                return {std::nullopt,
+                        where + QStringLiteral("an action names no button to click or menu entry to choose.")};
+            s.actions.push_back({action.value(QStringLiteral("click")).toString(),
+                                 action.value(QStringLiteral("times")).toInt(1),
+                                 action.value(QStringLiteral("menu")).toString()});
+        }
+        lesson.steps.push_back(std::move(s));
+    }
+    return {std::move(lesson), {}};
+}
+
+QString save(const Lesson& lesson, const QString& path)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return QStringLiteral("The lesson cannot be written to %1: %2.").arg(path, file.errorString());
+    file.write(toJson(lesson));
+    if (!file.commit())
+        return QStringLiteral("The lesson could not be saved to %1: %2. Nothing was changed there.")
+            .arg(path, file.errorString());
+    return {};
+}
+
+Read load(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {std::nullopt, QStringLiteral("The lesson %1 cannot be read: %2.").arg(path, file.errorString())};
+    constexpr qint64 kLargest = 4 << 20;  // a lesson of a hundred steps is a few tens of kilobytes
+    if (file.size() > kLargest)
+        return {std::nullopt, QStringLiteral("%1 is too large to be a lesson.").arg(path)};
+    Read read = fromJson(file.readAll());
+    if (!read.lesson)
+        read.error = path + QStringLiteral(": ") + read.error;
+    return read;
+}
+
+}  // namespace lesson

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// Lessons: an ordered list of steps a teacher prepares, each naming a screen, the state of every
+// control the teacher can set on it (boxes, ticks, options, scroll bars, the family or typed
+// function) and the buttons to press on arrival. A lesson is a JSON document, read and written only
+// when the teacher asks; opening a step sets the controls through the same handlers a person's
+// typing and clicking reach, so that every rule of the screen applies as if done by hand.
+#include <optional>
+#include <vector>
+
+#include <QJsonObject>
+#include <QString>
+
+class GraphScreen;
+
+namespace lesson {
+
+// The file format's name and the newest version this program reads and writes.
+inline constexpr const char* kFormat = "plotto-lesson";
+inline constexpr int kVersion = 1;
+// The file name extension offered by the dialogs and registered with the desktop.
+inline constexpr const char* kExtension = "plotto";
+
+// What a step does on arrival: press a button, or choose a menu entry of the screen (the
+// convergence table, say), `times` times.
+struct Action {
+    QString click;  // a button's caption without its '&' ("Plotto!", "Apply Newton's")
+    int times = 1;
+    QString menu;  // or a menu entry's caption without its '&' ("Convergence Table...")
+};
+
+struct Step {
+    QString screen;  // "grapher", "animation", "sums", "newton", "slope-field", "tangent", "mvt", "parametric"
+    QJsonObject function;  // as GraphScreen::functionState gives it
+    QJsonObject controls;  // control name -> text (a box), true/false (a tick or option), number (a scroll bar)
+    std::vector<Action> actions;
+};
+
+struct Lesson {
+    std::vector<Step> steps;
+};
+
+// The key of a screen in a lesson ("sums" for the sums screen), "" for an unknown class.
+QString screenKey(const GraphScreen& screen);
+// The screens' keys, in the launcher's teaching order.
+const std::vector<QString>& screenKeys();
+
+// The state of `screen` now, as a step without actions.
+Step capture(GraphScreen& screen);
+// Whether `step` can be opened on `screen` (every control it names exists and takes its value,
+// every button it presses exists, the function can be taken): "" or the reason, in words.
+QString check(const Step& step, GraphScreen& screen);
+// Opens `step` on `screen`, which is shown (activated) already: the function, the ticks and
+// options, the boxes in the form's order, the scroll bars, then the buttons.
+void apply(const Step& step, GraphScreen& screen);
+
+// The lesson as its JSON text, and back: a lesson, or the reason the text is not one (with the
+// step it concerns).
+QByteArray toJson(const Lesson& lesson);
+struct Read {
+    std::optional<Lesson> lesson;
+    QString error;
+};
+Read fromJson(const QByteArray& text);
+
+// Writes the file through a temporary file that replaces it at the end (no half-written lesson is
+// ever left): "" or the reason it could not. Reads a file: the lesson or the reason.
+QString save(const Lesson& lesson, const QString& path);
+Read load(const QString& path);
+
+}  // namespace lesson
