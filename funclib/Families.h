@@ -4,7 +4,7 @@
 // in the order of operations each family is defined with. A catalogue's count is its number of rows;
 // the procedures of FuncGlobals look a family up here by its number (row number + 1).
 #include <array>
-#include <optional>
+#include <limits>
 
 #include "runtime/Numbers.h"
 
@@ -23,141 +23,143 @@ using rt::Chk;
 using rt::Div;
 using rt::Pow;
 using K = const FuncGlobals::CoefficientSet&;
-using Maybe = std::optional<double>;
+// What a row gives where the family is undefined. No family's value is ever NaN otherwise: every
+// operation that could make one raises the run-time error first.
+inline constexpr double kUndefined = std::numeric_limits<double>::quiet_NaN();
 
-// An explicit family y = f(x) with A to E. `value` and `slope` give nothing where the family's domain
-// test finds the point undefined; the test is made before the operation it protects, and every
+// An explicit family y = f(x) with A to E. `value` and `slope` give kUndefined where the family's
+// domain test finds the point undefined; the test is made before the operation it protects, and every
 // overflow or division by zero on the way raises the run-time error.
 struct Explicit {
     const char* caption;
-    Maybe (*value)(double x, K k);
-    Maybe (*slope)(double x, K k);
+    double (*value)(double x, K k);
+    double (*slope)(double x, K k);
 };
 
 inline constexpr Explicit kExplicit[] = {
     {"y = A * (Bx - C)^2 + D",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x - k.C);
          return Chk(u * k.A * u + k.D);
      },
-     [](double x, K k) -> Maybe { return Chk((k.A + k.A) * k.B * Chk(k.B * x - k.C)); }},
-    {"y = Ax^2 + Bx + C", [](double x, K k) -> Maybe { return Chk(k.A * x * x + k.B * x + k.C); },
-     [](double x, K k) -> Maybe { return Chk((k.A + k.A) * x + k.B); }},
+     [](double x, K k) -> double { return Chk((k.A + k.A) * k.B * Chk(k.B * x - k.C)); }},
+    {"y = Ax^2 + Bx + C", [](double x, K k) -> double { return Chk(k.A * x * x + k.B * x + k.C); },
+     [](double x, K k) -> double { return Chk((k.A + k.A) * x + k.B); }},
     {"y = A(Bx - C)^3 + D",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x - k.C);
          return Chk(Pow(u, 3.0) * k.A + k.D);
      },
-     [](double x, K k) -> Maybe { return Chk(Pow(Chk(k.B * x - k.C), 2.0) * (k.A * 3 * k.B)); }},
+     [](double x, K k) -> double { return Chk(Pow(Chk(k.B * x - k.C), 2.0) * (k.A * 3 * k.B)); }},
     {"y = Ax^3 + Bx^2 + Cx + D",
-     [](double x, K k) -> Maybe { return Chk(Pow(x, 3.0) * k.A + k.B * x * x + k.C * x + k.D); },
-     [](double x, K k) -> Maybe { return Chk(Pow(x, 2.0) * (k.A * 3) + (k.B + k.B) * x + k.C); }},
+     [](double x, K k) -> double { return Chk(Pow(x, 3.0) * k.A + k.B * x * x + k.C * x + k.D); },
+     [](double x, K k) -> double { return Chk(Pow(x, 2.0) * (k.A * 3) + (k.B + k.B) * x + k.C); }},
     {"y = A*Sin(Bx + C) + Dx + E",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.D * x + k.A * std::sin(u) + k.E);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * std::cos(u) + k.D);
      }},
     {"y = A*Cos(Bx + C) + Dx + E",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.D * x + k.A * std::cos(u) + k.E);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * (-1.0) * std::sin(u) + k.D);
      }},
     {"y = A*Tan(Bx + C) + Dx + E",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.D * x + k.A * std::tan(u) + k.E);
      },
-     [](double x, K k) -> Maybe {  // no D term
+     [](double x, K k) -> double {  // no D term
          const double u = Chk(k.B * x + k.C);
          return Div(Chk(k.B * k.A), Pow(std::cos(u), 2.0));
      }},
     {"y = A*Ln(Bx + C) + D",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          if (u <= 0.0)
-             return std::nullopt;
+             return kUndefined;
          return Chk(k.A * std::log(u) + k.D);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          if (!(u > 0.0))
-             return std::nullopt;
+             return kUndefined;
          return Div(Chk(k.B * k.A), u);
      }},
     {"y = A*e^(Bx + C) + D",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.A * Chk(std::exp(u)) + k.D);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * Chk(std::exp(u)));
      }},
     {"y = A /(Bx + C) + D",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          if (u == 0.0)
-             return std::nullopt;
+             return kUndefined;
          return Chk(Div(k.A, u) + k.D);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          if (u == 0.0)
-             return std::nullopt;
+             return kUndefined;
          return Div(Chk(k.A * (-1.0) * k.B), Pow(u, 2.0));
      }},
     {"y = A(Bx - C)^4 + D",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x - k.C);
          return Chk(Pow(u, 4.0) * k.A + k.D);
      },
-     [](double x, K k) -> Maybe { return Chk(Pow(Chk(k.B * x - k.C), 3.0) * (k.B * k.A * 4)); }},
+     [](double x, K k) -> double { return Chk(Pow(Chk(k.B * x - k.C), 3.0) * (k.B * k.A * 4)); }},
     {"y = Ax^4 + Bx^3 + Cx^2 + Dx + E",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double x3B = Chk(k.B * Pow(x, 3.0));
          return Chk(Pow(x, 4.0) * k.A + x3B + k.C * x * x + k.D * x + k.E);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          return Chk(Pow(x, 3.0) * (k.A * 4) + Pow(x, 2.0) * (k.B * 3) + (k.C + k.C) * x + k.D);
      }},
     {"y = Ax * Sin(Bx + C) + Dx + E",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.A * x * std::sin(u) + k.D * x + k.E);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * x * std::cos(u) + k.A * std::sin(u) + k.D);
      }},
     {"y = A * x^B + C",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          if (x <= 0.0 && (rt::Int(k.B) != k.B || k.B <= 0.0))
-             return std::nullopt;
+             return kUndefined;
          return Chk(Pow(x, k.B) * k.A + k.C);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          const double e = Chk(k.B - 1.0);
          if (rt::Int(e) != e && x <= 0.0)
-             return std::nullopt;
+             return kUndefined;
          return Chk(Pow(x, e) * (k.B * k.A));
      }},
     {"y = A * B^x + C",
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          if (k.B <= 0.0)
-             return std::nullopt;
+             return kUndefined;
          return Chk(Pow(k.B, x) * k.A + k.C);
      },
-     [](double x, K k) -> Maybe {
+     [](double x, K k) -> double {
          if (!(k.B > 0.0))
-             return std::nullopt;
+             return kUndefined;
          return Chk(Pow(k.B, x) * k.A * std::log(k.B));
      }},
 };

@@ -2,7 +2,6 @@
 #include "funclib/FuncGlobals.h"
 
 #include <cmath>
-#include <optional>
 
 #include "runtime/Numbers.h"
 
@@ -27,11 +26,11 @@ const char* ExplicitCaption(int id)
 
 namespace {
 
-// The selected family at x; no value where the point is undefined or no family is selected.
-std::optional<double> explicitValue(const double& x)
+// The selected family at x; kUndefined where the point is undefined or no family is selected.
+double explicitValue(const double& x)
 {
     if (FunctionId < 1 || FunctionId > ExplicitFamilyCount)
-        return std::nullopt;
+        return FamilyTables::kUndefined;
     return FamilyTables::kExplicit[FunctionId - 1].value(x, Coefficients);
 }
 
@@ -40,17 +39,19 @@ std::optional<double> explicitValue(const double& x)
 double YFunc(const double& x)
 {
     FunctionCount = ExplicitFamilyCount;
-    return explicitValue(x).value_or(0.0);
+    const double y = explicitValue(x);
+    return y == y ? y : 0.0;
 }
 
-bool YDefined(const double& x) { return explicitValue(x).has_value(); }
+bool YDefined(const double& x) { return !std::isnan(explicitValue(x)); }
 
 double YPrimeFunc(const double& x)
 {
     DerivativeCount = ExplicitFamilyCount;
     if (FunctionId < 1 || FunctionId > ExplicitFamilyCount)
         return 0.0;
-    return FamilyTables::kExplicit[FunctionId - 1].slope(x, Coefficients).value_or(0.0);
+    const double slope = FamilyTables::kExplicit[FunctionId - 1].slope(x, Coefficients);
+    return slope == slope ? slope : 0.0;
 }
 
 const char* DyCaption(int id) { return id >= 1 && id <= RateFamilyCount ? FamilyTables::kRates[id - 1].dy : ""; }

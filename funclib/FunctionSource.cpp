@@ -31,13 +31,6 @@ std::shared_ptr<const TypedFunction> TypedFunction::make(const std::string& text
     return made;
 }
 
-double TypedFunction::slope(double x) const
-{
-    // The derivative's byte code is NaN wherever the function is undefined (see TypedExpression).
-    const TypedExpression* d = f->derivative();
-    return d ? (*d)(x) : kNaN;
-}
-
 std::shared_ptr<const TypedRates> TypedRates::make(const std::string& dyText, const std::string& dxText,
                                                    std::string& error)
 {
@@ -72,8 +65,6 @@ std::shared_ptr<const TypedCurve> TypedCurve::make(const std::string& xText, con
     return made;
 }
 
-double ExplicitValue(const double& x) { return TypedExplicit ? TypedExplicit->value(x) : YFunc(x); }
-double ExplicitSlope(const double& x) { return TypedExplicit ? TypedExplicit->slope(x) : YPrimeFunc(x); }
 bool ExplicitDefined(const double& x) { return TypedExplicit ? !std::isnan(TypedExplicit->value(x)) : YDefined(x); }
 
 double RateDy(const double& x, const double& y) { return TypedRate ? (*TypedRate->dy)(x, y) : DyFunc(x, y); }

@@ -5,8 +5,11 @@
 // procedures below and does not need to know which it has. A family keeps its rules (an undefined
 // point is 0, overflows raise the run-time errors); a typed function never raises and yields NaN
 // wherever it is undefined or not finite, which the screens draw as a gap and report in words.
+#include <limits>
 #include <memory>
 #include <string>
+
+#include "funclib/FuncGlobals.h"
 
 #include "funclib/TypedExpression.h"
 
@@ -18,8 +21,13 @@ struct TypedFunction {
     // Reads `text`; null with `error` set when it cannot be taken.
     static std::shared_ptr<const TypedFunction> make(const std::string& text, std::string& error);
     double value(double x) const { return (*f)(x); }
-    // f'(x), NaN where f or its derivative is undefined or the derivative could not be found.
-    double slope(double x) const;
+    // f'(x), NaN where f or its derivative is undefined or the derivative could not be found (the
+    // derivative's byte code is NaN wherever the function is undefined: see TypedExpression).
+    double slope(double x) const
+    {
+        const TypedExpression* d = f->derivative();
+        return d ? (*d)(x) : std::numeric_limits<double>::quiet_NaN();
+    }
 };
 
 // Typed rates dy and dx of the slope field, in x, y and A to F.
@@ -43,9 +51,10 @@ extern const TypedFunction* TypedExplicit;
 extern const TypedRates* TypedRate;
 extern const TypedCurve* TypedParametric;
 
-// y = f(x) and f'(x): the typed function in use, else YFunc and YPrimeFunc.
-double ExplicitValue(const double& x);
-double ExplicitSlope(const double& x);
+// y = f(x) and f'(x): the typed function in use, else YFunc and YPrimeFunc. Inline: the scans call
+// them once a point.
+inline double ExplicitValue(const double& x) { return TypedExplicit ? TypedExplicit->value(x) : YFunc(x); }
+inline double ExplicitSlope(const double& x) { return TypedExplicit ? TypedExplicit->slope(x) : YPrimeFunc(x); }
 // True where the function in use is defined at x (YDefined for a family).
 bool ExplicitDefined(const double& x);
 
