@@ -380,9 +380,9 @@ void GraphScreen::rememberTyped(const QString& caption, std::function<void()> ap
         delete history_.takeLast();
 }
 
-void GraphScreen::runTypedEntry(TypedEntrySpec spec, const std::function<QString(const QStringList&)>& take)
+void GraphScreen::runTypedEntry(TypedEntryLayout entry, const std::function<QString(const QStringList&)>& take)
 {
-    const std::optional<QStringList> texts = openTypedEntry(this, spec);
+    const std::optional<QStringList> texts = openTypedEntry(this, entry);
     if (!texts)
         return;
     const QString refusal = take(*texts);
@@ -395,20 +395,20 @@ void GraphScreen::mnuTypeFunction_Click()
 {
     if (!config_.functionMenu)
         return;
-    TypedEntrySpec spec;
-    spec.title = QStringLiteral("Type a function y = f(x)");
-    spec.fields = {QStringLiteral("y =")};
-    spec.initial = {typed_ ? QString::fromStdString(typed_->f->text()) : QString()};
-    spec.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")},
-                     {QStringLiteral("x^3 - 2*x - 5")},
-                     {QStringLiteral("exp(-x^2)")},
-                     {QStringLiteral("sin(x)/x")},
-                     {QStringLiteral("ln(x)")},
-                     {QStringLiteral("sqrt(4 - x^2)")},
-                     {QStringLiteral("abs(x)")},
-                     {QStringLiteral("1/(1 + x^2)")}};
-    spec.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
-    spec.check = [](const QStringList& texts, QString& preview) {
+    TypedEntryLayout entry;
+    entry.title = QStringLiteral("Type a function y = f(x)");
+    entry.fields = {QStringLiteral("y =")};
+    entry.initial = {typed_ ? QString::fromStdString(typed_->f->text()) : QString()};
+    entry.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")},
+                      {QStringLiteral("x^3 - 2*x - 5")},
+                      {QStringLiteral("exp(-x^2)")},
+                      {QStringLiteral("sin(x)/x")},
+                      {QStringLiteral("ln(x)")},
+                      {QStringLiteral("sqrt(4 - x^2)")},
+                      {QStringLiteral("abs(x)")},
+                      {QStringLiteral("1/(1 + x^2)")}};
+    entry.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
+    entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const auto f = FuncGlobals::TypedFunction::make(texts.value(0).toStdString(), error);
         if (!f)
@@ -417,7 +417,7 @@ void GraphScreen::mnuTypeFunction_Click()
                   QStringLiteral("\nDerivative: y' = ") + QString::fromStdString(f->f->derivativeText());
         return QString();
     };
-    runTypedEntry(spec, [this](const QStringList& texts) { return setTypedFunction(texts.value(0)); });
+    runTypedEntry(entry, [this](const QStringList& texts) { return setTypedFunction(texts.value(0)); });
 }
 
 QString GraphScreen::setTypedFunction(const QString& text)

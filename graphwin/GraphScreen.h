@@ -242,8 +242,8 @@ protected:
     // Offers `caption` again in the Tools menu (the session's typed functions, newest first); the
     // entry runs `apply`.
     void rememberTyped(const QString& caption, std::function<void()> apply);
-    // Shows `spec` and, on OK, hands the lines to `take` (which may still refuse them).
-    void runTypedEntry(TypedEntrySpec spec, const std::function<QString(const QStringList&)>& take);
+    // Shows `entry` and, on OK, hands the lines to `take` (which may still refuse them).
+    void runTypedEntry(TypedEntryLayout entry, const std::function<QString(const QStringList&)>& take);
     // Called after the screen took a typed function or went back to the families; a screen clears
     // results that belonged to the function before.
     virtual void functionReplaced() { }

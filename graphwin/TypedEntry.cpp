@@ -23,14 +23,14 @@ QString typedNamesHelp(const QString& variables, const QString& coefficients)
         .arg(variables, coefficients);
 }
 
-std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec& spec)
+std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayout& entry)
 {
     if (DialogScript* script = dialogScript()) {
-        script->shown.emplace_back(spec.title, spec.fields.join(QLatin1Char(' ')));
+        script->shown.emplace_back(entry.title, entry.fields.join(QLatin1Char(' ')));
         if (script->answers.empty())
             return std::nullopt;
         QStringList lines;
-        for (int i = 0; i < spec.fields.size(); ++i) {
+        for (int i = 0; i < entry.fields.size(); ++i) {
             lines << (script->answers.empty() ? QString() : script->answers.front());
             if (!script->answers.empty())
                 script->answers.pop_front();
@@ -38,24 +38,24 @@ std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec&
         return lines;
     }
     QDialog dialog(parent);
-    dialog.setWindowTitle(spec.title);
+    dialog.setWindowTitle(entry.title);
     dialog.setFont(FormStyle::zoomed(QApplication::font(), parent));
     auto* layout = new QVBoxLayout(&dialog);
 
     auto* form = new QFormLayout;
     QVector<QLineEdit*> lines;
-    for (int i = 0; i < spec.fields.size(); ++i) {
-        auto* line = new QLineEdit(spec.initial.value(i), &dialog);
+    for (int i = 0; i < entry.fields.size(); ++i) {
+        auto* line = new QLineEdit(entry.initial.value(i), &dialog);
         line->setMinimumWidth(line->fontMetrics().horizontalAdvance(QLatin1Char('x')) * 40);
-        line->setAccessibleName(spec.fields[i]);
-        form->addRow(spec.fields[i], line);
+        line->setAccessibleName(entry.fields[i]);
+        form->addRow(entry.fields[i], line);
         lines << line;
     }
     layout->addLayout(form);
 
     auto* examples = new QComboBox(&dialog);
     examples->addItem(QStringLiteral("Examples..."));
-    for (const QStringList& example : spec.examples)
+    for (const QStringList& example : entry.examples)
         examples->addItem(example.join(QStringLiteral(",   ")), example);
     examples->setAccessibleName(QStringLiteral("Examples"));
     layout->addWidget(examples);
@@ -65,7 +65,7 @@ std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec&
     preview->setTextInteractionFlags(Qt::TextSelectableByMouse);
     preview->setAccessibleName(QStringLiteral("Preview"));
     layout->addWidget(preview);
-    auto* names = new QLabel(spec.names, &dialog);
+    auto* names = new QLabel(entry.names, &dialog);
     names->setWordWrap(true);
     layout->addWidget(names);
 
@@ -82,7 +82,7 @@ std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec&
     };
     auto refresh = [&] {
         QString shown;
-        const QString refusal = spec.check(texts(), shown);
+        const QString refusal = entry.check(texts(), shown);
         buttons->button(QDialogButtonBox::Ok)->setEnabled(refusal.isEmpty());
         preview->setText(refusal.isEmpty() ? shown : QStringLiteral("Cannot be taken: ") + refusal);
         preview->setAccessibleDescription(preview->text());

@@ -13,7 +13,7 @@
 
 class QWidget;
 
-struct TypedEntrySpec {
+struct TypedEntryLayout {
     QString title;  // the window title
     QStringList fields;  // the caption before each line: "y =", or "dy =" and "dx =", ...
     QStringList initial;  // the text each line starts with
@@ -26,7 +26,7 @@ struct TypedEntrySpec {
 // Shows the entry modally; the lines on OK, nothing on Cancel. With a dialog script set (tests, the
 // random walk) the entry is recorded as (title, the fields' captions) and each line is answered from
 // the script; no answer at all is Cancel.
-std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntrySpec& spec);
+std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayout& entry);
 
 // The words every entry shows about what may be typed; `variables` names the screen's own letters.
 QString typedNamesHelp(const QString& variables, const QString& coefficients);

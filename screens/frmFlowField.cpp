@@ -354,19 +354,19 @@ QString frmFlowField::setTypedRates(const QString& dy, const QString& dx)
 
 void frmFlowField::mnuTypeFunction_Click()
 {
-    TypedEntrySpec spec;
-    spec.title = QStringLiteral("Type the rates dy and dx");
-    spec.fields = {QStringLiteral("dy ="), QStringLiteral("dx =")};
-    spec.initial = {typedRates_ ? QString::fromStdString(typedRates_->dy->text()) : QString(),
-                    typedRates_ ? QString::fromStdString(typedRates_->dx->text()) : QStringLiteral("1")};
-    spec.examples = {{QStringLiteral("x - y^2"), QStringLiteral("1")},
-                     {QStringLiteral("-x"), QStringLiteral("y")},
-                     {QStringLiteral("A*y*(1 - y/B)"), QStringLiteral("1")},
-                     {QStringLiteral("sin(x*y)"), QStringLiteral("1")},
-                     {QStringLiteral("x + y"), QStringLiteral("x - y")}};
-    spec.names = typedNamesHelp(QStringLiteral("x and y"), QStringLiteral("A to F")) +
-                 QStringLiteral(" With dx = 1 the field is the slope field of dy/dx = dy.");
-    spec.check = [](const QStringList& texts, QString& preview) {
+    TypedEntryLayout entry;
+    entry.title = QStringLiteral("Type the rates dy and dx");
+    entry.fields = {QStringLiteral("dy ="), QStringLiteral("dx =")};
+    entry.initial = {typedRates_ ? QString::fromStdString(typedRates_->dy->text()) : QString(),
+                     typedRates_ ? QString::fromStdString(typedRates_->dx->text()) : QStringLiteral("1")};
+    entry.examples = {{QStringLiteral("x - y^2"), QStringLiteral("1")},
+                      {QStringLiteral("-x"), QStringLiteral("y")},
+                      {QStringLiteral("A*y*(1 - y/B)"), QStringLiteral("1")},
+                      {QStringLiteral("sin(x*y)"), QStringLiteral("1")},
+                      {QStringLiteral("x + y"), QStringLiteral("x - y")}};
+    entry.names = typedNamesHelp(QStringLiteral("x and y"), QStringLiteral("A to F")) +
+                  QStringLiteral(" With dx = 1 the field is the slope field of dy/dx = dy.");
+    entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const QString dx = texts.value(1).trimmed().isEmpty() ? QStringLiteral("1") : texts.value(1);
         const auto rates = FuncGlobals::TypedRates::make(texts.value(0).toStdString(), dx.toStdString(), error);
@@ -376,7 +376,7 @@ void frmFlowField::mnuTypeFunction_Click()
                   QStringLiteral(",  dx = ") + QString::fromStdString(rates->dx->understood());
         return QString();
     };
-    runTypedEntry(spec, [this](const QStringList& texts) { return setTypedRates(texts.value(0), texts.value(1)); });
+    runTypedEntry(entry, [this](const QStringList& texts) { return setTypedRates(texts.value(0), texts.value(1)); });
 }
 
 void frmFlowField::Form_MouseMove(int, int, double X, double Y)

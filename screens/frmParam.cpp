@@ -303,18 +303,18 @@ QString frmParam::setTypedCurve(const QString& xt, const QString& yt)
 
 void frmParam::mnuTypeFunction_Click()
 {
-    TypedEntrySpec spec;
-    spec.title = QStringLiteral("Type a parametric curve");
-    spec.fields = {QStringLiteral("x(t) ="), QStringLiteral("y(t) =")};
-    spec.initial = {typedCurve_ ? QString::fromStdString(typedCurve_->x->text()) : QString(),
-                    typedCurve_ ? QString::fromStdString(typedCurve_->y->text()) : QString()};
-    spec.examples = {{QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)")},
-                     {QStringLiteral("A*cos(t)"), QStringLiteral("B*sin(t)")},
-                     {QStringLiteral("cos(3*t)*cos(t)"), QStringLiteral("cos(3*t)*sin(t)")},
-                     {QStringLiteral("t^2 - 1"), QStringLiteral("t^3 - t")},
-                     {QStringLiteral("exp(t/10)*cos(t)"), QStringLiteral("exp(t/10)*sin(t)")}};
-    spec.names = typedNamesHelp(QStringLiteral("t"), QStringLiteral("A to F"));
-    spec.check = [](const QStringList& texts, QString& preview) {
+    TypedEntryLayout entry;
+    entry.title = QStringLiteral("Type a parametric curve");
+    entry.fields = {QStringLiteral("x(t) ="), QStringLiteral("y(t) =")};
+    entry.initial = {typedCurve_ ? QString::fromStdString(typedCurve_->x->text()) : QString(),
+                     typedCurve_ ? QString::fromStdString(typedCurve_->y->text()) : QString()};
+    entry.examples = {{QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)")},
+                      {QStringLiteral("A*cos(t)"), QStringLiteral("B*sin(t)")},
+                      {QStringLiteral("cos(3*t)*cos(t)"), QStringLiteral("cos(3*t)*sin(t)")},
+                      {QStringLiteral("t^2 - 1"), QStringLiteral("t^3 - t")},
+                      {QStringLiteral("exp(t/10)*cos(t)"), QStringLiteral("exp(t/10)*sin(t)")}};
+    entry.names = typedNamesHelp(QStringLiteral("t"), QStringLiteral("A to F"));
+    entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const auto curve =
             FuncGlobals::TypedCurve::make(texts.value(0).toStdString(), texts.value(1).toStdString(), error);
@@ -324,7 +324,7 @@ void frmParam::mnuTypeFunction_Click()
                   QStringLiteral(",  y = ") + QString::fromStdString(curve->y->understood());
         return QString();
     };
-    runTypedEntry(spec, [this](const QStringList& texts) { return setTypedCurve(texts.value(0), texts.value(1)); });
+    runTypedEntry(entry, [this](const QStringList& texts) { return setTypedCurve(texts.value(0), texts.value(1)); });
 }
 
 void frmParam::cmdZout_Click()
