@@ -80,7 +80,7 @@ public:
         skipBlanks();
         if (pos_ >= text_.size())
             refuse("nothing typed: type a function, for example x^2 - 4", pos_);
-        NodePtr n = sum(0);
+        NodePtr n = sum();
         skipBlanks();
         if (pos_ < text_.size()) {
             if (text_[pos_] == ')')
@@ -156,7 +156,7 @@ private:
         return n;
     }
 
-    NodePtr sum(int)
+    NodePtr sum()
     {
         NodePtr left = product();
         for (;;) {
@@ -231,7 +231,7 @@ private:
         const char c = text_[at];
         if (c == '(') {
             ++pos_;
-            NodePtr inner = sum(0);
+            NodePtr inner = sum();
             if (!take(')'))
                 refuseUnclosed();
             return inner;
@@ -344,7 +344,7 @@ private:
             n->op = Op::Call;
             n->name = f->shown;
             n->shown = f->shown;
-            n->args.push_back(sum(0));
+            n->args.push_back(sum());
             if (!take(')'))
                 refuseUnclosed();
             return n;

@@ -40,16 +40,20 @@ void MsgBox(const QString& prompt, const QString& title)
 
 DialogScript* dialogScript() { return activeScript; }
 
+QString scriptedAnswer(const QString& title, const QString& prompt)
+{
+    activeScript->shown.emplace_back(title, prompt);
+    if (activeScript->answers.empty())
+        return QString();
+    QString answer = activeScript->answers.front();
+    activeScript->answers.pop_front();
+    return answer;
+}
+
 QString FileBox(bool saving, const QString& title, const QString& directory)
 {
-    if (activeScript) {
-        activeScript->shown.emplace_back(title, QStringLiteral("file"));
-        if (activeScript->answers.empty())
-            return QString();
-        QString answer = activeScript->answers.front();
-        activeScript->answers.pop_front();
-        return answer;
-    }
+    if (activeScript)
+        return scriptedAnswer(title, QStringLiteral("file"));
     const QString filter = QStringLiteral("Plotto lessons (*.plotto);;All files (*)");
     QString path = saving ? QFileDialog::getSaveFileName(dialogParent(), title, directory, filter)
                           : QFileDialog::getOpenFileName(dialogParent(), title, directory, filter);
@@ -60,14 +64,8 @@ QString FileBox(bool saving, const QString& title, const QString& directory)
 
 QString InputBox(const QString& prompt, const QString& title, const QString& defaultText, double xTwips, double yTwips)
 {
-    if (activeScript) {
-        activeScript->shown.emplace_back(title, prompt);
-        if (activeScript->answers.empty())
-            return QString();
-        QString answer = activeScript->answers.front();
-        activeScript->answers.pop_front();
-        return answer;
-    }
+    if (activeScript)
+        return scriptedAnswer(title, prompt);
     QInputDialog dialog(dialogParent());
     dialog.setFont(FormStyle::zoomed(QApplication::font(), dialog.parentWidget()));
     dialog.setWindowTitle(title);

@@ -24,6 +24,9 @@ struct DialogScript {
 void setDialogScript(DialogScript* script);
 // The script in force, or null while the real dialogs are shown.
 DialogScript* dialogScript();
+// With a script set: records a box as (title, prompt) and gives its next answer ("" once they run
+// out), as every scripted box that asks for text does.
+QString scriptedAnswer(const QString& title, const QString& prompt);
 
 // A modal message box with an OK button only.
 void MsgBox(const QString& prompt, const QString& title);

@@ -272,7 +272,6 @@ void DrawingSurface::setProjectorMode(bool on)
 
 void DrawingSurface::drawCircle(double x, double y, double r, QRgb color, int width)
 {
-    const double grow = projector_ ? kProjectorPen : 1.0;
     // Device pixels as the logical ones times the scale, so that a form at its normal size draws to
     // the very same pixels as a painter in logical pixels did.
     const double cx = x / kTwipsPerPixel * scale_, cy = y / kTwipsPerPixel * scale_;
@@ -282,7 +281,7 @@ void DrawingSurface::drawCircle(double x, double y, double r, QRgb color, int wi
         return;
     paintDevice([&](QPainter& painter) {
         painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setPen(QPen(QColor(ink(color)), std::max(1.0, std::round(width * scale_ * grow))));
+        painter.setPen(QPen(QColor(ink(color)), penFor(width)));
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(QPointF(cx, cy), rr, rr);
     });

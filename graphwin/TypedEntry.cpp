@@ -26,15 +26,12 @@ QString typedNamesHelp(const QString& variables, const QString& coefficients)
 std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayout& entry)
 {
     if (DialogScript* script = dialogScript()) {
-        script->shown.emplace_back(entry.title, entry.fields.join(QLatin1Char(' ')));
-        if (script->answers.empty())
-            return std::nullopt;
+        const bool cancelled = script->answers.empty();
         QStringList lines;
-        for (int i = 0; i < entry.fields.size(); ++i) {
-            lines << (script->answers.empty() ? QString() : script->answers.front());
-            if (!script->answers.empty())
-                script->answers.pop_front();
-        }
+        for (const QString& field : entry.fields)
+            lines << scriptedAnswer(entry.title, field);
+        if (cancelled)
+            return std::nullopt;
         return lines;
     }
     QDialog dialog(parent);

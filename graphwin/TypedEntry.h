@@ -25,7 +25,7 @@ struct TypedEntryLayout {
 
 // Shows the entry modally; the lines on OK, nothing on Cancel. With a dialog script set (tests, the
 // random walk) the entry is recorded as (title, the fields' captions) and each line is answered from
-// the script; no answer at all is Cancel.
+// the script, a box for each line; no answer at all is Cancel.
 std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayout& entry);
 
 // The words every entry shows about what may be typed; `variables` names the screen's own letters.

@@ -81,6 +81,18 @@ std::vector<std::vector<std::string>> Table::cells() const
     return out;
 }
 
+std::vector<std::pair<double, double>> Table::measuredErrors(std::size_t m) const
+{
+    std::vector<std::pair<double, double>> out;
+    for (std::size_t r = 0; exact && r < values.size() && r < rowCounts.size(); ++r) {
+        const Cell& cell = values[r][m];
+        const double error = cell.value ? std::fabs(*cell.value - *exact) : 0;
+        if (cell.value && error > exactAccuracy && std::isfinite(error))
+            out.emplace_back(rowCounts[r], error);
+    }
+    return out;
+}
+
 std::string Table::tabSeparated() const
 {
     std::string text;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Convergence {
@@ -38,6 +39,9 @@ struct Table {
     std::vector<std::vector<std::string>> cells() const;
     // The cells as tab-separated lines, for a spreadsheet.
     std::string tabSeparated() const;
+    // Method m's measurable errors, in row order: (the row's count, the error) for every row whose
+    // value exists and whose error is finite and beyond the exact value's own accuracy.
+    std::vector<std::pair<double, double>> measuredErrors(std::size_t m) const;
 };
 
 inline const std::array<const char*, 5> kSumMethods{"Left", "Right", "Midpoint", "Trapezoid", "Simpson"};

@@ -170,18 +170,13 @@ void ConvergenceWindow::fillPlot()
         series->setName(QString::fromStdString(table_.methods[m]));
         series->setPen(QPen(kMethodColours[m % 5], 2.5));
         series->setPointsVisible(true);
-        for (std::size_t r = 0; r < table_.values.size() && r < table_.rowCounts.size(); ++r) {
-            const Convergence::Cell& cell = table_.values[r][m];
-            if (!cell.value)
-                continue;
-            const double error = std::fabs(*cell.value - *table_.exact);
-            if (!(error > table_.exactAccuracy) || !std::isfinite(error))
-                continue;  // no measurable error: no point on a log scale
-            series->append(table_.rowCounts[r], error);
+        // Only measurable errors: an error of 0 has no place on a log scale.
+        for (const auto& [count, error] : table_.measuredErrors(m)) {
+            series->append(count, error);
             lowest = lowest == 0 ? error : std::min(lowest, error);
             highest = std::max(highest, error);
             if (first[m].first == 0)
-                first[m] = {table_.rowCounts[r], error};
+                first[m] = {count, error};
         }
         chart->addSeries(series);
         series->attachAxis(x);
@@ -234,14 +229,10 @@ QString ConvergenceWindow::plotDescription() const
     for (std::size_t m = 0; m < table_.methods.size(); ++m) {
         std::vector<double> slopes;
         double n0 = 0, e0 = 0;
-        for (std::size_t r = 0; r < table_.values.size() && r < table_.rowCounts.size(); ++r) {
-            const Convergence::Cell& cell = table_.values[r][m];
-            const double error = cell.value ? std::fabs(*cell.value - *table_.exact) : 0;
-            if (!(cell.value && error > table_.exactAccuracy && std::isfinite(error)))
-                continue;
-            if (n0 > 0 && table_.rowCounts[r] > n0)
-                slopes.push_back(std::log(error / e0) / std::log(table_.rowCounts[r] / n0));
-            n0 = table_.rowCounts[r];
+        for (const auto& [count, error] : table_.measuredErrors(m)) {
+            if (n0 > 0 && count > n0)
+                slopes.push_back(std::log(error / e0) / std::log(count / n0));
+            n0 = count;
             e0 = error;
         }
         const QString expected =

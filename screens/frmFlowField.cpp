@@ -15,6 +15,8 @@ namespace {
 
 constexpr double kLeft = 2400, kRight = 8800, kTop = 100, kBottom = 6500;
 const QString kNoStart = QStringLiteral("Start( _____, _____ )");
+// What the end point label says when typed rates stop a curve.
+const QString kCurveStopped = QStringLiteral("EndPt: the curve stops where dy/dx is undefined");
 
 // Writes a number into a box by the plain conversion.
 void write(TextBox* box, double v) { box->assign(rt::CStr(v)); }
@@ -227,9 +229,7 @@ bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 {
     typedGuard([&] { startCurve(Button, X, Y); },
-               [this](const rt::RuntimeError&) {
-                   lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
-               });
+               [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
 }
 
 void frmFlowField::startCurve(int Button, double X, double Y)
@@ -283,9 +283,7 @@ void frmFlowField::followCurve(double& x, double& y, bool backward)
 void frmFlowField::followGuarded(double& x, double& y, bool backward)
 {
     typedGuard([&] { followCurve(x, y, backward); },
-               [this](const rt::RuntimeError&) {
-                   lblEndpt->setText(QStringLiteral("EndPt: the curve stops where dy/dx is undefined"));
-               });
+               [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
 }
 
 void frmFlowField::FollowCurveForward(double& x, double& y) { followGuarded(x, y, false); }

@@ -178,17 +178,13 @@ void frmParam::txtT_Change()
     surface->setDrawWidth(1);
 }
 
-void frmParam::cmdPlotto_Click()
+template <class At, class From>
+void frmParam::plotCurve(At at, From from)
 {
-    using namespace FuncGlobals;
-    if (typedCurve_) {
-        typedGuard([this] { plotTypedCurve(); }, [](const rt::RuntimeError&) {});
-        return;
-    }
     const float t0 = rt::CSng(txtT0->value()), tn = rt::CSng(txtTn->value());
     const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
-    double c0 = graph.column(XtFunc(t0)), r0 = graph.row(YtFunc(t0));
+    auto [c0, r0] = at(t0);
     const bool points = optPoints->isChecked();
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
     LazyBatch figure(*surface, colour);
@@ -196,13 +192,13 @@ void frmParam::cmdPlotto_Click()
     rt::cleanVectorStateForHotLoop();
     for (std::int32_t i = 1; i <= n; ++i) {
         const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
-        const double c1 = graph.column(XtFunc(t)), r1 = graph.row(YtFunc(t));
+        const auto [c1, r1] = at(t);
         if (points) {
-            if (i == 1)
+            if (i == 1 && from(c0, r0))
                 figure.point(c0, r0);
             if (inside(c1, r1))
                 figure.point(c1, r1);
-        } else if (inside(c1, r1)) {
+        } else if (inside(c1, r1) && from(c0, r0)) {
             segments.line(c0, r0, c1, r1);
         }
         c0 = c1;
@@ -210,36 +206,30 @@ void frmParam::cmdPlotto_Click()
     }
 }
 
-void frmParam::plotTypedCurve()
+void frmParam::cmdPlotto_Click()
 {
-    const float t0 = rt::CSng(txtT0->value()), tn = rt::CSng(txtTn->value());
-    const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
-    const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
-    // The same mapping as graph.column and graph.row, in plain arithmetic: NaN marks a gap.
-    auto column = [this](double x) { return graph.XOrigin + x * 6400 / graph.XRange; };
-    auto row = [this](double y) { return graph.YOrigin - y * 6400 / graph.YRange; };
-    auto at = [&](float t) { return std::pair{column(FuncGlobals::CurveX(t)), row(FuncGlobals::CurveY(t))}; };
-    auto [c0, r0] = at(t0);
-    const bool points = optPoints->isChecked();
-    FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
-    LazyBatch figure(*surface, colour);
-    ChunkedLines segments(figure);
-    auto drawable = [this](double c, double r) { return std::isfinite(c) && std::isfinite(r) && inside(c, r); };
-    rt::cleanVectorStateForHotLoop();
-    for (std::int32_t i = 1; i <= n; ++i) {
-        const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
-        const auto [c1, r1] = at(t);
-        if (points) {
-            if (i == 1 && drawable(c0, r0))
-                figure.point(c0, r0);
-            if (drawable(c1, r1))
-                figure.point(c1, r1);
-        } else if (drawable(c1, r1) && std::isfinite(c0) && std::isfinite(r0)) {
-            segments.line(c0, r0, c1, r1);
-        }
-        c0 = c1;
-        r0 = r1;
+    using namespace FuncGlobals;
+    if (!typedCurve_) {
+        // The families: every point mapped with the run time's checks, the first drawn wherever it is.
+        plotCurve(
+            [this](float t) {
+                return std::pair{graph.column(XtFunc(t)), graph.row(YtFunc(t))};
+            },
+            [](double, double) { return true; });
+        return;
     }
+    // A typed curve: the same mapping in plain arithmetic; NaN (a gap, or beyond what the window can
+    // map) is never drawn and breaks a connected curve. A fault of the window itself ends the plot.
+    typedGuard(
+        [this] {
+            plotCurve(
+                [this](float t) {
+                    return std::pair{graph.XOrigin + CurveX(t) * 6400 / graph.XRange,
+                                     graph.YOrigin - CurveY(t) * 6400 / graph.YRange};
+                },
+                [](double c, double r) { return std::isfinite(c) && std::isfinite(r); });
+        },
+        [](const rt::RuntimeError&) {});
 }
 
 frmParam::~frmParam()

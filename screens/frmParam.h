@@ -76,7 +76,8 @@ protected:
 
 private:
     std::shared_ptr<const FuncGlobals::TypedCurve> typedCurve_;
-    // The typed curve's plot: a point is left out, and a connected curve broken, where x(t) or y(t)
-    // is undefined or beyond what the window can map.
-    void plotTypedCurve();
+    // The curve's plot over t: `at(t)` gives the twip point of t, and a connected segment (or the
+    // first point) is drawn only where `from` holds for its start.
+    template <class At, class From>
+    void plotCurve(At at, From from);
 };
