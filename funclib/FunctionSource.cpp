@@ -3,8 +3,10 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "funclib/FuncGlobals.h"
+#include "runtime/RuntimeError.h"
 
 namespace FuncGlobals {
 
@@ -103,5 +105,43 @@ double RateStep4(const double& x, const double& y, const double& h)
 
 double CurveX(const float& t) { return TypedParametric ? (*TypedParametric->x)(t) : XtFunc(t); }
 double CurveY(const float& t) { return TypedParametric ? (*TypedParametric->y)(t) : YtFunc(t); }
+
+ExplicitSnapshot::ExplicitSnapshot(What what, std::shared_ptr<const TypedFunction> typed)
+    : what_(what), id_(FunctionId), coefficients_(Coefficients), typed_(std::move(typed))
+{ }
+
+std::vector<double> ExplicitSnapshot::at(const std::vector<double>& xs) const
+{
+    // What the evaluation touches goes back as it was, whatever happens inside.
+    struct Restore {
+        std::int16_t id = FunctionId, count = FunctionCount, derivatives = DerivativeCount;
+        CoefficientSet coefficients = Coefficients;
+        const TypedFunction* typed = TypedExplicit;
+        ~Restore()
+        {
+            FunctionId = id;
+            FunctionCount = count;
+            DerivativeCount = derivatives;
+            Coefficients = coefficients;
+            TypedExplicit = typed;
+        }
+    } restore;
+    FunctionId = id_;
+    Coefficients = coefficients_;
+    TypedExplicit = typed_.get();
+    std::vector<double> ys;
+    ys.reserve(xs.size());
+    constexpr double gap = std::numeric_limits<double>::quiet_NaN();
+    for (const double x : xs) {
+        try {
+            const bool slope = what_ == What::Slope;
+            const double y = slope ? ExplicitSlope(x) : ExplicitValue(x);
+            ys.push_back(std::isfinite(y) && ExplicitDefined(x) ? y : gap);
+        } catch (const rt::RuntimeError&) {
+            ys.push_back(gap);
+        }
+    }
+    return ys;
+}
 
 }  // namespace FuncGlobals

@@ -8,6 +8,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "funclib/FuncGlobals.h"
 
@@ -69,5 +70,24 @@ double RateStep4(const double& x, const double& y, const double& h);
 // x(t) and y(t): the typed curve in use, else XtFunc and YtFunc.
 double CurveX(const float& t);
 double CurveY(const float& t);
+
+// The explicit function in use when it is made (the family with its coefficients, or the typed
+// function), kept to be evaluated later whatever is in use by then: a drawn curve heard or walked
+// along after the screen has moved on. Evaluating installs the kept state for the call only and puts
+// back what was there. Never raises: a point where the function is undefined or where a family's
+// arithmetic fails is NaN.
+class ExplicitSnapshot {
+public:
+    enum class What { Value, Slope };
+    ExplicitSnapshot(What what, std::shared_ptr<const TypedFunction> typed);
+    std::vector<double> at(const std::vector<double>& xs) const;
+    double at(double x) const { return at(std::vector<double>{x}).front(); }
+
+private:
+    What what_;
+    std::int16_t id_;
+    CoefficientSet coefficients_;
+    std::shared_ptr<const TypedFunction> typed_;
+};
 
 }  // namespace FuncGlobals

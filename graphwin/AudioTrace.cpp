@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <limits>
 
 namespace audio {
 
@@ -59,6 +61,174 @@ std::vector<float> samples(const std::vector<Tone>& tones, double seconds, int r
         out[2 * static_cast<std::size_t>(i) + 1] = static_cast<float>(v * std::sin(angle));
     }
     return out;
+}
+
+namespace {
+
+// The root between two finite points of opposite signs, or where one of them is 0.
+std::optional<double> rootBetween(const Point& a, const Point& b, const std::function<double(double)>& f)
+{
+    if (a.y == 0)
+        return a.x;
+    if (!f)
+        return a.x + (b.x - a.x) * a.y / (a.y - b.y);
+    double lo = a.x, hi = b.x, flo = a.y;
+    for (int i = 0; i < 200 && lo != hi; ++i) {
+        const double mid = lo + (hi - lo) / 2;
+        if (mid == lo || mid == hi)
+            break;
+        const double fm = f(mid);
+        if (!std::isfinite(fm))
+            return std::nullopt;  // a gap inside: not a crossing
+        if (fm == 0)
+            return mid;
+        if ((fm < 0) == (flo < 0)) {
+            lo = mid;
+            flo = fm;
+        } else {
+            hi = mid;
+        }
+    }
+    const double x = std::fabs(flo) <= std::fabs(f(hi)) ? lo : hi;
+    // Across a pole the values grow towards the change of sign instead of shrinking.
+    if (std::fabs(f(x)) > std::max(std::fabs(a.y), std::fabs(b.y)))
+        return std::nullopt;
+    return x;
+}
+
+// True where f stays within its neighbours' heights between a and b (below the higher for a
+// minimum, above the lower for a maximum), as it does about a turn; across a pole it does not.
+bool valley(const Point& a, const Point& b, bool maximum, const std::function<double(double)>& f)
+{
+    const double bound = maximum ? std::min(a.y, b.y) : std::max(a.y, b.y);
+    for (int k = 1; k < 16; ++k) {
+        const double y = f(a.x + (b.x - a.x) * k / 16);
+        if (!std::isfinite(y) || (maximum ? y < bound : y > bound))
+            return false;
+    }
+    return true;
+}
+
+// The turn of f between lo and hi by golden-section search; the drawn point if f has a gap there.
+Point refineTurn(double lo, double hi, bool maximum, const std::function<double(double)>& f, Point drawn)
+{
+    const double sign = maximum ? -1 : 1;  // search for the least of sign * f
+    const double g = (std::sqrt(5.0) - 1) / 2;
+    double a = lo, b = hi;
+    double c = b - g * (b - a), d = a + g * (b - a);
+    double fc = sign * f(c), fd = sign * f(d);
+    for (int i = 0; i < 100 && std::isfinite(fc) && std::isfinite(fd); ++i) {
+        if (fc < fd) {
+            b = d;
+            d = c;
+            fd = fc;
+            c = b - g * (b - a);
+            fc = sign * f(c);
+        } else {
+            a = c;
+            c = d;
+            fc = fd;
+            d = a + g * (b - a);
+            fd = sign * f(d);
+        }
+    }
+    const double x = (a + b) / 2, y = f(x);
+    if (!std::isfinite(y) || sign * y > sign * drawn.y)
+        return drawn;
+    return {x, y};
+}
+
+}  // namespace
+
+std::optional<Feature> nearestFeature(const std::vector<Point>& points, std::size_t at,
+                                      const std::function<double(double)>& f)
+{
+    std::optional<Feature> best;
+    std::size_t bestDistance = std::numeric_limits<std::size_t>::max();
+    const auto offer = [&](Feature::Kind kind, double x, double y, std::size_t index) {
+        const std::size_t distance = index > at ? index - at : at - index;
+        // Ties go to the kind listed first (a root before a turn before the y-axis).
+        if (distance < bestDistance || (distance == bestDistance && best && kind < best->kind)) {
+            best = Feature{kind, x, y, index};
+            bestDistance = distance;
+        }
+    };
+    const auto finite = [&](std::size_t i) { return std::isfinite(points[i].x) && std::isfinite(points[i].y); };
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (!finite(i))
+            continue;
+        const Point& a = points[i];
+        if (a.y == 0)
+            offer(Feature::Root, a.x, 0, i);
+        if (a.x == 0)
+            offer(Feature::YIntercept, 0, a.y, i);
+        if (i + 1 == points.size() || !finite(i + 1))
+            continue;
+        const Point& b = points[i + 1];
+        // A crossing between two points belongs to the nearer of them.
+        const auto nearer = [&](double x) { return std::fabs(b.x - x) < std::fabs(a.x - x) ? i + 1 : i; };
+        if (a.y != 0 && b.y != 0 && (a.y < 0) != (b.y < 0))
+            if (const auto x = rootBetween(a, b, f))
+                offer(Feature::Root, *x, 0, nearer(*x));
+        if (a.x != 0 && b.x != 0 && (a.x < 0) != (b.x < 0)) {
+            const double y = f ? f(0) : a.y + (b.y - a.y) * a.x / (a.x - b.x);
+            if (std::isfinite(y))
+                offer(Feature::YIntercept, 0, y, nearer(0));
+        }
+    }
+    // Turns: where y stops rising and starts falling or the reverse, across any run of equal heights
+    // (a turn that falls between two pixel columns draws two equal points).
+    int direction = 0;  // of the last change of height: 1 up, -1 down, 0 none yet
+    std::size_t level = 0;  // the first point at the present height
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (!finite(i) || !finite(i - 1)) {
+            direction = 0;
+            level = i;
+            continue;
+        }
+        const double change = points[i].y - points[i - 1].y;
+        if (change == 0)
+            continue;
+        const int now = change > 0 ? 1 : -1;
+        if (direction != 0 && now != direction && level > 0) {
+            const bool maximum = direction > 0;
+            const Point &before = points[level - 1], &after = points[i];
+            const Point drawn = points[(level + i - 1) / 2];
+            if (!f || valley(before, after, maximum, f)) {
+                const Point turn = f ? refineTurn(before.x, after.x, maximum, f, drawn) : drawn;
+                offer(maximum ? Feature::Maximum : Feature::Minimum, turn.x, turn.y, (level + i - 1) / 2);
+            }
+        }
+        direction = now;
+        level = i;
+    }
+    return best;
+}
+
+std::string spoken(double value, double resolution)
+{
+    if (!std::isfinite(value))
+        return "undefined";
+    const double magnitude = std::fabs(value);
+    char text[64];
+    if (magnitude >= 1e9 || (magnitude != 0 && magnitude < 1e-9)) {
+        std::snprintf(text, sizeof text, "%.4g", value);
+        return text;
+    }
+    int decimals = 2;
+    if (std::isfinite(resolution) && resolution > 0)
+        decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(resolution))), 0, 9);
+    std::snprintf(text, sizeof text, "%.*f", decimals, value);
+    std::string s = text;
+    if (s.find('.') != std::string::npos) {
+        while (s.back() == '0')
+            s.pop_back();
+        if (s.back() == '.')
+            s.pop_back();
+    }
+    if (s == "-0")
+        s = "0";
+    return s;
 }
 
 }  // namespace audio

@@ -5,7 +5,11 @@
 // sound moving from the left ear to the right with x, a different timbre below y = 0, a short click
 // where the curve crosses the x-axis, and silence where the function is undefined. The samples are
 // made here from the curve's points, apart from any sound device, so that tests can inspect them.
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace audio {
@@ -38,5 +42,25 @@ std::vector<Tone> tones(const std::vector<Point>& points, const Range& range);
 // given an equal share: a sine above the axis, a sine with odd harmonics (a reedier sound) below
 // it, a 6 ms click at a crossing, phase kept from tone to tone so that a rising curve glides.
 std::vector<float> samples(const std::vector<Tone>& tones, double seconds, int rate);
+
+// What the exploration key finds near a point of a curve: where it crosses the x-axis, where y turns
+// (a local minimum or maximum) or where it crosses the y-axis.
+struct Feature {
+    enum Kind { Root, Minimum, Maximum, YIntercept } kind = Root;
+    double x = 0, y = 0;
+    std::size_t index = 0;  // the drawn point at or just before it
+};
+
+// The feature of `points` nearest to point `at` (counted in points along the curve), found on the
+// drawn points: a root where y changes sign between neighbours (or is 0), a turn where y stops rising
+// or falling, the y-axis where x changes sign. With `f` (the curve's y at x, NaN where undefined) a
+// root is refined to the precision of doubles by bisection, and a change of sign across a pole (where
+// |f| grows instead of shrinking) is no root. Nothing where the curve has no feature.
+std::optional<Feature> nearestFeature(const std::vector<Point>& points, std::size_t at,
+                                      const std::function<double(double)>& f = {});
+
+// A coordinate as the exploration says it: as many decimals as one step of `resolution` (the world
+// size of a pixel) can tell apart, trailing zeros dropped, never "-0".
+std::string spoken(double value, double resolution);
 
 }  // namespace audio

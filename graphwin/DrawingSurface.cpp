@@ -382,10 +382,12 @@ void DrawingSurface::paintEvent(QPaintEvent*)
     dirty_ = false;
     QPainter painter(this);
     painter.drawImage(QRectF(QPointF(0, 0), QSizeF(width(), height())), image_);
+    const double k = 1.0 / twipsPerPixel(this);
+    if (marker_)
+        paintMarker(painter, k);
     if (!hasFocus() || focusArea_.isEmpty())
         return;
     // The focus frame and cross-hair are drawn over the picture, never into it.
-    const double k = 1.0 / twipsPerPixel(this);
     const QRectF area(focusArea_.topLeft() * k, focusArea_.size() * k);
     painter.setPen(QPen(QColor(0x00, 0x00, 0x99), 2));
     painter.drawRect(area.adjusted(-2, -2, 2, 2));
@@ -396,6 +398,45 @@ void DrawingSurface::paintEvent(QPaintEvent*)
     painter.drawLine(QPointF(at.x() - 12, at.y()), QPointF(at.x() + 12, at.y()));
     painter.drawLine(QPointF(at.x(), at.y() - 12), QPointF(at.x(), at.y() + 12));
     painter.drawEllipse(at, 5, 5);
+}
+
+void DrawingSurface::paintMarker(QPainter& painter, double k)
+{
+    // A ring wide enough to be seen from the back of a room, in a colour no family draws in, and the
+    // caption on a white band so that it reads over any curve.
+    const QPointF at = *marker_ * k;
+    const double scale = std::max(1.0, zoom_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::white, 7 * scale));
+    painter.drawEllipse(at, 9 * scale, 9 * scale);
+    painter.setPen(QPen(QColor(0x99, 0x00, 0x66), 4 * scale));
+    painter.drawEllipse(at, 9 * scale, 9 * scale);
+    if (markerCaption_.isEmpty())
+        return;
+    QFont font = painter.font();
+    font.setPixelSize(static_cast<int>(std::lround(18 * scale)));
+    font.setBold(true);
+    painter.setFont(font);
+    const QRectF area(markerArea_.topLeft() * k, markerArea_.size() * k);
+    // Below the top limit box, which stands over the square's top edge.
+    // Only as wide as its words, so that it hides as little of the picture as it can.
+    const QFontMetricsF metrics(font);
+    const QString words = metrics.elidedText(markerCaption_, Qt::ElideRight, area.width() - 20);
+    const QRectF band(area.left() + 4, area.top() + 16 * scale, metrics.horizontalAdvance(words) + 12,
+                      metrics.height() + 8);
+    painter.fillRect(band, QColor(255, 255, 255, 230));
+    painter.setPen(QColor(0x33, 0x00, 0x22));
+    painter.drawText(band.adjusted(6, 0, -6, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, words);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void DrawingSurface::setMarker(std::optional<QPointF> at, const QString& caption, const QRectF& area)
+{
+    marker_ = at;
+    markerCaption_ = caption;
+    markerArea_ = area;
+    update();
 }
 
 QImage DrawingSurface::picture(const QRectF& twips) const
@@ -444,6 +485,10 @@ void DrawingSurface::keyPressEvent(QKeyEvent* event)
     // Keys a child left unused travel up to the surface: only its own focus moves the cross-hair.
     if (!hasFocus() || focusArea_.isEmpty()) {
         event->ignore();
+        return;
+    }
+    if (KeyDown && KeyDown(event->key(), event->modifiers())) {
+        event->accept();
         return;
     }
     const double step = event->modifiers() & Qt::ControlModifier ? kPointerStep / 10 : kPointerStep;

@@ -22,6 +22,8 @@
 #include "graphwin/Controls.h"
 #include "graphwin/Raster.h"
 
+class QPainter;
+
 struct DrawOp {
     enum Kind { Line, PSet, Circle, Text } kind;
     double x1, y1, x2, y2;
@@ -208,6 +210,14 @@ public:
     void movePointer(double dxTwips, double dyTwips);
     void pressAtPointer(int button);
     static constexpr double kPointerStep = 320;
+    // Keys the screen takes before the cross-hair does (the walk along a drawn curve): true when it
+    // took the key.
+    std::function<bool(int key, Qt::KeyboardModifiers modifiers)> KeyDown;
+    // The walk's point, drawn over the picture (never into it) as a ring at `at` (twips), with
+    // `caption` in large type at the top of `area` (twips) for the class to read; no marker when
+    // `at` is empty.
+    void setMarker(std::optional<QPointF> at, const QString& caption, const QRectF& area);
+    std::optional<QPointF> marker() const { return marker_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -254,6 +264,7 @@ private:
     // The drawing width `width` in device pixels at the present scale and mode.
     int penFor(double width) const;
     void placeChildren();
+    void paintMarker(QPainter& painter, double k);
 
     // A twip coordinate in device pixels. Multiplying by the reciprocal leaves multiples of 15 an
     // ulp short of their whole pixel; the small bias puts them back on it.
@@ -305,6 +316,9 @@ private:
     QRectF focusArea_;
     std::uint64_t clears_ = 0;
     QPointF pointerTwips_;
+    std::optional<QPointF> marker_;
+    QString markerCaption_;
+    QRectF markerArea_;
 };
 
 // The shapes of a batch: inline, as they are called once per point.

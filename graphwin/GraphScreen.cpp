@@ -226,6 +226,11 @@ void GraphScreen::buildToolsMenu()
     mnuProjector->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
     mnuProjector->setShortcutContext(Qt::WindowShortcut);
     connect(mnuProjector, &QAction::triggered, this, [this] { guarded([this] { mnuProjector_Click(); }); });
+    mnuHearCurve = toolsMenu_->addAction(QStringLiteral("&Hear the Curve"));
+    mnuHearCurve->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H));
+    mnuHearCurve->setShortcutContext(Qt::WindowShortcut);
+    connect(mnuHearCurve, &QAction::triggered, this, [this] { guarded([this] { mnuHearCurve_Click(); }); });
+    surface->KeyDown = [this](int key, Qt::KeyboardModifiers modifiers) { return exploreKey(key, modifiers); };
     // The mode belongs to the run: each screen's entry shows it as it is when its menu opens.
     connect(toolsMenu_, &QMenu::aboutToShow, this,
             [this] { mnuProjector->setChecked(DrawingSurface::projectorMode()); });
@@ -515,7 +520,9 @@ void GraphScreen::CleanGraph()
 
 void GraphScreen::plotFunction()
 {
-    noteDrawn(describeFamily() + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
+    const QString family = describeFamily();
+    noteDrawn(family + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
+    noteTraced(explicitCurve(family, FuncGlobals::ExplicitSnapshot::What::Value));
     plotColumns(FuncGlobals::ExplicitValue);
 }
 

@@ -10,6 +10,7 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -20,6 +21,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
+#include "graphwin/AudioTrace.h"
 #include "graphwin/Controls.h"
 #include "graphwin/DrawingSurface.h"
 #include "graphwin/FormTable.h"
@@ -147,6 +149,24 @@ public:
     // True while the screen shows a typed function instead of a family.
     virtual bool typedInUse() const { return typed_ != nullptr; }
 
+    // Hearing a drawn curve and walking along it, for a student who cannot see the graph. Tools, Hear
+    // the Curve (Ctrl+Shift+H) plays the chosen curve (the last drawn, or the one chosen with Up and
+    // Down) from the window's left edge to its right. With the graph focused, Left and Right walk
+    // along it a pixel column at a time (Ctrl: a tenth of the window), Home and End go to its ends,
+    // N goes to the nearest root, turn or crossing of the y-axis; each step is said in words (the
+    // first line of the description) and marked on the graph. Where the arrow keys move a cross-hair
+    // (the slope field) the walk takes them with Shift.
+    QAction* mnuHearCurve = nullptr;
+    void mnuHearCurve_Click();
+    bool exploreKey(int key, Qt::KeyboardModifiers modifiers);
+    // The chosen curve's points as the trace plays them, and its samples; empty when nothing is drawn.
+    std::vector<audio::Point> tracePoints() const;
+    std::vector<float> traceSamples() const;
+    // What the walk or the trace said last ("x = 1.25, y = 3.56"); empty after a clear.
+    QString announcement() const;
+    static constexpr double kTraceSeconds = 3;
+    static constexpr int kTraceRate = 22050;
+
     // The screen's function, for a lesson: {"family": n} for the family its label shows,
     // {"typed": text} for a typed one, {} while it shows none. The slope-field and parametric
     // screens name their two functions. `checkFunctionState` says why a state cannot be taken ("" when
@@ -256,6 +276,25 @@ protected:
     // What a label says when a typed function's numbers are too large to compute a result.
     static QString typedTooLarge();
 
+    // A drawn curve as the trace and the walk meet it: its name, the window it was drawn in, and a way
+    // to make its points again (an explicit curve at `columns` pixel columns across the window, any
+    // other as it was drawn), so that drawing it costs no more than before. `f` is y at x for an
+    // explicit curve (it refines roots and turns), empty for others.
+    struct TracedCurve {
+        QString name;
+        audio::Range range;
+        std::function<std::vector<audio::Point>(int columns)> points;
+        std::function<double(double)> f;
+    };
+    // Adds a curve drawn since the last clear; it becomes the chosen one.
+    void noteTraced(TracedCurve curve);
+    // The explicit function in use now (its value or its slope), over the window, named `name`.
+    TracedCurve explicitCurve(const QString& name, FuncGlobals::ExplicitSnapshot::What what) const;
+    // A curve of points as drawn (bars' heights, an integral curve, a parametric curve).
+    TracedCurve drawnCurve(const QString& name, std::vector<audio::Point> points) const;
+    // The window the graph is drawn in, from its mapping.
+    audio::Range traceRange() const;
+
     // Adds the screen's own results to its description, a line each.
     virtual void describeResults(QStringList& lines) const;
     // Records what was drawn, for the description (cleared with the picture).
@@ -287,6 +326,28 @@ private:
     QMenu* toolsMenu_ = nullptr;
     QAction* historySeparator_ = nullptr;
     QList<QAction*> history_;
+
+    // The walk: the curves drawn since the clear `tracedAfterClear_`, the chosen one (-1: the last),
+    // its points at the present size and the point the walk is at.
+    const TracedCurve* chosenCurve() const;
+    int traceColumns() const;
+    bool walkReady();
+    void walkTo(std::size_t index, const QString& before = {});
+    std::optional<QPointF> markerAt(double x, double y) const;
+    QString spokenPoint(double x, double y, double finer = 1) const;
+    void announce(const QString& text, std::optional<QPointF> marker = std::nullopt);
+    std::vector<TracedCurve> traced_;
+    std::uint64_t tracedAfterClear_ = 0;
+    int chosen_ = -1;
+    std::vector<audio::Point> walk_;
+    int walkCurve_ = -1;  // the index of the curve walk_ belongs to, with the count and clear it saw
+    std::size_t walkCount_ = 0;
+    std::uint64_t walkClears_ = 0;
+    int walkColumns_ = 0;
+    std::size_t walkAt_ = 0;
+    QString announcement_;
+    std::uint64_t announcedAfterClear_ = 0;
+    static inline bool silenceSaid_ = false;
 
     Config config_;
     bool arranged_ = false;

@@ -54,6 +54,9 @@ void GraphScreen::noteDrawn(const QString& what)
 QString GraphScreen::describe() const
 {
     QStringList lines{windowTitle() + QLatin1Char('.')};
+    // What the walk along a curve said last comes first, as the point a student is at.
+    if (const QString said = announcement(); !said.isEmpty())
+        lines << said;
     lines << QStringLiteral("Window: x from %1 to %2, y from %3 to %4.")
                  .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
     if (drawnAfterClear_ == surface->clears() && !drawn_.isEmpty()) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmFlowField.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
@@ -228,8 +229,20 @@ bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X
 
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 {
+    curvePoints_.clear();
     typedGuard([&] { startCurve(Button, X, Y); },
                [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
+    if (curvePoints_.size() < 2)
+        return;
+    // Heard and walked from its left end, whichever way it was followed.
+    const audio::Point from = curvePoints_.front();
+    if (Button == RightButton)
+        std::reverse(curvePoints_.begin(), curvePoints_.end());
+    const auto at = [](double v) { return qStr(rt::Int(v * 1000 + 0.5) / 1000); };
+    noteTraced(drawnCurve(QStringLiteral("the curve from (") + at(from.x) + QStringLiteral(",") + at(from.y) +
+                              QStringLiteral(")"),
+                          std::move(curvePoints_)));
+    curvePoints_.clear();
 }
 
 void frmFlowField::startCurve(int Button, double X, double Y)
@@ -250,6 +263,7 @@ void frmFlowField::startCurve(int Button, double X, double Y)
         if (!s.smooth && st.vertical)
             return;
         const double ny = Chk(CurrentY + st.dy);
+        curvePoints_.push_back({CurrentX, CurrentY});
         if (txtYmin->value() <= ny && ny <= txtYmax->value())
             surface->Line(X, Y, graph.column(Chk(CurrentX + st.dx)), graph.row(ny),
                           rgbColor(rt::QBColor(MethodColour)));
@@ -271,6 +285,7 @@ void frmFlowField::followCurve(double& x, double& y, bool backward)
         rt::cleanVectorStateForHotLoop();
         reachedEnd = IntegralCurves::follow(
             settings(), h, backward, x, y, PointCounter, [&](double x1, double y1, double x2, double y2) {
+                curvePoints_.push_back({x2, y2});
                 curve.line(graph.column(x1), graph.row(y1), graph.column(x2), graph.row(y2));
             });
     }

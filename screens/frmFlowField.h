@@ -112,4 +112,6 @@ private:
     QLineEdit *startX_ = nullptr, *startY_ = nullptr, *endX_ = nullptr, *stepH_ = nullptr;
     QMenu* dyMenu_ = nullptr;
     QMenu* dxMenu_ = nullptr;
+    // The points of the curve being drawn, in the world, for the trace and the walk.
+    std::vector<audio::Point> curvePoints_;
 };

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "runtime/Numbers.h"
 
@@ -137,7 +138,13 @@ void frmNewton::applyNewton(double x)
     GuessNumber = rt::CInt(GuessNumber + 1.0);
 }
 
-void frmNewton::cmdDeriv_Click() { plotColumns(FuncGlobals::ExplicitSlope); }
+void frmNewton::cmdDeriv_Click()
+{
+    const QString derivative = QStringLiteral("the derivative of ") + describeFamily();
+    noteDrawn(derivative + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
+    noteTraced(explicitCurve(derivative, FuncGlobals::ExplicitSnapshot::What::Slope));
+    plotColumns(FuncGlobals::ExplicitSlope);
+}
 
 void frmNewton::mnuAbout_Click()
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmParam.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -187,23 +188,42 @@ void frmParam::plotCurve(At at, From from)
     auto [c0, r0] = at(t0);
     const bool points = optPoints->isChecked();
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
-    LazyBatch figure(*surface, colour);
-    ChunkedLines segments(figure);
-    rt::cleanVectorStateForHotLoop();
-    for (std::int32_t i = 1; i <= n; ++i) {
-        const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
-        const auto [c1, r1] = at(t);
-        if (points) {
-            if (i == 1 && from(c0, r0))
-                figure.point(c0, r0);
-            if (inside(c1, r1))
-                figure.point(c1, r1);
-        } else if (inside(c1, r1) && from(c0, r0)) {
-            segments.line(c0, r0, c1, r1);
+    // Every k-th point is kept in the world (about 2000 in all) for the trace and the walk.
+    std::vector<audio::Point> kept;
+    const std::int32_t every = std::max<std::int32_t>(1, n / 2000);
+    std::int32_t untilKept = 1;
+    const auto keep = [&](double c, double r) {
+        if (--untilKept > 0)
+            return;
+        untilKept = every;
+        const bool drawable = std::isfinite(c) && std::isfinite(r);
+        kept.push_back({drawable ? (c - graph.XOrigin) * graph.XRange / GraphWindow::Side : c,
+                        drawable ? (graph.YOrigin - r) * graph.YRange / GraphWindow::Side : r});
+    };
+    keep(c0, r0);
+    {
+        LazyBatch figure(*surface, colour);
+        ChunkedLines segments(figure);
+        rt::cleanVectorStateForHotLoop();
+        for (std::int32_t i = 1; i <= n; ++i) {
+            const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
+            const auto [c1, r1] = at(t);
+            keep(c1, r1);
+            if (points) {
+                if (i == 1 && from(c0, r0))
+                    figure.point(c0, r0);
+                if (inside(c1, r1))
+                    figure.point(c1, r1);
+            } else if (inside(c1, r1) && from(c0, r0)) {
+                segments.line(c0, r0, c1, r1);
+            }
+            c0 = c1;
+            r0 = r1;
         }
-        c0 = c1;
-        r0 = r1;
     }
+    noteTraced(drawnCurve(QStringLiteral("the curve ") + lblXPar->text() + QStringLiteral(", ") + lblYPar->text() +
+                              QStringLiteral(" for t from ") + txtT0->text() + QStringLiteral(" to ") + txtTn->text(),
+                          std::move(kept)));
 }
 
 void frmParam::cmdPlotto_Click()

@@ -175,9 +175,17 @@ void frmRiemann::cmdParts_Click()
     };
     // Each method draws into a batch of its colour: the loop writes plain numbers, and the batch
     // draws them when the method's sum is done (or ends with an error), before the result is shown.
-    const auto drawn = [this](int colourNumber, auto sum) {
-        DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(colourNumber)));
-        return sum(batch);
+    // The heights a method draws are kept as a curve to hear and walk along, one point a bar.
+    std::vector<audio::Point> heights;
+    const auto drawn = [this, &heights](int colourNumber, const CheckBox* method, auto sum) {
+        heights.clear();
+        const Result result = [&] {
+            DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(colourNumber)));
+            return sum(batch);
+        }();
+        noteTraced(drawnCurve(method->text().remove(QLatin1Char('&')) + QStringLiteral(" bars of ") + describeFamily(),
+                              std::move(heights)));
+        return result;
     };
     // With a typed function a method whose numbers grow too large says so, and the others go on.
     const auto tooLarge = [](ClickLabel* label) {
@@ -186,8 +194,9 @@ void frmRiemann::cmdParts_Click()
     const auto shown = [&](ClickLabel* label, auto compute) {
         typedGuard([&] { showResult(label, compute()); }, tooLarge(label));
     };
-    auto bars = [this, &inside, Y0](DrawingSurface::Batch& batch) {
-        return [this, &inside, &batch, Y0](double xa, double xb, double y) {
+    auto bars = [this, &inside, &heights, Y0](DrawingSurface::Batch& batch) {
+        return [this, &inside, &batch, &heights, Y0](double xa, double xb, double y) {
+            heights.push_back({(xa + xb) / 2, y});
             if (std::isnan(y))  // a typed function's gap: no bar
                 return;
             const double a = graph.column(xa), b = graph.column(xb), t = graph.row(y);
@@ -198,15 +207,17 @@ void frmRiemann::cmdParts_Click()
     };
 
     if (chkLeft->isChecked())
-        shown(lblLeftE, [&] { return drawn(2, [&](auto& b) { return leftEndpoint(f, L, dx, n, bars(b)); }); });
+        shown(lblLeftE, [&] { return drawn(2, chkLeft, [&](auto& b) { return leftEndpoint(f, L, dx, n, bars(b)); }); });
     if (chkRight->isChecked())
-        shown(lblRightE, [&] { return drawn(1, [&](auto& b) { return rightEndpoint(f, L, dx, n, bars(b)); }); });
+        shown(lblRightE,
+              [&] { return drawn(1, chkRight, [&](auto& b) { return rightEndpoint(f, L, dx, n, bars(b)); }); });
     if (chkMid->isChecked())
-        shown(lblMid, [&] { return drawn(4, [&](auto& b) { return midpoint(f, L, dx, n, bars(b)); }); });
+        shown(lblMid, [&] { return drawn(4, chkMid, [&](auto& b) { return midpoint(f, L, dx, n, bars(b)); }); });
     if (chkTrap->isChecked())
         shown(lblTrap, [&] {
-            return drawn(5, [&](DrawingSurface::Batch& batch) {
+            return drawn(5, chkTrap, [&](DrawingSurface::Batch& batch) {
                 return trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
+                    heights.push_back({(xa + xb) / 2, (y1 + y2) / 2});
                     if (std::isnan(y1) || std::isnan(y2))
                         return;
                     const double a = graph.column(xa), b = graph.column(xb);
@@ -218,13 +229,15 @@ void frmRiemann::cmdParts_Click()
             });
         });
     if (chkRandom->isChecked())
-        shown(lblRnd, [&] { return drawn(6, [&](auto& b) { return randomPoint(f, L, dx, n, bars(b)); }); });
+        shown(lblRnd, [&] { return drawn(6, chkRandom, [&](auto& b) { return randomPoint(f, L, dx, n, bars(b)); }); });
     if (chkSimpson->isChecked())
         typedGuard(
             [&] {
                 const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
-                const Result r = drawn(3, [&](DrawingSurface::Batch& outline) {
+                const Result r = drawn(3, chkSimpson, [&](DrawingSurface::Batch& outline) {
                     return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
+                        heights.push_back({xa, y0});
+                        heights.push_back({(xa + xc) / 2, y1});
                         if (std::isnan(y0) || std::isnan(y1) || std::isnan(y2))
                             return;
                         const double a = graph.column(xa), c = graph.column(xc);
@@ -244,8 +257,9 @@ void frmRiemann::cmdParts_Click()
             },
             tooLarge(lblSimpson));
     if (chkRiemann->isChecked())
-        shown(lblRiemann,
-              [&] { return drawn(7, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); }); });
+        shown(lblRiemann, [&] {
+            return drawn(7, chkRiemann, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); });
+        });
 
     lblAreas->setText(QStringLiteral("Area"));
 }

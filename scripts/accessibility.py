@@ -73,7 +73,7 @@ def type_into(win, name, text):
     box = find(win, name, pyatspi.ROLE_TEXT)
     box.queryComponent().grabFocus()
     key("ctrl+a")
-    subprocess.run(["xdotool", "type", "--delay", "30", text], check=True)
+    subprocess.run(["xdotool", "type", "--delay", "30", "--", text], check=True)
     time.sleep(0.4)
 
 
@@ -199,12 +199,58 @@ def grapher(win):
     check("image/png" in targets, "Ctrl+C offers the graph as image/png (targets: %s)" % " ".join(targets))
     text = subprocess.run(clip + ["-t", "UTF8_STRING"], capture_output=True, text=True, timeout=10).stdout
     check("y = A * (Bx - C)^2 + D with A = 2" in text, "Ctrl+C offers the description as text: %r" % text[:120])
+    walk_along(win)
+
+
+def said(win):
+    """What the walk along a curve said last: the line after the title in the graph's description."""
+    lines = graph(win).description.split("\n")
+    return lines[1] if len(lines) > 1 else ""
+
+
+def walk_along(win):
+    """Walks along y = x^2 with the arrow keys, then finds the nearest root of x^2 - 4 from near 3."""
+    type_into(win, "A", "1")
+    press(win, "Erase Graph")
+    press(win, "Plotto!")
+    graph(win).queryComponent().grabFocus()
+    time.sleep(0.3)
+    last = None
+    for step in range(4):
+        key("Right", pause=0.3)
+        words = said(win)
+        print("    walk: " + words)
+        try:
+            x, y = [float(part.split("= ")[1]) for part in words.split(", ")[:2]]
+        except (IndexError, ValueError):
+            check(False, "a step along y = x^2 is said as 'x = .., y = ..': %r" % words)
+            return
+        check(abs(y - x * x) <= 0.01 + 0.02 * abs(x) and (last is None or x > last),
+              "step %d along y = x^2 is announced: %r" % (step + 1, words))
+        last = x
+    key("shift+ctrl+h")
+    print("    trace: " + said(win))
+    check(said(win).startswith(("Playing ", "No sound device")), "the audio trace answers: %r" % said(win))
+    type_into(win, "D", "-4")
+    press(win, "Plotto!")
+    graph(win).queryComponent().grabFocus()
+    time.sleep(0.3)
+    key("ctrl+Right", pause=0.2)
+    while True:
+        key("Right", pause=0.05)
+        words = said(win)
+        if not words.startswith("x = ") or float(words.split(", ")[0][4:]) >= 3:
+            break
+    print("    walk: " + words)
+    key("n")
+    print("    nearest: " + said(win))
+    check(said(win) == "Root at x = 2, y = 0", "from near 3 the nearest root of x^2 - 4 is announced: %r" % said(win))
 
 
 def main():
     app()
     screen("Graph Classes of Functions", "Graphing Classes of Functions", grapher,
-           lambda w: ["y = A * (Bx - C)^2 + D with A = 2", "Drawn:"])
+           lambda w: ["y = A * (Bx - C)^2 + D with A = 1, B = 1, C = 0, D = -4", "Drawn:", "Root at x = 2, y = 0"])
     screen("Riemann Sums + Others", "Riemann and Other Sums", sums,
            lambda w: ["y = Ax^2 + Bx + C", "with 4 partitions", "Left Endpoint (ticked): = "], transcript=True)
     screen("Newton's Method", "Newton's Method and Derivatives", newton, lambda w: ["Guesses: 1: 3; 2: "])

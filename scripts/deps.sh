@@ -7,7 +7,7 @@ set -euo pipefail
 PACKAGES=(
   cmake ninja-build g++ clang
   qt6-base-dev libgl-dev libboost-dev
-  libginac-dev libmuparser-dev pkg-config qt6-charts-dev libqt6opengl6-dev
+  libginac-dev libmuparser-dev pkg-config qt6-charts-dev libqt6opengl6-dev qt6-multimedia-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-liberation fonts-dejavu-core
   xvfb xauth imagemagick python3

@@ -235,6 +235,22 @@ int main(int argc, char* argv[])
     save(animate, dir, QStringLiteral("animate.png"));
     animate.hide();
 
+    // The walk along y = x^2 - 4 with the keyboard: from near x = 3, N finds the root at 2.
+    grapher.Form_Activate();
+    grapher.cmdClean_Click();
+    grapher.mnuFunc_Click(1);
+    for (QLineEdit* box : {grapher.txtA, grapher.txtB, grapher.txtC, grapher.txtD})
+        box->setText(QStringLiteral("1"));
+    grapher.txtC->setText(QStringLiteral("0"));
+    grapher.txtD->setText(QStringLiteral("-4"));
+    grapher.cmdPlotto_Click();
+    grapher.exploreKey(Qt::Key_Right, Qt::ControlModifier);
+    for (int i = 0; i < 20; ++i)
+        grapher.exploreKey(Qt::Key_Right, Qt::NoModifier);
+    grapher.exploreKey(Qt::Key_N, Qt::NoModifier);
+    save(grapher, dir, QStringLiteral("walk-root.png"));
+    saveMaximized(grapher, dir, QStringLiteral("walk-root-1920x1080.png"));
+
     // Every screen as it was left above, maximized on the common projector sizes (the client area
     // below a title bar), in normal and in projector mode: docs/projector/.
     const QDir projector(dir.filePath(QStringLiteral("projector")));

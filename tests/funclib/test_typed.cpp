@@ -226,3 +226,49 @@ TEST(TypedProperties, HoldForTheSeedsAndEveryKeptFinding)
     }
     EXPECT_GE(replayed, 15);
 }
+
+TEST(ExplicitSnapshot, EvaluatesWhatWasInUseAndPutsBackWhatIsInUseNow)
+{
+    using namespace FuncGlobals;
+    using What = ExplicitSnapshot::What;
+    struct Restore {
+        std::int16_t id = FunctionId;
+        CoefficientSet k = Coefficients;
+        ~Restore()
+        {
+            FunctionId = id;
+            Coefficients = k;
+            TypedExplicit = nullptr;
+        }
+    } restore;
+    FunctionId = 8;  // y = A*Ln(Bx + C) + D
+    Coefficients = {2, 1, 0, 1, 0, 0};
+    const ExplicitSnapshot logarithm(What::Value, nullptr), slope(What::Slope, nullptr);
+    std::string error;
+    const auto typed = TypedFunction::make("1/(x - A)", error);
+    ASSERT_TRUE(typed) << error;
+    Coefficients.A = 3;
+    const ExplicitSnapshot pole(What::Value, typed);
+
+    // Something else entirely in use when they are evaluated.
+    FunctionId = 1;
+    Coefficients = {5, 5, 5, 5, 5, 5};
+    TypedExplicit = nullptr;
+    const std::vector<double> logs = logarithm.at({std::exp(1.0), 1, -1, 0});
+    EXPECT_DOUBLE_EQ(logs[0], 3);
+    EXPECT_DOUBLE_EQ(logs[1], 1);
+    EXPECT_TRUE(std::isnan(logs[2]) && std::isnan(logs[3])) << "undefined where the family is, not its 0";
+    EXPECT_DOUBLE_EQ(slope.at(0.5), 4);  // (2 ln x)' = 2 / x
+    EXPECT_DOUBLE_EQ(pole.at(4), 1);
+    EXPECT_TRUE(std::isnan(pole.at(3)));
+    EXPECT_EQ(FunctionId, 1);
+    EXPECT_EQ(Coefficients.A, 5);
+    EXPECT_EQ(Coefficients.F, 5);
+    EXPECT_EQ(TypedExplicit, nullptr);
+    // A family's overflow is a gap in a snapshot, never a run-time error.
+    FunctionId = 9;  // y = A*e^(Bx + C) + D
+    Coefficients = {1, 1, 0, 0, 0, 0};
+    const ExplicitSnapshot growth(What::Value, nullptr);
+    EXPECT_TRUE(std::isnan(growth.at(1e6)));
+    EXPECT_DOUBLE_EQ(growth.at(0), 1);
+}

@@ -72,3 +72,79 @@ TEST(AudioTrace, LogarithmIsSilentOverTheLeftHalf)
     for (std::size_t i = 0; i < tones.size(); ++i)
         EXPECT_FALSE(tones[i].click && points[i].x <= 0.05) << "no crossing heard across the gap at " << points[i].x;
 }
+
+namespace {
+
+struct FeatureCase {
+    const char* name;
+    double (*f)(double);
+    double from;  // where the walk stands
+    bool refined;  // the curve's function is known (an explicit curve)
+    audio::Feature::Kind kind;
+    double x, y, tolerance;
+};
+
+}  // namespace
+
+TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
+{
+    const FeatureCase cases[] = {
+        {"x^2 - 4 near 3: the root at 2", [](double x) { return x * x - 4; }, 3, true, audio::Feature::Root, 2, 0,
+         1e-12},
+        {"x^2 - 4 near -2.6: the root at -2", [](double x) { return x * x - 4; }, -2.6, true, audio::Feature::Root, -2,
+         0, 1e-12},
+        {"x^2 - 4 near 0.3: the minimum", [](double x) { return x * x - 4; }, 0.3, true, audio::Feature::Minimum, 0, -4,
+         1e-6},
+        {"drawn points only: root found between them", [](double x) { return x * x - 4; }, 3, false,
+         audio::Feature::Root, 2, 0, 3e-3},
+        {"a maximum of -(x-1)^2 + 5", [](double x) { return -(x - 1) * (x - 1) + 5; }, 1.4, true,
+         audio::Feature::Maximum, 1, 5, 1e-6},
+        {"e^x crosses no axis but the y-axis", [](double x) { return std::exp(x); }, 3, true,
+         audio::Feature::YIntercept, 0, 1, 1e-12},
+        {"1/x changes sign at its pole: no root there", [](double x) { return 1 / (x - 0.01); }, 0.3, true,
+         audio::Feature::YIntercept, 0, -100, 1e-9},
+    };
+    for (const FeatureCase& c : cases) {
+        std::vector<audio::Point> points;
+        for (int i = 0; i < 427; ++i) {
+            const double x = -10 + 20.0 * i / 426;
+            points.push_back({x, c.f(x)});
+        }
+        std::size_t at = 0;
+        while (at + 1 < points.size() && points[at].x < c.from)
+            ++at;
+        const auto found = audio::nearestFeature(points, at, c.refined ? std::function<double(double)>(c.f) : nullptr);
+        ASSERT_TRUE(found) << c.name;
+        EXPECT_EQ(found->kind, c.kind) << c.name;
+        EXPECT_NEAR(found->x, c.x, c.tolerance) << c.name;
+        EXPECT_NEAR(found->y, c.y, c.tolerance) << c.name;
+        EXPECT_LE(std::fabs(points[found->index].x - c.x), 20.0 / 426 + 1e-9) << c.name << ": walk goes to it";
+    }
+    // A curve with no sign change, turn or y-axis: nothing, and nothing on an empty or gappy curve.
+    const std::vector<audio::Point> rising{{1, 1}, {2, 2}, {3, 3}};
+    EXPECT_FALSE(audio::nearestFeature(rising, 1));
+    EXPECT_FALSE(audio::nearestFeature({}, 0));
+    const double gap = std::nan("");
+    EXPECT_FALSE(audio::nearestFeature({{1, -1}, {2, gap}, {3, 1}}, 0)) << "no root across a gap";
+}
+
+TEST(AudioTrace, CoordinatesSaidToThePrecisionOfAPixel)
+{
+    struct Case {
+        double value, resolution;
+        const char* said;
+    } cases[] = {
+        {1.25, 0.047, "1.25"},
+        {3.5625, 0.047, "3.56"},
+        {2.0000000001, 0.047, "2"},
+        {-0.0001, 0.047, "0"},
+        {-1.5, 0.047, "-1.5"},
+        {1234.5678, 4.7, "1235"},
+        {0.001234, 4.7e-5, "0.00123"},
+        {7, 0, "7"},
+        {std::nan(""), 0.05, "undefined"},
+        {3e12, 1, "3e+12"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(audio::spoken(c.value, c.resolution), c.said) << c.value << " at " << c.resolution;
+}

@@ -241,13 +241,16 @@ struct Walk {
             break;
         }
         case Control::GraphKeys: {
-            const Qt::Key keys[] = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Return};
-            const Qt::KeyboardModifiers mods[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
+            // The cross-hair's keys and the walk along a drawn curve's (Home, End, N, Shift with arrows).
+            const Qt::Key keys[] = {Qt::Key_Left,   Qt::Key_Right, Qt::Key_Up,  Qt::Key_Down,
+                                    Qt::Key_Return, Qt::Key_Home,  Qt::Key_End, Qt::Key_N};
+            const Qt::KeyboardModifiers mods[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier,
+                                                  Qt::ShiftModifier | Qt::ControlModifier};
             const int n = 1 + pick(6);
             what += "presses " + std::to_string(n) + " keys in the graph";
             w->setFocus();
             for (int k = 0; k < n; ++k)
-                QTest::keyClick(w, keys[pick(5)], mods[pick(3)]);
+                QTest::keyClick(w, keys[pick(8)], mods[pick(4)]);
             break;
         }
         case Control::Assist: {
