@@ -128,8 +128,9 @@ TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
                 b.runColumns(static_cast<int>(from), rows.data() + from, std::min<std::size_t>(512, rows.size() - from),
                              0, 2990);
         }
-        if (batched.keptOperations() + rows.size() < DrawingSurface::kMaxKept)
+        if (batched.keptOperations() + rows.size() < DrawingSurface::kMaxKept) {
             ASSERT_EQ(batched.keptOperations() - one.keptOperations(), batch + 1u) << batch;
+        }
     }
     EXPECT_GE(one.keptOperations(), DrawingSurface::kMaxKept - 2000);  // the store filled up on the way
     batched.setZoom(2);
