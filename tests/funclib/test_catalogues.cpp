@@ -34,29 +34,36 @@ void families(int x, int y, CoefficientSet k)
 TEST(ExplicitCatalogue, ValuesAndCaptionBounds)
 {
     const double x = 1.5;
-    const std::tuple<int, double, double, double, double, double, double> cases[] = {
-        {1, 1, 2, 3, 4, 0, 4.0},  // (3 - 3)^2 + 4
-        {2, 2, -1, 3, 0, 0, 2 * 2.25 - 1.5 + 3},
-        {3, 2, 2, 1, 1, 0, 2 * 8.0 + 1},  // (3 - 1)^3
-        {4, 1, 2, 3, 4, 0, 3.375 + 2 * 2.25 + 4.5 + 4},
-        {5, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::sin(5.5) + 5},
-        {6, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::cos(5.5) + 5},
-        {7, 2, 0.5, 0.1, 4, 5, 4 * 1.5 + 2 * std::tan(0.85) + 5},
-        {8, 2, 2, 1, 3, 0, 2 * std::log(4.0) + 3},
-        {9, 2, 1, -1, 3, 0, 2 * std::exp(0.5) + 3},
-        {10, 6, 2, 1, 3, 0, 6.0 / 4 + 3},
-        {11, 2, 2, 1, 3, 0, 2 * 16.0 + 3},
-        {12, 1, 2, 3, 4, 5, 5.0625 + 2 * 3.375 + 3 * 2.25 + 6 + 5},
-        {13, 2, 3, 1, 4, 5, 2 * 1.5 * std::sin(5.5) + 6 + 5},
-        {14, 2, 0.5, 3, 0, 0, 2 * std::sqrt(1.5) + 3},
-        {15, 2, 4, 3, 0, 0, 2 * 8.0 + 3},
+    // Family `id` with A to E at x = 1.5.
+    struct Value {
+        const char* name;
+        int id;
+        double a, b, c, d, e, expected;
     };
-    for (const auto& [id, a, b, c, d, e, expected] : cases) {
-        select(id, a, b, c, d, e);
+    const Value cases[] = {
+        {"(3 - 3)^2 + 4", 1, 1, 2, 3, 4, 0, 4.0},
+        {"2x^2 - x + 3", 2, 2, -1, 3, 0, 0, 2 * 2.25 - 1.5 + 3},
+        {"2(3 - 1)^3 + 1", 3, 2, 2, 1, 1, 0, 2 * 8.0 + 1},
+        {"cubic", 4, 1, 2, 3, 4, 0, 3.375 + 2 * 2.25 + 4.5 + 4},
+        {"sine", 5, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::sin(5.5) + 5},
+        {"cosine", 6, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::cos(5.5) + 5},
+        {"tangent", 7, 2, 0.5, 0.1, 4, 5, 4 * 1.5 + 2 * std::tan(0.85) + 5},
+        {"logarithm", 8, 2, 2, 1, 3, 0, 2 * std::log(4.0) + 3},
+        {"exponential", 9, 2, 1, -1, 3, 0, 2 * std::exp(0.5) + 3},
+        {"reciprocal", 10, 6, 2, 1, 3, 0, 6.0 / 4 + 3},
+        {"fourth power", 11, 2, 2, 1, 3, 0, 2 * 16.0 + 3},
+        {"quartic", 12, 1, 2, 3, 4, 5, 5.0625 + 2 * 3.375 + 3 * 2.25 + 6 + 5},
+        {"x sine", 13, 2, 3, 1, 4, 5, 2 * 1.5 * std::sin(5.5) + 6 + 5},
+        {"power", 14, 2, 0.5, 3, 0, 0, 2 * std::sqrt(1.5) + 3},
+        {"exponential of base B", 15, 2, 4, 3, 0, 0, 2 * 8.0 + 3},
+    };
+    for (const Value& c : cases) {
+        SCOPED_TRACE(c.name);
+        select(c.id, c.a, c.b, c.c, c.d, c.e);
         FunctionCount = 0;
-        EXPECT_NEAR(YFunc(x), expected, 1e-12) << "family " << id;
+        EXPECT_NEAR(YFunc(x), c.expected, 1e-12);
         EXPECT_EQ(FunctionCount, 15);
-        EXPECT_STRNE(ExplicitCaption(id), "") << id;
+        EXPECT_STRNE(ExplicitCaption(c.id), "");
     }
     EXPECT_STREQ(ExplicitCaption(0), "");
     EXPECT_STREQ(ExplicitCaption(16), "");
@@ -78,38 +85,47 @@ TEST(ExplicitCatalogue, DerivativesMatchTheSlopeOfTheValues)
 
 TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
 {
-    // the value and the slope at x
-    const std::tuple<int, double, double, double, double, double, double, double, int, int> cases[] = {
-        {1, 1, 2, 3, 4, 1, 5, -4, 0, 0},
-        {7, 1, 1, 0, 5, 0, 0, 1, 0, 0},  // slope 1, not 6: the slope of Dx is left out
-        {14, 1, 2, 7, 0, 0, 7, 0, 0, 0},
-        {14, 1, 0.5, 7, 0, -1, 0, 0, 0, 0},
-        {14, 2, 3, 1, 0, -2, -15, 24, 0, 0},
-        {14, 1, -1, 7, 0, 0, 0, 0, 0, rt::DivisionByZero},
-        {14, 1, 0.5, 7, 0, 0, 0, 0, 0, 0},  // the slope tests B - 1, not the sign of B
-        {14, 1, 3, 7, 0, -1, 6, 3, 0, 0},
-        {14, 1, 0, 0, 0, 0, 0, 0, 0, rt::DivisionByZero},  // 0 to the power -1
-        {15, 1, 0, 7, 0, 2, 0, 0, 0, 0},
-        {15, 1, -2, 7, 0, 2, 0, 0, 0, 0},
-        {8, 1, 1, 0, 3, 0, 0, 0, 0, 0},  // ln 0: undefined, 0 without an error
-        {8, 1, 1, 0, 3, -4, 0, 0, 0, 0},
-        {10, 1, 2, -4, 3, 2, 0, 0, 0, 0},
-        {0, 1, 1, 1, 1, 2, 0, 0, 0, 0},
-        {16, 1, 1, 1, 1, 2, 0, 0, 0, 0},
-        {-3, 1, 1, 1, 1, 2, 0, 0, 0, 0},
-        {9, 1, 1, 0, 0, 1000, 0, 0, rt::Overflow, rt::Overflow},
-        {9, 1, 1e300, 0, 0, -1e10, 0, 0, rt::Overflow, rt::Overflow},  // the inner term overflows before exp
-        {12, 1, 1, 1, 0, 1e80, 0, 4e240 + 3e160 + 2e80 + 1, rt::Overflow, 0},
-        {2, 1e300, 0, 0, 0, 1e10, 0, 0, rt::Overflow, rt::Overflow},
-        {10, 1e300, 1, 0, 0, 1e-300, 0, 0, rt::Overflow, rt::DivisionByZero},
+    // The value and the slope of family `id` with A to D at x, and the errors each raises (0: none).
+    struct Edge {
+        const char* name;
+        int id;
+        double a, b, c, d, x, y, slope;
+        int yError = 0, slopeError = 0;
     };
-    for (const auto& [id, a, b, c, d, x, wantY, wantSlope, yError, slopeError] : cases) {
-        select(id, a, b, c, d);
+    const Edge cases[] = {
+        {"parabola", 1, 1, 2, 3, 4, 1, 5, -4},
+        {"tangent: the slope of Dx is left out (1, not 6)", 7, 1, 1, 0, 5, 0, 0, 1},
+        {"power at x = 0 with B > 1", 14, 1, 2, 7, 0, 0, 7, 0},
+        {"power of a negative x, B not whole", 14, 1, 0.5, 7, 0, -1, 0, 0},
+        {"power of a negative x, B whole", 14, 2, 3, 1, 0, -2, -15, 24},
+        {"power: 0 to the power -1", 14, 1, -1, 7, 0, 0, 0, 0, 0, rt::DivisionByZero},
+        {"power slope tests B - 1, not the sign of B", 14, 1, 0.5, 7, 0, 0, 0, 0},
+        {"power of -1 cubed", 14, 1, 3, 7, 0, -1, 6, 3},
+        {"power: 0 to the power 0, slope 0^-1", 14, 1, 0, 0, 0, 0, 0, 0, 0, rt::DivisionByZero},
+        {"exponential of base 0", 15, 1, 0, 7, 0, 2, 0, 0},
+        {"exponential of a negative base", 15, 1, -2, 7, 0, 2, 0, 0},
+        {"ln 0: undefined, 0 without an error", 8, 1, 1, 0, 3, 0, 0, 0},
+        {"ln of a negative", 8, 1, 1, 0, 3, -4, 0, 0},
+        {"reciprocal at its pole", 10, 1, 2, -4, 3, 2, 0, 0},
+        {"no family 0", 0, 1, 1, 1, 1, 2, 0, 0},
+        {"no family 16", 16, 1, 1, 1, 1, 2, 0, 0},
+        {"no family -3", -3, 1, 1, 1, 1, 2, 0, 0},
+        {"e^1000 overflows", 9, 1, 1, 0, 0, 1000, 0, 0, rt::Overflow, rt::Overflow},
+        {"the inner term overflows before exp", 9, 1, 1e300, 0, 0, -1e10, 0, 0, rt::Overflow, rt::Overflow},
+        {"quartic value overflows, its slope does not", 12, 1, 1, 1, 0, 1e80, 0, 4e240 + 3e160 + 2e80 + 1,
+         rt::Overflow},
+        {"Ax^2 overflows", 2, 1e300, 0, 0, 0, 1e10, 0, 0, rt::Overflow, rt::Overflow},
+        {"reciprocal: value overflows, slope divides by 0", 10, 1e300, 1, 0, 0, 1e-300, 0, 0, rt::Overflow,
+         rt::DivisionByZero},
+    };
+    for (const Edge& c : cases) {
+        SCOPED_TRACE(c.name);
+        select(c.id, c.a, c.b, c.c, c.d);
         double y = 0, slope = 0;
-        EXPECT_EQ(errorOf([&] { y = YFunc(x); }), yError) << id << " at " << x;
-        EXPECT_EQ(errorOf([&] { slope = YPrimeFunc(x); }), slopeError) << id << " at " << x;
-        EXPECT_EQ(y, wantY) << id << " at " << x;
-        EXPECT_DOUBLE_EQ(slope, wantSlope) << id << " at " << x;
+        EXPECT_EQ(errorOf([&] { y = YFunc(c.x); }), c.yError);
+        EXPECT_EQ(errorOf([&] { slope = YPrimeFunc(c.x); }), c.slopeError);
+        EXPECT_EQ(y, c.y);
+        EXPECT_DOUBLE_EQ(slope, c.slope);
     }
 }
 
