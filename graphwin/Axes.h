@@ -13,5 +13,5 @@ struct AxisLimits {
 };
 
 // Draws the y axis with its ticks where x = 0 is in the window, and the x axis with its ticks where
-// y = 0 is, in black, on a square whose left edge is `squareLeft` twips.
-void drawAxes(DrawingSurface& surface, const GraphWindow& graph, const AxisLimits& limits, int squareLeft);
+// y = 0 is, in the axes' colour of DrawingStyle.
+void drawAxes(DrawingSurface& surface, const GraphWindow& graph, const AxisLimits& limits);

@@ -75,9 +75,11 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     layout->addWidget(formArea_);
     addFullScreenKey(this);
 
-    form::buildForm(
-        surface,
-        {{&shpSquare, form::Kind::Outline, "", {double(config_.squareLeft), double(config_.frameTop), 6405, 6405}}});
+    form::buildForm(surface,
+                    {{&shpSquare,
+                      form::Kind::Outline,
+                      "",
+                      {double(config_.squareLeft), double(config_.frameTop), GraphWindow::Frame, GraphWindow::Frame}}});
 
     buildLimits();
     buildCoefficients();
@@ -87,7 +89,8 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     // Keyboard and assistive access: the graph square is a Tab stop, Ctrl+C copies the graph (or a
     // focused grid), and the description follows every action.
     installAccessibleInterfaces();
-    surface->setFocusArea(QRectF(config_.squareLeft, 100, 6400, 6400));
+    graph.Left = config_.squareLeft;
+    surface->setFocusArea(QRectF(graph.Left, GraphWindow::Top, GraphWindow::Side, GraphWindow::Side));
     auto* copy = new QShortcut(QKeySequence::Copy, this);
     connect(copy, &QShortcut::activated, this, [this] { guarded([this] { copyGraph(); }); });
     joinDescriptions();
@@ -101,7 +104,7 @@ GraphScreen::~GraphScreen()
         FuncGlobals::TypedExplicit = nullptr;
 }
 
-double GraphScreen::buttonColumn() const { return config_.squareLeft + 6400 + 600; }
+double GraphScreen::buttonColumn() const { return config_.squareLeft + GraphWindow::Side + 600; }
 
 void GraphScreen::buildLimits()
 {
@@ -502,20 +505,12 @@ void GraphScreen::copyCoefficients()
 
 void GraphScreen::CleanGraph()
 {
-    using rt::Chk;
-    using rt::Div;
-    using rt::Int;
-    const double L = config_.squareLeft;
     surface->Cls();
-
-    const double xmin = txtXmin->value();
-    graph.XRange = Chk(txtXmax->value() - xmin);
-    graph.XOrigin = rt::CLng(Int(Chk(L - Div(Chk(xmin * 6400), graph.XRange))));
+    const double xmin = txtXmin->value(), xmax = txtXmax->value();
     const double ymin = txtYmin->value(), ymax = txtYmax->value();
-    graph.YRange = Chk(ymax - ymin);
-    graph.YOrigin = rt::CLng(Int(Chk(Div(Chk(ymax * 6400), graph.YRange) + 100)));
+    graph.set(xmin, xmax, ymin, ymax);
 
-    drawAxes(*surface, graph, {txtXmin, txtXmax, txtYmin, txtYmax}, config_.squareLeft);
+    drawAxes(*surface, graph, {txtXmin, txtXmax, txtYmin, txtYmax});
 }
 
 void GraphScreen::plotFunction()
@@ -528,8 +523,8 @@ void GraphScreen::plotFunction()
 
 void GraphScreen::plotColumns(double (*evaluate)(const double&))
 {
-    const auto first = static_cast<std::int16_t>(config_.squareLeft + 1);
-    const auto last = static_cast<std::int16_t>(config_.squareLeft + 6399);
+    const auto first = static_cast<std::int16_t>(graph.firstColumn());
+    const auto last = static_cast<std::int16_t>(graph.lastColumn());
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
@@ -538,8 +533,8 @@ void GraphScreen::plotColumns(double (*evaluate)(const double&))
         typedGuard(
             [&] {
                 rt::For16(first, last, 1, [&](std::int16_t c) {
-                    const double ty = graph.YOrigin - evaluate(graph.worldX(c)) * 6400 / graph.YRange;
-                    if (ty >= 100 && ty <= 6500)
+                    const double ty = graph.plainRow(evaluate(graph.worldX(c)));
+                    if (GraphWindow::rowInside(ty))
                         points.point(c, ty);
                 });
             },
@@ -549,8 +544,8 @@ void GraphScreen::plotColumns(double (*evaluate)(const double&))
     rt::For16(first, last, 1, [&](std::int16_t c) {
         const double x = graph.worldX(c);
         const double y = evaluate(x);
-        const double ty = rt::Chk(graph.YOrigin - rt::Div(rt::Chk(y * 6400), graph.YRange));
-        if (ty >= 100 && ty <= 6500)
+        const double ty = graph.row(y);
+        if (GraphWindow::rowInside(ty))
             points.point(c, ty);
     });
 }

@@ -7,14 +7,51 @@
 #include "runtime/Numbers.h"
 
 struct GraphWindow {
+    // The square, in twips: 6400 on a side, its top at 100 on every screen; its left edge is the
+    // screen's own (Left). Points are drawn on the columns Left + 1 to Left + 6399 and the rows
+    // Top to Bottom.
     static constexpr double Side = 6400;
     static constexpr int Top = 100;
+    static constexpr int Bottom = Top + 6400;
     static constexpr int TickHalf = 40;
+    static constexpr double Frame = Side + 5;  // the side of the outline around the square
 
+    double Left = 2400;
     double XRange = 0;
     double YRange = 0;
     std::int32_t XOrigin = 0;
     std::int32_t YOrigin = 0;
+
+    double right() const { return Left + Side; }
+    std::int32_t firstColumn() const { return static_cast<std::int32_t>(Left) + 1; }
+    std::int32_t lastColumn() const { return static_cast<std::int32_t>(Left + Side) - 1; }
+    // A row inside the square, edges included (where a plotted point may go).
+    static bool rowInside(double row) { return row >= Top && row <= Bottom; }
+
+    // Maps the window xmin..xmax by ymin..ymax onto the square. The ranges, then the origins rounded
+    // to whole twips, in this order and with these operations: the digits of every result drawn
+    // depend on them.
+    void set(double xmin, double xmax, double ymin, double ymax)
+    {
+        using rt::Chk;
+        using rt::Div;
+        using rt::Int;
+        XRange = Chk(xmax - xmin);
+        XOrigin = rt::CLng(Int(Chk(Left - Div(Chk(xmin * Side), XRange))));
+        YRange = Chk(ymax - ymin);
+        YOrigin = rt::CLng(Int(Chk(Div(Chk(ymax * Side), YRange) + Top)));
+    }
+    // The world at the square's edges, from the rounded origins (what was really drawn).
+    double worldLeft() const { return (Left - XOrigin) * XRange / Side; }
+    double worldRight() const { return (Left + Side - XOrigin) * XRange / Side; }
+    double worldTop() const { return (YOrigin - Top) * YRange / Side; }
+    double worldBottom() const { return (YOrigin - Bottom) * YRange / Side; }
+    // The plain mapping (no run-time checks), for typed functions: NaN and infinities pass through.
+    double plainColumn(double x) const { return XOrigin + x * Side / XRange; }
+    double plainRow(double y) const { return YOrigin - y * Side / YRange; }
+    // World x and y of a twip column and row, in plain arithmetic.
+    double plainWorldX(double column) const { return (column - XOrigin) * XRange / Side; }
+    double plainWorldY(double row) const { return (YOrigin - row) * YRange / Side; }
 
     // Twip column of world x: XOrigin + x * 6400 / XRange.
     double column(double x) const { return rt::Chk(XOrigin + rt::Div(rt::Chk(x * Side), XRange)); }

@@ -130,7 +130,7 @@ void GraphScreen::arrangeForKeyboard()
     // The order of the panels: left of the square, the square with its limit boxes, then each
     // column on the right; within a panel from top to bottom, then from left to right.
     // Positions are compared in normal-size pixels, whatever the form's zoom.
-    const int squareLeftPx = config_.squareLeft / 15, squareRightPx = (config_.squareLeft + 6400) / 15;
+    const int squareLeftPx = static_cast<int>(graph.Left) / 15, squareRightPx = static_cast<int>(graph.right()) / 15;
     auto place = [&](QWidget* w) {
         const double k = twipsPerPixel(surface) / 15;
         const QPoint at = w->mapTo(surface, QPoint(0, 0));

@@ -106,5 +106,7 @@ void GraphScreen::copyGraph()
         return;
     }
     const double L = config_.squareLeft;
-    copyToClipboard(surface->picture(QRectF(L, config_.frameTop, 6405, 6405 + (100 - config_.frameTop))), describe());
+    copyToClipboard(surface->picture(QRectF(L, config_.frameTop, GraphWindow::Frame,
+                                            GraphWindow::Frame + (GraphWindow::Top - config_.frameTop))),
+                    describe());
 }

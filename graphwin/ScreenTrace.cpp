@@ -27,13 +27,7 @@ std::size_t nearestTo(const std::vector<audio::Point>& points, double x)
 audio::Range GraphScreen::traceRange() const
 {
     // The square's edges in the world, from the mapping the curves were drawn with.
-    audio::Range r;
-    const double left = config_.squareLeft, side = GraphWindow::Side, top = GraphWindow::Top;
-    r.xmin = (left - graph.XOrigin) * graph.XRange / side;
-    r.xmax = (left + side - graph.XOrigin) * graph.XRange / side;
-    r.ymax = (graph.YOrigin - top) * graph.YRange / side;
-    r.ymin = (graph.YOrigin - top - side) * graph.YRange / side;
-    return r;
+    return {graph.worldLeft(), graph.worldRight(), graph.worldBottom(), graph.worldTop()};
 }
 
 GraphScreen::TracedCurve GraphScreen::explicitCurve(const QString& name, FuncGlobals::ExplicitSnapshot::What what) const
@@ -115,7 +109,7 @@ void GraphScreen::announce(const QString& text, std::optional<QPointF> marker)
 {
     announcement_ = text;
     announcedAfterClear_ = surface->clears();
-    const QRectF square(config_.squareLeft, GraphWindow::Top, GraphWindow::Side, GraphWindow::Side);
+    const QRectF square(graph.Left, GraphWindow::Top, GraphWindow::Side, GraphWindow::Side);
     surface->setMarker(marker, marker ? text : QString(), square);
     refreshDescription();
 }
@@ -169,7 +163,7 @@ std::optional<QPointF> GraphScreen::markerAt(double x, double y) const
     // Inside the square always; a gap is marked on the x-axis (or the edge nearest it).
     const audio::Range& r = chosenCurve()->range;
     const double side = GraphWindow::Side;
-    const double column = config_.squareLeft + std::clamp((x - r.xmin) / (r.xmax - r.xmin), 0.0, 1.0) * side;
+    const double column = graph.Left + std::clamp((x - r.xmin) / (r.xmax - r.xmin), 0.0, 1.0) * side;
     const double row =
         GraphWindow::Top + std::clamp((r.ymax - (std::isfinite(y) ? y : 0)) / (r.ymax - r.ymin), 0.0, 1.0) * side;
     if (!std::isfinite(column) || !std::isfinite(row))

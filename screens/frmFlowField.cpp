@@ -8,13 +8,13 @@
 #include "funclib/FunctionSource.h"
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/DrawingStyle.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
 
 namespace {
 
-constexpr double kLeft = 2400, kRight = 8800, kTop = 100, kBottom = 6500;
 const QString kNoStart = QStringLiteral("Start( _____, _____ )");
 // What the end point label says when typed rates stop a curve.
 const QString kCurveStopped = QStringLiteral("EndPt: the curve stops where dy/dx is undefined");
@@ -194,7 +194,7 @@ void frmFlowField::fieldArrows()
             v = next;
         }
     };
-    DrawingSurface::Batch arrows(*surface, rgbColor(rt::QBColor(1)));
+    DrawingSurface::Batch arrows(*surface, DrawingStyle::colour(DrawingStyle::kFieldArrows));
     rt::cleanVectorStateForHotLoop();
     counted(Chk(xmin + sx), Chk(xmax - sx), sx, [&](double x) {
         counted(Chk(ymin + sy), Chk(ymax - sy), sy, [&](double y) {
@@ -225,7 +225,10 @@ IntegralCurves::Settings frmFlowField::settings() const
     return s;
 }
 
-bool frmFlowField::insideGraph(double X, double Y) const { return kLeft < X && X < kRight && kTop < Y && Y < kBottom; }
+bool frmFlowField::insideGraph(double X, double Y) const
+{
+    return graph.Left < X && X < graph.right() && GraphWindow::Top < Y && Y < GraphWindow::Bottom;
+}
 
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 {
@@ -256,8 +259,10 @@ void frmFlowField::startCurve(int Button, double X, double Y)
     IntegralCurves::Step st;
     if (insideGraph(X, Y)) {
         const double W = Chk(txtXmax->value() - txtXmin->value()), H = Chk(txtYmax->value() - txtYmin->value());
-        CurrentX = Chk(Chk(X - graph.XOrigin) * W) / 6400;
-        CurrentY = Chk(Chk(graph.YOrigin - Y) * H) / 6400;
+        // The world point from the limit boxes' ranges (not the mapping's): the digits of the end
+        // point depend on this order of operations.
+        CurrentX = Chk(Chk(X - graph.XOrigin) * W) / GraphWindow::Side;
+        CurrentY = Chk(Chk(graph.YOrigin - Y) * H) / GraphWindow::Side;
         const IntegralCurves::Settings s = settings();
         st = IntegralCurves::step(s, CurrentX, CurrentY, StepH);
         if (!s.smooth && st.vertical)
@@ -425,17 +430,18 @@ void frmFlowField::cmdPlotto_Click()
     using rt::Chk;
     MethodColour = optEuler->isChecked() ? 2 : optRunga2->isChecked() ? 3 : 4;
     const double W = Chk(txtXmax->value() - txtXmin->value());
-    const float sx = rt::CSng(rt::Div(Chk(txtHorShift->value() * 6400), W));
-    const float sy = rt::CSng(rt::Div(Chk(-txtVerShift->value() * 6400), W));
+    const float sx = rt::CSng(rt::Div(Chk(txtHorShift->value() * GraphWindow::Side), W));
+    const float sy = rt::CSng(rt::Div(Chk(-txtVerShift->value() * GraphWindow::Side), W));
     auto press = [&](double X, double Y) {
         const double px = rt::CSng(X), py = rt::CSng(Y);
         Form_MouseDown(LeftButton, 1, px, py);
         if (chkBiDirect->isChecked())
             Form_MouseDown(RightButton, 1, px, py);
     };
-    for (int X0 = 2401; X0 < 8800; X0 += 320)
+    // Curves from every 320 twips along each axis.
+    for (int X0 = graph.firstColumn(); X0 < graph.right(); X0 += 320)
         press(X0 + static_cast<double>(sx), graph.YOrigin + static_cast<double>(sy));
-    for (int Y0 = 101; Y0 <= 6399; Y0 += 320)
+    for (int Y0 = GraphWindow::Top + 1; Y0 <= GraphWindow::Bottom - 1; Y0 += 320)
         press(graph.XOrigin + static_cast<double>(sx), Y0 + static_cast<double>(sy));
 }
 

@@ -7,6 +7,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/DrawingStyle.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
@@ -109,15 +110,15 @@ void frmMVT::applyMVT()
         return;
     }
     SecantSlope = rt::Div(Chk(fb - fa), Chk(b - a));
-    const QRgb red = rgbColor(rt::QBColor(4));
-    surface->Circle(ca, ra, 50, red);
-    surface->Circle(cb, rb, 50, red);
+    const QRgb red = DrawingStyle::colour(DrawingStyle::kConstruction);
+    surface->Circle(ca, ra, DrawingStyle::kEndpointRadius, red);
+    surface->Circle(cb, rb, DrawingStyle::kEndpointRadius, red);
 
     // The secant across the whole width, dotted column by column in the curve's colour.
     const double k = Chk(fb - Chk(SecantSlope * b));
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     const double m = SecantSlope;
-    dotLine(squareLeft() + 1, squareLeft() + 6399, colour, [m, k](auto x, auto chk) { return chk(chk(m * x) + k); });
+    dotLine(graph.firstColumn(), graph.lastColumn(), colour, [m, k](auto x, auto chk) { return chk(chk(m * x) + k); });
     auto R4 = [](double v) { return qStr(rounded(v, 10000)); };
     lblPt1->setText(QStringLiteral("(") + R4(a) + QStringLiteral(",") + R4(fa) + QStringLiteral(")"));
     lblPt2->setText(QStringLiteral("(") + R4(b) + QStringLiteral(",") + R4(fb) + QStringLiteral(")"));
@@ -143,7 +144,7 @@ void frmMVT::slideTangent()
 
     // Not reduced: family 15 asks for colour 16, which does not exist.
     FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
-    dotLine(squareLeft(), squareLeft() + 6400, colour,
+    dotLine(static_cast<int>(graph.Left), static_cast<int>(graph.right()), colour,
             [slope, c, fc](auto x, auto chk) { return chk(chk(slope * chk(x - c)) + fc); });
 }
 
@@ -157,7 +158,7 @@ void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
 {
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
-    constexpr double kTop = 100, kBottom = 6500;  // rows of the square
+    constexpr double kTop = GraphWindow::Top, kBottom = GraphWindow::Bottom;
     int column = first;
     if (surface->batching()) {
         // The rows are gathered in chunks, so that the loop computing them does nothing else, and
@@ -230,9 +231,8 @@ void frmMVT::findC()
         const double slope = FuncGlobals::ExplicitSlope(x);
         if (!std::isnan(slope) && thousandths(slope) == target) {  // a typed function's gaps are skipped
             const double fx = FuncGlobals::ExplicitValue(x);
-            surface->setDrawWidth(3);
+            DrawWidthScope marked(*surface, DrawingStyle::kMarkWidth);
             surface->PSet(graph.column(x), graph.row(fx), surface->ForeColor);
-            surface->setDrawWidth(1);
             if (std::fabs(Chk(last - x)) > 0.1) {
                 count = rt::CInt(count + 1.0);
                 if (count < kGridRows) {

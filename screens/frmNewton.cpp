@@ -6,6 +6,7 @@
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/DrawingStyle.h"
 #include "runtime/Numbers.h"
 
 namespace {
@@ -111,12 +112,12 @@ void frmNewton::cmdApply_Click()
 void frmNewton::applyNewton(double x)
 {
     using rt::Chk;
-    const QRgb black = 0xFF000000u;
+    const QRgb black = DrawingStyle::colour(DrawingStyle::kNewtonSteps);
     const double c = graph.column(x);
     const double y = FuncGlobals::ExplicitValue(x);
     const double r = graph.row(y);
     const double Y0 = graph.YOrigin;
-    if (100 < r && r < 6500) {
+    if (GraphWindow::Top < r && r < GraphWindow::Bottom) {
         surface->Line(c, Y0, c, r, black);
         const QString label = QStringLiteral("x1");
         surface->CurrentX = Chk(c - surface->TextWidth(label) / 2);

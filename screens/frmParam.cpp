@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "funclib/FunctionSource.h"
+#include "graphwin/DrawingStyle.h"
 
 #include <QMenu>
 
@@ -174,9 +175,8 @@ void frmParam::txtT_Change()
     const double column = graph.column(x), row = graph.row(y);
     if (!inside(column, row))
         return;
-    surface->setDrawWidth(3);
+    DrawWidthScope marked(*surface, DrawingStyle::kMarkWidth);
     surface->PSet(column, row, rgbColor(rt::QBColor(rt::Mod(XtFuncId + 2, 7))));
-    surface->setDrawWidth(1);
 }
 
 template <class At, class From>
@@ -197,8 +197,7 @@ void frmParam::plotCurve(At at, From from)
             return;
         untilKept = every;
         const bool drawable = std::isfinite(c) && std::isfinite(r);
-        kept.push_back({drawable ? (c - graph.XOrigin) * graph.XRange / GraphWindow::Side : c,
-                        drawable ? (graph.YOrigin - r) * graph.YRange / GraphWindow::Side : r});
+        kept.push_back({drawable ? graph.plainWorldX(c) : c, drawable ? graph.plainWorldY(r) : r});
     };
     keep(c0, r0);
     {
@@ -244,8 +243,7 @@ void frmParam::cmdPlotto_Click()
         [this] {
             plotCurve(
                 [this](float t) {
-                    return std::pair{graph.XOrigin + CurveX(t) * 6400 / graph.XRange,
-                                     graph.YOrigin - CurveY(t) * 6400 / graph.YRange};
+                    return std::pair{graph.plainColumn(CurveX(t)), graph.plainRow(CurveY(t))};
                 },
                 [](double c, double r) { return std::isfinite(c) && std::isfinite(r); });
         },

@@ -49,9 +49,9 @@ public:
     void mnuAbout_Click() override;
 
 private:
-    static bool inside(double column, double row)
+    bool inside(double column, double row) const
     {
-        return 100 <= row && row <= 6500 && 2400 < column && column < 8800;
+        return GraphWindow::rowInside(row) && graph.Left < column && column < graph.right();
     }
     QMenu* xMenu_ = nullptr;
     QMenu* yMenu_ = nullptr;

@@ -167,11 +167,11 @@ void frmRiemann::cmdParts_Click()
     const double L = txtLBound->value(), R = txtRBound->value();
     const std::int32_t n = PartitionCount;
     const double dx = rt::Div(rt::Chk(R - L), n);
-    const double left = squareLeft(), right = left + 6400;
+    const double left = graph.Left, right = graph.right();
     const double Y0 = graph.YOrigin;
     auto f = [](double x) { return FuncGlobals::ExplicitValue(x); };
     auto inside = [&](double a, double b, double t) {
-        return left < a && a < right && left < b && b < right && 100 < t && t < 6500;
+        return left < a && a < right && left < b && b < right && GraphWindow::Top < t && t < GraphWindow::Bottom;
     };
     // Each method draws into a batch of its colour: the loop writes plain numbers, and the batch
     // draws them when the method's sum is done (or ends with an error), before the result is shown.
@@ -233,7 +233,7 @@ void frmRiemann::cmdParts_Click()
     if (chkSimpson->isChecked())
         typedGuard(
             [&] {
-                const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * 6400), graph.XRange));
+                const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * GraphWindow::Side), graph.XRange));
                 const Result r = drawn(3, chkSimpson, [&](DrawingSurface::Batch& outline) {
                     return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
                         heights.push_back({xa, y0});
@@ -242,7 +242,7 @@ void frmRiemann::cmdParts_Click()
                             return;
                         const double a = graph.column(xa), c = graph.column(xc);
                         const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
-                        if (!(inside(a, c, t0) && 100 < t2 && t2 < 6500))
+                        if (!(inside(a, c, t0) && GraphWindow::Top < t2 && t2 < GraphWindow::Bottom))
                             return;
                         const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
                         const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};

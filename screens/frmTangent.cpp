@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/DrawingStyle.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 
@@ -104,7 +105,7 @@ void frmTangent::drawSecant(double dx)
     const double cr = graph.column(rightX), rr = graph.row(rightY);
     const double cl = graph.column(leftX), rl = graph.row(leftY);
 
-    const QRgb red = rgbColor(rt::QBColor(4));
+    const QRgb red = DrawingStyle::colour(DrawingStyle::kConstruction);
     surface->Line(c1, r1, c2, r2, red);
     surface->Line(cr, rr, cl, rl, red);
 

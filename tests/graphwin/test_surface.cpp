@@ -4,7 +4,10 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "graphwin/DrawingStyle.h"
 #include "graphwin/DrawingSurface.h"
+#include "graphwin/GraphWindow.h"
+#include "runtime/RuntimeError.h"
 
 namespace {
 constexpr QRgb kRed = 0xFFFF0000u, kBlue = 0xFF0000FFu, kWhite = 0xFFFFFFFFu;
@@ -136,4 +139,63 @@ TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
     batched.setZoom(2);
     one.setZoom(2);
     EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000)));
+}
+
+TEST(DrawWidthScope, PutsBackTheWidthThereWasHoweverTheScopeEnds)
+{
+    DrawingSurface s(3000, 3000);
+    s.setDrawWidth(2);
+    {
+        DrawWidthScope wide(s, DrawingStyle::kMarkWidth);
+        EXPECT_EQ(s.drawWidth(), 3);
+    }
+    EXPECT_EQ(s.drawWidth(), 2);
+    EXPECT_THROW(
+        {
+            DrawWidthScope wide(s, 7);
+            rt::raise(rt::Overflow);
+        },
+        rt::RuntimeError);
+    EXPECT_EQ(s.drawWidth(), 2) << "a run-time error inside leaves the width as it was";
+}
+
+TEST(GraphWindow, MapsTheWindowOntoTheSquareAndBack)
+{
+    struct Case {
+        const char* name;
+        double left, xmin, xmax, ymin, ymax;
+        std::int32_t xOrigin, yOrigin;
+    } cases[] = {
+        {"the default window", 2400, -10, 10, -10, 10, 5600, 3300},
+        {"a window right of the origin", 2400, 1, 5, 0, 4, 800, 6500},
+        {"another square's left edge", 1560, -2, 2, -1, 3, 4760, 4900},
+        {"an origin rounded down", 2400, -3, 4, -2, 5, 5142, 4671},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        GraphWindow g;
+        g.Left = c.left;
+        g.set(c.xmin, c.xmax, c.ymin, c.ymax);
+        EXPECT_EQ(g.XOrigin, c.xOrigin);
+        EXPECT_EQ(g.YOrigin, c.yOrigin);
+        EXPECT_EQ(g.firstColumn(), static_cast<std::int32_t>(c.left) + 1);
+        EXPECT_EQ(g.lastColumn(), static_cast<std::int32_t>(c.left) + 6399);
+        // The edges of the square in the world, within the rounding of the origins (a twip).
+        const double twipX = (c.xmax - c.xmin) / 6400, twipY = (c.ymax - c.ymin) / 6400;
+        EXPECT_NEAR(g.worldLeft(), c.xmin, twipX);
+        EXPECT_NEAR(g.worldRight(), c.xmax, twipX);
+        EXPECT_NEAR(g.worldTop(), c.ymax, twipY);
+        EXPECT_NEAR(g.worldBottom(), c.ymin, twipY);
+        for (double t : {0.0, 0.25, 0.5, 1.0}) {
+            const double x = c.xmin + t * (c.xmax - c.xmin), y = c.ymin + t * (c.ymax - c.ymin);
+            EXPECT_DOUBLE_EQ(g.plainColumn(x), g.column(x));
+            EXPECT_DOUBLE_EQ(g.plainRow(y), g.row(y));
+            EXPECT_NEAR(g.plainWorldX(g.column(x)), x, 1e-12 * (1 + std::fabs(x)));
+            EXPECT_NEAR(g.plainWorldY(g.row(y)), y, 1e-12 * (1 + std::fabs(y)));
+        }
+    }
+    EXPECT_TRUE(GraphWindow::rowInside(100) && GraphWindow::rowInside(6500));
+    EXPECT_FALSE(GraphWindow::rowInside(99.99) || GraphWindow::rowInside(6500.01));
+    GraphWindow flat;
+    EXPECT_THROW(flat.set(1, 1, 0, 1), rt::RuntimeError) << "a window of no width divides by 0";
 }

@@ -3,6 +3,7 @@
 // and the approximations, and the formula display.
 #include <cmath>
 
+#include "graphwin/DrawingStyle.h"
 #include "screens/frmFlowField.h"
 
 #include "ScreenFixture.h"
@@ -23,8 +24,9 @@ struct Field : ScreenFixture<frmFlowField> {
     std::vector<DrawOp> segments() const
     {
         std::vector<DrawOp> out;
-        std::copy_if(ops().begin(), ops().end(), std::back_inserter(out),
-                     [](const DrawOp& op) { return op.kind == DrawOp::Line && op.color != colour(0); });
+        std::copy_if(ops().begin(), ops().end(), std::back_inserter(out), [](const DrawOp& op) {
+            return op.kind == DrawOp::Line && op.color != DrawingStyle::colour(DrawingStyle::kAxes);
+        });
         return out;
     }
     bool segmentFrom(double x, double y) const
