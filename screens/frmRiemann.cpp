@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmRiemann.h"
 
+#include <cmath>
+#include <vector>
+
 #include "screens/ConvergenceWindow.h"
 
 #include "funclib/FuncGlobals.h"
@@ -30,7 +33,131 @@ GraphScreen::Config riemannConfig()
 constexpr double kPanel = 8940, kPanelWidth = 1800, kSums = 10920, kSumsWidth = 3360;
 const QString kAreaText = QStringLiteral("Area=");
 
+// The panel's rows for the sums: for each, its check and the label of its area, 420 twips apart.
+std::vector<form::Control> sumRows(frmRiemann& screen)
+{
+    std::vector<form::Control> rows;
+    double top = 360;
+    for (const frmRiemann::Method& m : frmRiemann::kMethods) {
+        rows.push_back({&(screen.*m.check),
+                        form::Kind::Check,
+                        QString::fromLatin1(m.caption),
+                        {120, top, 1620, 360},
+                        {},
+                        {.tip = m.tip}});
+        rows.push_back({&(screen.*m.result), form::Kind::Label, kAreaText, {1800, top, 1500, 360}});
+        top += 420;
+    }
+    return rows;
+}
+
 }  // namespace
+
+// One click of Graph Partitions: the interval, the function, the square and the batch each sum
+// draws into, and the heights it drew (kept as a curve to hear and walk along).
+struct frmRiemann::Parts {
+    frmRiemann& screen;
+    double L, R, dx;
+    std::int32_t n;
+    double Y0;
+    std::vector<audio::Point> heights;
+
+    static double f(double x) { return FuncGlobals::ExplicitValue(x); }
+    bool inside(double a, double b, double t) const
+    {
+        const GraphWindow& g = screen.graph;
+        return g.Left < a && a < g.right() && g.Left < b && b < g.right() && GraphWindow::Top < t &&
+               t < GraphWindow::Bottom;
+    }
+    // A rectangle of height y over [xa, xb]; a typed function's gap draws none.
+    auto bars(DrawingSurface::Batch& batch)
+    {
+        return [this, &batch](double xa, double xb, double y) {
+            heights.push_back({(xa + xb) / 2, y});
+            if (std::isnan(y))
+                return;
+            const GraphWindow& g = screen.graph;
+            const double a = g.column(xa), b = g.column(xb), t = g.row(y);
+            if (!inside(a, b, t))
+                return;
+            batch.bar(a, t, b, t, Y0);
+        };
+    }
+};
+
+namespace {
+
+using RiemannSums::Result;
+using Parts = frmRiemann::Parts;
+
+Result leftSum(Parts& p, DrawingSurface::Batch& b)
+{
+    return RiemannSums::leftEndpoint(Parts::f, p.L, p.dx, p.n, p.bars(b));
+}
+Result rightSum(Parts& p, DrawingSurface::Batch& b)
+{
+    return RiemannSums::rightEndpoint(Parts::f, p.L, p.dx, p.n, p.bars(b));
+}
+Result midSum(Parts& p, DrawingSurface::Batch& b) { return RiemannSums::midpoint(Parts::f, p.L, p.dx, p.n, p.bars(b)); }
+Result randomSum(Parts& p, DrawingSurface::Batch& b)
+{
+    return RiemannSums::randomPoint(Parts::f, p.L, p.dx, p.n, p.bars(b));
+}
+Result riemannSum(Parts& p, DrawingSurface::Batch& b)
+{
+    return RiemannSums::randomWidths(Parts::f, p.L, p.R, p.n, p.screen.RandomPoints, p.bars(b));
+}
+
+Result trapezoidSum(Parts& p, DrawingSurface::Batch& batch)
+{
+    const GraphWindow& g = p.screen.graph;
+    return RiemannSums::trapezoidal(Parts::f, p.L, p.dx, p.n, [&](double xa, double xb, double y1, double y2) {
+        p.heights.push_back({(xa + xb) / 2, (y1 + y2) / 2});
+        if (std::isnan(y1) || std::isnan(y2))
+            return;
+        const double a = g.column(xa), b = g.column(xb);
+        const double t1 = g.row(y1), t2 = g.row(y2);
+        if (!p.inside(a, b, t1))  // only the left height is tested
+            return;
+        batch.bar(a, t1, b, t2, p.Y0);
+    });
+}
+
+Result simpsonSum(Parts& p, DrawingSurface::Batch& outline)
+{
+    const GraphWindow& g = p.screen.graph;
+    // A third of a partition in twips: the steps of the outline stand at a third and five thirds.
+    const double s = rt::Chk(rt::Div(rt::Chk((p.dx / 3) * GraphWindow::Side), g.XRange));
+    return RiemannSums::simpson(Parts::f, p.L, p.dx, p.n, [&](double xa, double xc, double y0, double y1, double y2) {
+        p.heights.push_back({xa, y0});
+        p.heights.push_back({(xa + xc) / 2, y1});
+        if (std::isnan(y0) || std::isnan(y1) || std::isnan(y2))
+            return;
+        const double a = g.column(xa), c = g.column(xc);
+        const double t0 = g.row(y0), t1 = g.row(y1), t2 = g.row(y2);
+        if (!(p.inside(a, c, t0) && GraphWindow::Top < t2 && t2 < GraphWindow::Bottom))
+            return;
+        const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
+        const double steps[] = {a, p.Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, p.Y0};
+        for (int i = 0; i + 3 < 16; i += 2)
+            outline.line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
+    });
+}
+
+}  // namespace
+
+// clang-format off
+const std::array<frmRiemann::Method, 7> frmRiemann::kMethods = {{
+    // caption          tip                                                        check                    area                   colour sum      cleared by a new function
+    {"Left Endpoint",  nullptr,                                                  &frmRiemann::chkLeft,    &frmRiemann::lblLeftE,   2, leftSum,      true},
+    {"Right Endpoint", nullptr,                                                  &frmRiemann::chkRight,   &frmRiemann::lblRightE,  1, rightSum,     true},
+    {"Midpoint",       nullptr,                                                  &frmRiemann::chkMid,     &frmRiemann::lblMid,     4, midSum,       true},
+    {"Trapezoidal",    nullptr,                                                  &frmRiemann::chkTrap,    &frmRiemann::lblTrap,    5, trapezoidSum, true},
+    {"Random point",   "A random point is picked on the equal width intervals ", &frmRiemann::chkRandom,  &frmRiemann::lblRnd,     6, randomSum,    true},
+    {"Simpson's",      nullptr,                                                  &frmRiemann::chkSimpson, &frmRiemann::lblSimpson, 3, simpsonSum,   false},
+    {"Riemann",        "Random width Interval and point on it",                  &frmRiemann::chkRiemann, &frmRiemann::lblRiemann, 7, riemannSum,   true},
+}};
+// clang-format on
 
 frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
 {
@@ -79,23 +206,7 @@ void frmRiemann::buildSumsPanel()
         {&txtRBound,      Kind::Box,     "2",                     {P, 6360, W, 300},  {.Change = on(&frmRiemann::txtRBound_Change)}},
         {&lblAreas,       Kind::Label,   "AREA",                  {kSums, 240, kSumsWidth, 300}, {}, {.align = Qt::AlignCenter}},
         {&fraSums,        Kind::Frame,   "Area Sums",             {kSums, 600, kSumsWidth, 3300}, {},
-                                                                  {.tip = "Check one to see partitions when clicking Graph Partitions"}, {
-            // One row for each sum: the check that shows its partitions, and its area.
-            {&chkLeft,    Kind::Check, "Left Endpoint",   {120,   360, 1620, 360}},
-            {&lblLeftE,   Kind::Label, kAreaText,         {1800,  360, 1500, 360}},
-            {&chkRight,   Kind::Check, "Right Endpoint",  {120,   780, 1620, 360}},
-            {&lblRightE,  Kind::Label, kAreaText,         {1800,  780, 1500, 360}},
-            {&chkMid,     Kind::Check, "Midpoint",        {120,  1200, 1620, 360}},
-            {&lblMid,     Kind::Label, kAreaText,         {1800, 1200, 1500, 360}},
-            {&chkTrap,    Kind::Check, "Trapezoidal",     {120,  1620, 1620, 360}},
-            {&lblTrap,    Kind::Label, kAreaText,         {1800, 1620, 1500, 360}},
-            {&chkRandom,  Kind::Check, "Random point",    {120,  2040, 1620, 360}, {}, {.tip = "A random point is picked on the equal width intervals "}},
-            {&lblRnd,     Kind::Label, kAreaText,         {1800, 2040, 1500, 360}},
-            {&chkSimpson, Kind::Check, "Simpson's",       {120,  2460, 1620, 360}},
-            {&lblSimpson, Kind::Label, kAreaText,         {1800, 2460, 1500, 360}},
-            {&chkRiemann, Kind::Check, "Riemann",         {120,  2880, 1620, 360}, {}, {.tip = "Random width Interval and point on it"}},
-            {&lblRiemann, Kind::Label, kAreaText,         {1800, 2880, 1500, 360}},
-        }},
+                                                                  {.tip = "Check one to see partitions when clicking Graph Partitions"}, sumRows(*this)},
     });
     // clang-format on
 }
@@ -137,13 +248,16 @@ void frmRiemann::cmdZoomIn_Click()
 void frmRiemann::mnuFunc_Click(int Index)
 {
     if (Index != FuncGlobals::FunctionId)
-        for (ClickLabel* label : {lblLeftE, lblRightE, lblMid, lblTrap, lblRnd, lblRiemann})
-            label->setText(kAreaText);
+        resetAreas();
     GraphScreen::mnuFunc_Click(Index);
 }
 
 void frmRiemann::showResult(ClickLabel* label, const RiemannSums::Result& result)
 {
+    if (result.odd) {
+        label->setText(QStringLiteral("Parts not even #"));
+        return;
+    }
     if (result.gap) {
         label->setText(QStringLiteral("undefined at x = ") + qTrimStr(result.gapAt));
         return;
@@ -151,116 +265,44 @@ void frmRiemann::showResult(ClickLabel* label, const RiemannSums::Result& result
     label->setText(result.error ? QStringLiteral("= error!") : QStringLiteral("= ") + qStr(result.area));
 }
 
-void frmRiemann::functionReplaced()
+void frmRiemann::functionReplaced() { resetAreas(); }
+
+void frmRiemann::resetAreas()
 {
-    for (ClickLabel* label : {lblLeftE, lblRightE, lblMid, lblTrap, lblRnd, lblRiemann})
-        label->setText(kAreaText);
+    for (const Method& m : kMethods)
+        if (m.clearedByNewFunction)
+            (this->*m.result)->setText(kAreaText);
 }
 
 void frmRiemann::cmdParts_Click()
 {
-    using namespace RiemannSums;
     lblAreas->setText(QStringLiteral("Working"));
     lblAreas->repaint();
     rt::cleanVectorStateForHotLoop();
 
     const double L = txtLBound->value(), R = txtRBound->value();
     const std::int32_t n = PartitionCount;
-    const double dx = rt::Div(rt::Chk(R - L), n);
-    const double left = graph.Left, right = graph.right();
-    const double Y0 = graph.YOrigin;
-    auto f = [](double x) { return FuncGlobals::ExplicitValue(x); };
-    auto inside = [&](double a, double b, double t) {
-        return left < a && a < right && left < b && b < right && GraphWindow::Top < t && t < GraphWindow::Bottom;
-    };
-    // Each method draws into a batch of its colour: the loop writes plain numbers, and the batch
-    // draws them when the method's sum is done (or ends with an error), before the result is shown.
-    // The heights a method draws are kept as a curve to hear and walk along, one point a bar.
-    std::vector<audio::Point> heights;
-    const auto drawn = [this, &heights](int colourNumber, const CheckBox* method, auto sum) {
-        heights.clear();
-        const Result result = [&] {
-            DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(colourNumber)));
-            return sum(batch);
-        }();
-        noteTraced(drawnCurve(method->text().remove(QLatin1Char('&')) + QStringLiteral(" bars of ") + describeFamily(),
-                              std::move(heights)));
-        return result;
-    };
-    // With a typed function a method whose numbers grow too large says so, and the others go on.
-    const auto tooLarge = [](ClickLabel* label) {
-        return [label](const rt::RuntimeError&) { label->setText(QStringLiteral("= too large")); };
-    };
-    const auto shown = [&](ClickLabel* label, auto compute) {
-        typedGuard([&] { showResult(label, compute()); }, tooLarge(label));
-    };
-    auto bars = [this, &inside, &heights, Y0](DrawingSurface::Batch& batch) {
-        return [this, &inside, &batch, &heights, Y0](double xa, double xb, double y) {
-            heights.push_back({(xa + xb) / 2, y});
-            if (std::isnan(y))  // a typed function's gap: no bar
-                return;
-            const double a = graph.column(xa), b = graph.column(xb), t = graph.row(y);
-            if (!inside(a, b, t))
-                return;
-            batch.bar(a, t, b, t, Y0);
-        };
-    };
-
-    if (chkLeft->isChecked())
-        shown(lblLeftE, [&] { return drawn(2, chkLeft, [&](auto& b) { return leftEndpoint(f, L, dx, n, bars(b)); }); });
-    if (chkRight->isChecked())
-        shown(lblRightE,
-              [&] { return drawn(1, chkRight, [&](auto& b) { return rightEndpoint(f, L, dx, n, bars(b)); }); });
-    if (chkMid->isChecked())
-        shown(lblMid, [&] { return drawn(4, chkMid, [&](auto& b) { return midpoint(f, L, dx, n, bars(b)); }); });
-    if (chkTrap->isChecked())
-        shown(lblTrap, [&] {
-            return drawn(5, chkTrap, [&](DrawingSurface::Batch& batch) {
-                return trapezoidal(f, L, dx, n, [&](double xa, double xb, double y1, double y2) {
-                    heights.push_back({(xa + xb) / 2, (y1 + y2) / 2});
-                    if (std::isnan(y1) || std::isnan(y2))
-                        return;
-                    const double a = graph.column(xa), b = graph.column(xb);
-                    const double t1 = graph.row(y1), t2 = graph.row(y2);
-                    if (!inside(a, b, t1))  // only the left height is tested
-                        return;
-                    batch.bar(a, t1, b, t2, Y0);
-                });
-            });
-        });
-    if (chkRandom->isChecked())
-        shown(lblRnd, [&] { return drawn(6, chkRandom, [&](auto& b) { return randomPoint(f, L, dx, n, bars(b)); }); });
-    if (chkSimpson->isChecked())
+    Parts parts{*this, L, R, rt::Div(rt::Chk(R - L), n), n, static_cast<double>(graph.YOrigin), {}};
+    for (const Method& m : kMethods) {
+        if (!(this->*m.check)->isChecked())
+            continue;
+        ClickLabel* label = this->*m.result;
+        // With a typed function a sum whose numbers grow too large says so, and the others go on.
         typedGuard(
             [&] {
-                const double s = rt::Chk(rt::Div(rt::Chk((dx / 3) * GraphWindow::Side), graph.XRange));
-                const Result r = drawn(3, chkSimpson, [&](DrawingSurface::Batch& outline) {
-                    return simpson(f, L, dx, n, [&](double xa, double xc, double y0, double y1, double y2) {
-                        heights.push_back({xa, y0});
-                        heights.push_back({(xa + xc) / 2, y1});
-                        if (std::isnan(y0) || std::isnan(y1) || std::isnan(y2))
-                            return;
-                        const double a = graph.column(xa), c = graph.column(xc);
-                        const double t0 = graph.row(y0), t1 = graph.row(y1), t2 = graph.row(y2);
-                        if (!(inside(a, c, t0) && GraphWindow::Top < t2 && t2 < GraphWindow::Bottom))
-                            return;
-                        const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
-                        const double steps[] = {a, Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, Y0};
-                        for (int i = 0; i + 3 < 16; i += 2)
-                            outline.line(steps[i], steps[i + 1], steps[i + 2], steps[i + 3]);
-                    });
-                });
-                if (r.odd)
-                    lblSimpson->setText(QStringLiteral("Parts not even #"));
-                else
-                    showResult(lblSimpson, r);
+                // Each sum draws into a batch of its colour: the loop writes plain numbers, and the
+                // batch draws them when the sum is done (or ends with an error), before its area shows.
+                parts.heights.clear();
+                const RiemannSums::Result result = [&] {
+                    DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(m.colour)));
+                    return m.sum(parts, batch);
+                }();
+                noteTraced(drawnCurve(QString::fromLatin1(m.caption) + QStringLiteral(" bars of ") + describeFamily(),
+                                      std::move(parts.heights)));
+                showResult(label, result);
             },
-            tooLarge(lblSimpson));
-    if (chkRiemann->isChecked())
-        shown(lblRiemann, [&] {
-            return drawn(7, chkRiemann, [&](auto& b) { return randomWidths(f, L, R, n, RandomPoints, bars(b)); });
-        });
-
+            [label](const rt::RuntimeError&) { label->setText(QStringLiteral("= too large")); });
+    }
     lblAreas->setText(QStringLiteral("Area"));
 }
 
@@ -350,10 +392,10 @@ void frmRiemann::describeResults(QStringList& lines) const
 {
     lines << QStringLiteral("Area under %1 from %2 to %3 with %4 partitions: %5.")
                  .arg(describeFamily(), txtLBound->text(), txtRBound->text(), txtParts->text(), lblAreas->text());
-    const std::pair<const CheckBox*, const ClickLabel*> methods[] = {
-        {chkLeft, lblLeftE}, {chkRight, lblRightE},    {chkMid, lblMid},        {chkTrap, lblTrap},
-        {chkRandom, lblRnd}, {chkSimpson, lblSimpson}, {chkRiemann, lblRiemann}};
-    for (const auto& [check, result] : methods)
+    for (const Method& m : kMethods) {
+        const CheckBox* check = this->*m.check;
         lines << QStringLiteral("%1%2: %3")
-                     .arg(check->text(), check->isChecked() ? QStringLiteral(" (ticked)") : QString(), result->text());
+                     .arg(check->text(), check->isChecked() ? QStringLiteral(" (ticked)") : QString(),
+                          (this->*m.result)->text());
+    }
 }

@@ -2,6 +2,7 @@
 #pragma once
 // Riemann and other sums: the area under the selected explicit function between two boundaries,
 // approximated by up to seven methods at once, each drawn in its own colour.
+#include <array>
 #include <cstdint>
 
 #include <QGroupBox>
@@ -58,9 +59,26 @@ public:
     void Form_Load() override;
     void mnuAbout_Click() override;
 
+    // The sums, one row each: the caption and tip of the check box that shows its partitions, the
+    // check box and the label of its area, the colour of its partitions, and what it computes and
+    // draws. The panel, the click, the reset of the areas and the description all read this table;
+    // a new sum is a new row.
+    struct Parts;  // one click's interval, function and drawing
+    struct Method {
+        const char* caption;
+        const char* tip;
+        CheckBox* frmRiemann::*check;
+        ClickLabel* frmRiemann::*result;
+        int colour;
+        RiemannSums::Result (*sum)(Parts& parts, DrawingSurface::Batch& batch);
+        bool clearedByNewFunction;  // its area goes back to "Area=" when another function is chosen
+    };
+    static const std::array<Method, 7> kMethods;
+
 private:
     void buildSumsPanel();
     void showResult(ClickLabel* label, const RiemannSums::Result& result);
+    void resetAreas();
 
 protected:
     void describeResults(QStringList& lines) const override;
