@@ -61,18 +61,6 @@ TEST(AudioTrace, ParabolaClicksAtItsRootsAndSoundsLowBetween)
     EXPECT_NEAR(clicks[1], 2, 0.05 + 1e-9);
 }
 
-TEST(AudioTrace, LogarithmIsSilentOverTheLeftHalf)
-{
-    const auto points = sampled([](double x) { return x > 0 ? std::log(x) : std::nan(""); });
-    const auto tones = audio::tones(points, {});
-    const auto s = audio::samples(tones, 2.0, 8000);
-    const std::size_t half = s.size() / 4;  // the stereo frames of the left half
-    EXPECT_EQ(energy(s, false, 0, half - 40) + energy(s, true, 0, half - 40), 0.0);
-    EXPECT_GT(energy(s, false, half + 40, s.size() / 2) + energy(s, true, half + 40, s.size() / 2), 0.0);
-    for (std::size_t i = 0; i < tones.size(); ++i)
-        EXPECT_FALSE(tones[i].click && points[i].x <= 0.05) << "no crossing heard across the gap at " << points[i].x;
-}
-
 namespace {
 
 struct FeatureCase {

@@ -60,21 +60,9 @@ const std::vector<QString>& corpus()
 }
 
 struct Control {
-    enum Kind {
-        Box,
-        Button,
-        Label,
-        Check,
-        Option,
-        Scroll,
-        Menu,
-        Surface,
-        Resize,
-        GraphKeys,
-        Assist,
-        Copy,
-        Lesson
-    } kind;
+    // clang-format off
+    enum Kind { Box, Button, Label, Check, Option, Scroll, Menu, Surface, Resize, GraphKeys, Assist, Copy, Lesson } kind;
+    // clang-format on
     QObject* object;
     QString name;
 };

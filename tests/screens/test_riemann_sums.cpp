@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sums without a window: the areas of y = x^2 on [0, 2] with 4 partitions worked out by hand,
-// the shapes each sum hands to its sink, Simpson's refusal of an odd count, the random sums within
+// the heights each sum hands to its sink, Simpson's refusal of an odd count, the random sums within
 // their bounds, and what a gap or the error value does to a sum.
 #include <cmath>
 #include <vector>
@@ -9,148 +9,98 @@
 
 #include "screens/RiemannSums.h"
 
-namespace {
-
 using RiemannSums::Result;
 
+namespace {
 double square(double x) { return x * x; }
-
-struct Bar {
-    double xa, xb, y;
-};
-
+// The sums with their sinks recording one height per shape (a trapezoid's left, a pair's middle).
+using Heights = std::vector<double>;
+auto bars(Heights& h)
+{
+    return [&h](double, double, double y) { h.push_back(y); };
+}
 }  // namespace
 
 TEST(RiemannSums, AreasOfXSquaredOnZeroToTwoWithFourPartitions)
 {
-    // Left: (0 + 1/4 + 1 + 9/4) / 2; right: (1/4 + 1 + 9/4 + 4) / 2; midpoint: the squares of
-    // 1/4, 3/4, 5/4, 7/4 halved; trapezoid: the mean of left and right; Simpson: exact, 8/3.
     struct Case {
         const char* name;
-        Result (*sum)(std::vector<Bar>&);
-        double area;
-        std::vector<Bar> shapes;
+        Result (*sum)(Heights&);
+        float area;  // worked out by hand: the heights times 1/2 (Simpson: exact, 8/3)
+        Heights heights;
     } cases[] = {
-        {"left endpoints",
-         [](std::vector<Bar>& out) {
-             return RiemannSums::leftEndpoint(square, 0, 0.5, 4, [&](double a, double b, double y) {
-                 out.push_back({a, b, y});
-             });
+        {"left",
+         [](Heights& h) { return RiemannSums::leftEndpoint(square, 0, 0.5, 4, bars(h)); },
+         1.75f,
+         {0, 0.25, 1, 2.25}},
+        {"right",
+         [](Heights& h) { return RiemannSums::rightEndpoint(square, 0, 0.5, 4, bars(h)); },
+         3.75f,
+         {0.25, 1, 2.25, 4}},
+        {"midpoint",
+         [](Heights& h) { return RiemannSums::midpoint(square, 0, 0.5, 4, bars(h)); },
+         2.625f,
+         {0.0625, 0.5625, 1.5625, 3.0625}},
+        {"trapezoid",
+         [](Heights& h) {
+             return RiemannSums::trapezoidal(square, 0, 0.5, 4,
+                                             [&](double, double, double y, double) { h.push_back(y); });
          },
-         1.75,
-         {{0, 0.5, 0}, {0.5, 1, 0.25}, {1, 1.5, 1}, {1.5, 2, 2.25}}},
-        {"right endpoints",
-         [](std::vector<Bar>& out) {
-             return RiemannSums::rightEndpoint(square, 0, 0.5, 4, [&](double a, double b, double y) {
-                 out.push_back({a, b, y});
-             });
+         2.75f,
+         {0, 0.25, 1, 2.25}},
+        {"Simpson",
+         [](Heights& h) {
+             return RiemannSums::simpson(square, 0, 0.5, 4,
+                                         [&](double, double, double, double y1, double) { h.push_back(y1); });
          },
-         3.75,
-         {{0, 0.5, 0.25}, {0.5, 1, 1}, {1, 1.5, 2.25}, {1.5, 2, 4}}},
-        {"midpoints",
-         [](std::vector<Bar>& out) {
-             return RiemannSums::midpoint(square, 0, 0.5, 4, [&](double a, double b, double y) {
-                 out.push_back({a, b, y});
-             });
-         },
-         2.625,
-         {{0, 0.5, 0.0625}, {0.5, 1, 0.5625}, {1, 1.5, 1.5625}, {1.5, 2, 3.0625}}},
-        {"trapezoids (the left height recorded)",
-         [](std::vector<Bar>& out) {
-             return RiemannSums::trapezoidal(square, 0, 0.5, 4, [&](double a, double b, double y1, double) {
-                 out.push_back({a, b, y1});
-             });
-         },
-         2.75,
-         {{0, 0.5, 0}, {0.5, 1, 0.25}, {1, 1.5, 1}, {1.5, 2, 2.25}}},
-        {"Simpson's pairs (the middle height recorded)",
-         [](std::vector<Bar>& out) {
-             return RiemannSums::simpson(square, 0, 0.5, 4, [&](double a, double c, double, double y1, double) {
-                 out.push_back({a, c, y1});
-             });
-         },
-         8.0 / 3,
-         {{0, 1, 0.25}, {1, 2, 2.25}}},
+         8.0f / 3,
+         {0.25, 2.25}},
     };
-    for (Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        std::vector<Bar> shapes;
-        const Result r = c.sum(shapes);
-        EXPECT_FLOAT_EQ(r.area, static_cast<float>(c.area));
-        EXPECT_FALSE(r.error || r.odd || r.gap);
-        ASSERT_EQ(shapes.size(), c.shapes.size());
-        for (std::size_t i = 0; i < shapes.size(); ++i) {
-            EXPECT_DOUBLE_EQ(shapes[i].xa, c.shapes[i].xa) << i;
-            EXPECT_DOUBLE_EQ(shapes[i].xb, c.shapes[i].xb) << i;
-            EXPECT_DOUBLE_EQ(shapes[i].y, c.shapes[i].y) << i;
-        }
+    for (const Case& c : cases) {
+        Heights h;
+        const Result r = c.sum(h);
+        EXPECT_FLOAT_EQ(r.area, c.area) << c.name;
+        EXPECT_FALSE(r.error || r.odd || r.gap) << c.name;
+        EXPECT_EQ(h, c.heights) << c.name;
     }
-}
-
-TEST(RiemannSums, SimpsonRefusesAnOddCountAndDrawsNothing)
-{
-    int pairs = 0;
-    const Result r = RiemannSums::simpson(square, 0, 0.5, 3, [&](double, double, double, double, double) { ++pairs; });
-    EXPECT_TRUE(r.odd);
-    EXPECT_EQ(r.area, 0);
-    EXPECT_EQ(pairs, 0);
+    int pairs = 0;  // an odd count: refused, nothing drawn
+    const Result odd =
+        RiemannSums::simpson(square, 0, 0.5, 3, [&](double, double, double, double, double) { ++pairs; });
+    EXPECT_TRUE(odd.odd && odd.area == 0 && pairs == 0);
 }
 
 TEST(RiemannSums, RandomSumsStayWithinTheirBoundsAndCoverTheInterval)
 {
-    // x^2 rises on [0, 2]: a random point's height lies between its interval's ends.
-    double covered = 0;
-    const Result r = RiemannSums::randomPoint(square, 0, 0.5, 4, [&](double a, double b, double y) {
-        EXPECT_GE(y, square(a));
-        EXPECT_LE(y, square(b));
-        covered += b - a;
-    });
-    EXPECT_GE(r.area, 1.75f);
-    EXPECT_LE(r.area, 3.75f);
-    EXPECT_DOUBLE_EQ(covered, 2);
-
-    RiemannSums::RandomPointArray points;
-    double from = 0;
-    int bars = 0;
-    const Result w = RiemannSums::randomWidths(square, 0, 2, 50, points, [&](double a, double b, double y) {
-        EXPECT_DOUBLE_EQ(a, from) << "the intervals follow one another";
-        EXPECT_LE(a, b);
-        EXPECT_GE(y, square(a));
-        EXPECT_LE(y, square(b));
-        from = b;
-        ++bars;
-    });
-    EXPECT_EQ(bars, 50);
-    EXPECT_DOUBLE_EQ(from, 2);
-    EXPECT_NEAR(w.area, 8.0 / 3, 0.5);
-    for (int k = 1; k <= 50; ++k)
-        EXPECT_LE(points[k - 1], points[k]) << "the division points are sorted";
+    // x^2 rises on [0, 2]: a random point's height lies between its interval's ends, and the
+    // intervals follow one another from 0 to 2.
+    for (bool widths : {false, true}) {
+        RiemannSums::RandomPointArray points;
+        double from = 0;
+        int count = 0;
+        const auto bar = [&](double a, double b, double y) {
+            EXPECT_DOUBLE_EQ(a, from);
+            EXPECT_TRUE(a <= b && square(a) <= y && y <= square(b)) << a << " " << b << " " << y;
+            from = b;
+            ++count;
+        };
+        const Result r = widths ? RiemannSums::randomWidths(square, 0, 2, 50, points, bar)
+                                : RiemannSums::randomPoint(square, 0, 0.04, 50, bar);
+        EXPECT_EQ(count, 50);
+        EXPECT_NEAR(from, 2, 1e-12);
+        EXPECT_NEAR(r.area, 8.0 / 3, 0.5);
+    }
 }
 
 TEST(RiemannSums, GapsAndTheErrorValue)
 {
-    struct Case {
-        const char* name;
-        double (*f)(double);
-        bool gap;
-        double gapAt;
-        bool error;
-        float area;
-    } cases[] = {
-        {"undefined left of 1: the first gap is at 0", [](double x) { return x < 1 ? std::nan("") : x; }, true, 0,
-         false, 0.5f * (1 + 1.5f)},
-        {"the error value marks the sum", [](double x) { return x == 1 ? RiemannSums::ErrorValue : 1.0; }, false, 0,
-         true, static_cast<float>(0.5 * (3 + RiemannSums::ErrorValue))},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        int drawn = 0;
-        const Result r = RiemannSums::leftEndpoint(c.f, 0, 0.5, 4,
-                                                   [&](double, double, double y) { drawn += std::isnan(y) ? 0 : 1; });
-        EXPECT_EQ(r.gap, c.gap);
-        EXPECT_EQ(r.gapAt, c.gapAt);
-        EXPECT_EQ(r.error, c.error);
-        EXPECT_FLOAT_EQ(r.area, c.area);
-        EXPECT_EQ(drawn, c.gap ? 2 : 4);
-    }
+    // Undefined left of 1: the first gap is at 0 and only the defined terms count.
+    Heights h;
+    const Result gap = RiemannSums::leftEndpoint([](double x) { return x < 1 ? std::nan("") : x; }, 0, 0.5, 4, bars(h));
+    EXPECT_TRUE(gap.gap && gap.gapAt == 0 && !gap.error);
+    EXPECT_FLOAT_EQ(gap.area, 0.5f * (1 + 1.5f));
+    // The error value marks the sum and still counts.
+    const Result marked =
+        RiemannSums::leftEndpoint([](double x) { return x == 1 ? RiemannSums::ErrorValue : 1.0; }, 0, 0.5, 4, bars(h));
+    EXPECT_TRUE(marked.error && !marked.gap);
+    EXPECT_FLOAT_EQ(marked.area, static_cast<float>(0.5 * (3 + RiemannSums::ErrorValue)));
 }

@@ -10,7 +10,6 @@
 #include "graphwin/TracePlayer.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
-#include "screens/frmNewton.h"
 #include "screens/frmParam.h"
 #include "screens/frmRiemann.h"
 
@@ -33,7 +32,6 @@ struct Trace : ScreenFixture<Screen> {
     }
 };
 using TraceGrapher = Trace<frmClasses>;
-using TraceNewton = Trace<frmNewton>;
 using TraceSums = Trace<frmRiemann>;
 using TraceField = Trace<frmFlowField>;
 using TraceCurve = Trace<frmParam>;
@@ -162,15 +160,6 @@ TEST_F(TraceGrapher, WithoutASoundDeviceTheTraceSaysSoOnceAndChangesNothingElse)
     EXPECT_EQ(screen->announcement(), walked) << "said once in a run";
     EXPECT_EQ(count(DrawOp::PSet), drawn);
     EXPECT_TRUE(script.errors.empty() && script.shown.empty());
-}
-
-TEST_F(TraceNewton, TheDerivativeGraphIsDescribedAndWalked)
-{
-    screen->cmdDeriv->click();
-    expectDescribed("Drawn: the derivative of ");
-    for (const audio::Point& p : screen->tracePoints())
-        ASSERT_NEAR(p.y, FuncGlobals::ExplicitSlope(p.x), 1e-9) << p.x;
-    EXPECT_FALSE(screen->tracePoints().empty());
 }
 
 TEST_F(TraceSums, TheTraceOfTheSumsIsTheHeightsOfTheLastMethodsBars)

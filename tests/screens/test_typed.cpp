@@ -75,6 +75,12 @@ TEST_F(TypedNewton, TheDerivativeGraphIsTheExactDerivative)
     screen->cmdDeriv->click();
     // y' = 3x^2 - 2 at the column of x = 0 (5600): row 3300 - (-2) * 320 = 3940.
     EXPECT_TRUE(hasPoint(5600, 3940, colour(1)));
+    // Described, and traced (heard and walked) as the derivative.
+    expectDescribed("Drawn: the derivative of the typed function y = x^3 - 2*x - 5");
+    const std::vector<audio::Point> points = screen->tracePoints();
+    ASSERT_GT(points.size(), 100u);
+    for (const audio::Point& p : points)
+        ASSERT_NEAR(p.y, 3 * p.x * p.x - 2, 1e-9 * (1 + p.x * p.x)) << p.x;
 }
 
 TEST_F(TypedSums, GaussianMidpointSumsAndTheirTable)
