@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include "runtime/BoundedArray.h"
 #include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
 #include "tests/TestSupport.h"
 
 using namespace rt;
@@ -70,7 +72,10 @@ TEST(Numbers, WritingNumbers)
 TEST(Numbers, ConversionsAndCheckedArithmetic)
 {
     // Each case: the value it gives, or 0 and the run-time error it raises.
-#define CASE(expression, value, error) {#expression, [] { return static_cast<double>(expression); }, value, error}
+#define CASE(expression, value, error)                                                                                 \
+    {                                                                                                                  \
+#expression, [] { return static_cast<double>(expression); }, value, error                                      \
+    }
     // clang-format off
     const struct {
         const char* what;
@@ -99,4 +104,26 @@ TEST(Numbers, ConversionsAndCheckedArithmetic)
         EXPECT_EQ(errorOf([&] { got = c.f(); }), c.error) << c.what;
         EXPECT_EQ(got, c.value) << c.what;
     }
+}
+
+TEST(RuntimeErrors, TheClassicNumbersMessagesAndBounds)
+{
+    const std::pair<int, const char*> classic[] = {{5, "Invalid procedure call or argument"},
+                                                   {6, "Overflow"},
+                                                   {9, "Subscript out of range"},
+                                                   {11, "Division by zero"},
+                                                   {13, "Type mismatch"},
+                                                   {380, "Invalid property value"},
+                                                   {7, "Application-defined or object-defined error"}};
+    for (const auto& [number, message] : classic) {
+        EXPECT_STREQ(errorMessage(number), message) << number;
+        EXPECT_EQ(errorOf([n = number] { rt::raise(n); }), number);
+    }
+    // A bounded array takes its two bounds and refuses one past either with error 9.
+    BoundedArray<int, 0, 20> a;
+    a[0] = 1;
+    a[20] = 2;
+    EXPECT_EQ(a[0] + a[20], 3);
+    EXPECT_EQ(errorOf([&] { a[-1] = 0; }), 9);
+    EXPECT_EQ(errorOf([&] { a[21] = 0; }), 9);
 }
