@@ -55,6 +55,8 @@ TEST(TypedExpression, ValuesAndExactDerivatives)
          6 * std::cos(1.25) - 1},
         {"power before unary minus", "-x^2", 3, -9, -6},
         {"power groups to the right", "2^3^2", 0, 512, 0},
+        {"numbers folded before x: (5 - 3)*x", "(5 - 3)*x", 4, 8, 2},
+        {"a power of a power", "(x^2)^3", 2, 64, 192},
         {"negative exponent", "2^-x", 1, 0.5, -0.5 * std::log(2.0)},
         {"gaussian", "exp(-x^2)", 1, std::exp(-1.0), -2 * std::exp(-1.0)},
         {"sinc", "sin(x)/x", 0.5, std::sin(0.5) / 0.5, std::cos(0.5) / 0.5 - std::sin(0.5) / 0.25},
@@ -138,6 +140,7 @@ TEST(TypedExpression, UnderstoodTextShowsTheOrderOfOperations)
         {"-x^2", "-(x^2)"},         {"2^3^2", "2^(3^2)"},     {"x^3-2*x-5", "x^3 - 2*x - 5"},
         {"x-(1-x)", "x - (1 - x)"}, {"(x-1)-x", "x - 1 - x"}, {"1/(2*x)", "1/(2*x)"},
         {"(-x)^2", "(-x)^2"},       {"LOG(x)", "ln(x)"},      {"arcsin(x)", "asin(x)"},
+        {"(x^2)^3", "(x^2)^3"},     {"x^x^2", "x^(x^2)"},
     };
     for (const auto& [typed, understood] : cases) {
         auto f = read(typed);
