@@ -71,6 +71,7 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
               std::tuple(static_cast<QWidget*>(frame), QRect(8, 40, 60, 20), true, false));
     EXPECT_EQ(std::tuple(bar->orientation(), bar->Min(), bar->Max(), bar->value(), bar->singleStep(), bar->pageStep()),
               std::tuple(Qt::Vertical, 5, 1, 4, 2, 3));
+    EXPECT_TRUE(bar->invertedAppearance() && bar->invertedControls()) << "a maximum below the minimum runs backwards";
     EXPECT_EQ(
         std::tuple(label->alignment(), label->accessibleName(), frame->toolTip(), box->text()),
         std::tuple(Qt::Alignment(Qt::AlignRight), QStringLiteral("lower"), QStringLiteral("tip"), QStringLiteral("7")));
