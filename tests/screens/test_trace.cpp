@@ -124,6 +124,9 @@ TEST_F(TraceGrapher, UpAndDownChooseAmongTheCurvesDrawnAndAClearForgetsThem)
     EXPECT_TRUE(screen->tracePoints().empty());
     EXPECT_TRUE(screen->traceSamples().empty());
     EXPECT_EQ(press(Qt::Key_Right), QStringLiteral("Nothing is drawn to walk along yet."));
+    screen->cmdPlotto->click();  // drawn again after the clear: the walk goes on step by step
+    const double x1 = coordinates(press(Qt::Key_Right)).first, x2 = coordinates(press(Qt::Key_Right)).first;
+    EXPECT_GT(x2, x1);
     EXPECT_FALSE(screen->exploreKey(Qt::Key_A, Qt::NoModifier)) << "other keys are not the walk's";
 }
 
