@@ -108,6 +108,14 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
         EXPECT_NEAR(found->y, c.y, c.tolerance) << c.name;
         EXPECT_LE(std::fabs(points[found->index].x - c.x), 20.0 / 426 + 1e-9) << c.name << ": walk goes to it";
     }
+    // Drawn points only, with a turn between two columns (two equal heights): the turn is found at
+    // the level run, with the run's height.
+    const std::vector<audio::Point> valley{{1, 3}, {2, 2}, {3, 1}, {4, 1}, {5, 2}, {6, 3}};
+    const auto low = audio::nearestFeature(valley, 5);
+    ASSERT_TRUE(low);
+    EXPECT_EQ(low->kind, audio::Feature::Minimum);
+    EXPECT_EQ(low->y, 1);
+    EXPECT_TRUE(low->index == 2 || low->index == 3) << low->index;
     // A curve with no sign change, turn or y-axis: nothing, and nothing on an empty or gappy curve.
     const std::vector<audio::Point> rising{{1, 1}, {2, 2}, {3, 3}};
     EXPECT_FALSE(audio::nearestFeature(rising, 1));

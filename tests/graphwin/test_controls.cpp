@@ -96,6 +96,19 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
         EXPECT_THROW(form::buildForm(&parent, {row}), std::logic_error) << what;
 }
 
+TEST(CopyKey, ABoxWithoutASelectionLeavesCtrlCToTheWindow)
+{
+    QWidget parent;
+    TextBox box(&parent, QStringLiteral("12"));
+    for (bool selected : {false, true}) {
+        if (selected)
+            box.selectAll();
+        QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
+        QApplication::sendEvent(&box, &override);
+        EXPECT_EQ(override.isAccepted(), selected) << "the box keeps Ctrl+C only to copy its selection";
+    }
+}
+
 TEST(FullScreenKey, ReturnsToTheStateBefore)
 {
     struct Case {
