@@ -109,6 +109,23 @@ TEST(CopyKey, ABoxWithoutASelectionLeavesCtrlCToTheWindow)
     }
 }
 
+TEST(DoubleClick, ItsSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
+{
+    QWidget parent;
+    ClickLabel label(&parent, QStringLiteral("A="), true);
+    label.resize(40, 20);
+    int presses = 0, doubles = 0, clicks = 0;
+    label.MouseDown = [&](int, int, double, double) { ++presses; };
+    label.DblClick = [&] { ++doubles; };
+    label.Click = [&] { ++clicks; };
+    QTest::mouseClick(&label, Qt::LeftButton);
+    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&label, &second);
+    QTest::mouseRelease(&label, Qt::LeftButton);
+    EXPECT_EQ(std::tuple(presses, doubles, clicks), std::tuple(2, 1, 1))
+        << "a release after a double click clicks no more";
+}
+
 TEST(FullScreenKey, ReturnsToTheStateBefore)
 {
     struct Case {
