@@ -125,8 +125,9 @@ TEST(Keyboard, MnemonicsAndSteppers)
     auto& grapher = static_cast<GraphScreen&>(*windows[1]);
     const Shown named(std::make_unique<frmClasses>());  // a stepper is a button named by what it does
     const auto spoken = [](QWidget* w) { return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name); };
-    EXPECT_EQ(spoken(named.screen->lblA) + '|' + spoken(named.screen->lblXmaxR),
-              QStringLiteral("raise or lower A|raise Xmax by one"));
+    EXPECT_EQ(spoken(named.screen->lblA) + '|' + spoken(named.screen->lblXmaxR) + '|' + spoken(named.screen->txtYmin) +
+                  '|' + named.screen->txtYmin->toolTip(),
+              QStringLiteral("raise or lower A|raise Xmax by one|Ymin|Ymin"));
     const std::tuple<ClickLabel*, Qt::Key, Qt::KeyboardModifiers, QLineEdit*, const char*> keys[] = {
         {grapher.lblA, Qt::Key_Up, {}, grapher.txtA, "2"},
         {grapher.lblA, Qt::Key_Down, {}, grapher.txtA, "1"},
