@@ -145,7 +145,8 @@ TEST_F(Sums, TheGuardedWindowOfThisScreen)
                   {&frmRiemann::lblXmaxR_DblClick, "-10|-5|-10|10"}, {&frmRiemann::lblXmaxL_Click, "-10|-6|-10|10"},
                   {&frmRiemann::lblXmaxL_DblClick, "-10|-6|-10|10"},  // -10 + 4 < -6 fails: not narrowed
                   {&frmRiemann::lblXminL_DblClick, "-14|-6|-10|10"}, {&frmRiemann::lblYminR_DblClick, "-14|-6|-6|10"},
-                  {&frmRiemann::lblYmaxL_DblClick, "-14|-6|-6|6"}};
+                  {&frmRiemann::lblYmaxL_DblClick, "-14|-6|-6|6"},   {&frmRiemann::lblYminR_Click, "-14|-6|-5|6"},
+                  {&frmRiemann::lblYminL_Click, "-14|-6|-6|6"}};
     screen->txtXmax->setText(QStringLiteral("-9"));
     for (const auto& a : arrows) {
         (screen.get()->*a.arrow)();
