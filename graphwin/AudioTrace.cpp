@@ -3,8 +3,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <limits>
+
+#include <boost/math/tools/minima.hpp>
+#include <boost/math/tools/roots.hpp>
 
 namespace audio {
 
@@ -65,31 +69,34 @@ std::vector<float> samples(const std::vector<Tone>& tones, double seconds, int r
 
 namespace {
 
-// The root between two finite points of opposite signs, or where one of them is 0.
+// Thrown by a function when it meets a gap inside an interval, which ends a search there.
+struct Gap { };
+
+// The root between two finite points of opposite signs, or where one of them is 0: by bisection to
+// the precision of doubles when the curve's function is known, else where the chord crosses.
 std::optional<double> rootBetween(const Point& a, const Point& b, const std::function<double(double)>& f)
 {
     if (a.y == 0)
         return a.x;
     if (!f)
         return a.x + (b.x - a.x) * a.y / (a.y - b.y);
-    double lo = a.x, hi = b.x, flo = a.y;
-    for (int i = 0; i < 200 && lo != hi; ++i) {
-        const double mid = lo + (hi - lo) / 2;
-        if (mid == lo || mid == hi)
-            break;
-        const double fm = f(mid);
-        if (!std::isfinite(fm))
-            return std::nullopt;  // a gap inside: not a crossing
-        if (fm == 0)
-            return mid;
-        if ((fm < 0) == (flo < 0)) {
-            lo = mid;
-            flo = fm;
-        } else {
-            hi = mid;
-        }
+    const auto defined = [&f](double x) {
+        const double y = f(x);
+        if (!std::isfinite(y))
+            throw Gap{};
+        return y;
+    };
+    double x = 0;
+    try {
+        std::uintmax_t steps = 200;
+        const auto [lo, hi] = boost::math::tools::bisect(defined, std::min(a.x, b.x), std::max(a.x, b.x),
+                                                         boost::math::tools::eps_tolerance<double>(), steps);
+        x = std::fabs(f(lo)) <= std::fabs(f(hi)) ? lo : hi;
+    } catch (const Gap&) {
+        return std::nullopt;  // a gap inside: not a crossing
+    } catch (const std::exception&) {
+        return std::nullopt;  // the ends do not bracket a root after all
     }
-    const double x = std::fabs(flo) <= std::fabs(f(hi)) ? lo : hi;
     // Across a pole the values grow towards the change of sign instead of shrinking.
     if (std::fabs(f(x)) > std::max(std::fabs(a.y), std::fabs(b.y)))
         return std::nullopt;
@@ -109,33 +116,20 @@ bool valley(const Point& a, const Point& b, bool maximum, const std::function<do
     return true;
 }
 
-// The turn of f between lo and hi by golden-section search; the drawn point if f has a gap there.
+// The turn of f between lo and hi by Brent's method; the drawn point if f has a gap there or the
+// search ends no better than it.
 Point refineTurn(double lo, double hi, bool maximum, const std::function<double(double)>& f, Point drawn)
 {
     const double sign = maximum ? -1 : 1;  // search for the least of sign * f
-    const double g = (std::sqrt(5.0) - 1) / 2;
-    double a = lo, b = hi;
-    double c = b - g * (b - a), d = a + g * (b - a);
-    double fc = sign * f(c), fd = sign * f(d);
-    for (int i = 0; i < 100 && std::isfinite(fc) && std::isfinite(fd); ++i) {
-        if (fc < fd) {
-            b = d;
-            d = c;
-            fd = fc;
-            c = b - g * (b - a);
-            fc = sign * f(c);
-        } else {
-            a = c;
-            c = d;
-            fc = fd;
-            d = a + g * (b - a);
-            fd = sign * f(d);
-        }
-    }
-    const double x = (a + b) / 2, y = f(x);
-    if (!std::isfinite(y) || sign * y > sign * drawn.y)
+    const auto height = [&](double x) {
+        const double y = sign * f(x);
+        return std::isfinite(y) ? y : std::numeric_limits<double>::infinity();
+    };
+    const auto [x, least] =
+        boost::math::tools::brent_find_minima(height, lo, hi, std::numeric_limits<double>::digits / 2);
+    if (!std::isfinite(least) || least > sign * drawn.y)
         return drawn;
-    return {x, y};
+    return {x, sign * least};
 }
 
 }  // namespace
@@ -190,7 +184,7 @@ std::optional<Feature> nearestFeature(const std::vector<Point>& points, std::siz
         if (change == 0)
             continue;
         const int now = change > 0 ? 1 : -1;
-        if (direction != 0 && now != direction && level > 0) {
+        if (direction != 0 && now != direction) {
             const bool maximum = direction > 0;
             const Point &before = points[level - 1], &after = points[i];
             const Point drawn = points[(level + i - 1) / 2];

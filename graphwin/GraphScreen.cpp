@@ -215,24 +215,27 @@ void GraphScreen::applyFormZoom(double zoom)
             w->update();  // indicators and scroll-bar parts are measured by the style at the zoom
 }
 
+QAction* GraphScreen::addToolsEntry(const QString& caption, QKeySequence key, std::function<void()> run)
+{
+    QAction* a = toolsMenu_->addAction(caption);
+    a->setShortcut(key);
+    a->setShortcutContext(Qt::WindowShortcut);
+    connect(a, &QAction::triggered, this, [run = std::move(run)] { guarded(run); });
+    return a;
+}
+
 void GraphScreen::buildToolsMenu()
 {
     toolsMenu_ = menuBar->addMenu(QStringLiteral("&Tools"));
     mnuTools = toolsMenu_->menuAction();
-    const QString entry = config_.functionMenu ? QStringLiteral("&Type a Function...") : QStringLiteral("&Type...");
-    mnuTypeFunction = toolsMenu_->addAction(entry);
-    mnuTypeFunction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
-    mnuTypeFunction->setShortcutContext(Qt::WindowShortcut);
-    connect(mnuTypeFunction, &QAction::triggered, this, [this] { guarded([this] { mnuTypeFunction_Click(); }); });
-    mnuProjector = toolsMenu_->addAction(QStringLiteral("&Projector Mode"));
+    mnuTypeFunction =
+        addToolsEntry(config_.functionMenu ? QStringLiteral("&Type a Function...") : QStringLiteral("&Type..."),
+                      QKeySequence(Qt::CTRL | Qt::Key_E), [this] { mnuTypeFunction_Click(); });
+    mnuProjector = addToolsEntry(QStringLiteral("&Projector Mode"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+                                 [this] { mnuProjector_Click(); });
     mnuProjector->setCheckable(true);
-    mnuProjector->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
-    mnuProjector->setShortcutContext(Qt::WindowShortcut);
-    connect(mnuProjector, &QAction::triggered, this, [this] { guarded([this] { mnuProjector_Click(); }); });
-    mnuHearCurve = toolsMenu_->addAction(QStringLiteral("&Hear the Curve"));
-    mnuHearCurve->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H));
-    mnuHearCurve->setShortcutContext(Qt::WindowShortcut);
-    connect(mnuHearCurve, &QAction::triggered, this, [this] { guarded([this] { mnuHearCurve_Click(); }); });
+    mnuHearCurve = addToolsEntry(QStringLiteral("&Hear the Curve"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H),
+                                 [this] { mnuHearCurve_Click(); });
     surface->KeyDown = [this](int key, Qt::KeyboardModifiers modifiers) { return exploreKey(key, modifiers); };
     // The mode belongs to the run: each screen's entry shows it as it is when its menu opens.
     connect(toolsMenu_, &QMenu::aboutToShow, this,
@@ -269,32 +272,25 @@ void GraphScreen::refreshLessonPlace()
 void GraphScreen::buildLessonCommands()
 {
     toolsMenu_->addSeparator();
-    auto entry = [this](const QString& caption, QKeySequence key, std::function<void()> run) {
-        QAction* a = toolsMenu_->addAction(caption);
-        a->setShortcut(key);
-        a->setShortcutContext(Qt::WindowShortcut);
-        connect(a, &QAction::triggered, this, [run] { guarded(run); });
-        return a;
-    };
-    mnuAddStep =
-        entry(QStringLiteral("&Add This Screen to the Lesson"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
-            if (lessonCommands().add)
-                lessonCommands().add(*this);
-        });
-    mnuOpenLesson = entry(QStringLiteral("&Open Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_O), [] {
+    mnuAddStep = addToolsEntry(QStringLiteral("&Add This Screen to the Lesson"),
+                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
+                                   if (lessonCommands().add)
+                                       lessonCommands().add(*this);
+                               });
+    mnuOpenLesson = addToolsEntry(QStringLiteral("&Open Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_O), [] {
         if (lessonCommands().open)
             lessonCommands().open();
     });
-    mnuSaveLesson = entry(QStringLiteral("&Save Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_S), [] {
+    mnuSaveLesson = addToolsEntry(QStringLiteral("&Save Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_S), [] {
         if (lessonCommands().save)
             lessonCommands().save();
     });
     // Page Down and Page Up, which every presentation clicker sends; only while a lesson is open.
-    mnuNextStep = entry(QStringLiteral("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
+    mnuNextStep = addToolsEntry(QStringLiteral("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
         if (lessonCommands().next)
             lessonCommands().next();
     });
-    mnuPreviousStep = entry(QStringLiteral("Pre&vious Step"), QKeySequence(Qt::Key_PageUp), [] {
+    mnuPreviousStep = addToolsEntry(QStringLiteral("Pre&vious Step"), QKeySequence(Qt::Key_PageUp), [] {
         if (lessonCommands().previous)
             lessonCommands().previous();
     });
@@ -513,16 +509,14 @@ void GraphScreen::CleanGraph()
     drawAxes(*surface, graph, {txtXmin, txtXmax, txtYmin, txtYmax});
 }
 
-void GraphScreen::plotFunction()
-{
-    const QString family = describeFamily();
-    noteDrawn(family + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
-    noteTraced(explicitCurve(family, FuncGlobals::ExplicitSnapshot::What::Value));
-    plotColumns(FuncGlobals::ExplicitValue);
-}
+void GraphScreen::plotFunction() { plotExplicit(FuncGlobals::ExplicitSnapshot::What::Value, describeFamily()); }
 
-void GraphScreen::plotColumns(double (*evaluate)(const double&))
+void GraphScreen::plotExplicit(FuncGlobals::ExplicitSnapshot::What what, const QString& name)
 {
+    noteDrawn(name + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
+    noteTraced(explicitCurve(name, what));
+    const auto evaluate =
+        what == FuncGlobals::ExplicitSnapshot::What::Value ? FuncGlobals::ExplicitValue : FuncGlobals::ExplicitSlope;
     const auto first = static_cast<std::int16_t>(graph.firstColumn());
     const auto last = static_cast<std::int16_t>(graph.lastColumn());
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });

@@ -16,6 +16,7 @@
 
 #include <QDialog>
 #include <QJsonObject>
+#include <QKeySequence>
 #include <QString>
 #include <QStringList>
 
@@ -214,8 +215,9 @@ protected:
 
     // The explicit family's plot over the square's columns, in QBColor(FunctionId mod 7).
     void plotFunction();
-    // The same column walk for any evaluator of the selected family (the derivative, say).
-    void plotColumns(double (*evaluate)(const double&));
+    // The same column walk for the function in use or its derivative, described and kept for the
+    // audio trace as `name`.
+    void plotExplicit(FuncGlobals::ExplicitSnapshot::What what, const QString& name);
     // The left edge, in twips, of the screen's right-hand column of buttons (1680 wide, 420 high).
     double buttonColumn() const;
     // Fills the function captions and the menu, and selects a family.
@@ -318,6 +320,9 @@ private:
     TextBox* coefficientBox(int index) const;
 
     void buildToolsMenu();
+    // An entry of the Tools menu with its key (working anywhere in the window), running `run` as a
+    // handler runs.
+    QAction* addToolsEntry(const QString& caption, QKeySequence key, std::function<void()> run);
     void buildLessonCommands();
     void refreshLessonPlace();
     // Grows the menu bar and its menus with the form, and tells the style the form's zoom.
@@ -327,8 +332,11 @@ private:
     QAction* historySeparator_ = nullptr;
     QList<QAction*> history_;
 
-    // The walk: the curves drawn since the clear `tracedAfterClear_`, the chosen one (-1: the last),
-    // its points at the present size and the point the walk is at.
+    // The walk: the curves drawn since the clear `tracedAfterClear_` (what the walk said belongs to
+    // the same picture), the chosen one (-1: the last), its points at the present size and the point
+    // the walk is at. `walkCurve_` is the curve walk_ was made for (-1: none yet).
+    void forgetAfterClear();
+    bool sinceClear() const { return tracedAfterClear_ == surface->clears(); }
     const TracedCurve* chosenCurve() const;
     int traceColumns() const;
     bool walkReady();
@@ -340,13 +348,10 @@ private:
     std::uint64_t tracedAfterClear_ = 0;
     int chosen_ = -1;
     std::vector<audio::Point> walk_;
-    int walkCurve_ = -1;  // the index of the curve walk_ belongs to, with the count and clear it saw
-    std::size_t walkCount_ = 0;
-    std::uint64_t walkClears_ = 0;
+    int walkCurve_ = -1;
     int walkColumns_ = 0;
     std::size_t walkAt_ = 0;
     QString announcement_;
-    std::uint64_t announcedAfterClear_ = 0;
     static inline bool silenceSaid_ = false;
 
     Config config_;

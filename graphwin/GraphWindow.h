@@ -27,6 +27,12 @@ struct GraphWindow {
     std::int32_t lastColumn() const { return static_cast<std::int32_t>(Left + Side) - 1; }
     // A row inside the square, edges included (where a plotted point may go).
     static bool rowInside(double row) { return row >= Top && row <= Bottom; }
+    // A point strictly within the square's edges (where a press starts a curve, where a bar stands).
+    static bool rowStrictlyInside(double row) { return Top < row && row < Bottom; }
+    bool strictlyInside(double column, double row) const
+    {
+        return Left < column && column < right() && rowStrictlyInside(row);
+    }
 
     // Maps the window xmin..xmax by ymin..ymax onto the square. The ranges, then the origins rounded
     // to whole twips, in this order and with these operations: the digits of every result drawn

@@ -57,12 +57,20 @@ GraphScreen::TracedCurve GraphScreen::drawnCurve(const QString& name, std::vecto
     return {name, traceRange(), [kept](int) { return *kept; }, {}};
 }
 
+void GraphScreen::forgetAfterClear()
+{
+    if (sinceClear())
+        return;
+    traced_.clear();
+    walk_.clear();
+    walkCurve_ = -1;
+    announcement_.clear();
+    tracedAfterClear_ = surface->clears();
+}
+
 void GraphScreen::noteTraced(TracedCurve curve)
 {
-    if (tracedAfterClear_ != surface->clears()) {
-        traced_.clear();
-        tracedAfterClear_ = surface->clears();
-    }
+    forgetAfterClear();
     // A long run of plots (an animation) keeps its latest curves only.
     constexpr std::size_t kMaxTraced = 24;
     if (traced_.size() == kMaxTraced)
@@ -74,7 +82,7 @@ void GraphScreen::noteTraced(TracedCurve curve)
 
 const GraphScreen::TracedCurve* GraphScreen::chosenCurve() const
 {
-    if (tracedAfterClear_ != surface->clears() || traced_.empty())
+    if (!sinceClear() || traced_.empty())
         return nullptr;
     const int last = static_cast<int>(traced_.size()) - 1;
     return &traced_[static_cast<std::size_t>(chosen_ < 0 || chosen_ > last ? last : chosen_)];
@@ -100,15 +108,12 @@ std::vector<float> GraphScreen::traceSamples() const
     return audio::samples(audio::tones(curve->points(traceColumns()), curve->range), kTraceSeconds, kTraceRate);
 }
 
-QString GraphScreen::announcement() const
-{
-    return announcedAfterClear_ == surface->clears() ? announcement_ : QString();
-}
+QString GraphScreen::announcement() const { return sinceClear() ? announcement_ : QString(); }
 
 void GraphScreen::announce(const QString& text, std::optional<QPointF> marker)
 {
+    forgetAfterClear();
     announcement_ = text;
-    announcedAfterClear_ = surface->clears();
     const QRectF square(graph.Left, GraphWindow::Top, GraphWindow::Side, GraphWindow::Side);
     surface->setMarker(marker, marker ? text : QString(), square);
     refreshDescription();
@@ -135,26 +140,21 @@ void GraphScreen::mnuHearCurve_Click()
 
 bool GraphScreen::walkReady()
 {
+    forgetAfterClear();
     const TracedCurve* curve = chosenCurve();
     if (!curve)
         return false;
     const int index = static_cast<int>(curve - traced_.data());
     const int columns = traceColumns();
-    if (walkCurve_ == index && walkCount_ == traced_.size() && walkClears_ == surface->clears() &&
-        walkColumns_ == columns && !walk_.empty())
-        return true;
-    // A new curve, or the same at another size: the walk stays at the same x where it can.
-    const bool resized = walkCurve_ == index && walkCount_ == traced_.size() && walkClears_ == surface->clears() &&
-                         walkAt_ < walk_.size();
+    if (walkCurve_ == index && walkColumns_ == columns)
+        return !walk_.empty();
+    // A new curve starts in the middle; the same curve at another size stays at the same x.
+    const bool resized = walkCurve_ == index && walkAt_ < walk_.size();
     const double x = resized ? walk_[walkAt_].x : 0;
     walk_ = curve->points(columns);
     walkCurve_ = index;
-    walkCount_ = traced_.size();
-    walkClears_ = surface->clears();
     walkColumns_ = columns;
-    walkAt_ = walk_.size() / 2;
-    if (resized && !walk_.empty())
-        walkAt_ = nearestTo(walk_, x);
+    walkAt_ = resized ? nearestTo(walk_, x) : walk_.size() / 2;
     return !walk_.empty();
 }
 
@@ -218,7 +218,10 @@ bool GraphScreen::exploreKey(int key, Qt::KeyboardModifiers modifiers)
         const int now = static_cast<int>(chosenCurve() - traced_.data());
         chosen_ = (now + (key == Qt::Key_Down ? 1 : count - 1)) % count;
         const double x = walk_[walkAt_].x;
-        walkReady();
+        if (!walkReady()) {
+            announce(QStringLiteral("Curve %1 of %2 has no points to walk along.").arg(chosen_ + 1).arg(count));
+            break;
+        }
         walkTo(nearestTo(walk_, x),
                QStringLiteral("Curve %1 of %2: %3. ").arg(chosen_ + 1).arg(count).arg(chosenCurve()->name));
         break;

@@ -225,10 +225,7 @@ IntegralCurves::Settings frmFlowField::settings() const
     return s;
 }
 
-bool frmFlowField::insideGraph(double X, double Y) const
-{
-    return graph.Left < X && X < graph.right() && GraphWindow::Top < Y && Y < GraphWindow::Bottom;
-}
+bool frmFlowField::insideGraph(double X, double Y) const { return graph.strictlyInside(X, Y); }
 
 void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 {

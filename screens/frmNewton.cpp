@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
-#include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingStyle.h"
 #include "runtime/Numbers.h"
@@ -141,10 +140,7 @@ void frmNewton::applyNewton(double x)
 
 void frmNewton::cmdDeriv_Click()
 {
-    const QString derivative = QStringLiteral("the derivative of ") + describeFamily();
-    noteDrawn(derivative + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
-    noteTraced(explicitCurve(derivative, FuncGlobals::ExplicitSnapshot::What::Slope));
-    plotColumns(FuncGlobals::ExplicitSlope);
+    plotExplicit(FuncGlobals::ExplicitSnapshot::What::Slope, QStringLiteral("the derivative of ") + describeFamily());
 }
 
 void frmNewton::mnuAbout_Click()

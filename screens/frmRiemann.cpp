@@ -65,9 +65,7 @@ struct frmRiemann::Parts {
     static double f(double x) { return FuncGlobals::ExplicitValue(x); }
     bool inside(double a, double b, double t) const
     {
-        const GraphWindow& g = screen.graph;
-        return g.Left < a && a < g.right() && g.Left < b && b < g.right() && GraphWindow::Top < t &&
-               t < GraphWindow::Bottom;
+        return screen.graph.strictlyInside(a, t) && screen.graph.strictlyInside(b, t);
     }
     // A rectangle of height y over [xa, xb]; a typed function's gap draws none.
     auto bars(DrawingSurface::Batch& batch)
@@ -135,7 +133,7 @@ Result simpsonSum(Parts& p, DrawingSurface::Batch& outline)
             return;
         const double a = g.column(xa), c = g.column(xc);
         const double t0 = g.row(y0), t1 = g.row(y1), t2 = g.row(y2);
-        if (!(p.inside(a, c, t0) && GraphWindow::Top < t2 && t2 < GraphWindow::Bottom))
+        if (!(p.inside(a, c, t0) && GraphWindow::rowStrictlyInside(t2)))
             return;
         const double a1 = rt::Chk(a + s), a5 = rt::Chk(a + 5 * s);
         const double steps[] = {a, p.Y0, a, t0, a1, t0, a1, t1, a5, t1, a5, t2, c, t2, c, p.Y0};
