@@ -132,7 +132,7 @@ TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
 TEST(RateCatalogue, ValuesOfBothColumns)
 {
     const double x = 1.5, y = -0.5;
-    const std::tuple<int, double, double> cases[] = {
+    const struct { int family; double dy, dx; } cases[] = {
         // dy, dx with A, B, C = 2, 3, 0.5 and D, E, F = -1, 4, 1.5
         {1, 2 * x + 3 * y + 0.5, -x + 4 * y + 1.5},
         {2, 2 * x + 3 * std::sin(0.5 * x), -x + 4 * std::sin(1.5 * x)},
@@ -189,7 +189,7 @@ TEST(ParametricCatalogue, ValuesOfBothCatalogues)
 {
     const double T = 0.5;
     // A, B, C = 2, 3, 0.25 and D, E, F = -1, 0.5, 4
-    const std::tuple<int, double, double> cases[] = {
+    const struct { int family; double x, y; } cases[] = {
         {1, 2 * T * T + 3 * T + 0.25, -T * T + 0.5 * T + 4},
         {2, 2 * T * T * T + 3 * T + 0.25, -T * T * T + 0.5 * T + 4},
         {3, 2 * T * T * T + 3 * T * T + 0.25 * T, -T * T * T + 0.5 * T * T + 4 * T},

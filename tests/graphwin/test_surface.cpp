@@ -33,7 +33,7 @@ TEST(DrawingSurface, ShapesColourThePixelsUnderTheirTwipsAndAreRecorded)
     EXPECT_EQ(std::pair(s.CurrentX, s.CurrentY), std::pair(1e12, 2000.0));
     s.Line(1e300, -1e300, 2e300, -5e299, kBlue);  // entirely outside
     s.Line(1500, 1500, std::numeric_limits<double>::quiet_NaN(), 0, kBlue);
-    const std::tuple<double, double, QRgb> pixels[] = {
+    const struct { double x, y; QRgb colour; } pixels[] = {
         {1500, 1500, kRed},  {1514, 1514, kRed}, {1515, 1500, kWhite},  // 15 twips to a pixel
         {300, 600, kBlue},   {1200, 600, kBlue}, {1215, 600, kWhite},  {750, 750, kRed},
         {750, 1200, kWhite}, {0, 2000, kRed},    {5990, 2000, kRed},   {1500, 1400, kWhite}};

@@ -29,7 +29,7 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
     setProgramEndHandler([&](int code) { ends.push_back(code); });
     {
         frmGraphingCalc l;
-        const std::tuple<QPushButton*, QAction*, GraphScreen*> entries[] = {
+        const struct { QPushButton* button; QAction* action; GraphScreen* screen; } entries[] = {
             {l.cmdFuncClasses, l.mnuGrapher, &l.classesScreen()},
             {l.cmdSums, l.mnuRiemann, &l.riemannScreen()},
             {l.cmdAnimate, l.mnuAnimate, &l.animateScreen()},

@@ -35,7 +35,7 @@ TEST(Batching, EachScreensHeaviestPictureIsPixelForPixelTheShapesDrawnOneByOne)
 {
     DialogScript script;
     setDialogScript(&script);
-    const std::tuple<const char*, std::unique_ptr<GraphScreen> (*)(), std::function<void(GraphScreen&)>> cases[] = {
+    const struct { const char* name; std::unique_ptr<GraphScreen> (*make)(); std::function<void(GraphScreen&)> act; } cases[] = {
         {"sums, seven methods at 32000", make<frmRiemann>,
          [](GraphScreen& g) {
              auto& s = as<frmRiemann>(g);

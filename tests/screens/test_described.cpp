@@ -128,14 +128,14 @@ TEST(Keyboard, MnemonicsAndSteppers)
     EXPECT_EQ(spoken(named.screen->lblA) + '|' + spoken(named.screen->lblXmaxR) + '|' + spoken(named.screen->txtYmin) +
                   '|' + named.screen->txtYmin->toolTip(),
               QStringLiteral("raise or lower A|raise Xmax by one|Ymin|Ymin"));
-    const std::tuple<ClickLabel*, Qt::Key, Qt::KeyboardModifiers, QLineEdit*, const char*> keys[] = {
+    const struct { ClickLabel* label; Qt::Key key; Qt::KeyboardModifiers modifiers; QLineEdit* box; const char* shows; } keys[] = {
         {grapher.lblA, Qt::Key_Up, {}, grapher.txtA, "2"},
         {grapher.lblA, Qt::Key_Down, {}, grapher.txtA, "1"},
         {grapher.lblXmaxR, Qt::Key_Space, {}, grapher.txtXmax, "11"},  // the arrow's click
         {grapher.lblXmaxR, Qt::Key_Space, Qt::ShiftModifier, grapher.txtXmax, "16"}};  // and double click
     for (const auto& [label, key, modifiers, box, shows] : keys) {
         QTest::keyClick(label, key, modifiers);
-        EXPECT_EQ(box->text(), QString::fromLatin1(shows));
+        EXPECT_EQ(box->text(), QString::fromLatin1(shows)) << label->accessibleName().toStdString() << ' ' << key;
     }
     QTest::keyClick(grapher.lblFunc, Qt::Key_Left);
     EXPECT_EQ(FuncGlobals::FunctionId, 15);

@@ -56,7 +56,7 @@ TEST_F(Animate, StepsPlotOneFramePerScrollPosition)
 
 TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurveAndTheStatusFollowsTheTicks)
 {
-    const std::tuple<bool, bool, bool, const char*> rule[] = {{false, false, false, "Select Variable(s)"},
+    const struct { bool a, b, stepErase; const char* status; } rule[] = {{false, false, false, "Select Variable(s)"},
                                                               {true, true, false, "OK to Click Animate"},
                                                               {true, true, true, "Use Scroll Bar Above"},
                                                               {false, false, true, "Select Variable(s)"}};

@@ -146,7 +146,7 @@ TEST_F(Field, PlotButtonPressesFortyOrEightyTimesWithItsShifts)
 
 TEST(FormulaDisplay, TheWalkDropsOnesCutsZeroTermsAndWritesOtherValues)
 {
-    const std::tuple<const char*, const char*, std::array<double, 3>, const char*> cases[] = {
+    const struct { const char* formula; const char* letters; std::array<double, 3> values; const char* shown; } cases[] = {
         {"Ax + By + C", "ABC", {2, 3, 1}, "2x + 3y + "},  // a 1 loses its letter, nothing more
         {"Ax + By + C*e^x", "ABC", {1, 1, 1}, "x + y + *e^x"},
         {"Ax + Bsin(Cx)", "ABC", {1, 3, 0}, "x"},  // C = 0 cuts the term it stands in

@@ -69,11 +69,11 @@ TEST_F(MVT, FindCBeforeAnySecantLooksForHorizontalTangentsAndStopsAtNineteen)
 TEST_F(MVT, SliderTangentLabelsAndColour)
 {
     interval("0|2");
-    const std::tuple<int, const char*> cases[] = {
+    const struct { int slider; const char* labels; } cases[] = {
         {15000, "x =  1.5|Slope = 3"}, {0, "x =  0|Slope = 0"}, {20000, "x =  2|Slope = 4"}};
     for (const auto& [value, labels] : cases) {
         screen->HscMVT->setValue(value);
-        EXPECT_EQ(texts({screen->lblFindc, screen->lblSlope2}), QString::fromLatin1(labels));
+        EXPECT_EQ(texts({screen->lblFindc, screen->lblSlope2}), QString::fromLatin1(labels)) << value;
     }
     EXPECT_TRUE(hasPoint(5600 + 1.5 * 320, 3300 - 2.25 * 320, colour(2)));  // the tangent touches at c
     interval("-2|0");
@@ -92,7 +92,7 @@ TEST_F(MVT, SliderTangentLabelsAndColour)
 // towards the right end; A = 1e306: the secant's already does).
 TEST_F(MVT, PlainRowsDrawAndRaiseAsTheCheckedLoop)
 {
-    const std::tuple<const char*, int> cases[] = {{"1", 7000}, {"-3", 20000}, {"6e302", 2500}, {"1e306", 15000}};
+    const struct { const char* a; int slider; } cases[] = {{"1", 7000}, {"-3", 20000}, {"6e302", 2500}, {"1e306", 15000}};
     for (const auto& [a, slider] : cases) {
         std::vector<std::pair<std::vector<int>, QStringList>> runs;
         for (bool batching : {true, false}) {

@@ -35,14 +35,14 @@ TEST_F(Param, StepLimitAndTheSlidersLargeChange)
     screen->txtTstep->setText(QStringLiteral("40000"));
     EXPECT_EQ(script.shown,
               (Shown{{QStringLiteral("Exceeded Maximum"), QStringLiteral("The maximum number of steps is 32000")}}));
-    const std::tuple<const char*, const char*, int, int> cases[] = {
+    const struct { const char* steps; const char* kept; int max, page; } cases[] = {
         {"40000", "32000", 32000, 640},
         {"30", "30", 30, 30},
         {"1000", "1000", 1000, 20},
         {"-4", "-4", -4, 20}};  // below 0: LargeChange stays, Max runs below Min
     for (const auto& [steps, kept, max, page] : cases) {
         screen->txtTstep->setText(QString::fromLatin1(steps));
-        EXPECT_EQ(screen->txtTstep->text(), QString::fromLatin1(kept));
+        EXPECT_EQ(screen->txtTstep->text(), QString::fromLatin1(kept)) << steps;
         EXPECT_EQ(std::pair(screen->HscT->Max(), screen->HscT->pageStep()), std::pair(max, page)) << steps;
     }
 }

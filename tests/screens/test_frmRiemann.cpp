@@ -30,7 +30,7 @@ struct Sums : ScreenFixture<frmRiemann> {
 
 TEST_F(Sums, AreasAgainstHandWorkedValues)
 {
-    const std::tuple<const char*, const char*> cases[] = {
+    const struct { const char* abcLRn; const char* shown; } cases[] = {
         {"1|0|0|-2|2|1", "=  16|=  16|=  0|=  16|Parts not even #"},  // x^2 on [-2, 2]
         {"1|0|0|-2|2|2", "=  8|=  8|=  4|=  8|=  5.333333"},
         {"0|1|0|0|1|3", "=  .3333333|=  .6666667|=  .5|=  .5|Parts not even #"},  // singles written with Str
@@ -85,7 +85,7 @@ TEST_F(Sums, RandomSumsFollowTheFixedSequence)
 TEST_F(Sums, BoundariesArePulledBackIntoTheWindowAndIntoOrder)
 {
     // clang-format off
-    const std::tuple<TextBox*, const char*, const char*> cases[] = {{screen->txtLBound, "-20", "-10"},
+    const struct { TextBox* box; const char* typed; const char* kept; } cases[] = {{screen->txtLBound, "-20", "-10"},
         {screen->txtLBound, "5", "2"}, {screen->txtRBound, "15", "10"}, {screen->txtRBound, "1", "2"}};
     // clang-format on
     for (const auto& [box, typed, kept] : cases) {  // into the window, and not past the other boundary 2
@@ -102,7 +102,7 @@ TEST_F(Sums, BoundariesArePulledBackIntoTheWindowAndIntoOrder)
 
 TEST_F(Sums, BarsAreDrawnOnlyStrictlyInsideTheGraphBox)
 {
-    const std::tuple<const char*, int, long> cases[] = {
+    const struct { const char* abcLRn; int method; long lines; } cases[] = {
         // the sum, its method's colour, the lines drawn
         {"0|0|10|-2|2|4", 2, 0},  // left sums of y = 10: the tops lie on row 100
         {"0|0|9.99|-2|2|4", 2, 12}, {"0|0|9.99|-10|2|4", 2, 9},  // the first bar starts on the edge at 1800
