@@ -30,8 +30,9 @@ Output& output()
     return out;
 }
 
-// The samples in the device's format: whole stereo frames, resampled to its rate by the nearest
-// sample (the trace is a few plain tones; nothing finer is heard).
+}  // namespace
+
+// Resampled by the nearest sample: the trace is a few plain tones, nothing finer is heard.
 QByteArray encode(const std::vector<float>& samples, int rate, const QAudioFormat& format)
 {
     const long frames = static_cast<long>(samples.size() / 2);
@@ -56,8 +57,6 @@ QByteArray encode(const std::vector<float>& samples, int rate, const QAudioForma
     }
     return bytes;
 }
-
-}  // namespace
 
 bool play(const std::vector<float>& samples, int rate)
 {

@@ -4,6 +4,10 @@
 // made elsewhere (AudioTrace); this only hands them to the device.
 #include <vector>
 
+#include <QByteArray>
+
+class QAudioFormat;
+
 namespace audio {
 
 // Plays interleaved stereo samples (-1 to 1) made at `rate` per second, stopping a trace still
@@ -13,5 +17,8 @@ bool play(const std::vector<float>& samples, int rate);
 bool hasDevice();
 // Stops a trace that is playing.
 void stop();
+// The samples in a device's format: whole frames at its rate (nearest sample), its channels (the
+// first takes the left ear, every other the right) and its sample type.
+QByteArray encode(const std::vector<float>& samples, int rate, const QAudioFormat& format);
 
 }  // namespace audio

@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 #include "graphwin/AudioTrace.h"
+#include "graphwin/TracePlayer.h"
+
+#include <QAudioFormat>
 
 namespace {
 
@@ -145,4 +148,38 @@ TEST(AudioTrace, CoordinatesSaidToThePrecisionOfAPixel)
     };
     for (const Case& c : cases)
         EXPECT_EQ(audio::spoken(c.value, c.resolution), c.said) << c.value << " at " << c.resolution;
+}
+
+TEST(TracePlayer, EncodesTheSamplesInTheDevicesFormat)
+{
+    const std::vector<float> stereo = {0.5f, -0.5f, 2.0f, -2.0f};  // two frames, the second beyond full scale
+    const struct {
+        const char* name;
+        QAudioFormat::SampleFormat type;
+        int channels, rate;
+        std::vector<double> expected;
+    } cases[] = {
+        {"16-bit stereo", QAudioFormat::Int16, 2, 8000, {16000, -16000, 32000, -32000}},
+        {"float mono: the left ear", QAudioFormat::Float, 1, 8000, {0.5, 1}},
+        {"8-bit at twice the rate", QAudioFormat::UInt8, 2, 16000, {191, 64, 191, 64, 255, 1, 255, 1}},
+        {"32-bit, three channels, half the rate", QAudioFormat::Int32, 3, 4000, {1073741500, -1073741500, -1073741500}},
+    };
+    for (const auto& c : cases) {
+        QAudioFormat format;
+        format.setSampleFormat(c.type);
+        format.setChannelCount(c.channels);
+        format.setSampleRate(c.rate);
+        const QByteArray bytes = audio::encode(stereo, 8000, format);
+        std::vector<double> got;
+        for (qsizetype at = 0; at + format.bytesPerSample() <= bytes.size(); at += format.bytesPerSample()) {
+            const char* p = bytes.constData() + at;
+            got.push_back(c.type == QAudioFormat::Int16   ? *reinterpret_cast<const std::int16_t*>(p)
+                          : c.type == QAudioFormat::Int32 ? *reinterpret_cast<const std::int32_t*>(p)
+                          : c.type == QAudioFormat::UInt8 ? *reinterpret_cast<const std::uint8_t*>(p)
+                                                          : *reinterpret_cast<const float*>(p));
+        }
+        ASSERT_EQ(got.size(), c.expected.size()) << c.name;
+        for (std::size_t i = 0; i < got.size(); ++i)  // 32-bit samples to a float's precision
+            EXPECT_NEAR(got[i], c.expected[i], 1e-7 * std::fabs(c.expected[i])) << c.name << ", sample " << i;
+    }
 }
