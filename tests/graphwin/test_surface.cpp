@@ -75,6 +75,9 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
     s.Print(QStringLiteral("y = x^2"));
     s.clearArea(1000, 1000, 200, 200);
     const QImage before = grab(s);
+    QImage blank = before.copy(13, 146, 37, 16);  // where the text is, left of the line
+    blank.fill(Qt::white);
+    EXPECT_NE(before.copy(13, 146, 37, 16), blank) << "the printed text is in the picture";
     s.setZoom(2);  // every twip point shows what it showed: a one-pixel line is two pixels wide
     for (double x = 300; x <= 1200; x += 7.5)
         ASSERT_EQ(s.pixel(x, 600), kRed) << x;

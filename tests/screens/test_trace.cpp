@@ -85,6 +85,19 @@ TEST_F(TraceGrapher, WalkingAlongXSquaredSaysEachStep)
     EXPECT_TRUE(script.errors.empty());
 }
 
+TEST_F(TraceGrapher, SaysAsManyDecimalsAsAPixelOfTheWindowTellsApart)
+{
+    screen->cmdPlotto->click();
+    const double columns = static_cast<double>(screen->tracePoints().size());
+    const std::string edge = std::to_string(0.1 * (columns - 1.5));  // a pixel just under 0.1 wide and high
+    type({screen->txtD, screen->txtXmin, screen->txtXmax, screen->txtYmin, screen->txtYmax},
+         ("0.123|0|" + edge + "|0|" + edge).c_str());
+    screen->cmdPlotto->click();  // so two decimals of x and of y
+    EXPECT_EQ(press(Qt::Key_Home), QStringLiteral("x = 0, y = 0.12"));
+    EXPECT_TRUE(press(Qt::Key_End).contains(QRegularExpression(QStringLiteral("^x = \\d+\\.\\d5, "))))
+        << screen->announcement().toStdString();  // the window's right edge, n.n5
+}
+
 TEST_F(TraceGrapher, TheNearestRootOfXSquaredMinusFourFromNearThree)
 {
     screen->txtD->setText(QStringLiteral("-4"));
