@@ -134,6 +134,7 @@ TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
                 b.runColumns(static_cast<int>(from), rows.data() + from, std::min<std::size_t>(512, rows.size() - from),
                              0, 2990);
         }
+        ASSERT_EQ(std::pair(batched.CurrentX, batched.CurrentY), std::pair(one.CurrentX, one.CurrentY)) << batch;
         if (batched.keptOperations() + rows.size() < DrawingSurface::kMaxKept) {
             ASSERT_EQ(batched.keptOperations() - one.keptOperations(), batch + 1u) << batch;
         }
