@@ -150,6 +150,10 @@ def main():
                         help="run again only the mutants that an earlier run (its .json beside the report) "
                              "killed, on the same sample; its survivors are carried over as survivors, since "
                              "tests taken away cannot kill them (a lower bound when tests were also added)")
+    parser.add_argument("--survivors", metavar="REPORT.json",
+                        help="run again only the mutants that an earlier run survived, on today's code (each found "
+                             "by its changed line wherever that line has moved); its killed mutants are carried over "
+                             "as killed, so that the tests added since are counted")
     parser.add_argument("--kill-map", action="store_true",
                         help="for every killed mutant, also list the test cases that fail: a case that alone "
                              "kills a mutant is one a consolidation must keep (slower)")
@@ -196,6 +200,26 @@ def main():
         quota = {layer: len(todo[layer]) for layer in LAYERS}
         known = set(candidates(tree))
         by_layer = todo
+    elif args.survivors:
+        earlier = json.load(open(args.survivors))
+        args.seed = earlier["seed"]
+        current = candidates(tree)
+        todo = {layer: [] for layer in LAYERS}
+        for layer, rel, number, op, new, verdict, killers in reversed(earlier["results"]):
+            if verdict != "survived":
+                results.append((layer, rel, number, op, new, verdict, killers))
+                continue
+            # The line as it was, found again in today's file (nearest to where it was); the same change on it.
+            was = subprocess.check_output(["git", "show", "%s:%s" % (earlier["rev"], rel)], cwd=root, text=True)
+            text = was.split("\n")[number - 1]
+            lines = [n for n, line in enumerate(open(os.path.join(tree, rel), encoding="utf-8").read().split("\n"), 1)
+                     if line == text]
+            same = [c for c in current if c[1] == rel and c[3] == op and c[4] == new and c[2] in lines]
+            if not same:
+                sys.exit("%s:%d (%s) is no longer in the code: run a fresh sample" % (rel, number, op))
+            todo[layer].append(min(same, key=lambda c: abs(c[2] - number)))
+        quota = {layer: len(todo[layer]) for layer in LAYERS}
+        by_layer = todo
     else:
         by_layer, quota = sample(candidates(tree), args.count, args.seed)
     for layer in LAYERS:
@@ -227,7 +251,8 @@ def main():
              "Sample: %d mutants, seed %d, on %s; %.0f minutes%s." % (len(results), args.seed,
              subprocess.check_output(["git", "rev-parse", "--short", "HEAD"], cwd=tree, text=True).strip(),
              (time.time() - started) / 60, "; the survivors of %s carried over, its killed mutants run again"
-             % os.path.basename(args.recheck) if args.recheck else ""), "",
+             % os.path.basename(args.recheck) if args.recheck else "; the killed mutants of %s carried over, its "
+             "survivors run again" % os.path.basename(args.survivors) if args.survivors else ""), "",
              "| layer / file | mutants | killed | survived | score |", "|---|---:|---:|---:|---:|"]
     def row(name, rs):
         k = sum(1 for r in rs if r[5] == "killed")
@@ -249,7 +274,8 @@ def main():
     os.makedirs(os.path.dirname(os.path.abspath(args.out)), exist_ok=True)
     open(args.out, "w").write("\n".join(lines) + "\n")
     # The same results for a later --recheck.
-    json.dump({"seed": args.seed, "results": results}, open(os.path.splitext(args.out)[0] + ".json", "w"), indent=0)
+    json.dump({"seed": args.seed, "rev": subprocess.check_output(["git", "rev-parse", "HEAD"], cwd=tree, text=True).strip(),
+               "results": results}, open(os.path.splitext(args.out)[0] + ".json", "w"), indent=0)
     print("\n".join(lines[:12 + 2 * len(LAYERS)]))
 
 
