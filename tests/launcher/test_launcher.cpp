@@ -8,6 +8,7 @@
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
 #include "launcher/frmGraphingCalc.h"
+#include "tests/screens/ScreenFixture.h"
 #include "screens/frmClasses.h"
 
 namespace {
@@ -23,8 +24,7 @@ void whileShown(GraphScreen& screen, std::function<void()> inside)
 
 TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     std::vector<int> ends;
     setProgramEndHandler([&](int code) { ends.push_back(code); });
     {
@@ -81,5 +81,4 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
         EXPECT_EQ(ends, (std::vector<int>{0, 0}));
     }
     setProgramEndHandler(nullptr);
-    setDialogScript(nullptr);
 }

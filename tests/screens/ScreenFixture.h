@@ -46,6 +46,17 @@ inline void type(std::initializer_list<QLineEdit*> boxes, const char* joined)
         box->setText(parts.value(i++));
 }
 
+// Scripted dialogs for one test, put back however the test ends (a failed ASSERT included), with the
+// coefficients as a fresh run has them.
+struct ScriptedDialogs : DialogScript {
+    ScriptedDialogs()
+    {
+        setDialogScript(this);
+        FuncGlobals::Coefficients = {};
+    }
+    ~ScriptedDialogs() { setDialogScript(nullptr); }
+};
+
 template <class Screen>
 struct ScreenFixture : ::testing::Test {
     DialogScript script;

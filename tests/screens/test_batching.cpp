@@ -33,8 +33,7 @@ QImage pictureOf(GraphScreen& s)
 
 TEST(Batching, EachScreensHeaviestPictureIsPixelForPixelTheShapesDrawnOneByOne)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     const struct { const char* name; std::unique_ptr<GraphScreen> (*make)(); std::function<void(GraphScreen&)> act; } cases[] = {
         {"sums, seven methods at 32000", make<frmRiemann>,
          [](GraphScreen& g) {
@@ -104,5 +103,4 @@ TEST(Batching, EachScreensHeaviestPictureIsPixelForPixelTheShapesDrawnOneByOne)
     }
     EXPECT_EQ(script.errors, (std::vector<int>{rt::Overflow, rt::Overflow}));  // one for each drawing
     rt::resetRnd();
-    setDialogScript(nullptr);
 }

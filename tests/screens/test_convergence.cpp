@@ -97,8 +97,7 @@ TEST(ConvergenceOfSteps, TheReferenceOutlastsTheFourthOrderErrorsToTheLastRow)
 
 TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     selectFamily(2, {1, 0, 0, 0, 0, 0});  // y = x^2 on [0, 2]
     ConvergenceWindow window(nullptr, QStringLiteral("Convergence of the sums"),
                              [] { return Convergence::sums(0, 2, 1); });
@@ -128,5 +127,4 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
     ASSERT_TRUE(data);
     EXPECT_TRUE(data->hasImage());
     EXPECT_EQ(data->text(), said);
-    setDialogScript(nullptr);
 }

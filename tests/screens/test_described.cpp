@@ -50,9 +50,7 @@ QString described(GraphScreen& s)
 
 TEST(Copy, CtrlCCopiesTheGraphWithItsDescriptionOrAGridOrASelection)
 {
-    DialogScript script;
-    setDialogScript(&script);
-    FuncGlobals::Coefficients = {};
+    ScriptedDialogs script;
     {
         Shown shown(std::make_unique<frmClasses>());
         GraphScreen& s = *shown.screen;
@@ -75,7 +73,6 @@ TEST(Copy, CtrlCCopiesTheGraphWithItsDescriptionOrAGridOrASelection)
         QTest::keyClick(s.txtA, Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("1"));
     }
-    setDialogScript(nullptr);
 }
 
 // The sums screen keeps its own caption but shares the selected family with every screen: after the
@@ -83,9 +80,7 @@ TEST(Copy, CtrlCCopiesTheGraphWithItsDescriptionOrAGridOrASelection)
 // y = 1(0x - 0)^2 + 0 = 0 and every area is 0. The description says which family is really used.
 TEST(Described, TheSumsUseTheSharedFamilyAndTheDescriptionSaysWhich)
 {
-    DialogScript script;
-    setDialogScript(&script);
-    FuncGlobals::Coefficients = {};
+    ScriptedDialogs script;
     Shown sums(std::make_unique<frmRiemann>());
     auto& s = static_cast<frmRiemann&>(*sums.screen);
     frmClasses grapher;  // loaded after the sums screen: the shared family is now 1
@@ -98,16 +93,13 @@ TEST(Described, TheSumsUseTheSharedFamilyAndTheDescriptionSaysWhich)
     EXPECT_EQ(s.lblLeftE->text(), QStringLiteral("=  0"));
     EXPECT_TRUE(described(s).contains(QStringLiteral("Area under y = A * (Bx - C)^2 + D with A = 1, B = 0")))
         << str(described(s));
-    setDialogScript(nullptr);
 }
 
 // Every "&" of a caption is the Alt shortcut of its button, option or check box, on every window;
 // stepper labels step from the keyboard as from the mouse.
 TEST(Keyboard, MnemonicsAndSteppers)
 {
-    DialogScript script;
-    setDialogScript(&script);
-    FuncGlobals::Coefficients = {};
+    ScriptedDialogs script;
     frmGraphingCalc launcher;
     std::vector<QWidget*> windows{&launcher};
     for (QWidget* w : std::initializer_list<QWidget*>{new frmClasses, new frmRiemann, new frmNewton, new frmFlowField,
@@ -141,5 +133,4 @@ TEST(Keyboard, MnemonicsAndSteppers)
     EXPECT_EQ(FuncGlobals::FunctionId, 15);
     for (std::size_t i = 1; i < windows.size(); ++i)
         delete windows[i];
-    setDialogScript(nullptr);
 }

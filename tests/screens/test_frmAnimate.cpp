@@ -80,8 +80,7 @@ TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurveAndTheStatusFollowsTheT
 // The frame counter is 16-bit: after frame 32767 has been drawn, stepping it raises Overflow.
 TEST(AnimateCounter, StepPastTheLastSixteenBitFrameOverflowsAfterDrawingIt)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     {
         CountingAnimate screen;
         screen.Form_Activate();
@@ -91,5 +90,4 @@ TEST(AnimateCounter, StepPastTheLastSixteenBitFrameOverflowsAfterDrawingIt)
         EXPECT_EQ(std::tuple(screen.plots, screen.vscStep->value(), screen.lblSlide->text()),
                   std::tuple(32768L, 32767, QStringLiteral("32767")));
     }
-    setDialogScript(nullptr);
 }

@@ -55,8 +55,7 @@ struct Projector : ScreenFixture<frmMVT> {
 
 TEST(FormGrowth, MenuBarIndicatorsAndScrollBarsGrowWithTheForm)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     frmRiemann sums;
     frmMVT mvt;
     QStyle* style = sums.style();
@@ -74,13 +73,11 @@ TEST(FormGrowth, MenuBarIndicatorsAndScrollBarsGrowWithTheForm)
     const char* names[] = {"menu bar height", "check-box indicator", "scroll-bar thickness", "scroll-bar extent"};
     for (int i = 0; i < 4; ++i)
         EXPECT_NEAR(twice[i] / normal[i], 2, 0.3) << names[i] << ": " << normal[i] << " -> " << twice[i];
-    setDialogScript(nullptr);
 }
 
 TEST(FormGrowth, ScrollBarThumbsAndIndicatorsStandOutThreeToOne)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     frmMVT mvt;
     mvt.show();
     mvt.HscMVT->setValue(5000);
@@ -110,7 +107,6 @@ TEST(FormGrowth, ScrollBarThumbsAndIndicatorsStandOutThreeToOne)
             if (luminance(box.pixel(x, y)) < luminance(darkest))
                 darkest = box.pixel(x, y);
     EXPECT_GE(contrast(darkest, 0xFFFFFFFF), 3.0);
-    setDialogScript(nullptr);
 }
 
 TEST_F(Projector, ChangesHowShapesAreDrawnNeverWhere)
