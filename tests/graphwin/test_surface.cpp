@@ -145,6 +145,16 @@ TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
     EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000)));
 }
 
+TEST(DrawingSurface, TheMarkersCaptionIsWrittenOverThePicture)
+{
+    DrawingSurface s(3000, 3000);
+    const QRectF area(0, 0, 3000, 3000);
+    s.setMarker(QPointF(1500, 1500), QString(), area);
+    const QImage bare = s.grab().toImage();
+    s.setMarker(QPointF(1500, 1500), QStringLiteral("Root at x = 2, y = 0"), area);
+    EXPECT_NE(s.grab().toImage(), bare);
+}
+
 TEST(DrawWidthScope, PutsBackTheWidthThereWasHoweverTheScopeEnds)
 {
     DrawingSurface s(3000, 3000);

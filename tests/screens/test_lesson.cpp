@@ -151,6 +151,22 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
     EXPECT_TRUE(script.errors.empty());
 }
 
+TEST_F(Lessons, EachToolsEntryRunsTheCommandOfTheLessonsOwner)
+{
+    std::string ran;
+    GraphScreen::setLessonCommands({.add = [&](GraphScreen&) { ran += 'a'; }, .save = [&] { ran += 's'; },
+                                    .open = [&] { ran += 'o'; }, .next = [&] { ran += 'n'; },
+                                    .previous = [&] { ran += 'p'; }, .place = [] { return QStringLiteral("Step 2 of 3"); }});
+    frmClasses screen;
+    for (QAction* a : {screen.mnuAddStep, screen.mnuSaveLesson, screen.mnuOpenLesson, screen.mnuNextStep, screen.mnuPreviousStep})
+        a->trigger();
+    EXPECT_EQ(ran, "asonp");
+    EXPECT_EQ(screen.lblLessonPlace->text(), QStringLiteral("Step 2 of 3"));
+    GraphScreen::setLessonCommands({});
+    screen.mnuOpenLesson->trigger();  // without an owner, nothing runs
+    EXPECT_EQ(ran, "asonp");
+}
+
 TEST_F(Lessons, BrokenFilesAreRefusedWithWhatAndWhere)
 {
     const auto step = [](const char* body) {

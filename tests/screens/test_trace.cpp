@@ -140,6 +140,7 @@ TEST_F(TraceGrapher, UpAndDownChooseAmongTheCurvesDrawnAndAClearForgetsThem)
     screen->cmdPlotto->click();  // drawn again after the clear: the walk goes on step by step
     const double x1 = coordinates(press(Qt::Key_Right)).first, x2 = coordinates(press(Qt::Key_Right)).first;
     EXPECT_GT(x2, x1);
+    EXPECT_TRUE(press(Qt::Key_Up).startsWith(QStringLiteral("Curve 1 of 1"))) << "the curves before the clear are gone";
     EXPECT_FALSE(screen->exploreKey(Qt::Key_A, Qt::NoModifier)) << "other keys are not the walk's";
 }
 
