@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The control wrappers: a person's change reaches the handler through the guarded entry point; the
 // program's own write calls it directly and lets a run-time error travel on.
+#include <QHeaderView>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormArea.h"
+#include "graphwin/FormStyle.h"
 #include "graphwin/FormTable.h"
 #include "tests/TestSupport.h"
 
@@ -142,4 +144,18 @@ TEST(FullScreenKey, ReturnsToTheStateBefore)
         toggleFullScreen(&window);
         EXPECT_EQ(window.windowState(), c.before) << c.name;
     }
+}
+
+// A grid's columns and rows, and a font in pixels, grow with the form's zoom.
+TEST(Zoomed, GridColumnsRowsAndPixelFonts)
+{
+    QWidget window;
+    Grid grid(&window, 3, 2);
+    grid.setColumnWidthTwips(1, 1500);
+    grid.applyZoom(2);
+    EXPECT_EQ(std::pair(grid.columnWidth(1), grid.verticalHeader()->defaultSectionSize()), std::pair(200, 34));
+    FormStyle::setWindowZoom(&window, 1.5);
+    QFont pixels;
+    pixels.setPixelSize(10);
+    EXPECT_EQ(FormStyle::zoomed(pixels, &grid).pixelSize(), 15);
 }
