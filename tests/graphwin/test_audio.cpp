@@ -145,6 +145,7 @@ TEST(AudioTrace, CoordinatesSaidToThePrecisionOfAPixel)
         {7, 0, "7"},
         {std::nan(""), 0.05, "undefined"},
         {3e12, 1, "3e+12"},
+        {5e-10, 1e-12, "5e-10"},
     };
     for (const Case& c : cases)
         EXPECT_EQ(audio::spoken(c.value, c.resolution), c.said) << c.value << " at " << c.resolution;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The control wrappers: a person's change reaches the handler through the guarded entry point; the
 // program's own write calls it directly and lets a run-time error travel on.
+#include <QCheckBox>
 #include <QHeaderView>
+#include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -158,4 +160,16 @@ TEST(Zoomed, GridColumnsRowsAndPixelFonts)
     QFont pixels;
     pixels.setPixelSize(10);
     EXPECT_EQ(FormStyle::zoomed(pixels, &grid).pixelSize(), 15);
+}
+
+TEST(FormStyleMarks, ATickedBoxAndAChosenOptionShowIt)
+{
+    installFormStyle();
+    QCheckBox box(QStringLiteral("Left"));
+    QRadioButton option(QStringLiteral("Euler"));
+    for (QAbstractButton* b : std::initializer_list<QAbstractButton*>{&box, &option}) {
+        const QImage off = b->grab().toImage();
+        b->setChecked(true);
+        EXPECT_NE(b->grab().toImage(), off) << b->metaObject()->className();
+    }
 }
