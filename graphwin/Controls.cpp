@@ -311,18 +311,6 @@ CheckBox::CheckBox(QWidget* parent, const QString& caption) : QCheckBox(caption,
     });
 }
 
-void CheckBox::setValue(bool checked)
-{
-    if (checked == isChecked())
-        return;
-    {
-        QSignalBlocker block(this);
-        setChecked(checked);
-    }
-    if (Click)
-        Click();
-}
-
 OptionButton::OptionButton(QWidget* parent, const QString& caption) : QRadioButton(caption, parent)
 {
     connect(this, &QAbstractButton::toggled, this, [this](bool on) {

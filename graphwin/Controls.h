@@ -152,7 +152,6 @@ class CheckBox : public QCheckBox {
 public:
     CheckBox(QWidget* parent, const QString& caption);
     std::function<void()> Click;  // on every change of the value
-    void setValue(bool checked);
 };
 
 class OptionButton : public QRadioButton {

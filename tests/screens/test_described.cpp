@@ -131,6 +131,9 @@ TEST(Keyboard, MnemonicsAndSteppers)
     }
     QTest::keyClick(grapher.lblFunc, Qt::Key_Left);
     EXPECT_EQ(FuncGlobals::FunctionId, 15);
-    for (std::size_t i = 1; i < windows.size(); ++i)
+    for (std::size_t i = 1; i < windows.size(); ++i) {  // each screen's File menu: About, a separator, Exit
+        auto* g = static_cast<GraphScreen*>(windows[i]);
+        EXPECT_EQ(g->mnuFile->menu()->actions(), (QList<QAction*>{g->mnuAbout, g->sep1, g->mnuExit}));
         delete windows[i];
+    }
 }
