@@ -73,8 +73,9 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
     EXPECT_TRUE(ran.empty());
     EXPECT_EQ(std::tuple(first->parentWidget(), second->geometry(), second->isChecked(), first->isChecked()),
               std::tuple(static_cast<QWidget*>(frame), QRect(8, 40, 60, 20), true, false));
-    EXPECT_EQ(std::tuple(bar->orientation(), bar->Min(), bar->Max(), bar->value(), bar->singleStep(), bar->pageStep()),
-              std::tuple(Qt::Vertical, 5, 1, 4, 2, 3));
+    EXPECT_EQ(std::tuple(bar->orientation(), bar->Min(), bar->Max(), bar->value(), bar->singleStep(), bar->pageStep(),
+                         bar->invertedAppearance()),
+              std::tuple(Qt::Vertical, 5, 1, 4, 2, 3, true));  // drawn as it runs: backwards
     EXPECT_TRUE(bar->invertedAppearance() && bar->invertedControls()) << "a maximum below the minimum runs backwards";
     EXPECT_EQ(
         std::tuple(label->alignment(), label->accessibleName(), frame->toolTip(), box->text()),
