@@ -127,6 +127,7 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
     EXPECT_FALSE(audio::nearestFeature({}, 0));
     const double gap = std::nan("");
     EXPECT_FALSE(audio::nearestFeature({{1, -1}, {2, gap}, {3, 1}}, 0)) << "no root across a gap";
+    EXPECT_FALSE(audio::nearestFeature({{1, 1}, {2, 2}, {3, gap}, {4, 3}, {5, 4}, {6, 5}}, 4)) << "no turn across a gap";
 }
 
 TEST(AudioTrace, CoordinatesSaidToThePrecisionOfAPixel)
