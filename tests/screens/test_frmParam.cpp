@@ -47,6 +47,15 @@ TEST_F(Param, StepLimitAndTheSlidersLargeChange)
     }
 }
 
+TEST_F(Param, TheSquaresRightEdgeIsOutside)
+{
+    screen->mnuXFunc_Click(1);  // x = At^2 + Bt + C = 0 in a window ending at 0: every point on the edge
+    type({screen->txtA, screen->txtB, screen->txtC, screen->txtXmax}, "0|0|0|0");
+    screen->cmdPlotto_Click();
+    const auto onEdge = std::count_if(ops().begin(), ops().end(), [](const DrawOp& op) { return op.kind == DrawOp::PSet && op.x1 == 8800; });
+    EXPECT_EQ(onEdge, 1) << "only the first point, which is drawn wherever it is";
+}
+
 TEST_F(Param, SliderWritesTheCutTIntoTheTraceBoxAndTheTraceMarksThePoint)
 {
     screen->HscT->setValue(500);
