@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QChartView>
+#include <QLineSeries>
 #include <QClipboard>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTableWidget>
@@ -112,6 +114,20 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
     }
     // The columns hold each method's value, error and ratio; the plot says its slopes in words.
     EXPECT_EQ(window.grid()->columnCount(), 6);
+    EXPECT_EQ(window.grid()->horizontalHeaderItem(0)->text().toStdString(), Convergence::sums(0, 2, 1).cells()[0][0]);
+    // Every series on both axes; the reference slopes -1, -2 and -4 told apart by their dashes.
+    std::vector<Qt::PenStyle> references;
+    for (QAbstractSeries* s : window.plot()->chart()->series()) {
+        EXPECT_EQ(s->attachedAxes().size(), 2) << s->name().toStdString();
+        if (s->name().startsWith(QStringLiteral("slope -")))
+            references.push_back(static_cast<QLineSeries*>(s)->pen().style());
+    }
+    EXPECT_EQ(references, (std::vector<Qt::PenStyle>{Qt::DashLine, Qt::DashDotLine, Qt::DotLine}));
+    frmRiemann sums;  // on its screen the table is one key away
+    const auto entries = sums.menuBar->findChildren<QAction*>();
+    EXPECT_TRUE(std::any_of(entries.begin(), entries.end(), [](QAction* a) {
+        return a->text() == QStringLiteral("Convergence &Table...") && a->shortcut() == QKeySequence(Qt::CTRL | Qt::Key_T);
+    }));
     EXPECT_TRUE(window.grid()->item(3, 3)->text().contains(QStringLiteral("ratio 4.00")))
         << window.grid()->item(3, 3)->text().toStdString();
     const QString said = window.plotDescription();

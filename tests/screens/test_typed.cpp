@@ -111,7 +111,8 @@ TEST_F(TypedSums, OneOverXMeetsItsPoleInWords)
     EXPECT_TRUE(script.errors.empty());
     const Convergence::Table t = Convergence::sums(-1, 1, 8);
     EXPECT_FALSE(t.exact);
-    EXPECT_NE(t.exactSource.find("the integral does not exist"), std::string::npos) << t.exactSource;
+    EXPECT_NE(t.exactSource.find("(for example at x = 0): the integral does not exist"), std::string::npos)
+        << t.exactSource;
     EXPECT_EQ(t.values[3][0].note, "undefined at x = 0");  // n = 8, left
 }
 
@@ -199,6 +200,8 @@ TEST_F(TypedCurve, TheCycloid)
     screen->txtT->setText(QStringLiteral("-1"));
     EXPECT_EQ(screen->lblXY->text(), QStringLiteral("(undefined at t = -1)"));
     EXPECT_TRUE(script.errors.empty());
+    screen.reset();
+    EXPECT_EQ(FuncGlobals::TypedParametric, nullptr) << "a closed screen leaves no curve of its own in use";
 }
 
 TEST_F(TypedMVT, ParabolaOnZeroToTwoHasCAtOne)
