@@ -32,6 +32,10 @@ TEST_F(MVT, SecantOfXSquaredAndTheErrorTextOfEqualEnds)
     screen->cmdApplyMVT_Click();
     EXPECT_EQ(screen->lblSlope1->text(), QStringLiteral("ERROR!  0/0"));
     EXPECT_EQ(std::pair(screen->SecantSlope, count(DrawOp::Circle)), std::pair(2.0, 0L));  // slope unchanged
+    screen->mnuFunc_Click(9);  // the secant is dotted in the family's colour, 9 mod 7
+    interval("0|2");
+    screen->cmdApplyMVT_Click();
+    EXPECT_EQ(ops().back().color, colour(2));
 }
 
 TEST_F(MVT, FindCListsTheMatchesAndMarksThemThick)

@@ -86,6 +86,8 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
              f.chkBiDirect->setChecked(true);
              type({f.txtDelta}, "0.25");
          }},
+        {"slope-field", [] { return std::make_unique<frmFlowField>(); },  // the families, by number
+         [](GraphScreen& s) { as<frmFlowField>(s).mnuDy_Click(3), as<frmFlowField>(s).mnuDx_Click(5); }},
         {"tangent", [] { return std::make_unique<frmTangent>(); },
          [](GraphScreen& s) {
              auto& t = as<frmTangent>(s);
