@@ -42,7 +42,7 @@ OPERATORS = [
 ]
 
 TEST_PROGRAMS = ["runtime_tests", "funclib_tests", "graphwin_tests", "screens_tests", "launcher_tests",
-                 "robustness_tests"]
+                 "robustness_tests", "plotto"]  # the program itself: its command line is tested
 
 STATEMENT = re.compile(r"^\s+[A-Za-z_][\w:>.\-\[\]]*(\(|\s*[+\-*/]?=\s)[^;{}]*;\s*$")
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The launcher: opening each screen modally from its button and its menu entry, finding it as it was
 // left, the one report of a run-time error inside a screen, and Quit.
+#include <QLabel>
+#include <QLayout>
 #include <QMenu>
+#include <QResizeEvent>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -48,6 +51,14 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
             EXPECT_EQ(shown, 2) << screen->windowTitle().toStdString();
         }
         EXPECT_EQ(l.mnuSelect->menu()->actions().size(), 8);
+        EXPECT_EQ(l.mnuFile->menu()->actions(), (QList<QAction*>{l.mnuAbout, l.Sep1, l.mnuExit}));
+        const auto* heading = l.findChild<QLabel*>();  // above the buttons, in the window's layout
+        EXPECT_TRUE(heading && heading->text() == QStringLiteral("Choose a demonstration") && l.layout()->indexOf(heading) >= 0);
+        l.resize(l.size() * 2);  // everything grows with the window: fonts, menus and buttons
+        QResizeEvent grown(l.size(), l.size() / 2);
+        QCoreApplication::sendEvent(&l, &grown);
+        EXPECT_EQ(std::tuple(l.font().pointSizeF(), l.mnuSelect->menu()->font().pointSizeF(), l.cmdSums->minimumWidth()),
+                  std::tuple(22.0, 22.0, 480));
         QWidget* tab = l.cmdFuncClasses;  // Tab runs through the buttons in teaching order, Quit last
         for (QPushButton* next :
              {l.cmdAnimate, l.cmdSums, l.cmdNewton, l.cmdSlopeField, l.cmdTangent, l.cmdMVT, l.cmdParam, l.cmdExit}) {

@@ -83,6 +83,7 @@ TEST(ConvergenceOfSteps, TheReferenceOutlastsTheFourthOrderErrorsToTheLastRow)
     FuncGlobals::Coefficients = {-1, 0, 0, 0, 1, 0};
     const Table t = Convergence::steps(4, 3, 4.8, 0.1, 6, {});
     ASSERT_TRUE(t.exact);
+    EXPECT_TRUE(Convergence::steps(4, 3, 4.8, 0.8, 0, {}).values[0][0].value) << "a single step has its value";
     EXPECT_NEAR(*t.exact, 1.4, 1e-15);  // sqrt(25 - 4.8^2), on the circle of radius 5
     EXPECT_LT(t.exactAccuracy, 2e-15);
     const auto cells = t.cells();
