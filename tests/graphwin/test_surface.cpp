@@ -143,6 +143,8 @@ TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
     batched.setZoom(2);
     one.setZoom(2);
     EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000)));
+    batched.Cls();
+    EXPECT_EQ(batched.keptOperations(), 0u) << "a clear keeps nothing";
 }
 
 TEST(DrawingSurface, TheMarkersCaptionIsWrittenOverThePicture)

@@ -97,7 +97,7 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
         {"mvt", [] { return std::make_unique<frmMVT>(); },
          [](GraphScreen& s) {
              auto& m = as<frmMVT>(s);
-             s.mnuFunc_Click(2);
+             s.mnuFunc_Click(1);  // the first family, which a scan from 2 would miss
              type({m.txtX1, m.txtX2}, "0|2");
              m.HscMVT->setValue(2500);
          }},
@@ -123,6 +123,8 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
         expected.push_back(
             QJsonObject{{QStringLiteral("function"), step.function}, {QStringLiteral("controls"), step.controls}});
     }
+    const auto mvt = std::find_if(saved.steps.begin(), saved.steps.end(), [](auto& s) { return s.screen == "mvt"; });
+    EXPECT_EQ(mvt->function.value(QStringLiteral("family")).toInt(), 1) << "the first family is saved by number";
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("every screen.plotto"));
     ASSERT_EQ(lesson::save(saved, path), QString());
