@@ -215,8 +215,9 @@ def main():
             lines = [n for n, line in enumerate(open(os.path.join(tree, rel), encoding="utf-8").read().split("\n"), 1)
                      if line == text]
             same = [c for c in current if c[1] == rel and c[3] == op and c[4] == new and c[2] in lines]
-            if not same:
-                sys.exit("%s:%d (%s) is no longer in the code: run a fresh sample" % (rel, number, op))
+            if not same:  # the line went with the code around it: no longer a mutant of this code
+                results.append((layer, rel, number, op, new, "gone", []))
+                continue
             todo[layer].append(min(same, key=lambda c: abs(c[2] - number)))
         quota = {layer: len(todo[layer]) for layer in LAYERS}
         by_layer = todo
@@ -255,6 +256,7 @@ def main():
              "survivors run again" % os.path.basename(args.survivors) if args.survivors else ""), "",
              "| layer / file | mutants | killed | survived | score |", "|---|---:|---:|---:|---:|"]
     def row(name, rs):
+        rs = [r for r in rs if r[5] != "gone"]  # a mutant of code that no longer exists counts for nothing
         k = sum(1 for r in rs if r[5] == "killed")
         return "| %s | %d | %d | %d | %.0f%% |" % (name, len(rs), k, len(rs) - k, 100.0 * k / max(1, len(rs)))
     for layer in LAYERS:
@@ -265,6 +267,10 @@ def main():
     lines.append(row("**total**", results))
     lines += ["", "## Survivors", ""]
     lines += ["- `%s:%d` %s: `%s`" % (r[1], r[2], r[3], r[4].strip()) for r in results if r[5] == "survived"]
+    gone = [r for r in results if r[5] == "gone"]
+    if gone:
+        lines += ["", "## Gone from the code (left out of the counts)", ""]
+        lines += ["- `%s:%d` %s: `%s`" % (r[1], r[2], r[3], r[4].strip()) for r in gone]
     if args.kill_map:
         lines += ["", "## Kill map", "", "The test cases that fail for each killed mutant; a mutant with one killer "
                   "is caught by that case alone.", ""]
