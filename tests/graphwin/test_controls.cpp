@@ -76,6 +76,8 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
     EXPECT_EQ(std::tuple(bar->orientation(), bar->Min(), bar->Max(), bar->value(), bar->singleStep(), bar->pageStep(),
                          bar->invertedAppearance()),
               std::tuple(Qt::Vertical, 5, 1, 4, 2, 3, true));  // drawn as it runs: backwards
+    bar->setRange(0, 50);  // a range set through Qt's own API becomes Min and Max as they are
+    EXPECT_EQ(std::pair(bar->Min(), bar->Max()), std::pair(0, 50));
     EXPECT_TRUE(bar->invertedAppearance() && bar->invertedControls()) << "a maximum below the minimum runs backwards";
     EXPECT_EQ(
         std::tuple(label->alignment(), label->accessibleName(), frame->toolTip(), box->text()),

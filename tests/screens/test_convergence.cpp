@@ -124,11 +124,13 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
             references.push_back(static_cast<QLineSeries*>(s)->pen().style());
     }
     EXPECT_EQ(references, (std::vector<Qt::PenStyle>{Qt::DashLine, Qt::DashDotLine, Qt::DotLine}));
-    frmRiemann sums;  // on its screen the table is one key away
+    frmRiemann sums;  // on its screen the table is one key away, and its entry shows it
     const auto entries = sums.menuBar->findChildren<QAction*>();
-    EXPECT_TRUE(std::any_of(entries.begin(), entries.end(), [](QAction* a) {
-        return a->text() == QStringLiteral("Convergence &Table...") && a->shortcut() == QKeySequence(Qt::CTRL | Qt::Key_T);
-    }));
+    const auto open = std::find_if(entries.begin(), entries.end(), [](QAction* a) { return a->text() == "Convergence &Table..."; });
+    ASSERT_NE(open, entries.end());
+    EXPECT_EQ((*open)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_T));
+    (*open)->trigger();
+    EXPECT_TRUE(sums.findChild<ConvergenceWindow*>()->isVisible());
     EXPECT_TRUE(window.grid()->item(3, 3)->text().contains(QStringLiteral("ratio 4.00")))
         << window.grid()->item(3, 3)->text().toStdString();
     const QString said = window.plotDescription();
