@@ -27,7 +27,9 @@ struct Newton : ScreenFixture<frmNewton> {
 TEST_F(Newton, ASequenceOnXSquaredMinusFourFromOne)
 {
     EXPECT_EQ(screen->grdGuess->tabSeparated(), QStringLiteral("Guess #\tValue\n"));  // no guess yet: the heading
-    EXPECT_EQ(screen->grdGuess->columnWidth(0), 670 / 15);  // the numbers' column, 670 twips
+    screen->surface->setZoom(2);  // both columns grow with the form, from their widths in twips
+    EXPECT_EQ(std::pair(screen->grdGuess->columnWidth(0), screen->grdGuess->columnWidth(1)), std::pair(670 * 2 / 15, 200));
+    screen->surface->setZoom(1);
     screen->txtGuess->setText(QStringLiteral("1"));
     screen->cmdApply->click();
     EXPECT_EQ(screen->txtGuess->text(), QStringLiteral("2.5"));
