@@ -266,7 +266,10 @@ def main():
             lines.append(row(f, [r for r in rs if r[1] == f]))
     lines.append(row("**total**", results))
     lines += ["", "## Survivors", ""]
-    lines += ["- `%s:%d` %s: `%s`" % (r[1], r[2], r[3], r[4].strip()) for r in results if r[5] == "survived"]
+    def was(r):  # the line as the code has it (a removed statement shows only ";")
+        return open(os.path.join(tree, r[1]), encoding="utf-8").read().split("\n")[r[2] - 1].strip()
+    lines += ["- `%s:%d` %s: `%s` (was `%s`)" % (r[1], r[2], r[3], r[4].strip(), was(r))
+              for r in results if r[5] == "survived"]
     gone = [r for r in results if r[5] == "gone"]
     if gone:
         lines += ["", "## Gone from the code (left out of the counts)", ""]
