@@ -188,37 +188,27 @@ def main():
 
     results = []  # (layer, file, line, op, new, outcome, failing cases)
     started = time.time()
-    if args.recheck:
-        earlier = json.load(open(args.recheck))
-        args.seed = earlier["seed"]
-        todo = {layer: [] for layer in LAYERS}
-        for layer, rel, number, op, new, verdict, _ in reversed(earlier["results"]):
-            if verdict == "survived":
-                results.append((layer, rel, number, op, new, verdict, []))
-            else:
-                todo[layer].append((layer, rel, number, op, new))
-        quota = {layer: len(todo[layer]) for layer in LAYERS}
-        known = set(candidates(tree))
-        by_layer = todo
-    elif args.survivors:
-        earlier = json.load(open(args.survivors))
+    if args.recheck or args.survivors:
+        # --recheck runs the earlier run's killed mutants again, --survivors its survivors; the rest
+        # are carried over. Every mutant is found again in today's code (the line as it was at the
+        # earlier run's commit, nearest to where it was, with the same change), so that this run's
+        # results all refer to today's lines.
+        earlier = json.load(open(args.recheck or args.survivors))
         args.seed = earlier["seed"]
         current = candidates(tree)
         todo = {layer: [] for layer in LAYERS}
         for layer, rel, number, op, new, verdict, killers in reversed(earlier["results"]):
-            if verdict != "survived":
-                results.append((layer, rel, number, op, new, verdict, killers))
-                continue
-            # The line as it was, found again in today's file (nearest to where it was); the same change on it.
             was = subprocess.check_output(["git", "show", "%s:%s" % (earlier["rev"], rel)], cwd=root, text=True)
             text = was.split("\n")[number - 1]
             lines = [n for n, line in enumerate(open(os.path.join(tree, rel), encoding="utf-8").read().split("\n"), 1)
                      if line == text]
             same = [c for c in current if c[1] == rel and c[3] == op and c[4] == new and c[2] in lines]
-            if not same:  # the line went with the code around it: no longer a mutant of this code
+            if verdict == "gone" or not same:  # the line went with the code around it
                 results.append((layer, rel, number, op, new, "gone", []))
-                continue
-            todo[layer].append(min(same, key=lambda c: abs(c[2] - number)))
+            elif (verdict == "survived") != bool(args.survivors):
+                results.append((layer, rel, min(same, key=lambda c: abs(c[2] - number))[2], op, new, verdict, killers))
+            else:
+                todo[layer].append(min(same, key=lambda c: abs(c[2] - number)))
         quota = {layer: len(todo[layer]) for layer in LAYERS}
         by_layer = todo
     else:
@@ -228,8 +218,6 @@ def main():
         made = 0
         while made < quota.get(layer, 0) and pool:
             _, rel, number, op, new = pool.pop()
-            if args.recheck and (layer, rel, number, op, new) not in known:
-                sys.exit("%s:%d %s is not in this code's candidates: recheck on the code of the earlier run" % (rel, number, op))
             path = os.path.join(tree, rel)
             original = open(path, encoding="utf-8").read().split("\n")
             mutated = list(original)
