@@ -132,9 +132,9 @@ std::vector<double> ExplicitSnapshot::at(const std::vector<double>& xs) const
     std::vector<double> ys;
     ys.reserve(xs.size());
     constexpr double gap = std::numeric_limits<double>::quiet_NaN();
+    const bool slope = what_ == What::Slope;
     for (const double x : xs) {
         try {
-            const bool slope = what_ == What::Slope;
             const double y = slope ? ExplicitSlope(x) : ExplicitValue(x);
             ys.push_back(std::isfinite(y) && ExplicitDefined(x) ? y : gap);
         } catch (const rt::RuntimeError&) {

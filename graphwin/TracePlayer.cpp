@@ -37,18 +37,20 @@ QByteArray encode(const std::vector<float>& samples, int rate, const QAudioForma
 {
     const long frames = static_cast<long>(samples.size() / 2);
     const long outFrames = std::lround(static_cast<double>(frames) * format.sampleRate() / rate);
-    const int channels = format.channelCount();
-    QByteArray bytes(static_cast<qsizetype>(outFrames) * format.bytesPerFrame(), 0);
+    const int channels = format.channelCount(), frameBytes = format.bytesPerFrame(),
+              sampleBytes = format.bytesPerSample();
+    const QAudioFormat::SampleFormat type = format.sampleFormat();
+    QByteArray bytes(static_cast<qsizetype>(outFrames) * frameBytes, 0);
     for (long i = 0; i < outFrames; ++i) {
         const long j = std::min(frames - 1, static_cast<long>(static_cast<double>(i) * rate / format.sampleRate()));
         for (int c = 0; c < channels; ++c) {
             const float v = std::clamp(samples[2 * static_cast<std::size_t>(j) + (c == 0 ? 0 : 1)], -1.0f, 1.0f);
-            char* at = bytes.data() + i * format.bytesPerFrame() + c * format.bytesPerSample();
-            if (format.sampleFormat() == QAudioFormat::Float) {
+            char* at = bytes.data() + i * frameBytes + c * sampleBytes;
+            if (type == QAudioFormat::Float) {
                 *reinterpret_cast<float*>(at) = v;
-            } else if (format.sampleFormat() == QAudioFormat::Int32) {
+            } else if (type == QAudioFormat::Int32) {
                 *reinterpret_cast<std::int32_t*>(at) = static_cast<std::int32_t>(v * 2147483000.0);
-            } else if (format.sampleFormat() == QAudioFormat::UInt8) {
+            } else if (type == QAudioFormat::UInt8) {
                 *reinterpret_cast<std::uint8_t*>(at) = static_cast<std::uint8_t>(std::lround(127.5 + v * 127));
             } else {
                 *reinterpret_cast<std::int16_t*>(at) = static_cast<std::int16_t>(std::lround(v * 32000));

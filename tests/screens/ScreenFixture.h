@@ -46,6 +46,18 @@ inline void type(std::initializer_list<QLineEdit*> boxes, const char* joined)
         box->setText(parts.value(i++));
 }
 
+// A screen of the program by its own type, and a fresh one of a type, for tables of screens.
+template <class S>
+S& as(GraphScreen& s)
+{
+    return static_cast<S&>(s);
+}
+template <class S>
+std::unique_ptr<GraphScreen> make()
+{
+    return std::make_unique<S>();
+}
+
 // Scripted dialogs for one test, put back however the test ends (a failed ASSERT included), with the
 // coefficients as a fresh run has them.
 struct ScriptedDialogs : DialogScript {

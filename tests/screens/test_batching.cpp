@@ -14,16 +14,6 @@
 
 namespace {
 
-template <class S>
-std::unique_ptr<GraphScreen> make()
-{
-    return std::make_unique<S>();
-}
-template <class S>
-S& as(GraphScreen& s)
-{
-    return static_cast<S&>(s);
-}
 QImage pictureOf(GraphScreen& s)
 {
     return s.surface->picture(QRectF(0, 0, s.surface->widthTwips(), s.surface->heightTwips()));

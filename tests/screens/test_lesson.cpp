@@ -22,11 +22,9 @@
 namespace {
 
 struct Scripted : ::testing::Test {
-    DialogScript script;
-    void SetUp() override { setDialogScript(&script); }
+    ScriptedDialogs script;
     void TearDown() override
     {
-        setDialogScript(nullptr);
         FuncGlobals::TypedExplicit = nullptr;
         FuncGlobals::TypedRate = nullptr;
         FuncGlobals::TypedParametric = nullptr;
@@ -39,12 +37,6 @@ struct ScreenCase {
     std::function<std::unique_ptr<GraphScreen>()> make;
     std::function<void(GraphScreen&)> prepare;
 };
-
-template <class S>
-S& as(GraphScreen& s)
-{
-    return static_cast<S&>(s);
-}
 
 }  // namespace
 
