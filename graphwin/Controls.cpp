@@ -61,6 +61,7 @@ void TextBox::assign(const QString& text)
 }
 
 double TextBox::value() const { return rt::Val(text().toStdString()); }
+std::optional<double> TextBox::number() const { return rt::TryVal(text().toStdString()); }
 
 bool TextBox::event(QEvent* event)
 {
@@ -246,11 +247,7 @@ std::optional<QString> ScrollBar::meaning() const
 {
     if (!Spoken)
         return std::nullopt;
-    try {
-        return Spoken();
-    } catch (const rt::RuntimeError&) {
-        return std::nullopt;
-    }
+    return Spoken();
 }
 
 void ScrollBar::setValueChecked(int v)
@@ -365,6 +362,15 @@ void stepBox(TextBox* box, int Button, StepText text)
         return;
     const double v = rt::Chk(box->value() + delta);
     box->assign(text == StepText::WithStr ? rt::Str(v) : rt::CStr(v));
+}
+
+QString notNumbers(std::initializer_list<std::pair<QString, const QLineEdit*>> boxes)
+{
+    QStringList said;
+    for (const auto& [name, box] : boxes)
+        if (!rt::TryVal(box->text().toStdString()))
+            said << QStringLiteral("%1 holds %2, which is not a number.").arg(name, box->text());
+    return said.join(QLatin1Char(' '));
 }
 
 QString qStr(double v) { return QString::fromStdString(rt::Str(v)); }

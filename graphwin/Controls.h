@@ -5,6 +5,7 @@
 // changes the control with Qt's signals blocked and then calls the handler itself, directly, so that
 // a run-time error travels on to the outermost handler of the event.
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <vector>
 
@@ -42,8 +43,12 @@ public:
     // than kMaxNestedChanges: the text is then written without running Change again.
     void assign(const QString& text);
     void assign(const std::string& text) { assign(QString::fromStdString(text)); }
-    // Val of the text.
+    // Val of the text, for the classic handlers: raises Overflow for a number beyond the double range.
     double value() const;
+    // The same number for everything else the program does with a box (descriptions, copies, tables,
+    // the trace, lessons, the view): nothing where value() would raise, so that none of these can
+    // end the program with one of the classic errors.
+    std::optional<double> number() const;
     static constexpr int kMaxNestedChanges = 16;
 
 protected:
@@ -124,7 +129,8 @@ public:
     // What the bar's position means, as a screen reader should say it ("t = 1.008"); empty: the
     // position itself.
     std::function<QString()> Spoken;
-    // Spoken's text, or nothing when it is unset or the screen's boxes hold text it cannot use.
+    // Spoken's text, or nothing when it is unset. Spoken reads the screen's boxes by their number(),
+    // so that no text in them can raise an error here.
     std::optional<QString> meaning() const;
     // The program's writes. Value outside Min..Max raises Invalid property value (380); a change of
     // Min or Max that moves the value runs Change. Max may lie below Min: the bar then runs the other
@@ -171,6 +177,10 @@ void stepBox(TextBox* box, int Button, StepText text = StepText::Plain);
 // The ring drawn around a focused control the style marks too faintly: two pixels of dark blue,
 // at least 3:1 against white, grey and the stepper labels' light green.
 void paintFocusRing(QWidget* widget);
+
+// The names of the boxes among `boxes` whose text is no number the program can use, said in words
+// ("Start x holds 1e400, which is not a number."), or "" when every one is.
+QString notNumbers(std::initializer_list<std::pair<QString, const QLineEdit*>> boxes);
 
 // Numbers as label and box texts: Str, and Str without its blanks.
 QString qStr(double v);

@@ -54,17 +54,26 @@ std::size_t numberLength(std::string_view s)
 }
 
 // Converts a text already known to be a well-formed decimal number, independently of the locale
-// that the toolkit may have set. Overflow for a magnitude beyond the double range; a value too small
+// that the toolkit may have set. Nothing for a magnitude beyond the double range; a value too small
 // for a double becomes 0 or a denormal, as strtod gives it.
-double parseNumber(std::string_view number)
+std::optional<double> parseFinite(std::string_view number)
 {
     static locale_t cLocale = newlocale(LC_NUMERIC_MASK, "C", static_cast<locale_t>(nullptr));
     std::string copy(number);
     errno = 0;
     double v = strtod_l(copy.c_str(), nullptr, cLocale);
     if (errno == ERANGE && std::isinf(v))
-        raise(Overflow);
+        return std::nullopt;
     return v;
+}
+
+// The same, raising Overflow where the number is beyond the double range.
+double parseNumber(std::string_view number)
+{
+    const std::optional<double> v = parseFinite(number);
+    if (!v)
+        raise(Overflow);
+    return *v;
 }
 
 struct Digits {
@@ -141,14 +150,22 @@ std::string format(double v, int significant, bool blank, bool zeroBeforePoint)
 
 }  // namespace
 
-double Val(std::string_view text)
+std::optional<double> TryVal(std::string_view text)
 {
     std::size_t i = 0;
     while (i < text.size() && isBlank(text[i]))
         ++i;
     std::string_view rest = text.substr(i);
     std::size_t n = numberLength(rest);
-    return n == 0 ? 0.0 : parseNumber(rest.substr(0, n));
+    return n == 0 ? std::optional<double>(0.0) : parseFinite(rest.substr(0, n));
+}
+
+double Val(std::string_view text)
+{
+    const std::optional<double> v = TryVal(text);
+    if (!v)
+        raise(Overflow);
+    return *v;
 }
 
 double CDbl(std::string_view text)

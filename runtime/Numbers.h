@@ -6,6 +6,7 @@
 #include <cfloat>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,9 @@ namespace rt {
 // Lenient reading: skips leading blanks, tabs and line breaks, then reads the longest leading part
 // that forms a decimal number ("1.2.3" -> 1.2, "1e" -> 1, "abc" -> 0). Overflow for "1e999".
 double Val(std::string_view text);
+// Val's number without its error, for what the program does beyond a person's own action (a
+// description, a copy, a table): nothing where Val would raise Overflow.
+std::optional<double> TryVal(std::string_view text);
 
 // Strict reading: the whole text, blanks around it aside, must be a decimal number; anything else
 // raises Type mismatch (13). Overflow for a number beyond the double range.

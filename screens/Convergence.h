@@ -51,6 +51,8 @@ inline const std::array<const char*, 5> kSumMethods{"Left", "Right", "Midpoint",
 // each accumulated as the sums screen does, so that the row of the screen's n shows its labels'
 // digits.
 Table sums(double L, double R, std::int32_t currentN);
+// The same table with no rows, saying `why` (a boundary box that holds no usable number).
+Table sumsWithout(std::string why);
 
 inline const std::array<const char*, 3> kStepMethods{"Euler", "Runge-Kutta 2", "Runge-Kutta 4"};
 
@@ -63,5 +65,7 @@ struct Window {
 // steps h, h/2, ... (halvings + 1 rows; each step count is rounded so that the last step ends on
 // xEnd), against an adaptive seventh-order integration in extended precision.
 Table steps(double x0, double y0, double xEnd, double h, int halvings, const Window& window);
+// The same table with no rows, saying `why`.
+Table stepsWithout(std::string why);
 
 }  // namespace Convergence

@@ -83,10 +83,19 @@ frmFlowField::frmFlowField() : GraphScreen(flowConfig())
     Form_Load();
     // The step-method table starts from the last start point (the circle's (4, 3) before any).
     convergence = addConvergenceMenu(this, menuBar, QStringLiteral("Convergence of the step methods"), [this] {
-        const double x0 = rt::Val(startX_->text().toStdString()), y0 = rt::Val(startY_->text().toStdString());
-        const double xEnd = rt::Val(endX_->text().toStdString()), h = rt::Val(stepH_->text().toStdString());
-        return Convergence::steps(x0, y0, xEnd, h, 6,
-                                  {txtXmin->value(), txtXmax->value(), txtYmin->value(), txtYmax->value()});
+        const QString unusable = notNumbers({{QStringLiteral("Start x"), startX_},
+                                             {QStringLiteral("Start y"), startY_},
+                                             {QStringLiteral("End x"), endX_},
+                                             {QStringLiteral("Step h"), stepH_},
+                                             {QStringLiteral("Xmin"), txtXmin},
+                                             {QStringLiteral("Xmax"), txtXmax},
+                                             {QStringLiteral("Ymin"), txtYmin},
+                                             {QStringLiteral("Ymax"), txtYmax}});
+        if (!unusable.isEmpty())
+            return Convergence::stepsWithout(unusable.toStdString());
+        auto number = [](const QLineEdit* box) { return *rt::TryVal(box->text().toStdString()); };
+        return Convergence::steps(number(startX_), number(startY_), number(endX_), number(stepH_), 6,
+                                  {number(txtXmin), number(txtXmax), number(txtYmin), number(txtYmax)});
     });
     startX_ = convergence->addInput(QStringLiteral("Start x"), QStringLiteral("4"));
     startY_ = convergence->addInput(QStringLiteral("Start y"), QStringLiteral("3"));

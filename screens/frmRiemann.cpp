@@ -179,7 +179,10 @@ frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
     buildSumsPanel();
     Form_Load();
     convergence = addConvergenceMenu(this, menuBar, QStringLiteral("Convergence of the sums"), [this] {
-        return Convergence::sums(txtLBound->value(), txtRBound->value(), PartitionCount);
+        const QString unusable = notNumbers({{lblLBound->text(), txtLBound}, {lblRBound->text(), txtRBound}});
+        if (!unusable.isEmpty())
+            return Convergence::sumsWithout(unusable.toStdString());
+        return Convergence::sums(*txtLBound->number(), *txtRBound->number(), PartitionCount);
     });
 }
 

@@ -58,7 +58,9 @@ frmTangent::frmTangent() : GraphScreen(tangentConfig())
 
 QString frmTangent::spokenDeltaX() const
 {
-    return QStringLiteral("Delta x = ") + qTrimStr((hscDx->value() - 1000) * txtDeltaX->value() / 1000);
+    const std::optional<double> dx = txtDeltaX->number();
+    return QStringLiteral("Delta x = ") +
+           (dx ? qTrimStr((hscDx->value() - 1000) * *dx / 1000) : txtDeltaX->text() + QStringLiteral(", not a number"));
 }
 
 void frmTangent::DrawSecant(double dx)
@@ -162,9 +164,16 @@ void frmTangent::describeResults(QStringList& lines) const
                  QLatin1Char('.');
     if (typedInUse()) {
         // The exact tangent the secants turn into, from the symbolic derivative.
-        const double x = txtX->value(), y = FuncGlobals::ExplicitValue(x), m = FuncGlobals::ExplicitSlope(x);
-        lines << (std::isnan(m) ? QStringLiteral("The tangent at x = %1 has no slope there.").arg(qTrimStr(x))
-                                : QStringLiteral("The exact tangent at x = %1: y = %2x + %3.")
-                                      .arg(qTrimStr(x), qTrimStr(m), qTrimStr(y - m * x)));
+        const std::optional<double> at = txtX->number();
+        if (!at) {
+            lines << QStringLiteral("No exact tangent: x = %1 is not a number.").arg(txtX->text());
+            return;
+        }
+        const double x = *at, y = FuncGlobals::ExplicitValue(x), m = FuncGlobals::ExplicitSlope(x);
+        const double b = y - m * x;
+        lines << (std::isnan(m) || !std::isfinite(b)
+                      ? QStringLiteral("The tangent at x = %1 has no slope there.").arg(qTrimStr(x))
+                      : QStringLiteral("The exact tangent at x = %1: y = %2x + %3.")
+                            .arg(qTrimStr(x), qTrimStr(m), qTrimStr(b)));
     }
 }
