@@ -63,6 +63,7 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
     setSizeGripEnabled(false);
     formArea_ = new FormArea(this);
     surface = new DrawingSurface(config_.surfaceWidth, config_.surfaceHeight, formArea_);
+    scene_ = std::make_unique<GraphScene>(*surface);
     formArea_->setForm(surface);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -241,6 +242,7 @@ void GraphScreen::buildToolsMenu()
     connect(toolsMenu_, &QMenu::aboutToShow, this,
             [this] { mnuProjector->setChecked(DrawingSurface::projectorMode()); });
     buildLessonCommands();
+    buildViewMenu();
 }
 
 void GraphScreen::setLessonCommands(LessonCommands commands)
@@ -507,6 +509,7 @@ void GraphScreen::CleanGraph()
     graph.set(xmin, xmax, ymin, ymax);
 
     drawAxes(*surface, graph, {txtXmin, txtXmax, txtYmin, txtYmax});
+    scene_->restart();
 }
 
 void GraphScreen::plotFunction() { plotExplicit(FuncGlobals::ExplicitSnapshot::What::Value, describeFamily()); }
@@ -514,7 +517,18 @@ void GraphScreen::plotFunction() { plotExplicit(FuncGlobals::ExplicitSnapshot::W
 void GraphScreen::plotExplicit(FuncGlobals::ExplicitSnapshot::What what, const QString& name)
 {
     noteDrawn(name + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
-    noteTraced(explicitCurve(name, what));
+    const bool typed = typedInUse();
+    keepDrawing(
+        name,
+        [this, what, name, typed, function = typed_] {
+            noteTraced(explicitCurve(name, what, function));
+            drawExplicit(what, typed);
+        },
+        typed_);
+}
+
+void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool typed)
+{
     const auto evaluate =
         what == FuncGlobals::ExplicitSnapshot::What::Value ? FuncGlobals::ExplicitValue : FuncGlobals::ExplicitSlope;
     const auto first = static_cast<std::int16_t>(graph.firstColumn());
@@ -522,17 +536,15 @@ void GraphScreen::plotExplicit(FuncGlobals::ExplicitSnapshot::What what, const Q
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
-    if (typedInUse()) {
+    if (typed) {
         // A typed function leaves a gap where it is undefined (NaN) or beyond what the window can map.
-        typedGuard(
-            [&] {
-                rt::For16(first, last, 1, [&](std::int16_t c) {
-                    const double ty = graph.plainRow(evaluate(graph.worldX(c)));
-                    if (GraphWindow::rowInside(ty))
-                        points.point(c, ty);
-                });
-            },
-            [](const rt::RuntimeError&) {});
+        try {
+            rt::For16(first, last, 1, [&](std::int16_t c) {
+                const double ty = graph.plainRow(evaluate(graph.worldX(c)));
+                if (GraphWindow::rowInside(ty))
+                    points.point(c, ty);
+            });
+        } catch (const rt::RuntimeError&) { }
         return;
     }
     rt::For16(first, last, 1, [&](std::int16_t c) {

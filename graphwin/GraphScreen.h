@@ -26,6 +26,8 @@
 #include "graphwin/Controls.h"
 #include "graphwin/DrawingSurface.h"
 #include "graphwin/FormTable.h"
+#include "graphwin/GraphScene.h"
+#include "graphwin/GraphView.h"
 #include "graphwin/GraphWindow.h"
 #include "graphwin/TypedEntry.h"
 #include "runtime/RuntimeError.h"
@@ -33,6 +35,7 @@
 class QAction;
 class QMenu;
 class QMenuBar;
+class GraphViewer;
 
 class GraphScreen : public QDialog {
     Q_OBJECT
@@ -206,9 +209,39 @@ public:
     // window's resolution, with the description.
     void copyGraph();
 
+    // The view: the View menu, and the wheel, a drag and a box on the graph (GraphViewer). Zooms about
+    // a world point (which stays where it is on the square), pans, goes back to the window before
+    // the first zoom and through the windows shown. The limit boxes show the new window without
+    // their change handlers (a view is not a person's new limits: nothing is erased), and every
+    // drawing kept since the last clear is drawn again at it. Nothing here raises a run-time error:
+    // a window the arithmetic cannot show, or a drawing that cannot be made at it, is said in words.
+    // Each returns whether the graph now shows a new window.
+    QAction *mnuView = nullptr, *mnuViewZoomIn = nullptr, *mnuViewZoomOut = nullptr;
+    QAction *mnuViewOriginal = nullptr, *mnuViewBack = nullptr, *mnuViewForward = nullptr;
+    std::optional<view::Limits> shownWindow() const;
+    bool showWindow(const view::Limits& limits);
+    bool zoomViewAt(double x, double y, double factor);
+    bool zoomView(double factor);
+    bool panView(double dx, double dy);
+    bool originalWindow();
+    bool backWindow();
+    bool forwardWindow();
+    // What the graph says of the point under the pointer at (xTwips, yTwips): its x and y to the
+    // decimals a pixel tells apart, or the drawn curve it is near with its value there; "" outside
+    // the square.
+    QString readoutAt(double xTwips, double yTwips) const;
+    GraphViewer* viewer() const { return viewer_; }
+    // How many drawings since the last clear would be drawn again at another window, and whether
+    // that is all of them.
+    std::size_t keptDrawings() const { return scene_->size(); }
+    bool everyDrawingKept() const { return scene_->complete(); }
+
 protected:
     void showEvent(QShowEvent* event) override;
     explicit GraphScreen(Config config);
+    // Draws with `draw` now and keeps it as a step of the picture (GraphScene), to be drawn again by
+    // the same code when the view changes; `keep` holds the typed functions it uses alive.
+    void keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep = {});
 
     const Config& config() const { return config_; }
     int squareLeft() const { return config_.squareLeft; }
@@ -291,7 +324,8 @@ protected:
     // Adds a curve drawn since the last clear; it becomes the chosen one.
     void noteTraced(TracedCurve curve);
     // The explicit function in use now (its value or its slope), over the window, named `name`.
-    TracedCurve explicitCurve(const QString& name, FuncGlobals::ExplicitSnapshot::What what) const;
+    TracedCurve explicitCurve(const QString& name, FuncGlobals::ExplicitSnapshot::What what,
+                              std::shared_ptr<const FuncGlobals::TypedFunction> typed) const;
     // A curve of points as drawn (bars' heights, an integral curve, a parametric curve).
     TracedCurve drawnCurve(const QString& name, std::vector<audio::Point> points) const;
     // The window the graph is drawn in, from its mapping.
@@ -305,6 +339,18 @@ protected:
     QString describeFamily() const;
 
 private:
+    friend class GraphViewer;
+    // The explicit function's column walk (plotExplicit's drawing), for a typed function or a family.
+    void drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool typed);
+    void buildViewMenu();
+    // Shows `limits` when they can be shown; `remember` puts the window in the history.
+    bool moveView(const view::Limits& limits, bool remember);
+    // Starts the history afresh when a person's limits replaced the window it knows.
+    void followTypedLimits();
+    std::unique_ptr<GraphScene> scene_;
+    view::History viewHistory_;
+    bool viewStarted_ = false;
+    GraphViewer* viewer_ = nullptr;
     // Joins (leaves) the screens whose description is refreshed after every action.
     void joinDescriptions();
     void leaveDescriptions();

@@ -30,9 +30,10 @@ audio::Range GraphScreen::traceRange() const
     return {graph.worldLeft(), graph.worldRight(), graph.worldBottom(), graph.worldTop()};
 }
 
-GraphScreen::TracedCurve GraphScreen::explicitCurve(const QString& name, FuncGlobals::ExplicitSnapshot::What what) const
+GraphScreen::TracedCurve GraphScreen::explicitCurve(const QString& name, FuncGlobals::ExplicitSnapshot::What what,
+                                                    std::shared_ptr<const FuncGlobals::TypedFunction> typed) const
 {
-    auto kept = std::make_shared<const FuncGlobals::ExplicitSnapshot>(what, typed_);
+    auto kept = std::make_shared<const FuncGlobals::ExplicitSnapshot>(what, std::move(typed));
     TracedCurve curve;
     curve.name = name;
     curve.range = traceRange();

@@ -16,4 +16,7 @@ float Rnd()
 
 void resetRnd() { state = kStart; }
 
+std::uint32_t rndState() { return state; }
+void setRndState(std::uint32_t s) { state = s & 0xFFFFFFu; }
+
 }  // namespace rt

@@ -12,4 +12,9 @@ float Rnd();
 // Puts the generator back at its start-up state (the program never does this; tests do).
 void resetRnd();
 
+// The generator's state, and putting it back: a drawing made again at another window draws the
+// same numbers it drew the first time, and the sequence then goes on where it was.
+std::uint32_t rndState();
+void setRndState(std::uint32_t state);
+
 }  // namespace rt

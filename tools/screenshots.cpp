@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QTimer>
+#include <cmath>
 
 #include "funclib/FuncGlobals.h"
 #include "launcher/frmGraphingCalc.h"
@@ -108,6 +110,22 @@ int main(int argc, char* argv[])
     for (int v : {2000, 1500, 1250, 1100})
         tangent.hscDx->setValue(v);
     save(tangent, dir, QStringLiteral("tangent.png"));
+    tangent.hide();
+
+    // The curve zoomed ten wheel notches about (1, 1), with the readout under the pointer.
+    tangent.cmdClean_Click();
+    tangent.cmdPlotto_Click();
+    tangent.show();
+    tangent.zoomViewAt(1, 1, std::pow(1.25, 10));
+    {
+        const double perPixel = twipsPerPixel(tangent.surface);
+        const QPointF at(tangent.graph.plainColumn(1.05) / perPixel, tangent.graph.plainRow(1.05 * 1.05) / perPixel);
+        QMouseEvent move(QEvent::MouseMove, at, tangent.surface->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(tangent.surface, &move);
+    }
+    save(tangent, dir, QStringLiteral("tangent-zoomed.png"));
+    tangent.originalWindow();
     tangent.hide();
 
     // The mean value theorem for y = x^2 on [0, 2]: c = 1.

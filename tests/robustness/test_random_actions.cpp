@@ -23,12 +23,14 @@
 #include <QMenuBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormArea.h"
+#include "graphwin/GraphViewer.h"
 #include "launcher/frmGraphingCalc.h"
 #include "runtime/Random.h"
 #include "screens/Lesson.h"
@@ -286,13 +288,31 @@ struct Walk {
         }
         case Control::Surface: {
             const QPoint at(pick(w->width()), pick(w->height()));
-            const int how = pick(3);  // left, right, move
-            what += "presses or moves (" + std::to_string(how) + ") on the surface at " + std::to_string(at.x()) + "," +
-                    std::to_string(at.y());
-            if (how == 2)
+            const int how = pick(7);  // left, right, move, wheel, drag (left, right, middle)
+            const QPoint to(pick(w->width()), pick(w->height()));
+            what += "presses, moves, turns the wheel or drags (" + std::to_string(how) + ") on the surface at " +
+                    std::to_string(at.x()) + "," + std::to_string(at.y()) + " to " + std::to_string(to.x()) + "," +
+                    std::to_string(to.y());
+            if (how == 2) {
                 QTest::mouseMove(w, at);
-            else
+            } else if (how == 3) {
+                const int notches = static_cast<int>(pick(9)) - 4;
+                QWheelEvent wheel(at, w->mapToGlobal(at), QPoint(), QPoint(0, 120 * notches), Qt::NoButton,
+                                  Qt::NoModifier, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(w, &wheel);
+                if (auto* screen = qobject_cast<GraphScreen*>(w->window()))
+                    screen->viewer()->flush();
+            } else if (how >= 4) {
+                const Qt::MouseButton button = how == 4   ? Qt::LeftButton
+                                               : how == 5 ? Qt::RightButton
+                                                          : Qt::MiddleButton;
+                QTest::mousePress(w, button, Qt::NoModifier, at);
+                QTest::mouseMove(w, (at + to) / 2);
+                QTest::mouseMove(w, to);
+                QTest::mouseRelease(w, button, Qt::NoModifier, to);
+            } else {
                 QTest::mouseClick(w, how == 0 ? Qt::LeftButton : Qt::RightButton, Qt::NoModifier, at);
+            }
             break;
         }
         }

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The view of a screen's graph: the View menu, the window shown after a zoom or a pan with every
+// kept drawing made again at it, the history of windows, and the readout under the pointer.
+#include <cmath>
+
+#include <QMenuBar>
+#include <QSignalBlocker>
+
+#include "graphwin/Axes.h"
+#include "graphwin/Dialogs.h"
+#include "graphwin/GraphScreen.h"
+#include "graphwin/GraphViewer.h"
+#include "graphwin/TracePlayer.h"
+
+namespace {
+
+// A limit box written by the view: its text changes, its change handler does not run (the seed's
+// handler would erase the graph; a view keeps it).
+void showLimit(TextBox* box, double value)
+{
+    const QSignalBlocker quiet(box);
+    box->setText(QString::fromStdString(view::boxText(value)));
+    box->setCursorPosition(0);  // a long limit shows its sign and first digits
+}
+
+}  // namespace
+
+void GraphScreen::buildViewMenu()
+{
+    auto* menu = new QMenu(QStringLiteral("Vie&w"), menuBar);
+    menuBar->insertMenu(mnuTools, menu);
+    mnuView = menu->menuAction();
+    auto entry = [this, menu](const QString& caption, QList<QKeySequence> keys, std::function<bool()> run) {
+        QAction* a = menu->addAction(caption);
+        a->setShortcuts(keys);
+        a->setShortcutContext(Qt::WindowShortcut);
+        connect(a, &QAction::triggered, this, [run = std::move(run)] { guarded([&run] { run(); }); });
+        return a;
+    };
+    mnuViewZoomIn = entry(QStringLiteral("Zoom &In"),
+                          {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+                          [this] { return zoomView(2); });
+    mnuViewZoomOut =
+        entry(QStringLiteral("Zoom &Out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, [this] { return zoomView(0.5); });
+    mnuViewOriginal = entry(QStringLiteral("&Original Window"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
+                            [this] { return originalWindow(); });
+    menu->addSeparator();
+    mnuViewBack =
+        entry(QStringLiteral("&Back"), {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { return backWindow(); });
+    mnuViewForward =
+        entry(QStringLiteral("&Forward"), {QKeySequence(Qt::ALT | Qt::Key_Right)}, [this] { return forwardWindow(); });
+    viewer_ = new GraphViewer(*this);
+}
+
+std::optional<view::Limits> GraphScreen::shownWindow() const
+{
+    const auto xmin = txtXmin->number(), xmax = txtXmax->number(), ymin = txtYmin->number(), ymax = txtYmax->number();
+    if (!xmin || !xmax || !ymin || !ymax)
+        return std::nullopt;
+    return view::Limits{*xmin, *xmax, *ymin, *ymax};
+}
+
+void GraphScreen::followTypedLimits()
+{
+    const std::optional<view::Limits> now = shownWindow();
+    if (now && (!viewStarted_ || !(*now == viewHistory_.current()))) {
+        viewHistory_.reset(*now);
+        viewStarted_ = true;
+    }
+}
+
+bool GraphScreen::showWindow(const view::Limits& limits)
+{
+    followTypedLimits();
+    return moveView(limits, true);
+}
+
+bool GraphScreen::moveView(const view::Limits& wanted, bool remember)
+{
+    if (const auto why = view::refusal(wanted)) {
+        announce(QString::fromStdString(*why));
+        return false;
+    }
+    const double pixels = GraphWindow::Side / twipsPerPixel(surface);
+    const view::Limits limits = view::readable(wanted, pixels);
+    if (const auto why = view::refusal(limits)) {
+        announce(QString::fromStdString(*why));
+        return false;
+    }
+    const bool whole = scene_->complete();
+    GraphScene::Steps steps = scene_->release();
+    showLimit(txtXmin, limits.xmin);
+    showLimit(txtXmax, limits.xmax);
+    showLimit(txtYmin, limits.ymin);
+    showLimit(txtYmax, limits.ymax);
+    if (remember)
+        viewHistory_.moveTo(limits);
+    // The picture is made again at the new window: the screen's own clear (its axes and whatever it
+    // draws with them), then every kept step. The walk's curves are noted again by their steps; what
+    // was said of the drawings stays.
+    const bool described = drawnAfterClear_ == surface->clears();
+    try {
+        CleanGraph();
+    } catch (const rt::RuntimeError&) {
+        // The axes of a far window may not be drawable by the classic rules; the drawings still are.
+    }
+    if (described)
+        drawnAfterClear_ = surface->clears();
+    traced_.clear();
+    walk_.clear();
+    walkCurve_ = -1;
+    chosen_ = -1;
+    tracedAfterClear_ = surface->clears();
+    const QStringList failed = scene_->replay(std::move(steps));
+    QString said = QStringLiteral("Window: x from %1 to %2, y from %3 to %4.")
+                       .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
+    if (!failed.isEmpty())
+        said += QStringLiteral(" Not drawn at this window: ") + failed.join(QStringLiteral("; ")) + QLatin1Char('.');
+    if (!whole)
+        said += QStringLiteral(" Some drawings made before cannot be drawn again at a new window: press the "
+                               "screen's buttons to draw them here.");
+    announce(said);
+    return true;
+}
+
+bool GraphScreen::zoomViewAt(double x, double y, double factor)
+{
+    const std::optional<view::Limits> now = shownWindow();
+    if (!now) {
+        announce(QStringLiteral("The window's limits are not numbers: type them first."));
+        return false;
+    }
+    followTypedLimits();
+    return moveView(view::zoomAbout(*now, x, y, factor), true);
+}
+
+bool GraphScreen::zoomView(double factor)
+{
+    const std::optional<view::Limits> now = shownWindow();
+    if (!now)
+        return zoomViewAt(0, 0, factor);
+    return zoomViewAt((now->xmin + now->xmax) / 2, (now->ymin + now->ymax) / 2, factor);
+}
+
+bool GraphScreen::panView(double dx, double dy)
+{
+    const std::optional<view::Limits> now = shownWindow();
+    followTypedLimits();
+    return now && moveView(view::panBy(*now, dx, dy), true);
+}
+
+bool GraphScreen::originalWindow()
+{
+    followTypedLimits();
+    if (!viewStarted_)
+        return false;
+    return moveView(viewHistory_.original(), true);
+}
+
+bool GraphScreen::backWindow()
+{
+    followTypedLimits();
+    const std::optional<view::Limits> before = viewHistory_.back();
+    if (!before) {
+        announce(QStringLiteral("No window before this one."));
+        return false;
+    }
+    return moveView(*before, false);
+}
+
+bool GraphScreen::forwardWindow()
+{
+    followTypedLimits();
+    const std::optional<view::Limits> after = viewHistory_.forward();
+    if (!after) {
+        announce(QStringLiteral("No window after this one."));
+        return false;
+    }
+    return moveView(*after, false);
+}
+
+void GraphScreen::keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep)
+{
+    scene_->record(what, std::move(draw), std::move(keep));
+}
+
+QString GraphScreen::readoutAt(double xTwips, double yTwips) const
+{
+    if (!graph.strictlyInside(xTwips, yTwips) || graph.XRange == 0 || graph.YRange == 0)
+        return {};
+    const double x = graph.plainWorldX(xTwips), y = graph.plainWorldY(yTwips);
+    const double perPixel = twipsPerPixel(surface);
+    const double rx = std::fabs(graph.XRange) / GraphWindow::Side * perPixel,
+                 ry = std::fabs(graph.YRange) / GraphWindow::Side * perPixel;
+    auto said = [](double v, double resolution) { return QString::fromStdString(audio::spoken(v, resolution)); };
+    // Near a drawn curve of y = f(x), the curve's own value at the pointer's x.
+    if (sinceClear())
+        for (auto it = traced_.rbegin(); it != traced_.rend(); ++it) {
+            if (!it->f)
+                continue;
+            const double fy = it->f(x);
+            if (std::isfinite(fy) && std::fabs(graph.plainRow(fy) - yTwips) <= 8 * perPixel) {
+                QString name = it->name;
+                if (const auto with = name.indexOf(QStringLiteral(" with ")); with > 0)
+                    name.truncate(with);
+                name.remove(QStringLiteral("the typed function "));
+                return QStringLiteral("%1 at x = %2: y = %3").arg(name, said(x, rx), said(fy, ry));
+            }
+        }
+    return QStringLiteral("x = %1, y = %2").arg(said(x, rx), said(y, ry));
+}

@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The graph answers the hand: what a kept picture draws after a zoom is what the same actions draw
+// at that window, the point under the wheel stays under it, the readout names the curve it is on,
+// the history comes back to the first window, and no zoom ends the program.
+#include <cmath>
+#include <functional>
+#include <memory>
+
+#include <QAction>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "graphwin/GraphViewer.h"
+#include "screens/frmAnimate.h"
+#include "screens/frmClasses.h"
+#include "screens/frmMVT.h"
+#include "screens/frmNewton.h"
+#include "screens/frmRiemann.h"
+#include "screens/frmTangent.h"
+
+#include "ScreenFixture.h"
+
+namespace {
+
+using Act = std::function<void(GraphScreen&)>;
+
+struct Opened {
+    ScriptedDialogs script;
+    std::unique_ptr<GraphScreen> screen;
+    Opened(const std::function<std::unique_ptr<GraphScreen>()>& make, const Act& act) : screen(make())
+    {
+        screen->Form_Activate();
+        screen->surface->setRecording(true);
+        act(*screen);
+    }
+};
+
+// The limits written into the boxes as a person's typing would leave them, then the graph cleared
+// as the last of those changes clears it.
+void typeWindow(GraphScreen& s, const view::Limits& l)
+{
+    TextBox* boxes[] = {s.txtXmin, s.txtXmax, s.txtYmin, s.txtYmax};
+    const double values[] = {l.xmin, l.xmax, l.ymin, l.ymax};
+    for (int i = 0; i < 4; ++i) {
+        const QSignalBlocker quiet(boxes[i]);
+        boxes[i]->setText(QString::fromStdString(view::boxText(values[i])));
+    }
+    s.CleanGraph();
+}
+
+bool sameOps(const std::vector<DrawOp>& a, const std::vector<DrawOp>& b, std::string& first)
+{
+    for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i)
+        if (a[i].kind != b[i].kind || a[i].x1 != b[i].x1 || a[i].y1 != b[i].y1 || a[i].x2 != b[i].x2 ||
+            a[i].y2 != b[i].y2 || a[i].color != b[i].color) {
+            first = "operation " + std::to_string(i) + " differs";
+            return false;
+        }
+    first = "counts " + std::to_string(a.size()) + " and " + std::to_string(b.size());
+    return a.size() == b.size();
+}
+
+void click(QPushButton* b) { b->click(); }
+
+}  // namespace
+
+TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
+{
+    struct Case {
+        const char* name;
+        std::function<std::unique_ptr<GraphScreen>()> make;
+        Act act;
+        double x, y, factor;
+    };
+    const std::vector<Case> cases{
+        {"grapher, two families", make<frmClasses>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             s.mnuFunc_Click(5);
+             click(s.cmdPlotto);
+         },
+         1, 1, 1.25 * 1.25 * 1.25},
+        {"grapher, a typed cubic zoomed out", make<frmClasses>,
+         [](GraphScreen& s) {
+             ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")), QString());
+             click(s.cmdPlotto);
+         },
+         2, 0, 0.4},
+        {"Newton, the function and its derivative", make<frmNewton>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             as<frmNewton>(s).cmdDeriv_Click();
+         },
+         2.0946, 0, 8},
+        {"tangent, the curve", make<frmTangent>, [](GraphScreen& s) { click(s.cmdPlotto); }, 1, 1, 9.3},
+        {"sums, the curve", make<frmRiemann>, [](GraphScreen& s) { click(s.cmdPlotto); }, -1, 2, 3},
+        {"animation, the curve", make<frmAnimate>, [](GraphScreen& s) { click(s.cmdPlotto); }, 0, 0, 0.5},
+    };
+    for (const Case& c : cases) {
+        Opened zoomed(c.make, c.act);
+        ASSERT_TRUE(zoomed.screen->everyDrawingKept()) << c.name;
+        ASSERT_TRUE(zoomed.screen->zoomViewAt(c.x, c.y, c.factor)) << c.name;
+        const view::Limits shown = *zoomed.screen->shownWindow();
+
+        Opened direct(c.make, [&](GraphScreen& s) {
+            typeWindow(s, shown);
+            c.act(s);
+        });
+        std::string where;
+        EXPECT_TRUE(sameOps(zoomed.screen->surface->ops(), direct.screen->surface->ops(), where))
+            << c.name << ": " << where;
+        EXPECT_TRUE(zoomed.script.errors.empty() && direct.script.errors.empty()) << c.name;
+        // The description keeps what was drawn and gives the new window.
+        EXPECT_TRUE(
+            zoomed.screen->describe().contains(QStringLiteral("Window: x from ") + zoomed.screen->txtXmin->text()))
+            << c.name;
+    }
+}
+
+TEST(View, ThePointUnderTheWheelStaysUnderItWithinAPixel)
+{
+    Opened o(make<frmClasses>, [](GraphScreen& s) { click(s.cmdPlotto); });
+    GraphScreen& s = *o.screen;
+    const double perPixel = twipsPerPixel(s.surface);
+    for (const QPointF pixel : {QPointF(250, 120), QPointF(170, 300), QPointF(400, 30)})
+        for (int notch : {120, 120, -120, 240, -360}) {
+            const double wx = s.graph.plainWorldX(pixel.x() * perPixel), wy = s.graph.plainWorldY(pixel.y() * perPixel);
+            QWheelEvent wheel(pixel, s.surface->mapToGlobal(pixel), QPoint(), QPoint(0, notch), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(s.surface, &wheel);
+            s.viewer()->flush();
+            EXPECT_NEAR(s.graph.plainColumn(wx) / perPixel, pixel.x(), 1) << notch;
+            EXPECT_NEAR(s.graph.plainRow(wy) / perPixel, pixel.y(), 1) << notch;
+        }
+    EXPECT_TRUE(o.script.errors.empty());
+}
+
+TEST(View, TheReadoutNamesTheCurveUnderThePointerOrGivesThePoint)
+{
+    Opened o(make<frmClasses>, [](GraphScreen& s) {
+        ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")), QString());
+        click(s.cmdPlotto);
+    });
+    GraphScreen& s = *o.screen;
+    ASSERT_TRUE(s.showWindow({1.9, 2.3, -1, 1}));
+    const double x = 2.0946;
+    const double column = s.graph.plainColumn(x), row = s.graph.plainRow(x * x * x - 2 * x - 5);
+    EXPECT_EQ(s.readoutAt(column, row), QStringLiteral("y = x^3 - 2*x - 5 at x = 2.0946: y = 0.001"));
+    // Off the curve: the point itself, to the decimals a pixel tells apart.
+    EXPECT_EQ(s.readoutAt(s.graph.plainColumn(2), s.graph.plainRow(0.5)), QStringLiteral("x = 2, y = 0.5"));
+    EXPECT_EQ(s.readoutAt(s.graph.Left - 100, 3000), QString());  // outside the square
+}
+
+TEST(View, TheViewMenuZoomsGoesBackAndForwardAndReturnsToTheFirstWindow)
+{
+    Opened o(make<frmNewton>, [](GraphScreen& s) {
+        click(s.cmdClean);  // the axes recorded too
+        click(s.cmdPlotto);
+    });
+    GraphScreen& s = *o.screen;
+    const std::vector<DrawOp> first = s.surface->ops();
+    const auto limits = [&] { return texts({s.txtXmin, s.txtXmax, s.txtYmin, s.txtYmax}); };
+    const QString original = limits();
+    s.mnuViewZoomIn->trigger();
+    EXPECT_EQ(limits(), QStringLiteral("-5|5|-5|5"));
+    s.mnuViewZoomIn->trigger();
+    s.mnuViewBack->trigger();
+    EXPECT_EQ(limits(), QStringLiteral("-5|5|-5|5"));
+    s.mnuViewForward->trigger();
+    EXPECT_EQ(limits(), QStringLiteral("-2.5|2.5|-2.5|2.5"));
+    s.mnuViewZoomOut->trigger();
+    EXPECT_EQ(limits(), QStringLiteral("-5|5|-5|5"));
+    s.mnuViewOriginal->trigger();
+    EXPECT_EQ(limits(), original);
+    std::string where;
+    EXPECT_TRUE(sameOps(s.surface->ops(), first, where)) << where << (s.everyDrawingKept() ? " kept" : " unkept");
+    // The keys are the usual ones, and none is taken from the screen's own.
+    EXPECT_EQ(s.mnuViewZoomIn->shortcuts().value(1), QKeySequence(Qt::CTRL | Qt::Key_Equal));
+    EXPECT_EQ(s.mnuViewOriginal->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_0));
+    EXPECT_EQ(s.mnuViewBack->shortcut(), QKeySequence(Qt::ALT | Qt::Key_Left));
+    EXPECT_TRUE(o.script.errors.empty());
+}
+
+TEST(View, NoZoomEndsTheProgramAndWhatCannotBeShownIsSaidInWords)
+{
+    struct Case {
+        const char* name;
+        std::function<std::unique_ptr<GraphScreen>()> make;
+        Act act;
+        std::function<bool(GraphScreen&)> view;
+        const char* says;
+    };
+    const std::vector<Case> cases{
+        {"e^x zoomed out past what a double holds", make<frmClasses>,
+         [](GraphScreen& s) {
+             s.mnuFunc_Click(9);
+             click(s.cmdPlotto);
+         },
+         [](GraphScreen& s) {
+             return s.showWindow({-2000, 2000, -10, 10});
+         },
+         "Not drawn at this window: "},
+        {"zoomed out beyond the widest window", make<frmClasses>, [](GraphScreen& s) { click(s.cmdPlotto); },
+         [](GraphScreen& s) { return s.zoomView(1e-12); }, "Zoomed out as far as the graph goes"},
+        {"zoomed in beyond what the arithmetic shows", make<frmTangent>, [](GraphScreen& s) { click(s.cmdPlotto); },
+         [](GraphScreen& s) { return s.zoomViewAt(1, 1, 1e9); }, "Zoomed in as far as the arithmetic can show"},
+        {"the sums' bars are not kept yet", make<frmRiemann>,
+         [](GraphScreen& s) {
+             as<frmRiemann>(s).chkMid->setChecked(true);
+             click(as<frmRiemann>(s).cmdParts);
+         },
+         [](GraphScreen& s) { return s.zoomView(2); }, "Some drawings made before cannot be drawn again"},
+        {"limits that are not numbers", make<frmClasses>,
+         [](GraphScreen& s) {
+             const QSignalBlocker quiet(s.txtXmin);
+             s.txtXmin->setText(QStringLiteral("1e400"));
+         },
+         [](GraphScreen& s) { return s.zoomView(2); }, "The window's limits are not numbers"},
+    };
+    for (const Case& c : cases) {
+        Opened o(c.make, c.act);
+        o.script.errors.clear();
+        try {
+            c.view(*o.screen);
+        } catch (const rt::RuntimeError& error) {
+            ADD_FAILURE() << c.name << ": run-time error " << error.number();
+        }
+        EXPECT_TRUE(o.script.errors.empty()) << c.name;
+        EXPECT_TRUE(o.screen->announcement().contains(QString::fromUtf8(c.says)))
+            << c.name << ": " << o.screen->announcement().toStdString();
+    }
+}
