@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <functional>
+#include <memory>
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
@@ -98,17 +99,36 @@ void frmMVT::cmdApplyMVT_Click()
 
 void frmMVT::applyMVT()
 {
-    using rt::Chk;
-    const double a = txtX1->value();
-    const double fa = FuncGlobals::ExplicitValue(a);
-    const double ca = graph.column(a), ra = graph.row(fa);
-    const double b = txtX2->value();
-    const double fb = FuncGlobals::ExplicitValue(b);
-    const double cb = graph.column(b), rb = graph.row(fb);
-    if (b == a) {
+    // The end points, their circles and the secant are one kept step: a new window draws them again.
+    auto secant = std::make_shared<SecantAB>();
+    keepDrawing(
+        QStringLiteral("the secant over [a, b]"), [this, secant] { drawSecantAB(*secant); }, typed_);
+    const SecantAB& r = *secant;
+    if (r.b == r.a) {
         lblSlope1->setText(QStringLiteral("ERROR!  0/0"));
         return;
     }
+    auto R4 = [](double v) { return qStr(rounded(v, 10000)); };
+    lblPt1->setText(QStringLiteral("(") + R4(r.a) + QStringLiteral(",") + R4(r.fa) + QStringLiteral(")"));
+    lblPt2->setText(QStringLiteral("(") + R4(r.b) + QStringLiteral(",") + R4(r.fb) + QStringLiteral(")"));
+    lblSlope1->setText(QStringLiteral("slope = ") + qTrimStr(rounded(SecantSlope, 100000)));
+}
+
+void frmMVT::drawSecantAB(SecantAB& s)
+{
+    using rt::Chk;
+    // The first time the ends come from the boxes, in the classic order; drawn again, from the step.
+    const bool again = s.known;
+    const double a = again ? s.a : txtX1->value();
+    const double fa = FuncGlobals::ExplicitValue(a);
+    const double ca = graph.column(a), ra = graph.row(fa);
+    const double b = again ? s.b : txtX2->value();
+    s = {true, a, fa, b, 0};
+    const double fb = FuncGlobals::ExplicitValue(b);
+    s.fb = fb;
+    const double cb = graph.column(b), rb = graph.row(fb);
+    if (b == a)
+        return;
     SecantSlope = rt::Div(Chk(fb - fa), Chk(b - a));
     const QRgb red = DrawingStyle::colour(DrawingStyle::kConstruction);
     surface->Circle(ca, ra, DrawingStyle::kEndpointRadius, red);
@@ -119,10 +139,6 @@ void frmMVT::applyMVT()
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     const double m = SecantSlope;
     dotLine(graph.firstColumn(), graph.lastColumn(), colour, [m, k](auto x, auto chk) { return chk(chk(m * x) + k); });
-    auto R4 = [](double v) { return qStr(rounded(v, 10000)); };
-    lblPt1->setText(QStringLiteral("(") + R4(a) + QStringLiteral(",") + R4(fa) + QStringLiteral(")"));
-    lblPt2->setText(QStringLiteral("(") + R4(b) + QStringLiteral(",") + R4(fb) + QStringLiteral(")"));
-    lblSlope1->setText(QStringLiteral("slope = ") + qTrimStr(rounded(SecantSlope, 100000)));
 }
 
 void frmMVT::HscMVT_Change()
@@ -141,11 +157,15 @@ void frmMVT::slideTangent()
         return;
     lblSlope2->setText(QStringLiteral("Slope =") + qStr(rounded(slope, 10000)));
     const double fc = FuncGlobals::ExplicitValue(c);
-
-    // Not reduced: family 15 asks for colour 16, which does not exist.
-    FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
-    dotLine(static_cast<int>(graph.Left), static_cast<int>(graph.right()), colour,
-            [slope, c, fc](auto x, auto chk) { return chk(chk(slope * chk(x - c)) + fc); });
+    keepDrawing(
+        QStringLiteral("the tangent at x = ") + qTrimStr(c),
+        [this, slope, c, fc] {
+            // Not reduced: family 15 asks for colour 16, which does not exist.
+            FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
+            dotLine(static_cast<int>(graph.Left), static_cast<int>(graph.right()), colour,
+                    [slope, c, fc](auto x, auto chk) { return chk(chk(slope * chk(x - c)) + fc); });
+        },
+        typed_);
 }
 
 // A line dotted column by column where its row lies in the square. Where the surface batches, the
@@ -221,10 +241,22 @@ void frmMVT::findC()
     gridC->setCell(0, 1, QStringLiteral("f(c)"));
     gridC->setCell(0, 2, QStringLiteral("m"));
 
+    // The scan is a kept step: drawn again at a new window it marks the same points (the grid is
+    // written the first time only).
+    auto first = std::make_shared<bool>(true);
+    keepDrawing(
+        QStringLiteral("the points c"),
+        [this, a, b, last, first, target = SecantSlope] { scanC(a, b, last, target, *first); }, typed_);
+    *first = false;
+}
+
+void frmMVT::scanC(double a, double b, double last, double secantSlope, bool fillGrid)
+{
+    using rt::Chk;
     const double h = Chk(b - a) / kScanSteps;
     // Two slopes rounded to thousandths are equal exactly when their whole numbers of thousandths are.
     auto thousandths = [](double v) { return rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)); };
-    const double target = thousandths(SecantSlope);
+    const double target = thousandths(secantSlope);
     std::int16_t count = 0;
     rt::cleanVectorStateForHotLoop();
     for (double x = a; x <= b;) {
@@ -237,9 +269,11 @@ void frmMVT::findC()
                 count = rt::CInt(count + 1.0);
                 if (count < kGridRows) {
                     last = x;
-                    gridC->setCell(count, 0, qTrimStr(rounded(x, 1000)));
-                    gridC->setCell(count, 1, qTrimStr(rounded(fx, 1000)));
-                    gridC->setCell(count, 2, qTrimStr(rounded(slope, 1000)));
+                    if (fillGrid) {
+                        gridC->setCell(count, 0, qTrimStr(rounded(x, 1000)));
+                        gridC->setCell(count, 1, qTrimStr(rounded(fx, 1000)));
+                        gridC->setCell(count, 2, qTrimStr(rounded(slope, 1000)));
+                    }
                 }
             }
         }

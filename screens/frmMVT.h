@@ -40,6 +40,15 @@ private:
     void applyMVT();
     void slideTangent();
     void findC();
+    // The secant's ends as its step read them, and the drawing of its circles and dotted line.
+    struct SecantAB {
+        bool known = false;
+        double a = 0, fa = 0, b = 0, fb = 0;
+    };
+    void drawSecantAB(SecantAB& secant);
+    // The scan for the points c on [a, b] whose slope matches `secantSlope` to thousandths, marking
+    // each and, when `fillGrid`, listing it.
+    void scanC(double a, double b, double last, double secantSlope, bool fillGrid);
     void keepInWindow(TextBox* box, ClickLabel* echo);
     template <class Y>
     void dotLine(int first, int last, FirstUseColour& colour, Y y);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmNewton.h"
 
+#include <memory>
+#include <utility>
+
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
@@ -111,6 +114,28 @@ void frmNewton::cmdApply_Click()
 void frmNewton::applyNewton(double x)
 {
     using rt::Chk;
+    // Two kept steps, so that a new window draws them again: the guess's vertical line up to the
+    // curve (with "x1" at the start of a sequence), then the tangent down to the axis.
+    const bool first = NewSequence;
+    keepDrawing(
+        QStringLiteral("the guess x = ") + qTrimStr(x), [this, x, first] { drawGuess(x, first); }, typed_);
+    NewSequence = false;
+    auto step = std::make_shared<std::pair<double, double>>();  // the slope and the next guess
+    keepDrawing(
+        QStringLiteral("the tangent at x = ") + qTrimStr(x), [this, x, step] { *step = drawTangent(x); }, typed_);
+    if (step->first != 0) {
+        txtGuess->assign(qTrimStr(step->second));
+    } else {
+        MsgBox(QStringLiteral("This guess failed due to zero for the slope"), QStringLiteral("Division by zero"));
+    }
+    if (GuessNumber < kGridRows)
+        grdGuess->setCell(GuessNumber, 1, qTrimStr(x));
+    GuessNumber = rt::CInt(GuessNumber + 1.0);
+}
+
+void frmNewton::drawGuess(double x, bool first)
+{
+    using rt::Chk;
     const QRgb black = DrawingStyle::colour(DrawingStyle::kNewtonSteps);
     const double c = graph.column(x);
     const double y = FuncGlobals::ExplicitValue(x);
@@ -121,21 +146,21 @@ void frmNewton::applyNewton(double x)
         const QString label = QStringLiteral("x1");
         surface->CurrentX = Chk(c - surface->TextWidth(label) / 2);
         surface->CurrentY = Y0;
-        if (NewSequence)
+        if (first)
             surface->Print(label);
     }
-    NewSequence = false;
+}
+
+std::pair<double, double> frmNewton::drawTangent(double x)
+{
     const double s = FuncGlobals::ExplicitSlope(x);
-    if (s != 0) {
-        const double next = Chk(x - rt::Div(y, s));
-        surface->Line(c, r, graph.column(next), Y0, black);
-        txtGuess->assign(qTrimStr(next));
-    } else {
-        MsgBox(QStringLiteral("This guess failed due to zero for the slope"), QStringLiteral("Division by zero"));
-    }
-    if (GuessNumber < kGridRows)
-        grdGuess->setCell(GuessNumber, 1, qTrimStr(x));
-    GuessNumber = rt::CInt(GuessNumber + 1.0);
+    if (s == 0)
+        return {0, x};
+    const double y = FuncGlobals::ExplicitValue(x);
+    const double next = rt::Chk(x - rt::Div(y, s));
+    surface->Line(graph.column(x), graph.row(y), graph.column(next), graph.YOrigin,
+                  DrawingStyle::colour(DrawingStyle::kNewtonSteps));
+    return {s, next};
 }
 
 void frmNewton::cmdDeriv_Click()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <utility>
 // Newton's method one step per click, drawn on the graph and listed in a grid, and the graph of the
 // derivative.
 #include <cstdint>
@@ -37,4 +38,9 @@ protected:
 private:
     // One step from guess x: the tangent to the axis, the next guess and the guess's row.
     void applyNewton(double x);
+    // One step's drawing: the vertical line from the axis to the curve at the guess (and "x1" at a
+    // sequence's start), and the tangent from there to the axis, returning the slope and the next
+    // guess (no line where the slope is 0).
+    void drawGuess(double x, bool first);
+    std::pair<double, double> drawTangent(double x);
 };

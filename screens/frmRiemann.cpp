@@ -2,6 +2,8 @@
 #include "screens/frmRiemann.h"
 
 #include <cmath>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "screens/ConvergenceWindow.h"
@@ -293,14 +295,21 @@ void frmRiemann::cmdParts_Click()
             [&] {
                 // Each sum draws into a batch of its colour: the loop writes plain numbers, and the
                 // batch draws them when the sum is done (or ends with an error), before its area shows.
-                parts.heights.clear();
-                const RiemannSums::Result result = [&] {
-                    DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(m.colour)));
-                    return m.sum(parts, batch);
-                }();
+                // The sum and its bars are a kept step: a new window draws the same bars again (the
+                // random sums with the same draws), standing on that window's axis.
+                auto done = std::make_shared<std::pair<RiemannSums::Result, std::vector<audio::Point>>>();
+                keepDrawing(
+                    QString::fromLatin1(m.caption) + QStringLiteral(" bars"),
+                    [this, &m, L = parts.L, R = parts.R, dx = parts.dx, n, done] {
+                        Parts drawn{*this, L, R, dx, n, static_cast<double>(graph.YOrigin), {}};
+                        DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(m.colour)));
+                        done->first = m.sum(drawn, batch);
+                        done->second = std::move(drawn.heights);
+                    },
+                    typed_);
                 noteTraced(drawnCurve(QString::fromLatin1(m.caption) + QStringLiteral(" bars of ") + describeFamily(),
-                                      std::move(parts.heights)));
-                showResult(label, result);
+                                      std::move(done->second)));
+                showResult(label, done->first);
             },
             [label](const rt::RuntimeError&) { label->setText(QStringLiteral("= too large")); });
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmTangent.h"
 
+#include <memory>
+
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
@@ -73,20 +75,41 @@ void frmTangent::DrawSecant(double dx)
 
 void frmTangent::drawSecant(double dx)
 {
-    using rt::Chk;
-    using rt::Div;
     const double x1 = txtX->value();
-    const double y1 = FuncGlobals::ExplicitValue(x1);
-    const double c1 = graph.column(x1), r1 = graph.row(y1);
-    const double x2 = Chk(x1 + dx);
-    const double y2 = FuncGlobals::ExplicitValue(x2);
-    const double c2 = graph.column(x2), r2 = graph.row(y2);
-    if (x2 == x1) {
+    // The secant's numbers and its two lines are one kept step: a new window draws the lines again
+    // through the same computation, clipped to that window.
+    auto result = std::make_shared<Secant>();
+    keepDrawing(
+        QStringLiteral("the secant from x = ") + qTrimStr(x1),
+        [this, x1, dx, result] { *result = secantLines(x1, dx); }, typed_);
+    const Secant& r = *result;
+    if (r.x2 == r.x1) {
         lblTLine->setText(QStringLiteral("ERROR!  0/0"));
         return;
     }
-    const double m = Div(Chk(y2 - y1), Chk(x2 - x1));
-    const double b = Chk(y2 - Chk(m * x2));
+    auto P = [](double v) { return qStr(cut(v, 10000)); };
+    lblPoints->setText(QStringLiteral("(") + P(r.x1) + QStringLiteral(",") + P(r.y1) + QStringLiteral(") to (") +
+                       P(r.x2) + QStringLiteral(",") + P(r.y2) + QStringLiteral(")"));
+    lblTLine->setText(QStringLiteral("y = ") + qTrimStr(cut(r.m, 100000)) + QStringLiteral("x + ") +
+                      qTrimStr(cut(r.b, 1000)));
+}
+
+frmTangent::Secant frmTangent::secantLines(double x1, double dx)
+{
+    using rt::Chk;
+    using rt::Div;
+    Secant s;
+    s.x1 = x1;
+    s.y1 = FuncGlobals::ExplicitValue(x1);
+    const double c1 = graph.column(x1), r1 = graph.row(s.y1);
+    s.x2 = Chk(x1 + dx);
+    s.y2 = FuncGlobals::ExplicitValue(s.x2);
+    const double c2 = graph.column(s.x2), r2 = graph.row(s.y2);
+    if (s.x2 == s.x1)
+        return s;
+    s.m = Div(Chk(s.y2 - s.y1), Chk(s.x2 - s.x1));
+    s.b = Chk(s.y2 - Chk(s.m * s.x2));
+    const double m = s.m, b = s.b;
 
     // Where the line leaves the window on the right, then on the left.
     double ymax = txtYmax->value(), ymin = txtYmin->value();
@@ -110,12 +133,7 @@ void frmTangent::drawSecant(double dx)
     const QRgb red = DrawingStyle::colour(DrawingStyle::kConstruction);
     surface->Line(c1, r1, c2, r2, red);
     surface->Line(cr, rr, cl, rl, red);
-
-    auto P = [](double v) { return qStr(cut(v, 10000)); };
-    lblPoints->setText(QStringLiteral("(") + P(x1) + QStringLiteral(",") + P(y1) + QStringLiteral(") to (") + P(x2) +
-                       QStringLiteral(",") + P(y2) + QStringLiteral(")"));
-    lblTLine->setText(QStringLiteral("y = ") + qTrimStr(cut(m, 100000)) + QStringLiteral("x + ") +
-                      qTrimStr(cut(b, 1000)));
+    return s;
 }
 
 void frmTangent::cmdApply_Click() { DrawSecant(txtDeltaX->value()); }

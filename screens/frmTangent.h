@@ -33,6 +33,12 @@ protected:
 
 private:
     void drawSecant(double dx);
+    // The secant through (x1, f(x1)) and (x1 + dx, f(x1 + dx)) and its two lines on the graph (the
+    // chord, and the line across the window); x2 == x1 draws nothing.
+    struct Secant {
+        double x1 = 0, y1 = 0, x2 = 0, y2 = 0, m = 0, b = 0;
+    };
+    Secant secantLines(double x1, double dx);
     // What the slider's position means: the Delta x it gives.
     QString spokenDeltaX() const;
 };

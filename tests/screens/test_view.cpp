@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 
 #include "graphwin/GraphViewer.h"
+#include "runtime/Random.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
 #include "screens/frmMVT.h"
@@ -29,6 +30,7 @@ struct Opened {
     std::unique_ptr<GraphScreen> screen;
     Opened(const std::function<std::unique_ptr<GraphScreen>()>& make, const Act& act) : screen(make())
     {
+        rt::resetRnd();  // the same random draws for the same actions
         screen->Form_Activate();
         screen->surface->setRecording(true);
         act(*screen);
@@ -92,14 +94,58 @@ TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
              as<frmNewton>(s).cmdDeriv_Click();
          },
          2.0946, 0, 8},
-        {"tangent, the curve", make<frmTangent>, [](GraphScreen& s) { click(s.cmdPlotto); }, 1, 1, 9.3},
+        {"Newton, three steps on the typed cubic from 2", make<frmNewton>,
+         [](GraphScreen& s) {
+             ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")), QString());
+             click(s.cmdPlotto);
+             as<frmNewton>(s).txtGuess->setText(QStringLiteral("2"));
+             for (int i = 0; i < 3; ++i)
+                 as<frmNewton>(s).cmdApply_Click();
+         },
+         2.0946, 0, 16},
+        {"Newton, a family's steps from 1 and a new sequence", make<frmNewton>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             as<frmNewton>(s).txtGuess->setText(QStringLiteral("1"));
+             as<frmNewton>(s).cmdApply_Click();
+             as<frmNewton>(s).cmdApply_Click();
+         },
+         1, 0, 0.5},
+        {"tangent, the curve and secants turning to the tangent", make<frmTangent>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             for (int v : {2000, 1500, 1100})
+                 as<frmTangent>(s).hscDx->setValue(v);
+         },
+         1, 1, 9.3},
         {"sums, the curve", make<frmRiemann>, [](GraphScreen& s) { click(s.cmdPlotto); }, -1, 2, 3},
+        {"sums, every method's bars, the random ones with the same draws", make<frmRiemann>,
+         [](GraphScreen& s) {
+             auto& r = as<frmRiemann>(s);
+             for (CheckBox* c : {r.chkLeft, r.chkRight, r.chkMid, r.chkTrap, r.chkSimpson, r.chkRandom, r.chkRiemann})
+                 c->setChecked(true);
+             r.txtParts->setText(QStringLiteral("12"));
+             click(r.cmdParts);
+         },
+         0.5, 1, 2.5},
+        {"mean value theorem, the secant, a slider tangent and the points c", make<frmMVT>,
+         [](GraphScreen& s) {
+             auto& m = as<frmMVT>(s);
+             click(s.cmdPlotto);
+             type({m.txtX1, m.txtX2}, "0|2");
+             m.cmdApplyMVT_Click();
+             m.HscMVT->setValue(5000);
+             m.cmdAnimateIt_Click();
+         },
+         1, 1, 2},
         {"animation, the curve", make<frmAnimate>, [](GraphScreen& s) { click(s.cmdPlotto); }, 0, 0, 0.5},
     };
     for (const Case& c : cases) {
         Opened zoomed(c.make, c.act);
         ASSERT_TRUE(zoomed.screen->everyDrawingKept()) << c.name;
+        const std::uint32_t drawn = rt::rndState();
         ASSERT_TRUE(zoomed.screen->zoomViewAt(c.x, c.y, c.factor)) << c.name;
+        EXPECT_EQ(rt::rndState(), drawn) << c.name << ": a zoom draws no new random numbers";
         const view::Limits shown = *zoomed.screen->shownWindow();
 
         Opened direct(c.make, [&](GraphScreen& s) {
@@ -204,10 +250,10 @@ TEST(View, NoZoomEndsTheProgramAndWhatCannotBeShownIsSaidInWords)
          [](GraphScreen& s) { return s.zoomView(1e-12); }, "Zoomed out as far as the graph goes"},
         {"zoomed in beyond what the arithmetic shows", make<frmTangent>, [](GraphScreen& s) { click(s.cmdPlotto); },
          [](GraphScreen& s) { return s.zoomViewAt(1, 1, 1e9); }, "Zoomed in as far as the arithmetic can show"},
-        {"the sums' bars are not kept yet", make<frmRiemann>,
+        {"a line drawn outside any kept step", make<frmClasses>,
          [](GraphScreen& s) {
-             as<frmRiemann>(s).chkMid->setChecked(true);
-             click(as<frmRiemann>(s).cmdParts);
+             click(s.cmdPlotto);
+             s.surface->Line(3000, 3000, 5000, 5000, 0xFF000000u);
          },
          [](GraphScreen& s) { return s.zoomView(2); }, "Some drawings made before cannot be drawn again"},
         {"limits that are not numbers", make<frmClasses>,
