@@ -82,6 +82,12 @@ void GraphScene::record(const QString& what, std::function<void()> draw, std::sh
     expected_ = operations();
 }
 
+void GraphScene::settle()
+{
+    if (current())
+        expected_ = operations();
+}
+
 bool GraphScene::complete() const { return current() && complete_ && operations() == expected_; }
 
 GraphScene::Steps GraphScene::release()

@@ -25,6 +25,9 @@ public:
     // state's typed functions alive), to be run again at another window. An error `draw` raises goes
     // on to the caller as before; the step is kept all the same (it drew what it drew).
     void record(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep = {});
+    // Takes what was drawn since the last step as part of the picture's background, which the
+    // screen's own clear draws again (nothing to keep).
+    void settle();
     // True when every drawing since the clear is a kept step.
     bool complete() const;
     bool empty() const { return steps_.empty(); }

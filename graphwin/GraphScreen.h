@@ -242,6 +242,9 @@ protected:
     // Draws with `draw` now and keeps it as a step of the picture (GraphScene), to be drawn again by
     // the same code when the view changes; `keep` holds the typed functions it uses alive.
     void keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep = {});
+    // What was just drawn outside the graph's steps is drawn again by the screen's own clear (a
+    // formula beside the graph): the picture is still whole.
+    void settleDrawing() { scene_->settle(); }
 
     const Config& config() const { return config_; }
     int squareLeft() const { return config_.squareLeft; }

@@ -105,6 +105,7 @@ void frmFlowField::ShowDyDx()
     surface->CurrentY = y0 + lineHeight;
     surface->Print(QString::fromStdString(dx));
     surface->ForeColor = ink;
+    settleDrawing();  // the formula is drawn again by every clear, a zoom's included
 }
 
 void frmFlowField::mnuDy_Click(int Index)
@@ -171,7 +172,13 @@ void frmFlowField::lblDeltaX_MouseDown(int Button, int, double, double)
 
 void frmFlowField::cmdShowFlow_Click()
 {
-    typedGuard([this] { fieldArrows(); }, [](const rt::RuntimeError&) {});
+    // Kept: a new window draws its own grid of arrows, read from its limit boxes.
+    typedGuard(
+        [this] {
+            keepDrawing(
+                QStringLiteral("the slope field"), [this] { fieldArrows(); }, typedRates_);
+        },
+        [](const rt::RuntimeError&) {});
 }
 
 void frmFlowField::fieldArrows()
@@ -232,6 +239,11 @@ void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
     curvePoints_.clear();
     typedGuard([&] { startCurve(Button, X, Y); },
                [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
+    curvePoints_.clear();
+}
+
+void frmFlowField::noteCurve(int Button)
+{
     if (curvePoints_.size() < 2)
         return;
     // Heard and walked from its left end, whichever way it was followed.
@@ -251,42 +263,88 @@ void frmFlowField::startCurve(int Button, double X, double Y)
     StepH = txtDelta->value();
     if (Button != LeftButton && Button != RightButton)
         return;
+    const double delta = StepH;
     if (Button == RightButton)
         StepH = -StepH;
-    IntegralCurves::Step st;
-    if (insideGraph(X, Y)) {
+    const bool inside = insideGraph(X, Y);
+    if (inside) {
         const double W = Chk(txtXmax->value() - txtXmin->value()), H = Chk(txtYmax->value() - txtYmin->value());
         // The world point from the limit boxes' ranges (not the mapping's): the digits of the end
         // point depend on this order of operations.
         CurrentX = Chk(Chk(X - graph.XOrigin) * W) / GraphWindow::Side;
         CurrentY = Chk(Chk(graph.YOrigin - Y) * H) / GraphWindow::Side;
-        const IntegralCurves::Settings s = settings();
-        st = IntegralCurves::step(s, CurrentX, CurrentY, StepH);
-        if (!s.smooth && st.vertical)
-            return;
-        const double ny = Chk(CurrentY + st.dy);
-        curvePoints_.push_back({CurrentX, CurrentY});
-        if (txtYmin->value() <= ny && ny <= txtYmax->value())
-            surface->Line(X, Y, graph.column(Chk(CurrentX + st.dx)), graph.row(ny),
-                          rgbColor(rt::QBColor(MethodColour)));
     }
-    PointCounter = 1;
-    double x = Chk(CurrentX + st.dx), y = Chk(CurrentY + st.dy);
-    if (Button == LeftButton)
-        FollowCurveForward(x, y);
-    else
-        FollowCurveBackward(x, y);
+    // The curve is a kept step from its world start point: a new window follows it again with the
+    // same step, method and colour, within that window's limits.
+    auto run = std::make_shared<CurveRun>(CurveRun{Button, inside, CurrentX, CurrentY, StepH, delta, MethodColour});
+    auto press = std::make_shared<std::optional<QPointF>>(QPointF(X, Y));
+    keepDrawing(
+        QStringLiteral("an integral curve"),
+        [this, run, press] {
+            curvePoints_.clear();
+            try {
+                drawCurve(*run, *press);
+            } catch (...) {
+                noteCurve(run->button);
+                throw;
+            }
+            noteCurve(run->button);
+        },
+        typedRates_);
+    press->reset();  // drawn again, the first segment starts from the mapped start point
 }
 
-void frmFlowField::followCurve(double& x, double& y, bool backward)
+void frmFlowField::drawCurve(CurveRun& run, std::optional<QPointF> press)
 {
-    const double h = backward ? -txtDelta->value() : txtDelta->value();
+    using rt::Chk;
+    // The settings are read where the classic press reads them; drawn again at a new window, the
+    // curve keeps its method, purpose and length and takes that window's limits.
+    if (press) {
+        if (run.inside) {
+            run.settings = settings();
+            run.known = true;
+        }
+    } else {
+        const IntegralCurves::Settings now = settings();
+        if (!run.known)
+            run.settings = now;
+        run.settings.xmin = now.xmin;
+        run.settings.xmax = now.xmax;
+        run.settings.ymin = now.ymin;
+        run.settings.ymax = now.ymax;
+    }
+    IntegralCurves::Step st;
+    if (run.inside) {
+        st = IntegralCurves::step(run.settings, run.x0, run.y0, run.h);
+        if (!run.settings.smooth && st.vertical)
+            return;
+        const double ny = Chk(run.y0 + st.dy);
+        curvePoints_.push_back({run.x0, run.y0});
+        if (txtYmin->value() <= ny && ny <= txtYmax->value())
+            surface->Line(press ? press->x() : graph.column(run.x0), press ? press->y() : graph.row(run.y0),
+                          graph.column(Chk(run.x0 + st.dx)), graph.row(ny), rgbColor(rt::QBColor(run.colour)));
+    }
+    PointCounter = 1;
+    double x = Chk(run.x0 + st.dx), y = Chk(run.y0 + st.dy);
+    if (press) {  // the first time, through the classic continuations
+        if (run.button == LeftButton)
+            FollowCurveForward(x, y);
+        else
+            FollowCurveBackward(x, y);
+        return;
+    }
+    const bool backward = run.button != LeftButton;
+    followCurve(x, y, backward, {backward ? -run.delta : run.delta, run.colour, run.settings});
+}
+
+void frmFlowField::followCurve(double& x, double& y, bool backward, const FollowRun& run)
+{
     bool reachedEnd = false;
     {
-        DrawingSurface::Batch curve(*surface, rgbColor(rt::QBColor(MethodColour)));
+        DrawingSurface::Batch curve(*surface, rgbColor(rt::QBColor(run.colour)));
         rt::cleanVectorStateForHotLoop();
         reachedEnd = IntegralCurves::follow(
-            settings(), h, backward, x, y, PointCounter, [&](double x1, double y1, double x2, double y2) {
+            run.settings, run.h, backward, x, y, PointCounter, [&](double x1, double y1, double x2, double y2) {
                 curvePoints_.push_back({x2, y2});
                 curve.line(graph.column(x1), graph.row(y1), graph.column(x2), graph.row(y2));
             });
@@ -299,8 +357,12 @@ void frmFlowField::followCurve(double& x, double& y, bool backward)
 
 void frmFlowField::followGuarded(double& x, double& y, bool backward)
 {
-    typedGuard([&] { followCurve(x, y, backward); },
-               [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
+    typedGuard(
+        [&] {
+            const double h = backward ? -txtDelta->value() : txtDelta->value();
+            followCurve(x, y, backward, {h, MethodColour, settings()});
+        },
+        [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
 }
 
 void frmFlowField::FollowCurveForward(double& x, double& y) { followGuarded(x, y, false); }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <QPointF>
 // Slope fields of a pair of rates dy and dx, integral curves from a pressed or typed point, Euler and
 // Runge-Kutta approximations of an end point, and forty curves at once from the plot button.
 #include <array>
@@ -105,7 +106,28 @@ private:
 
 private:
     IntegralCurves::Settings settings() const;
-    void followCurve(double& x, double& y, bool backward);
+    // A curve as it was started: the button, whether the press was in the graph, the world start
+    // point, the first step's h, the box's step, the method's colour and the settings.
+    struct CurveRun {
+        int button;
+        bool inside;
+        double x0, y0, h, delta;
+        std::int16_t colour;
+        IntegralCurves::Settings settings{};
+        bool known = false;  // the settings were read by the first drawing
+    };
+    // Draws a started curve: the first segment (from the press, or from the mapped start point when
+    // it is drawn again at a new window) and its continuation.
+    void drawCurve(CurveRun& run, std::optional<QPointF> press);
+    // Notes the curve just drawn for the trace and the walk.
+    void noteCurve(int Button);
+    // The continuation of a curve with its step, colour and settings.
+    struct FollowRun {
+        double h;
+        std::int16_t colour;
+        IntegralCurves::Settings settings;
+    };
+    void followCurve(double& x, double& y, bool backward, const FollowRun& run);
     bool insideGraph(double X, double Y) const;
     void refuseMethod();
 

@@ -14,6 +14,7 @@
 #include "runtime/Random.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
+#include "screens/frmFlowField.h"
 #include "screens/frmMVT.h"
 #include "screens/frmNewton.h"
 #include "screens/frmRiemann.h"
@@ -33,6 +34,7 @@ struct Opened {
         rt::resetRnd();  // the same random draws for the same actions
         screen->Form_Activate();
         screen->surface->setRecording(true);
+        screen->CleanGraph();  // the axes recorded too
         act(*screen);
     }
 };
@@ -53,8 +55,10 @@ void typeWindow(GraphScreen& s, const view::Limits& l)
 bool sameOps(const std::vector<DrawOp>& a, const std::vector<DrawOp>& b, std::string& first)
 {
     for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i)
-        if (a[i].kind != b[i].kind || a[i].x1 != b[i].x1 || a[i].y1 != b[i].y1 || a[i].x2 != b[i].x2 ||
-            a[i].y2 != b[i].y2 || a[i].color != b[i].color) {
+        // Within a millionth of a twip: a curve drawn again from its world start point maps back to
+        // the press's twips up to the last bits of a double.
+        if (a[i].kind != b[i].kind || std::fabs(a[i].x1 - b[i].x1) > 1e-6 || std::fabs(a[i].y1 - b[i].y1) > 1e-6 ||
+            std::fabs(a[i].x2 - b[i].x2) > 1e-6 || std::fabs(a[i].y2 - b[i].y2) > 1e-6 || a[i].color != b[i].color) {
             first = "operation " + std::to_string(i) + " differs";
             return false;
         }
@@ -73,6 +77,10 @@ TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
         std::function<std::unique_ptr<GraphScreen>()> make;
         Act act;
         double x, y, factor;
+        // Whether the same actions at the new window draw the same: not where a press's place on
+        // the square is what the action means (the slope field's presses start their curves at
+        // fixed places of the square; a kept curve starts from the same world point).
+        bool sameActionsThere = true;
     };
     const std::vector<Case> cases{
         {"grapher, two families", make<frmClasses>,
@@ -138,24 +146,48 @@ TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
              m.cmdAnimateIt_Click();
          },
          1, 1, 2},
+        {"slope field, the arrows and the forty curves", make<frmFlowField>,
+         [](GraphScreen& s) {
+             as<frmFlowField>(s).cmdShowFlow_Click();
+             click(s.cmdPlotto);
+         },
+         2, 1, 1.7, false},
+        {"slope field, approximations by two methods from presses", make<frmFlowField>,
+         [](GraphScreen& s) {
+             auto& f = as<frmFlowField>(s);
+             f.optApprox->setChecked(true);
+             f.optRunga4->setChecked(true);
+             f.Form_MouseDown(LeftButton, 0, s.graph.column(4), s.graph.row(3));
+             f.optEuler->setChecked(true);
+             f.Form_MouseDown(RightButton, 0, s.graph.column(-2), s.graph.row(5));
+         },
+         4, 3, 3, false},
         {"animation, the curve", make<frmAnimate>, [](GraphScreen& s) { click(s.cmdPlotto); }, 0, 0, 0.5},
     };
     for (const Case& c : cases) {
         Opened zoomed(c.make, c.act);
         ASSERT_TRUE(zoomed.screen->everyDrawingKept()) << c.name;
+        const std::vector<DrawOp> before = zoomed.screen->surface->ops();
         const std::uint32_t drawn = rt::rndState();
         ASSERT_TRUE(zoomed.screen->zoomViewAt(c.x, c.y, c.factor)) << c.name;
         EXPECT_EQ(rt::rndState(), drawn) << c.name << ": a zoom draws no new random numbers";
         const view::Limits shown = *zoomed.screen->shownWindow();
-
-        Opened direct(c.make, [&](GraphScreen& s) {
-            typeWindow(s, shown);
-            c.act(s);
-        });
         std::string where;
-        EXPECT_TRUE(sameOps(zoomed.screen->surface->ops(), direct.screen->surface->ops(), where))
-            << c.name << ": " << where;
-        EXPECT_TRUE(zoomed.script.errors.empty() && direct.script.errors.empty()) << c.name;
+        if (c.sameActionsThere) {
+            Opened direct(c.make, [&](GraphScreen& s) {
+                typeWindow(s, shown);
+                c.act(s);
+            });
+            EXPECT_TRUE(sameOps(zoomed.screen->surface->ops(), direct.screen->surface->ops(), where))
+                << c.name << ": " << where;
+            EXPECT_TRUE(direct.script.errors.empty()) << c.name;
+        } else {
+            EXPECT_FALSE(sameOps(zoomed.screen->surface->ops(), before, where)) << c.name << ": drawn again";
+        }
+        EXPECT_TRUE(zoomed.script.errors.empty()) << c.name;
+        // Back at the first window, the picture is the one drawn there, operation by operation.
+        ASSERT_TRUE(zoomed.screen->originalWindow()) << c.name;
+        EXPECT_TRUE(sameOps(zoomed.screen->surface->ops(), before, where)) << c.name << ", back: " << where;
         // The description keeps what was drawn and gives the new window.
         EXPECT_TRUE(
             zoomed.screen->describe().contains(QStringLiteral("Window: x from ") + zoomed.screen->txtXmin->text()))
