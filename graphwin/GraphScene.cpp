@@ -44,7 +44,7 @@ struct ModuleState {
 }  // namespace
 
 struct GraphScene::Step {
-    QString what;
+    QString what, kind;
     std::function<void()> draw;
     ModuleState state;
     std::shared_ptr<const void> keep;
@@ -62,7 +62,8 @@ void GraphScene::restart()
     complete_ = true;
 }
 
-void GraphScene::record(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep)
+void GraphScene::record(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep,
+                        const QString& kind)
 {
     if (!current()) {
         // Cleared without a new start: what stands on the surface now is nobody's step.
@@ -71,7 +72,7 @@ void GraphScene::record(const QString& what, std::function<void()> draw, std::sh
     }
     if (operations() != expected_)
         complete_ = false;  // something was drawn between the steps
-    auto step = std::make_shared<Step>(Step{what, std::move(draw), ModuleState::now(), std::move(keep)});
+    auto step = std::make_shared<Step>(Step{what, kind, std::move(draw), ModuleState::now(), std::move(keep)});
     steps_.push_back(step);
     try {
         step->draw();
@@ -95,6 +96,15 @@ GraphScene::Steps GraphScene::release()
     Steps out;
     if (current())
         out.swap(steps_);
+    return out;
+}
+
+GraphScene::Steps GraphScene::without(const Steps& steps, const QString& kind)
+{
+    Steps out;
+    for (const auto& step : steps)
+        if (step->kind != kind)
+            out.push_back(step);
     return out;
 }
 

@@ -24,7 +24,8 @@ public:
     // Runs `draw` now and keeps it with the module state it runs with (and `keep`, which holds that
     // state's typed functions alive), to be run again at another window. An error `draw` raises goes
     // on to the caller as before; the step is kept all the same (it drew what it drew).
-    void record(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep = {});
+    void record(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep = {},
+                const QString& kind = {});
     // Takes what was drawn since the last step as part of the picture's background, which the
     // screen's own clear draws again (nothing to keep).
     void settle();
@@ -37,6 +38,8 @@ public:
     struct Step;
     using Steps = std::vector<std::shared_ptr<const Step>>;
     Steps release();
+    // The steps without those of `kind` (a construction about to be drawn again from a dragged point).
+    static Steps without(const Steps& steps, const QString& kind);
     // Draws `steps` again, in order, each with the module state it first ran with (the present
     // state is put back after), and keeps them as the new picture's: the caller has cleared the
     // surface, mapped the new window and drawn the axes. A step whose computation raises a run-time

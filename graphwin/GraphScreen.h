@@ -231,6 +231,18 @@ public:
     // the square.
     QString readoutAt(double xTwips, double yTwips) const;
     GraphViewer* viewer() const { return viewer_; }
+    // A point of the construction that a person may drag on the graph: where it is in the world,
+    // whether it moves along x only, what it is ("the first guess") and what dragging it to (x, y)
+    // does (the same as typing the value and pressing the screen's button).
+    struct DragHandle {
+        QString name;
+        double x = 0, y = 0;
+        bool alongX = true;
+        std::function<void(double x, double y)> moveTo;
+    };
+    virtual std::vector<DragHandle> dragHandles() { return {}; }
+    // A dragged x as a box shows it: to the decimals a pixel of the window tells apart.
+    QString draggedValue(double x) const;
     // How many drawings since the last clear would be drawn again at another window, and whether
     // that is all of them.
     std::size_t keptDrawings() const { return scene_->size(); }
@@ -241,7 +253,14 @@ protected:
     explicit GraphScreen(Config config);
     // Draws with `draw` now and keeps it as a step of the picture (GraphScene), to be drawn again by
     // the same code when the view changes; `keep` holds the typed functions it uses alive.
-    void keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep = {});
+    void keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep = {},
+                     const QString& kind = {});
+    // Draws the picture again at the same window without the kept steps of `kind`, so that a dragged
+    // construction can be drawn anew; false when the picture was not whole (nothing is erased then).
+    bool eraseKept(const QString& kind);
+    // Runs a screen's own handlers for a drag (an addition, not a person's press): a classic error
+    // ends only the drag's action and is said in words.
+    void runForDrag(const std::function<void()>& action);
     // What was just drawn outside the graph's steps is drawn again by the screen's own clear (a
     // formula beside the graph): the picture is still whole.
     void settleDrawing() { scene_->settle(); }
@@ -348,6 +367,8 @@ private:
     void buildViewMenu();
     // Shows `limits` when they can be shown; `remember` puts the window in the history.
     bool moveView(const view::Limits& limits, bool remember);
+    // Clears the picture (the screen's own clear) and draws `steps` again; what could not be drawn.
+    QStringList redrawKept(GraphScene::Steps steps);
     // Starts the history afresh when a person's limits replaced the window it knows.
     void followTypedLimits();
     std::unique_ptr<GraphScene> scene_;

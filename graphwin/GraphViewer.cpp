@@ -99,6 +99,22 @@ void GraphViewer::showReadout(QPointF pixels)
 
 void GraphViewer::hideReadout() { tip_->hide(); }
 
+int GraphViewer::handleAt(QPointF pixels)
+{
+    const GraphWindow& g = screen_.graph;
+    if (g.XRange == 0 || g.YRange == 0)
+        return -1;
+    const double perPixel = twipsPerPixel(screen_.surface);
+    const std::vector<GraphScreen::DragHandle> handles = screen_.dragHandles();
+    for (std::size_t i = 0; i < handles.size(); ++i) {
+        const double dx = g.plainColumn(handles[i].x) / perPixel - pixels.x(),
+                     dy = g.plainRow(handles[i].y) / perPixel - pixels.y();
+        if (std::hypot(dx, dy) <= kHandlePixels)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
 bool GraphViewer::pressed(QPointF at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
 {
     if (!inSquare(at))
@@ -110,7 +126,9 @@ bool GraphViewer::pressed(QPointF at, Qt::MouseButton button, Qt::KeyboardModifi
     const bool pressesMean = static_cast<bool>(screen_.surface->MouseDown);
     const bool shift = modifiers & Qt::ShiftModifier;
     Drag drag = Drag::None;
-    if (pressesMean)
+    if (!pressesMean && button == Qt::LeftButton && !shift && (handle_ = handleAt(at)) >= 0)
+        drag = Drag::Handle;
+    else if (pressesMean)
         drag = button == Qt::MiddleButton ? (shift ? Drag::Box : Drag::MaybePan) : Drag::None;
     else if (button == Qt::RightButton || (button == Qt::LeftButton && shift))
         drag = Drag::Box;
@@ -131,7 +149,26 @@ bool GraphViewer::pressed(QPointF at, Qt::MouseButton button, Qt::KeyboardModifi
 bool GraphViewer::moved(QPointF at)
 {
     switch (drag_) {
-    case Drag::None: showReadout(at); return false;
+    case Drag::None:
+        showReadout(at);
+        if (!screen_.surface->MouseDown) {
+            if (handleAt(at) >= 0)
+                screen_.surface->setCursor(Qt::SizeHorCursor);
+            else
+                screen_.surface->unsetCursor();
+        }
+        return false;
+    case Drag::Handle: {
+        const std::vector<GraphScreen::DragHandle> handles = screen_.dragHandles();
+        const QPointF t = twips(at);
+        const GraphWindow& g = screen_.graph;
+        if (handle_ >= 0 && handle_ < static_cast<int>(handles.size()) && g.XRange != 0 && g.YRange != 0) {
+            const GraphScreen::DragHandle& h = handles[static_cast<std::size_t>(handle_)];
+            h.moveTo(g.plainWorldX(t.x()), h.alongX ? h.y : g.plainWorldY(t.y()));
+        }
+        showReadout(at);
+        return true;
+    }
     case Drag::MaybePan:
         if (std::hypot(at.x() - pressAt_.x(), at.y() - pressAt_.y()) <= kDragPixels)
             return true;
@@ -156,6 +193,8 @@ bool GraphViewer::released(QPointF at)
 {
     const Drag drag = std::exchange(drag_, Drag::None);
     screen_.surface->unsetCursor();
+    if (drag == Drag::Handle)
+        return true;
     band_->hide();
     if (drag == Drag::Pan) {
         if (const auto now = screen_.shownWindow()) {

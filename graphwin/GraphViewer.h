@@ -26,6 +26,8 @@ public:
     QString readout() const;
     // Applies a wheel turn or pinch waiting for the next frame at once.
     void flush();
+    // A handle of the construction is taken within this many pixels of it.
+    static constexpr double kHandlePixels = 8;
     // A press that moves this many pixels before its release pans; less is a click.
     static constexpr double kDragPixels = 4;
     // Wheel turns closer together than this are applied together.
@@ -35,7 +37,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum class Drag { None, MaybePan, Pan, Box };
+    enum class Drag { None, MaybePan, Pan, Box, Handle };
+    // The index of the construction's handle within reach of the pointer, or -1.
+    int handleAt(QPointF pixels);
     QPointF twips(QPointF pixels) const;
     bool inSquare(QPointF pixels) const;
     void zoomLater(QPointF pixels, double factor);
@@ -49,6 +53,7 @@ private:
     QLabel* tip_ = nullptr;
     QRubberBand* band_ = nullptr;
     Drag drag_ = Drag::None;
+    int handle_ = -1;
     QPointF pressAt_;
     view::Limits atPress_;
     QTimer* frame_ = nullptr;

@@ -95,9 +95,23 @@ bool GraphScreen::moveView(const view::Limits& wanted, bool remember)
     showLimit(txtYmax, limits.ymax);
     if (remember)
         viewHistory_.moveTo(limits);
-    // The picture is made again at the new window: the screen's own clear (its axes and whatever it
-    // draws with them), then every kept step. The walk's curves are noted again by their steps; what
-    // was said of the drawings stays.
+    const QStringList failed = redrawKept(std::move(steps));
+    QString said = QStringLiteral("Window: x from %1 to %2, y from %3 to %4.")
+                       .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
+    if (!failed.isEmpty())
+        said += QStringLiteral(" Not drawn at this window: ") + failed.join(QStringLiteral("; ")) + QLatin1Char('.');
+    if (!whole)
+        said += QStringLiteral(" Some drawings made before cannot be drawn again at a new window: press the "
+                               "screen's buttons to draw them here.");
+    announce(said);
+    return true;
+}
+
+QStringList GraphScreen::redrawKept(GraphScene::Steps steps)
+{
+    // The picture is made again: the screen's own clear (its axes and whatever it draws with them),
+    // then every kept step. The walk's curves are noted again by their steps; what was said of the
+    // drawings stays.
     const bool described = drawnAfterClear_ == surface->clears();
     try {
         CleanGraph();
@@ -111,16 +125,25 @@ bool GraphScreen::moveView(const view::Limits& wanted, bool remember)
     walkCurve_ = -1;
     chosen_ = -1;
     tracedAfterClear_ = surface->clears();
-    const QStringList failed = scene_->replay(std::move(steps));
-    QString said = QStringLiteral("Window: x from %1 to %2, y from %3 to %4.")
-                       .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
-    if (!failed.isEmpty())
-        said += QStringLiteral(" Not drawn at this window: ") + failed.join(QStringLiteral("; ")) + QLatin1Char('.');
-    if (!whole)
-        said += QStringLiteral(" Some drawings made before cannot be drawn again at a new window: press the "
-                               "screen's buttons to draw them here.");
-    announce(said);
+    return scene_->replay(std::move(steps));
+}
+
+bool GraphScreen::eraseKept(const QString& kind)
+{
+    if (!scene_->complete())
+        return false;
+    redrawKept(GraphScene::without(scene_->release(), kind));
     return true;
+}
+
+void GraphScreen::runForDrag(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const rt::RuntimeError& error) {
+        announce(QStringLiteral("Cannot be drawn from here: ") + QString::fromUtf8(error.what()) + QLatin1Char('.'));
+    }
+    refreshDescription();
 }
 
 bool GraphScreen::zoomViewAt(double x, double y, double factor)
@@ -179,9 +202,10 @@ bool GraphScreen::forwardWindow()
     return moveView(*after, false);
 }
 
-void GraphScreen::keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep)
+void GraphScreen::keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep,
+                              const QString& kind)
 {
-    scene_->record(what, std::move(draw), std::move(keep));
+    scene_->record(what, std::move(draw), std::move(keep), kind);
 }
 
 QString GraphScreen::readoutAt(double xTwips, double yTwips) const
@@ -208,4 +232,10 @@ QString GraphScreen::readoutAt(double xTwips, double yTwips) const
             }
         }
     return QStringLiteral("x = %1, y = %2").arg(said(x, rx), said(y, ry));
+}
+
+QString GraphScreen::draggedValue(double x) const
+{
+    const double pixel = std::fabs(graph.XRange) / GraphWindow::Side * twipsPerPixel(surface);
+    return QString::fromStdString(audio::spoken(x, pixel));
 }

@@ -118,11 +118,13 @@ void frmNewton::applyNewton(double x)
     // curve (with "x1" at the start of a sequence), then the tangent down to the axis.
     const bool first = NewSequence;
     keepDrawing(
-        QStringLiteral("the guess x = ") + qTrimStr(x), [this, x, first] { drawGuess(x, first); }, typed_);
+        QStringLiteral("the guess x = ") + qTrimStr(x), [this, x, first] { drawGuess(x, first); }, typed_,
+        QStringLiteral("steps"));
     NewSequence = false;
     auto step = std::make_shared<std::pair<double, double>>();  // the slope and the next guess
     keepDrawing(
-        QStringLiteral("the tangent at x = ") + qTrimStr(x), [this, x, step] { *step = drawTangent(x); }, typed_);
+        QStringLiteral("the tangent at x = ") + qTrimStr(x), [this, x, step] { *step = drawTangent(x); }, typed_,
+        QStringLiteral("steps"));
     if (step->first != 0) {
         txtGuess->assign(qTrimStr(step->second));
     } else {
@@ -200,4 +202,26 @@ void frmNewton::describeResults(QStringList& lines) const
     lines << (guesses.isEmpty()
                   ? QStringLiteral("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
                   : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
+}
+
+std::vector<GraphScreen::DragHandle> frmNewton::dragHandles()
+{
+    const std::optional<double> first =
+        NewSequence ? txtGuess->number() : rt::TryVal(grdGuess->cell(1, 1).toStdString());
+    if (!first)
+        return {};
+    return {{QStringLiteral("the first guess"), *first, 0, true, [this](double x, double) { dragGuess(x); }}};
+}
+
+void frmNewton::dragGuess(double x)
+{
+    const int steps = NewSequence ? 1 : std::max(1, GuessNumber - 1);
+    eraseKept(QStringLiteral("steps"));
+    runForDrag([&] {
+        NewSequence = true;
+        GuessNumber = 1;
+        txtGuess->assign(draggedValue(x));
+        for (int i = 0; i < steps; ++i)
+            cmdApply_Click();
+    });
 }

@@ -30,6 +30,11 @@ public:
     void mnuFunc_Click(int Index) override;
     void mnuAbout_Click() override;
 
+    // The first guess of the sequence shown (the guess box before any), dragged along the x-axis:
+    // the sequence is drawn again from there with as many steps.
+    std::vector<DragHandle> dragHandles() override;
+    void dragGuess(double x);
+
 protected:
     void coefficientChanged(int index) override;
     void functionReplaced() override;

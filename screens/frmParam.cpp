@@ -172,11 +172,17 @@ void frmParam::txtT_Change()
     }
     const float x = rt::CSng(CurveX(t)), y = rt::CSng(CurveY(t));
     lblXY->setText(QStringLiteral("(") + qStr(cut4(x)) + QStringLiteral(",") + qStr(cut4(y)) + QStringLiteral(")"));
-    const double column = graph.column(x), row = graph.row(y);
-    if (!inside(column, row))
-        return;
-    DrawWidthScope marked(*surface, DrawingStyle::kMarkWidth);
-    surface->PSet(column, row, rgbColor(rt::QBColor(rt::Mod(XtFuncId + 2, 7))));
+    // The traced point is a kept step: a new window marks it again at its place there.
+    keepDrawing(
+        QStringLiteral("the point at t = ") + qTrimStr(t),
+        [this, x, y] {
+            const double column = graph.column(x), row = graph.row(y);
+            if (!inside(column, row))
+                return;
+            DrawWidthScope marked(*surface, DrawingStyle::kMarkWidth);
+            surface->PSet(column, row, rgbColor(rt::QBColor(rt::Mod(FuncGlobals::XtFuncId + 2, 7))));
+        },
+        typedCurve_);
 }
 
 template <class At, class From>
@@ -185,8 +191,19 @@ void frmParam::plotCurve(At at, From from)
     const float t0 = rt::CSng(txtT0->value()), tn = rt::CSng(txtTn->value());
     const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
-    auto [c0, r0] = at(t0);
     const bool points = optPoints->isChecked();
+    const QString name = QStringLiteral("the curve ") + lblXPar->text() + QStringLiteral(", ") + lblYPar->text() +
+                         QStringLiteral(" for t from ") + txtT0->text() + QStringLiteral(" to ") + txtTn->text();
+    // The figure is a kept step: a new window maps the same t values again.
+    keepDrawing(
+        QStringLiteral("the parametric curve"),
+        [this, at, from, t0, n, dt, points, name] { drawCurve(at, from, t0, n, dt, points, name); }, typedCurve_);
+}
+
+template <class At, class From>
+void frmParam::drawCurve(At at, From from, float t0, std::int16_t n, float dt, bool points, const QString& name)
+{
+    auto [c0, r0] = at(t0);
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
     // Every k-th point is kept in the world (about 2000 in all) for the trace and the walk.
     std::vector<audio::Point> kept;
@@ -220,9 +237,7 @@ void frmParam::plotCurve(At at, From from)
             r0 = r1;
         }
     }
-    noteTraced(drawnCurve(QStringLiteral("the curve ") + lblXPar->text() + QStringLiteral(", ") + lblYPar->text() +
-                              QStringLiteral(" for t from ") + txtT0->text() + QStringLiteral(" to ") + txtTn->text(),
-                          std::move(kept)));
+    noteTraced(drawnCurve(name, std::move(kept)));
 }
 
 void frmParam::cmdPlotto_Click()

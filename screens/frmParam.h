@@ -80,4 +80,7 @@ private:
     // first point) is drawn only where `from` holds for its start.
     template <class At, class From>
     void plotCurve(At at, From from);
+    // The figure of n steps of dt from t0, as points or joined, noted for the trace as `name`.
+    template <class At, class From>
+    void drawCurve(At at, From from, float t0, std::int16_t n, float dt, bool points, const QString& name);
 };

@@ -81,7 +81,7 @@ void frmTangent::drawSecant(double dx)
     auto result = std::make_shared<Secant>();
     keepDrawing(
         QStringLiteral("the secant from x = ") + qTrimStr(x1),
-        [this, x1, dx, result] { *result = secantLines(x1, dx); }, typed_);
+        [this, x1, dx, result] { *result = secantLines(x1, dx); }, typed_, QStringLiteral("secants"));
     const Secant& r = *result;
     if (r.x2 == r.x1) {
         lblTLine->setText(QStringLiteral("ERROR!  0/0"));
@@ -194,4 +194,21 @@ void frmTangent::describeResults(QStringList& lines) const
                       : QStringLiteral("The exact tangent at x = %1: y = %2x + %3.")
                             .arg(qTrimStr(x), qTrimStr(m), qTrimStr(b)));
     }
+}
+
+std::vector<GraphScreen::DragHandle> frmTangent::dragHandles()
+{
+    const std::optional<double> x = txtX->number();
+    if (!x)
+        return {};
+    const double y = FuncGlobals::ExplicitSnapshot(FuncGlobals::ExplicitSnapshot::What::Value, typed_).at(*x);
+    if (!std::isfinite(y))
+        return {};
+    return {{QStringLiteral("the point of tangency"), *x, y, true, [this](double to, double) {
+                 eraseKept(QStringLiteral("secants"));
+                 runForDrag([&] {
+                     txtX->assign(draggedValue(to));
+                     cmdApply_Click();
+                 });
+             }}};
 }

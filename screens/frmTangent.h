@@ -31,6 +31,10 @@ public:
 protected:
     void describeResults(QStringList& lines) const override;
 
+    // The point of tangency, dragged along the curve: the box takes its x and the secant is drawn
+    // again from there, as Apply It draws it.
+    std::vector<DragHandle> dragHandles() override;
+
 private:
     void drawSecant(double dx);
     // The secant through (x1, f(x1)) and (x1 + dx, f(x1 + dx)) and its two lines on the graph (the

@@ -17,6 +17,7 @@
 #include "screens/frmFlowField.h"
 #include "screens/frmMVT.h"
 #include "screens/frmNewton.h"
+#include "screens/frmParam.h"
 #include "screens/frmRiemann.h"
 #include "screens/frmTangent.h"
 
@@ -162,6 +163,20 @@ TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
              f.Form_MouseDown(RightButton, 0, s.graph.column(-2), s.graph.row(5));
          },
          4, 3, 3, false},
+        {"parametric, a family's figure and its traced point", make<frmParam>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             as<frmParam>(s).HscT->setValue(300);
+         },
+         1, -1, 2.5},
+        {"parametric, a typed cycloid as points", make<frmParam>,
+         [](GraphScreen& s) {
+             auto& p = as<frmParam>(s);
+             ASSERT_EQ(p.setTypedCurve(QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)")), QString());
+             p.optPoints->setChecked(true);
+             click(s.cmdPlotto);
+         },
+         3, 1, 0.8},
         {"animation, the curve", make<frmAnimate>, [](GraphScreen& s) { click(s.cmdPlotto); }, 0, 0, 0.5},
     };
     for (const Case& c : cases) {
@@ -306,5 +321,84 @@ TEST(View, NoZoomEndsTheProgramAndWhatCannotBeShownIsSaidInWords)
         EXPECT_TRUE(o.script.errors.empty()) << c.name;
         EXPECT_TRUE(o.screen->announcement().contains(QString::fromUtf8(c.says)))
             << c.name << ": " << o.screen->announcement().toStdString();
+    }
+}
+
+// Dragging a point of the construction gives what typing its value and pressing the button gives.
+TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
+{
+    struct Case {
+        const char* name;
+        std::function<std::unique_ptr<GraphScreen>()> make;
+        Act setUp;
+        double toX;  // where the point is dragged, in the world
+        TextBox* (*box)(GraphScreen&);
+        std::function<QString(GraphScreen&)> dragged;  // the value the drag put in the box, as shown
+        Act typed;  // what a person does after typing the box's new value
+        std::function<QString(GraphScreen&)> shows;
+    };
+    const std::vector<Case> cases{
+        {"Newton's first guess", make<frmNewton>,
+         [](GraphScreen& s) {
+             ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")), QString());
+             click(s.cmdPlotto);
+             as<frmNewton>(s).txtGuess->setText(QStringLiteral("2"));
+             for (int i = 0; i < 3; ++i)
+                 as<frmNewton>(s).cmdApply_Click();
+         },
+         3.3, [](GraphScreen& s) -> TextBox* { return as<frmNewton>(s).txtGuess; },
+         [](GraphScreen& s) { return as<frmNewton>(s).grdGuess->cell(1, 1); },  // the box holds the next guess
+         [](GraphScreen& s) {
+             for (int i = 0; i < 3; ++i)
+                 as<frmNewton>(s).cmdApply_Click();
+         },
+         [](GraphScreen& s) { return as<frmNewton>(s).grdGuess->tabSeparated(); }},
+        {"the tangent's point", make<frmTangent>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             as<frmTangent>(s).cmdApply_Click();
+         },
+         -2.4, [](GraphScreen& s) -> TextBox* { return as<frmTangent>(s).txtX; },
+         [](GraphScreen& s) { return as<frmTangent>(s).txtX->text(); },
+         [](GraphScreen& s) { as<frmTangent>(s).cmdApply_Click(); },
+         [](GraphScreen& s) {
+             return texts({as<frmTangent>(s).lblPoints, as<frmTangent>(s).lblTLine});
+         }},
+    };
+    for (const Case& c : cases) {
+        Opened dragged(c.make, c.setUp);
+        GraphScreen& s = *dragged.screen;
+        const std::vector<GraphScreen::DragHandle> handles = s.dragHandles();
+        ASSERT_EQ(handles.size(), 1u) << c.name;
+        const double perPixel = twipsPerPixel(s.surface);
+        const QPoint from(static_cast<int>(std::lround(s.graph.plainColumn(handles[0].x) / perPixel)),
+                          static_cast<int>(std::lround(s.graph.plainRow(handles[0].y) / perPixel)));
+        const QPoint to(static_cast<int>(std::lround(s.graph.plainColumn(c.toX) / perPixel)), from.y());
+        const auto send = [&](QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+            QMouseEvent event(type, at, s.surface->mapToGlobal(at), button, held, Qt::NoModifier);
+            QApplication::sendEvent(s.surface, &event);
+        };
+        send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseMove, (from + to) / 2, Qt::NoButton, Qt::LeftButton);
+        send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+        const QString value = c.dragged(s);
+        EXPECT_NEAR(rt::Val(value.toStdString()), c.toX, 0.1) << c.name << ": " << value.toStdString();
+
+        Opened typed(c.make, [&](GraphScreen& t) {
+            c.setUp(t);
+            click(t.cmdClean);
+            click(t.cmdPlotto);
+            if (auto* newton = dynamic_cast<frmNewton*>(&t)) {
+                newton->NewSequence = true;  // as a new function or an activation starts one
+                newton->GuessNumber = 1;
+            }
+            c.box(t)->setText(value);
+            c.typed(t);
+        });
+        EXPECT_EQ(c.shows(s), c.shows(*typed.screen)) << c.name;
+        std::string where;
+        EXPECT_TRUE(sameOps(s.surface->ops(), typed.screen->surface->ops(), where)) << c.name << ": " << where;
+        EXPECT_TRUE(dragged.script.errors.empty() && typed.script.errors.empty()) << c.name;
     }
 }
