@@ -102,7 +102,8 @@ void frmMVT::applyMVT()
     // The end points, their circles and the secant are one kept step: a new window draws them again.
     auto secant = std::make_shared<SecantAB>();
     keepDrawing(
-        QStringLiteral("the secant over [a, b]"), [this, secant] { drawSecantAB(*secant); }, typed_);
+        QStringLiteral("the secant over [a, b]"), [this, secant] { drawSecantAB(*secant); }, typed_,
+                QStringLiteral("construction"));
     const SecantAB& r = *secant;
     if (r.b == r.a) {
         lblSlope1->setText(QStringLiteral("ERROR!  0/0"));
@@ -165,7 +166,7 @@ void frmMVT::slideTangent()
             dotLine(static_cast<int>(graph.Left), static_cast<int>(graph.right()), colour,
                     [slope, c, fc](auto x, auto chk) { return chk(chk(slope * chk(x - c)) + fc); });
         },
-        typed_);
+        typed_, QStringLiteral("construction"));
 }
 
 // A line dotted column by column where its row lies in the square. Where the surface batches, the
@@ -246,7 +247,8 @@ void frmMVT::findC()
     auto first = std::make_shared<bool>(true);
     keepDrawing(
         QStringLiteral("the points c"),
-        [this, a, b, last, first, target = SecantSlope] { scanC(a, b, last, target, *first); }, typed_);
+        [this, a, b, last, first, target = SecantSlope] { scanC(a, b, last, target, *first); }, typed_,
+        QStringLiteral("construction"));
     *first = false;
 }
 
@@ -338,4 +340,27 @@ void frmMVT::describeResults(QStringList& lines) const
                          .arg(gridC->cell(r, 0), gridC->cell(r, 1), gridC->cell(r, 2));
     if (!found.isEmpty())
         lines << QStringLiteral("Found: ") + found.join(QStringLiteral("; ")) + QLatin1Char('.');
+}
+
+std::vector<GraphScreen::DragHandle> frmMVT::dragHandles()
+{
+    std::vector<DragHandle> handles;
+    const FuncGlobals::ExplicitSnapshot f(FuncGlobals::ExplicitSnapshot::What::Value, typed_);
+    const std::pair<TextBox*, const char*> ends[] = {{txtX1, "a"}, {txtX2, "b"}};
+    for (const auto& [box, name] : ends) {
+        const std::optional<double> x = box->number();
+        const double y = x ? f.at(*x) : std::nan("");
+        if (!std::isfinite(y))
+            continue;
+        // Dragging an end draws the secant again from there, as Apply does; the slider's tangent and
+        // the points c belonged to the old interval.
+        handles.push_back({QString::fromLatin1(name), *x, y, true, [this, box](double to, double) {
+                               eraseKept(QStringLiteral("construction"));
+                               runForDrag([&] {
+                                   box->assign(draggedValue(to));
+                                   cmdApplyMVT_Click();
+                               });
+                           }});
+    }
+    return handles;
 }

@@ -36,6 +36,9 @@ public:
     void Form_Load() override;
     void mnuAbout_Click() override;
 
+    // The interval's ends a and b, dragged along the curve.
+    std::vector<DragHandle> dragHandles() override;
+
 private:
     void applyMVT();
     void slideTangent();

@@ -287,9 +287,18 @@ struct Walk {
             break;
         }
         case Control::Surface: {
-            const QPoint at(pick(w->width()), pick(w->height()));
+            QPoint at(pick(w->width()), pick(w->height()));
             const int how = pick(7);  // left, right, move, wheel, drag (left, right, middle)
             const QPoint to(pick(w->width()), pick(w->height()));
+            // A left drag starts on a point of the construction half the time, where there is one.
+            const std::vector<GraphScreen::DragHandle> handles = s.dragHandles();
+            if (how == 4 && !handles.empty() && pick(2) == 0 && s.graph.XRange != 0 && s.graph.YRange != 0) {
+                const GraphScreen::DragHandle& h = handles[static_cast<std::size_t>(pick(static_cast<int>(handles.size())))];
+                const double perPixel = twipsPerPixel(s.surface);
+                const double px = s.graph.plainColumn(h.x) / perPixel, py = s.graph.plainRow(h.y) / perPixel;
+                if (std::fabs(px) < 1e5 && std::fabs(py) < 1e5)
+                    at = QPoint(static_cast<int>(px), static_cast<int>(py));
+            }
             what += "presses, moves, turns the wheel or drags (" + std::to_string(how) + ") on the surface at " +
                     std::to_string(at.x()) + "," + std::to_string(at.y()) + " to " + std::to_string(to.x()) + "," +
                     std::to_string(to.y());

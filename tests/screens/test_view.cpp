@@ -336,6 +336,7 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
         std::function<QString(GraphScreen&)> dragged;  // the value the drag put in the box, as shown
         Act typed;  // what a person does after typing the box's new value
         std::function<QString(GraphScreen&)> shows;
+        std::size_t handle = 0;  // which of the screen's handles is dragged
     };
     const std::vector<Case> cases{
         {"Newton's first guess", make<frmNewton>,
@@ -364,15 +365,30 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
          [](GraphScreen& s) {
              return texts({as<frmTangent>(s).lblPoints, as<frmTangent>(s).lblTLine});
          }},
+        {"the mean value theorem's b", make<frmMVT>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             type({as<frmMVT>(s).txtX1, as<frmMVT>(s).txtX2}, "0|2");
+             as<frmMVT>(s).cmdApplyMVT_Click();
+         },
+         2.8, [](GraphScreen& s) -> TextBox* { return as<frmMVT>(s).txtX2; },
+         [](GraphScreen& s) { return as<frmMVT>(s).txtX2->text(); },
+         [](GraphScreen& s) { as<frmMVT>(s).cmdApplyMVT_Click(); },
+         [](GraphScreen& s) {
+             auto& m = as<frmMVT>(s);
+             return texts({m.lblPt1, m.lblPt2, m.lblSlope1});
+         },
+         1},
     };
     for (const Case& c : cases) {
         Opened dragged(c.make, c.setUp);
         GraphScreen& s = *dragged.screen;
         const std::vector<GraphScreen::DragHandle> handles = s.dragHandles();
-        ASSERT_EQ(handles.size(), 1u) << c.name;
+        ASSERT_GT(handles.size(), c.handle) << c.name;
         const double perPixel = twipsPerPixel(s.surface);
-        const QPoint from(static_cast<int>(std::lround(s.graph.plainColumn(handles[0].x) / perPixel)),
-                          static_cast<int>(std::lround(s.graph.plainRow(handles[0].y) / perPixel)));
+        const GraphScreen::DragHandle& handle = handles[c.handle];
+        const QPoint from(static_cast<int>(std::lround(s.graph.plainColumn(handle.x) / perPixel)),
+                          static_cast<int>(std::lround(s.graph.plainRow(handle.y) / perPixel)));
         const QPoint to(static_cast<int>(std::lround(s.graph.plainColumn(c.toX) / perPixel)), from.y());
         const auto send = [&](QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
             QMouseEvent event(type, at, s.surface->mapToGlobal(at), button, held, Qt::NoModifier);
