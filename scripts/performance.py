@@ -40,6 +40,17 @@ TYPED = [
 ]
 
 
+# The view's scenes (bench/bench_view.cpp, in its order) and their budget per step in milliseconds.
+VIEW = [
+    ("Grapher: ten curves", 16),
+    ("Sums: all seven methods, 100 partitions", 16),
+    ("Newton's method: the curve, its derivative and six steps", 16),
+    ("Slope fields: the forty curves", 16),
+    ("Sums: all seven methods, 32000 partitions", 100),
+    ("Slope fields: the forty curves and the three approximations", 100),
+]
+
+
 def medians(report):
     out = {}
     for b in report["benchmarks"]:
@@ -109,6 +120,25 @@ def main():
             lines.append(f"| {title} | {t:.3f} | {b:.3f} | {ratio(fs, handler, floor):.2f} | | {dirty(hd)} | {dirty(fd)} |")
     if "BM_ResizeWithEightyCurves" in h:
         lines.append(f"| Slope fields: resize with the eighty curves (redrawn) | {h['BM_ResizeWithEightyCurves'][0]:.3f} | | | 100 ms | | |")
+    lines += [
+        "",
+        "## The view: a wheel step and a pan step",
+        "",
+        "A zoom or a pan draws the whole kept picture again at the new window. Each step is timed against",
+        "the same picture drawn directly by the screen's handlers after a clear (what a redraw cannot do",
+        "with less), both in the handlers' process; the budget is one frame for a usual scene and 100 ms for",
+        "the heaviest.",
+        "",
+        "| scene | wheel step (ms) | pan step (ms) | drawn directly (ms) | wheel / direct | budget |",
+        "|---|---:|---:|---:|---:|---:|",
+    ]
+    for index, (title, budget) in enumerate(VIEW):
+        wheel, pan, direct = (f"BM_ViewWheelStep/{index}", f"BM_ViewPanStep/{index}", f"BM_ViewDirectDrawing/{index}")
+        if wheel in h and pan in h and direct in h:
+            q = statistics.median(r[wheel][0] / r[direct][0] for r in hs)
+            worst = max(h[wheel][0], h[pan][0])
+            within = f"{budget} ms" + ("" if worst <= budget else " (missed)")
+            lines.append(f"| {title} | {h[wheel][0]:.3f} | {h[pan][0]:.3f} | {h[direct][0]:.3f} | {q:.2f} | {within} |")
     lines += [
         "",
         "## Typed functions",
