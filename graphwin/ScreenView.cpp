@@ -217,19 +217,36 @@ QString GraphScreen::readoutAt(double xTwips, double yTwips) const
     const double rx = std::fabs(graph.XRange) / GraphWindow::Side * perPixel,
                  ry = std::fabs(graph.YRange) / GraphWindow::Side * perPixel;
     auto said = [](double v, double resolution) { return QString::fromStdString(audio::spoken(v, resolution)); };
-    // Near a drawn curve of y = f(x), the curve's own value at the pointer's x.
+    auto shortName = [](QString name) {
+        if (const auto with = name.indexOf(QStringLiteral(" with ")); with > 0)
+            name.truncate(with);
+        return name.remove(QStringLiteral("the typed function "));
+    };
+    const double reach = 8 * perPixel;
     if (sinceClear())
         for (auto it = traced_.rbegin(); it != traced_.rend(); ++it) {
-            if (!it->f)
+            if (it->f) {
+                // Near a drawn curve of y = f(x): the curve's own value at the pointer's x.
+                const double fy = it->f(x);
+                if (std::isfinite(fy) && std::fabs(graph.plainRow(fy) - yTwips) <= reach)
+                    return QStringLiteral("%1 at x = %2: y = %3").arg(shortName(it->name), said(x, rx), said(fy, ry));
                 continue;
-            const double fy = it->f(x);
-            if (std::isfinite(fy) && std::fabs(graph.plainRow(fy) - yTwips) <= 8 * perPixel) {
-                QString name = it->name;
-                if (const auto with = name.indexOf(QStringLiteral(" with ")); with > 0)
-                    name.truncate(with);
-                name.remove(QStringLiteral("the typed function "));
-                return QStringLiteral("%1 at x = %2: y = %3").arg(name, said(x, rx), said(fy, ry));
             }
+            // Near a point of a curve drawn as points (an integral curve, a parametric curve, the
+            // tops of a sum's bars): that point.
+            const std::vector<audio::Point> points = it->points(0);
+            const audio::Point* nearest = nullptr;
+            double best = reach;
+            for (const audio::Point& p : points) {
+                const double d = std::hypot(graph.plainColumn(p.x) - xTwips, graph.plainRow(p.y) - yTwips);
+                if (std::isfinite(d) && d <= best) {
+                    best = d;
+                    nearest = &p;
+                }
+            }
+            if (nearest)
+                return QStringLiteral("%1: x = %2, y = %3")
+                    .arg(shortName(it->name), said(nearest->x, rx), said(nearest->y, ry));
         }
     return QStringLiteral("x = %1, y = %2").arg(said(x, rx), said(y, ry));
 }

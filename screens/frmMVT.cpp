@@ -103,7 +103,7 @@ void frmMVT::applyMVT()
     auto secant = std::make_shared<SecantAB>();
     keepDrawing(
         QStringLiteral("the secant over [a, b]"), [this, secant] { drawSecantAB(*secant); }, typed_,
-                QStringLiteral("construction"));
+        QStringLiteral("construction"));
     const SecantAB& r = *secant;
     if (r.b == r.a) {
         lblSlope1->setText(QStringLiteral("ERROR!  0/0"));

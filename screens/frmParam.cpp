@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "funclib/FunctionSource.h"
@@ -401,4 +402,63 @@ void frmParam::describeResults(QStringList& lines) const
                  .arg(txtT0->text(), txtTn->text(), txtTstep->text(),
                       optCont->isChecked() ? QStringLiteral("connected points") : QStringLiteral("separate points"));
     lines << QStringLiteral("Trace at t = %1: %2.").arg(txtT->text(), lblXY->text());
+}
+
+std::vector<GraphScreen::DragHandle> frmParam::dragHandles()
+{
+    const std::optional<double> t = txtT->number();
+    if (!t)
+        return {};
+    double x = 0, y = 0;
+    try {
+        x = FuncGlobals::CurveX(static_cast<float>(*t));
+        y = FuncGlobals::CurveY(static_cast<float>(*t));
+    } catch (const rt::RuntimeError&) {
+        return {};
+    }
+    if (!std::isfinite(x) || !std::isfinite(y))
+        return {};
+    return {{QStringLiteral("the traced point"), x, y, false, [this](double toX, double toY) { dragTrace(toX, toY); }}};
+}
+
+void frmParam::dragTrace(double toX, double toY)
+{
+    // The t of the curve's point nearest the pointer, among the plot's steps, to four decimals as the
+    // slider gives it; where the curve passes near itself, the one nearest the t shown now, so that
+    // the point follows the pointer along the branch it is on. The box takes it and marks the point
+    // as typing it does.
+    const std::optional<double> t0 = txtT0->number(), tn = txtTn->number(), steps = txtTstep->number();
+    const std::optional<double> now = txtT->number();
+    if (!t0 || !tn || !steps || !(*steps >= 1) || *steps > 32000)
+        return;
+    const int n = static_cast<int>(*steps);
+    std::vector<std::pair<double, double>> candidates;  // (t, squared distance in twips)
+    double best = std::numeric_limits<double>::infinity();
+    for (int i = 0; i <= n; ++i) {
+        const float t = static_cast<float>(*t0 + (*tn - *t0) * i / n);
+        try {
+            const double dx = graph.plainColumn(FuncGlobals::CurveX(t)) - graph.plainColumn(toX),
+                         dy = graph.plainRow(FuncGlobals::CurveY(t)) - graph.plainRow(toY);
+            const double d = dx * dx + dy * dy;
+            if (std::isfinite(d)) {
+                candidates.emplace_back(t, d);
+                best = std::min(best, d);
+            }
+        } catch (const rt::RuntimeError&) { }
+    }
+    if (candidates.empty())
+        return;
+    const double near = std::pow(std::sqrt(best) + 4 * twipsPerPixel(surface), 2);
+    // Each branch's nearest point is a local minimum of the distance along t.
+    double chosen = candidates.front().first, gap = std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+        const auto [t, d] = candidates[i];
+        const bool least =
+            (i == 0 || d <= candidates[i - 1].second) && (i + 1 == candidates.size() || d <= candidates[i + 1].second);
+        if (least && d <= near && std::fabs(t - now.value_or(t)) < gap) {
+            gap = std::fabs(t - now.value_or(t));
+            chosen = t;
+        }
+    }
+    runForDrag([&] { txtT->assign(rt::CStr(std::floor(chosen * 10000 + 0.5) / 10000)); });
 }

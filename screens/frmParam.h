@@ -38,6 +38,8 @@ public:
     void lblFinalT_MouseDown(int Button, int Shift, double X, double Y);
     void lblTstep_MouseDown(int Button, int Shift, double X, double Y);
     void lbltTrace_MouseDown(int Button, int Shift, double X, double Y);
+    // The traced point, dragged along the curve: t follows the pointer.
+    std::vector<DragHandle> dragHandles() override;
     void txtT0_Change();
     void txtTn_Change();
     void txtTstep_Change();
@@ -80,6 +82,7 @@ private:
     // first point) is drawn only where `from` holds for its start.
     template <class At, class From>
     void plotCurve(At at, From from);
+    void dragTrace(double toX, double toY);
     // The figure of n steps of dt from t0, as points or joined, noted for the trace as `name`.
     template <class At, class From>
     void drawCurve(At at, From from, float t0, std::int16_t n, float dt, bool points, const QString& name);

@@ -204,11 +204,26 @@ std::vector<GraphScreen::DragHandle> frmTangent::dragHandles()
     const double y = FuncGlobals::ExplicitSnapshot(FuncGlobals::ExplicitSnapshot::What::Value, typed_).at(*x);
     if (!std::isfinite(y))
         return {};
-    return {{QStringLiteral("the point of tangency"), *x, y, true, [this](double to, double) {
+    std::vector<DragHandle> handles{{QStringLiteral("the point of tangency"), *x, y, true, [this](double to, double) {
+                                         eraseKept(QStringLiteral("secants"));
+                                         runForDrag([&] {
+                                             txtX->assign(draggedValue(to));
+                                             cmdApply_Click();
+                                         });
+                                     }}};
+    // The secant's other point, at x + Delta x: dragging it sets Delta x.
+    const std::optional<double> dx = txtDeltaX->number();
+    const double y2 =
+        dx ? FuncGlobals::ExplicitSnapshot(FuncGlobals::ExplicitSnapshot::What::Value, typed_).at(*x + *dx)
+           : std::nan("");
+    if (std::isfinite(y2) && *dx != 0)
+        handles.push_back(
+            {QStringLiteral("the point at x + Delta x"), *x + *dx, y2, true, [this, at = *x](double to, double) {
                  eraseKept(QStringLiteral("secants"));
                  runForDrag([&] {
-                     txtX->assign(draggedValue(to));
+                     txtDeltaX->assign(draggedValue(to - at));
                      cmdApply_Click();
                  });
-             }}};
+             }});
+    return handles;
 }

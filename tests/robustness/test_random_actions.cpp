@@ -293,7 +293,8 @@ struct Walk {
             // A left drag starts on a point of the construction half the time, where there is one.
             const std::vector<GraphScreen::DragHandle> handles = s.dragHandles();
             if (how == 4 && !handles.empty() && pick(2) == 0 && s.graph.XRange != 0 && s.graph.YRange != 0) {
-                const GraphScreen::DragHandle& h = handles[static_cast<std::size_t>(pick(static_cast<int>(handles.size())))];
+                const GraphScreen::DragHandle& h =
+                    handles[static_cast<std::size_t>(pick(static_cast<int>(handles.size())))];
                 const double perPixel = twipsPerPixel(s.surface);
                 const double px = s.graph.plainColumn(h.x) / perPixel, py = s.graph.plainRow(h.y) / perPixel;
                 if (std::fabs(px) < 1e5 && std::fabs(py) < 1e5)

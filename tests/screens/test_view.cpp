@@ -12,6 +12,7 @@
 
 #include "graphwin/GraphViewer.h"
 #include "runtime/Random.h"
+#include "screens/Lesson.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
@@ -337,6 +338,7 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
         Act typed;  // what a person does after typing the box's new value
         std::function<QString(GraphScreen&)> shows;
         std::size_t handle = 0;  // which of the screen's handles is dragged
+        double value = NAN;  // the value the box then holds (the place dragged to, where this is NaN)
     };
     const std::vector<Case> cases{
         {"Newton's first guess", make<frmNewton>,
@@ -365,6 +367,18 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
          [](GraphScreen& s) {
              return texts({as<frmTangent>(s).lblPoints, as<frmTangent>(s).lblTLine});
          }},
+        {"the tangent's Delta x", make<frmTangent>,
+         [](GraphScreen& s) {
+             click(s.cmdPlotto);
+             as<frmTangent>(s).cmdApply_Click();
+         },
+         2.5, [](GraphScreen& s) -> TextBox* { return as<frmTangent>(s).txtDeltaX; },
+         [](GraphScreen& s) { return as<frmTangent>(s).txtDeltaX->text(); },
+         [](GraphScreen& s) { as<frmTangent>(s).cmdApply_Click(); },
+         [](GraphScreen& s) {
+             return texts({as<frmTangent>(s).lblPoints, as<frmTangent>(s).lblTLine});
+         },
+         1, 1.5},
         {"the mean value theorem's b", make<frmMVT>,
          [](GraphScreen& s) {
              click(s.cmdPlotto);
@@ -399,7 +413,8 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
         send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
         send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
         const QString value = c.dragged(s);
-        EXPECT_NEAR(rt::Val(value.toStdString()), c.toX, 0.1) << c.name << ": " << value.toStdString();
+        EXPECT_NEAR(rt::Val(value.toStdString()), std::isnan(c.value) ? c.toX : c.value, 0.1)
+            << c.name << ": " << value.toStdString();
 
         Opened typed(c.make, [&](GraphScreen& t) {
             c.setUp(t);
@@ -417,4 +432,69 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
         EXPECT_TRUE(sameOps(s.surface->ops(), typed.screen->surface->ops(), where)) << c.name << ": " << where;
         EXPECT_TRUE(dragged.script.errors.empty() && typed.script.errors.empty()) << c.name;
     }
+}
+
+// A lesson step records the window the view shows, and opening it shows that window again.
+TEST(View, ALessonStepKeepsTheWindowTheViewShows)
+{
+    Opened o(make<frmClasses>, [](GraphScreen& s) { click(s.cmdPlotto); });
+    GraphScreen& s = *o.screen;
+    ASSERT_TRUE(s.zoomViewAt(1, 2, 4));
+    const lesson::Step step = lesson::capture(s);
+    const std::pair<const char*, TextBox*> limits[] = {
+        {"Xmin", s.txtXmin}, {"Xmax", s.txtXmax}, {"Ymin", s.txtYmin}, {"Ymax", s.txtYmax}};
+    for (const auto& [name, box] : limits)
+        EXPECT_EQ(step.controls.value(QString::fromLatin1(name)).toString(), box->text()) << name;
+    EXPECT_EQ(s.txtXmin->text(), QStringLiteral("-1.75"));  // a quarter of the width, about x = 1
+    Opened other(make<frmClasses>, [](GraphScreen&) {});
+    lesson::apply(step, *other.screen);
+    EXPECT_EQ(texts({other.screen->txtXmin, other.screen->txtXmax, other.screen->txtYmin, other.screen->txtYmax}),
+              texts({s.txtXmin, s.txtXmax, s.txtYmin, s.txtYmax}));
+    EXPECT_TRUE(o.script.errors.empty() && other.script.errors.empty());
+}
+
+// The traced point of the parametric screen follows the pointer along the curve, as the slider
+// would move it.
+TEST(View, TheParametricTracedPointFollowsThePointerAlongTheCurve)
+{
+    // A figure eight, which crosses itself at the origin (t = pi and t = 0 or 2 pi).
+    Opened o(make<frmParam>, [](GraphScreen& s) {
+        ASSERT_EQ(as<frmParam>(s).setTypedCurve(QStringLiteral("3*sin(t)"), QStringLiteral("3*sin(2*t)")), QString());
+        click(s.cmdPlotto);
+        as<frmParam>(s).txtT->setText(QStringLiteral("2.5"));
+    });
+    auto& p = as<frmParam>(*o.screen);
+    ASSERT_EQ(p.dragHandles().size(), 1u);
+    // Along the curve through the crossing: t follows, to within the plot's steps, on the branch the
+    // pointer is on.
+    for (float target = 2.55f; target <= 3.8f; target += 0.05f) {
+        p.dragHandles()[0].moveTo(FuncGlobals::CurveX(target), FuncGlobals::CurveY(target));
+        EXPECT_NEAR(p.txtT->value(), target, 0.01) << p.txtT->text().toStdString();
+    }
+    EXPECT_TRUE(p.lblXY->text().startsWith(QLatin1Char('('))) << p.lblXY->text().toStdString();
+    EXPECT_TRUE(o.script.errors.empty());
+}
+
+// The readout gives a bar's top and an integral curve's point near them.
+TEST(View, TheReadoutGivesTheBarsAndThePointsOfCurvesDrawnAsPoints)
+{
+    Opened sums(make<frmRiemann>, [](GraphScreen& s) {
+        as<frmRiemann>(s).chkMid->setChecked(true);
+        as<frmRiemann>(s).txtParts->setText(QStringLiteral("4"));
+        click(as<frmRiemann>(s).cmdParts);
+    });
+    GraphScreen& s = *sums.screen;
+    // The default y = x^2 on [-2, 2] in four: the bar over [0, 1] has its top at (0.5, 0.25).
+    EXPECT_TRUE(s.readoutAt(s.graph.plainColumn(0.5), s.graph.plainRow(0.25))
+                    .startsWith(QStringLiteral("Midpoint bars of y = ")))
+        << s.readoutAt(s.graph.plainColumn(0.5), s.graph.plainRow(0.25)).toStdString();
+    EXPECT_TRUE(
+        s.readoutAt(s.graph.plainColumn(0.5), s.graph.plainRow(0.25)).endsWith(QStringLiteral(": x = 0.5, y = 0.25")));
+
+    Opened field(make<frmFlowField>, [](GraphScreen& f) {
+        as<frmFlowField>(f).Form_MouseDown(LeftButton, 0, f.graph.column(4), f.graph.row(3));
+    });
+    GraphScreen& f = *field.screen;
+    const QString near = f.readoutAt(f.graph.plainColumn(4), f.graph.plainRow(3));
+    EXPECT_TRUE(near.startsWith(QStringLiteral("the curve from ( 4, 3): x = 4"))) << near.toStdString();
 }
