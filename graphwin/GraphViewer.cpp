@@ -83,6 +83,7 @@ void GraphViewer::showReadout(QPointF pixels)
     font.setPointSizeF(10 * screen_.surface->zoom());
     tip_->setFont(font);
     tip_->setText(text);
+    tip_->setAccessibleName(text);  // what a screen reader says of the point under the pointer
     tip_->adjustSize();
     // Above and to the right of the pointer, clear of the point it describes; turned to the other
     // side near the surface's right or top edge.
