@@ -71,8 +71,15 @@ void GraphViewer::flush()
     showReadout(pendingAt_);
 }
 
+void GraphViewer::viewChanged()
+{
+    if (tip_->isVisible())
+        showReadout(pointer_);
+}
+
 void GraphViewer::showReadout(QPointF pixels)
 {
+    pointer_ = pixels;
     const QPointF t = twips(pixels);
     const QString text = screen_.readoutAt(t.x(), t.y());
     if (text.isEmpty()) {

@@ -26,6 +26,8 @@ public:
     QString readout() const;
     // Applies a wheel turn or pinch waiting for the next frame at once.
     void flush();
+    // The window changed (a key, a menu, a drag): the readout is read again where the pointer is.
+    void viewChanged();
     // A handle of the construction is taken within this many pixels of it.
     static constexpr double kHandlePixels = 8;
     // A press that moves this many pixels before its release pans; less is a click.
@@ -60,4 +62,5 @@ private:
     QElapsedTimer sinceFrame_;
     double pendingFactor_ = 1;
     QPointF pendingAt_;
+    QPointF pointer_;  // where the readout was last shown, in pixels
 };

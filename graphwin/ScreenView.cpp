@@ -104,6 +104,8 @@ bool GraphScreen::moveView(const view::Limits& wanted, bool remember)
         said += QStringLiteral(" Some drawings made before cannot be drawn again at a new window: press the "
                                "screen's buttons to draw them here.");
     announce(said);
+    if (viewer_)
+        viewer_->viewChanged();
     return true;
 }
 
