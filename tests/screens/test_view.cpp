@@ -70,6 +70,16 @@ bool sameOps(const std::vector<DrawOp>& a, const std::vector<DrawOp>& b, std::st
 
 void click(QPushButton* b) { b->click(); }
 
+// The textbook cubic, typed, with three of Newton's steps from 2.
+void threeNewtonSteps(GraphScreen& s)
+{
+    ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")), QString());
+    click(s.cmdPlotto);
+    as<frmNewton>(s).txtGuess->setText(QStringLiteral("2"));
+    for (int i = 0; i < 3; ++i)
+        as<frmNewton>(s).cmdApply_Click();
+}
+
 }  // namespace
 
 TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
@@ -105,13 +115,7 @@ TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
          },
          2.0946, 0, 8},
         {"Newton, three steps on the typed cubic from 2", make<frmNewton>,
-         [](GraphScreen& s) {
-             ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")), QString());
-             click(s.cmdPlotto);
-             as<frmNewton>(s).txtGuess->setText(QStringLiteral("2"));
-             for (int i = 0; i < 3; ++i)
-                 as<frmNewton>(s).cmdApply_Click();
-         },
+         threeNewtonSteps,
          2.0946, 0, 16},
         {"Newton, a family's steps from 1 and a new sequence", make<frmNewton>,
          [](GraphScreen& s) {
@@ -342,13 +346,7 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
     };
     const std::vector<Case> cases{
         {"Newton's first guess", make<frmNewton>,
-         [](GraphScreen& s) {
-             ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")), QString());
-             click(s.cmdPlotto);
-             as<frmNewton>(s).txtGuess->setText(QStringLiteral("2"));
-             for (int i = 0; i < 3; ++i)
-                 as<frmNewton>(s).cmdApply_Click();
-         },
+         threeNewtonSteps,
          3.3, [](GraphScreen& s) -> TextBox* { return as<frmNewton>(s).txtGuess; },
          [](GraphScreen& s) { return as<frmNewton>(s).grdGuess->cell(1, 1); },  // the box holds the next guess
          [](GraphScreen& s) {
