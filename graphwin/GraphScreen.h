@@ -369,6 +369,8 @@ private:
     bool moveView(const view::Limits& limits, bool remember);
     // Clears the picture (the screen's own clear) and draws `steps` again; what could not be drawn.
     QStringList redrawKept(GraphScene::Steps steps);
+    // Shows a window of the history (Back, Forward), or says `none` where there is none.
+    bool stepView(const std::optional<view::Limits>& limits, const QString& none);
     // Starts the history afresh when a person's limits replaced the window it knows.
     void followTypedLimits();
     std::unique_ptr<GraphScene> scene_;

@@ -89,24 +89,17 @@ void History::moveTo(const Limits& now)
     current_ = now;
 }
 
-std::optional<Limits> History::back()
+std::optional<Limits> History::step(std::vector<Limits>& from, std::vector<Limits>& to)
 {
-    if (back_.empty())
+    if (from.empty())
         return std::nullopt;
-    forward_.push_back(current_);
-    current_ = back_.back();
-    back_.pop_back();
+    to.push_back(current_);
+    current_ = from.back();
+    from.pop_back();
     return current_;
 }
 
-std::optional<Limits> History::forward()
-{
-    if (forward_.empty())
-        return std::nullopt;
-    back_.push_back(current_);
-    current_ = forward_.back();
-    forward_.pop_back();
-    return current_;
-}
+std::optional<Limits> History::back() { return step(back_, forward_); }
+std::optional<Limits> History::forward() { return step(forward_, back_); }
 
 }  // namespace view

@@ -57,6 +57,8 @@ public:
     static constexpr std::size_t kDepth = 100;
 
 private:
+    // Moves one window from the end of `from` to current, the current one onto `to`.
+    std::optional<Limits> step(std::vector<Limits>& from, std::vector<Limits>& to);
     Limits original_, current_;
     std::vector<Limits> back_, forward_;
 };

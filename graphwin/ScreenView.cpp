@@ -185,23 +185,22 @@ bool GraphScreen::originalWindow()
 bool GraphScreen::backWindow()
 {
     followTypedLimits();
-    const std::optional<view::Limits> before = viewHistory_.back();
-    if (!before) {
-        announce(QStringLiteral("No window before this one."));
-        return false;
-    }
-    return moveView(*before, false);
+    return stepView(viewHistory_.back(), QStringLiteral("No window before this one."));
 }
 
 bool GraphScreen::forwardWindow()
 {
     followTypedLimits();
-    const std::optional<view::Limits> after = viewHistory_.forward();
-    if (!after) {
-        announce(QStringLiteral("No window after this one."));
+    return stepView(viewHistory_.forward(), QStringLiteral("No window after this one."));
+}
+
+bool GraphScreen::stepView(const std::optional<view::Limits>& limits, const QString& none)
+{
+    if (!limits) {
+        announce(none);
         return false;
     }
-    return moveView(*after, false);
+    return moveView(*limits, false);
 }
 
 void GraphScreen::keepDrawing(const QString& what, std::function<void()> draw, std::shared_ptr<const void> keep,
