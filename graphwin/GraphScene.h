@@ -31,8 +31,6 @@ public:
     void settle();
     // True when every drawing since the clear is a kept step.
     bool complete() const;
-    bool empty() const { return steps_.empty(); }
-    std::size_t size() const { return steps_.size(); }
 
     // The kept steps, taken out so that the picture can be cleared and started again.
     struct Step;

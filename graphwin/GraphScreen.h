@@ -243,9 +243,7 @@ public:
     virtual std::vector<DragHandle> dragHandles() { return {}; }
     // A dragged x as a box shows it: to the decimals a pixel of the window tells apart.
     QString draggedValue(double x) const;
-    // How many drawings since the last clear would be drawn again at another window, and whether
-    // that is all of them.
-    std::size_t keptDrawings() const { return scene_->size(); }
+    // Whether every drawing since the last clear would be drawn again at another window.
     bool everyDrawingKept() const { return scene_->complete(); }
 
 protected:

@@ -34,7 +34,7 @@ GraphViewer::GraphViewer(GraphScreen& screen) : QObject(&screen), screen_(screen
     sinceFrame_.start();
 }
 
-QString GraphViewer::readout() const { return tip_->isVisible() ? tip_->text() : QString(); }
+QString GraphViewer::readout() const { return tip_->isHidden() ? QString() : tip_->text(); }
 
 QPointF GraphViewer::twips(QPointF pixels) const { return pixels * twipsPerPixel(screen_.surface); }
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include <QAction>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -114,9 +115,7 @@ TEST(View, AKeptPictureDrawsAfterAZoomWhatTheSameActionsDrawAtThatWindow)
              as<frmNewton>(s).cmdDeriv_Click();
          },
          2.0946, 0, 8},
-        {"Newton, three steps on the typed cubic from 2", make<frmNewton>,
-         threeNewtonSteps,
-         2.0946, 0, 16},
+        {"Newton, three steps on the typed cubic from 2", make<frmNewton>, threeNewtonSteps, 2.0946, 0, 16},
         {"Newton, a family's steps from 1 and a new sequence", make<frmNewton>,
          [](GraphScreen& s) {
              click(s.cmdPlotto);
@@ -244,6 +243,12 @@ TEST(View, TheReadoutNamesTheCurveUnderThePointerOrGivesThePoint)
     const double x = 2.0946;
     const double column = s.graph.plainColumn(x), row = s.graph.plainRow(x * x * x - 2 * x - 5);
     EXPECT_EQ(s.readoutAt(column, row), QStringLiteral("y = x^3 - 2*x - 5 at x = 2.0946: y = 0.001"));
+    // The pointer moved there shows the same words beside it.
+    const QPointF at(column / twipsPerPixel(s.surface), row / twipsPerPixel(s.surface));
+    QMouseEvent move(QEvent::MouseMove, at, s.surface->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(s.surface, &move);
+    EXPECT_EQ(s.viewer()->readout(), s.readoutAt(at.x() * twipsPerPixel(s.surface), at.y() * twipsPerPixel(s.surface)));
+    EXPECT_TRUE(s.viewer()->readout().startsWith(QStringLiteral("y = x^3 - 2*x - 5 at x = 2.09")));
     // Off the curve: the point itself, to the decimals a pixel tells apart.
     EXPECT_EQ(s.readoutAt(s.graph.plainColumn(2), s.graph.plainRow(0.5)), QStringLiteral("x = 2, y = 0.5"));
     EXPECT_EQ(s.readoutAt(s.graph.Left - 100, 3000), QString());  // outside the square
@@ -345,9 +350,8 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
         double value = NAN;  // the value the box then holds (the place dragged to, where this is NaN)
     };
     const std::vector<Case> cases{
-        {"Newton's first guess", make<frmNewton>,
-         threeNewtonSteps,
-         3.3, [](GraphScreen& s) -> TextBox* { return as<frmNewton>(s).txtGuess; },
+        {"Newton's first guess", make<frmNewton>, threeNewtonSteps, 3.3,
+         [](GraphScreen& s) -> TextBox* { return as<frmNewton>(s).txtGuess; },
          [](GraphScreen& s) { return as<frmNewton>(s).grdGuess->cell(1, 1); },  // the box holds the next guess
          [](GraphScreen& s) {
              for (int i = 0; i < 3; ++i)
