@@ -2,6 +2,7 @@
 #include "launcher/frmGraphingCalc.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include <QAction>
@@ -45,23 +46,21 @@ frmGraphingCalc::frmGraphingCalc()
     layout->addWidget(heading);
 
     grid_ = new QGridLayout;
+    screens_.resize(screens::all().size());
     layout->addLayout(grid_);
-    cmdSums = addScreen(2, QStringLiteral("&Riemann Sums + Others"), QStringLiteral("&Riemann Sums +"), mnuRiemann,
-                        &frmGraphingCalc::cmdSums_Click);
-    cmdFuncClasses = addScreen(0, QStringLiteral("Graph Classes of &Functions"), QStringLiteral("&Function Grapher"),
-                               mnuGrapher, &frmGraphingCalc::cmdFuncClasses_Click);
-    cmdAnimate = addScreen(1, QStringLiteral("&Animate Graphs"), QStringLiteral("&Animate Functions"), mnuAnimate,
-                           &frmGraphingCalc::cmdAnimate_Click);
-    cmdSlopeField = addScreen(4, QStringLiteral("&Slope Fields"), QStringLiteral("&Slope Fields"), mnuSlopeField,
-                              &frmGraphingCalc::cmdSlopeField_Click);
-    cmdNewton = addScreen(3, QStringLiteral("&Newton's Method"), QStringLiteral("&Newton's Method"), mnuNewton,
-                          &frmGraphingCalc::cmdNewton_Click);
-    cmdTangent = addScreen(5, QStringLiteral("&Tangent Line Problem"), QStringLiteral("&Tangent Problem"), mnuTangent,
-                           &frmGraphingCalc::cmdTangent_Click);
-    cmdMVT = addScreen(6, QStringLiteral("The &Mean Value Theorem"), QStringLiteral("&Mean Value Theorem"), mnuMVT,
-                       &frmGraphingCalc::cmdMVT_Click);
-    cmdParam = addScreen(7, QStringLiteral("&Parametric Graphing"), QStringLiteral("&Parametric Graphs"), mnuParam,
-                         &frmGraphingCalc::cmdParam_Click);
+    // One button and one Selections entry per screen of the registry; the seed's names for them follow.
+    for (const screens::Entry& entry : screens::all())
+        addScreen(entry);
+    const std::tuple<const char*, QPushButton**, QAction**> named[] = {
+        {"sums", &cmdSums, &mnuRiemann},          {"grapher", &cmdFuncClasses, &mnuGrapher},
+        {"animation", &cmdAnimate, &mnuAnimate},  {"slope-field", &cmdSlopeField, &mnuSlopeField},
+        {"newton", &cmdNewton, &mnuNewton},        {"tangent", &cmdTangent, &mnuTangent},
+        {"mvt", &cmdMVT, &mnuMVT},                 {"parametric", &cmdParam, &mnuParam}};
+    for (const auto& [key, button, action] : named) {
+        const auto at = static_cast<std::size_t>(screens::find(QString::fromLatin1(key)) - screens::all().data());
+        *button = buttons_[at];
+        *action = entries_[at];
+    }
     cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
     layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
 
@@ -115,12 +114,12 @@ frmGraphingCalc::~frmGraphingCalc()
     GraphScreen::setLessonCommands({});  // the screens' lesson commands end with the launcher
 }
 
-QPushButton* frmGraphingCalc::addScreen(int place, const QString& button, const QString& entry, QAction*& action,
-                                        void (frmGraphingCalc::*open)())
+void frmGraphingCalc::addScreen(const screens::Entry& entry)
 {
-    QPushButton* b = makeButton(this, button, [this, open] { (this->*open)(); });
+    auto open = [this, &entry] { showScreen(screen(entry)); };
+    QPushButton* b = makeButton(this, QString::fromUtf8(entry.button), open);
     // Keep the buttons in teaching order, two to a row, whichever screens exist.
-    b->setProperty("place", place);
+    b->setProperty("place", entry.place);
     QList<QPushButton*> buttons;
     for (int i = 0; i < grid_->count(); ++i)
         buttons.append(static_cast<QPushButton*>(grid_->itemAt(i)->widget()));
@@ -132,9 +131,23 @@ QPushButton* frmGraphingCalc::addScreen(int place, const QString& button, const 
         grid_->removeWidget(existing);
     for (int i = 0; i < buttons.size(); ++i)
         grid_->addWidget(buttons[i], i / 2, i % 2);
-    action = selections_->addAction(entry);
-    onTriggered(action, [this, open] { (this->*open)(); });
-    return b;
+    QAction* action = selections_->addAction(QString::fromUtf8(entry.entry));
+    onTriggered(action, open);
+    buttons_.push_back(b);
+    entries_.push_back(action);
+}
+
+GraphScreen& frmGraphingCalc::screen(const screens::Entry& entry)
+{
+    auto& slot = screens_[static_cast<std::size_t>(&entry - screens::all().data())];
+    if (!slot)
+        slot = entry.make();
+    return *slot;
+}
+
+GraphScreen& frmGraphingCalc::screen(const char* key)
+{
+    return screen(*screens::find(QString::fromLatin1(key)));
 }
 
 void frmGraphingCalc::showScreen(GraphScreen& first)
@@ -156,21 +169,21 @@ void frmGraphingCalc::showScreen(GraphScreen& first)
     }
 }
 
-void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(classesScreen()); }
-void frmGraphingCalc::cmdSums_Click() { showScreen(riemannScreen()); }
+void frmGraphingCalc::cmdFuncClasses_Click() { showScreen(screen("grapher")); }
+void frmGraphingCalc::cmdSums_Click() { showScreen(screen("sums")); }
 void frmGraphingCalc::mnuGrapher_Click() { cmdFuncClasses_Click(); }
 void frmGraphingCalc::mnuRiemann_Click() { cmdSums_Click(); }
-void frmGraphingCalc::cmdAnimate_Click() { showScreen(animateScreen()); }
+void frmGraphingCalc::cmdAnimate_Click() { showScreen(screen("animation")); }
 void frmGraphingCalc::mnuAnimate_Click() { cmdAnimate_Click(); }
-void frmGraphingCalc::cmdParam_Click() { showScreen(paramScreen()); }
+void frmGraphingCalc::cmdParam_Click() { showScreen(screen("parametric")); }
 void frmGraphingCalc::mnuParam_Click() { cmdParam_Click(); }
-void frmGraphingCalc::cmdSlopeField_Click() { showScreen(slopeFieldScreen()); }
+void frmGraphingCalc::cmdSlopeField_Click() { showScreen(screen("slope-field")); }
 void frmGraphingCalc::mnuSlopeField_Click() { cmdSlopeField_Click(); }
-void frmGraphingCalc::cmdNewton_Click() { showScreen(newtonScreen()); }
+void frmGraphingCalc::cmdNewton_Click() { showScreen(screen("newton")); }
 void frmGraphingCalc::mnuNewton_Click() { cmdNewton_Click(); }
-void frmGraphingCalc::cmdTangent_Click() { showScreen(tangentScreen()); }
+void frmGraphingCalc::cmdTangent_Click() { showScreen(screen("tangent")); }
 void frmGraphingCalc::mnuTangent_Click() { cmdTangent_Click(); }
-void frmGraphingCalc::cmdMVT_Click() { showScreen(mvtScreen()); }
+void frmGraphingCalc::cmdMVT_Click() { showScreen(screen("mvt")); }
 void frmGraphingCalc::mnuMVT_Click() { cmdMVT_Click(); }
 
 void frmGraphingCalc::cmdExit_Click() { mnuExit_Click(); }

@@ -4,10 +4,12 @@
 // and Quit. Each screen is created on first use and kept for the rest of the run; opening it shows
 // it modally until its Exit hides it.
 #include <memory>
+#include <vector>
 
 #include <QWidget>
 
 #include "screens/Lesson.h"
+#include "screens/ScreenRegistry.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
@@ -82,30 +84,24 @@ public:
     // The example lessons found beside the program (installed, or in the source tree).
     static QStringList exampleLessons();
 
-    // The screens, each created (loaded) on first use.
-    frmClasses& classesScreen() { return screen(classes_); }
-    frmRiemann& riemannScreen() { return screen(riemann_); }
-    frmNewton& newtonScreen() { return screen(newton_); }
-    frmFlowField& slopeFieldScreen() { return screen(flowField_); }
-    frmAnimate& animateScreen() { return screen(animate_); }
-    frmParam& paramScreen() { return screen(param_); }
-    frmTangent& tangentScreen() { return screen(tangent_); }
-    frmMVT& mvtScreen() { return screen(mvt_); }
+    // The screens, each created (loaded) on first use, by their row in the registry or its key.
+    GraphScreen& screen(const screens::Entry& entry);
+    GraphScreen& screen(const char* key);
+    frmClasses& classesScreen() { return static_cast<frmClasses&>(screen("grapher")); }
+    frmRiemann& riemannScreen() { return static_cast<frmRiemann&>(screen("sums")); }
+    frmNewton& newtonScreen() { return static_cast<frmNewton&>(screen("newton")); }
+    frmFlowField& slopeFieldScreen() { return static_cast<frmFlowField&>(screen("slope-field")); }
+    frmAnimate& animateScreen() { return static_cast<frmAnimate&>(screen("animation")); }
+    frmParam& paramScreen() { return static_cast<frmParam&>(screen("parametric")); }
+    frmTangent& tangentScreen() { return static_cast<frmTangent&>(screen("tangent")); }
+    frmMVT& mvtScreen() { return static_cast<frmMVT&>(screen("mvt")); }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     QSize normalSize_;
-    template <class Screen>
-    Screen& screen(std::unique_ptr<Screen>& slot)
-    {
-        if (!slot)
-            slot = std::make_unique<Screen>();
-        return *slot;
-    }
     void showScreen(GraphScreen& screen);
-    GraphScreen& screenFor(const QString& key);
     void buildLessonMenu();
     void addStep(GraphScreen& screen);
     void chooseLesson();
@@ -117,17 +113,12 @@ private:
     int pendingStep_ = -1;  // the step to open on the screen shown next
     // Adds a screen's button to the grid and its entry to the Selections menu.
     // Buttons stand in teaching order (`place`), two to a row.
-    QPushButton* addScreen(int place, const QString& button, const QString& entry, QAction*& action,
-                           void (frmGraphingCalc::*open)());
+    void addScreen(const screens::Entry& entry);
 
     class QGridLayout* grid_ = nullptr;
     class QMenu* selections_ = nullptr;
-    std::unique_ptr<frmClasses> classes_;
-    std::unique_ptr<frmRiemann> riemann_;
-    std::unique_ptr<frmNewton> newton_;
-    std::unique_ptr<frmFlowField> flowField_;
-    std::unique_ptr<frmAnimate> animate_;
-    std::unique_ptr<frmParam> param_;
-    std::unique_ptr<frmTangent> tangent_;
-    std::unique_ptr<frmMVT> mvt_;
+    // Each screen's button, Selections entry and (once opened) window, by its row in the registry.
+    std::vector<QPushButton*> buttons_;
+    std::vector<QAction*> entries_;
+    std::vector<std::unique_ptr<GraphScreen>> screens_;
 };

@@ -91,22 +91,6 @@ void frmGraphingCalc::buildLessonMenu()
     });
 }
 
-GraphScreen& frmGraphingCalc::screenFor(const QString& key)
-{
-    const auto& keys = lesson::screenKeys();
-    const auto at = std::find(keys.begin(), keys.end(), key) - keys.begin();
-    switch (at) {
-    case 0: return classesScreen();
-    case 1: return animateScreen();
-    case 2: return riemannScreen();
-    case 3: return newtonScreen();
-    case 4: return slopeFieldScreen();
-    case 5: return tangentScreen();
-    case 6: return mvtScreen();
-    default: return paramScreen();
-    }
-}
-
 void frmGraphingCalc::openLesson(const QString& path)
 {
     const lesson::Read read = lesson::load(path);
@@ -117,7 +101,7 @@ void frmGraphingCalc::openLesson(const QString& path)
     // Every step is checked before anything changes: a lesson that cannot be shown whole is refused.
     for (std::size_t i = 0; i < read.lesson->steps.size(); ++i) {
         const lesson::Step& step = read.lesson->steps[i];
-        const QString refusal = lesson::check(step, screenFor(step.screen));
+        const QString refusal = lesson::check(step, screen(*screens::find(step.screen)));
         if (!refusal.isEmpty()) {
             MsgBox(QStringLiteral("%1: step %2 (%3): %4.").arg(path).arg(i + 1).arg(step.screen, refusal),
                    QStringLiteral("Open Lesson"));
@@ -133,7 +117,7 @@ void frmGraphingCalc::goToStep(int index)
 {
     if (index < 0 || index >= static_cast<int>(lesson_.steps.size()))
         return;  // before the first step or after the last: nothing to move to
-    GraphScreen& target = screenFor(lesson_.steps[static_cast<std::size_t>(index)].screen);
+    GraphScreen& target = screen(*screens::find(lesson_.steps[static_cast<std::size_t>(index)].screen));
     if (shown_ == &target) {
         step_ = index;
         GraphScreen::refreshLessonPlaces();

@@ -10,6 +10,7 @@
 
 #include "graphwin/Dialogs.h"
 #include "launcher/frmGraphingCalc.h"
+#include "screens/ScreenRegistry.h"
 
 namespace {
 
@@ -46,15 +47,19 @@ const char* const kQtOptions[][2] = {{"platform", "name"},
 int answerCommandLine(int argc, char* argv[])
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Calculus demonstrations for the classroom: graphs of fifteen families of functions, animated\n"
-        "coefficients, Riemann and other sums, Newton's method, slope fields, tangent lines, the mean\n"
-        "value theorem and parametric curves. Qt's standard options (-platform, -style, ...) are accepted."));
+    parser.setApplicationDescription(
+        QStringLiteral("Calculus demonstrations for the classroom. %1\n"
+                       "Qt's standard options (-platform, -style, ...) are accepted.")
+            .arg(screens::summary()));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.addPositionalArgument(QStringLiteral("lesson"), QStringLiteral("A lesson to open (a .plotto file)."),
                                  QStringLiteral("[lesson]"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption list(QStringLiteral("screens"),
+                                  QStringLiteral("Lists the demonstration screens: key, button and menu entry, "
+                                                 "separated by tabs, one screen a line, in teaching order."));
+    parser.addOption(list);
     for (const auto& [name, value] : kQtOptions) {
         QCommandLineOption qt(QString::fromLatin1(name), QString(), value ? QString::fromLatin1(value) : QString());
         qt.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -76,6 +81,12 @@ int answerCommandLine(int argc, char* argv[])
     if (parser.isSet(version)) {
         std::printf("%s %s\n", qPrintable(QCoreApplication::applicationName()),
                     qPrintable(QCoreApplication::applicationVersion()));
+        return 0;
+    }
+    if (parser.isSet(list)) {
+        for (const screens::Entry* e : screens::inTeachingOrder())
+            std::printf("%s\t%s\t%s\n", e->key, qPrintable(QString::fromUtf8(e->button).remove(QLatin1Char('&'))),
+                        qPrintable(QString::fromUtf8(e->entry).remove(QLatin1Char('&'))));
         return 0;
     }
     if (parser.positionalArguments().size() > 1) {  // one lesson at a time

@@ -14,16 +14,11 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/GraphScreen.h"
+#include "screens/ScreenRegistry.h"
 
 namespace lesson {
 
 namespace {
-
-// Screen classes and their keys, in the launcher's teaching order.
-const std::pair<const char*, const char*> kScreens[] = {
-    {"frmClasses", "grapher"},       {"frmAnimate", "animation"}, {"frmRiemann", "sums"}, {"frmNewton", "newton"},
-    {"frmFlowField", "slope-field"}, {"frmTangent", "tangent"},   {"frmMVT", "mvt"},      {"frmParam", "parametric"},
-};
 
 // The controls a teacher sets, by their names (each screen's names are unique, as a screen reader
 // hears them), in the form's order.
@@ -91,8 +86,8 @@ const std::vector<QString>& screenKeys()
 {
     static const std::vector<QString> keys = [] {
         std::vector<QString> k;
-        for (const auto& [cls, key] : kScreens)
-            k.push_back(QString::fromLatin1(key));
+        for (const screens::Entry* e : screens::inTeachingOrder())
+            k.push_back(QString::fromLatin1(e->key));
         return k;
     }();
     return keys;
@@ -100,10 +95,8 @@ const std::vector<QString>& screenKeys()
 
 QString screenKey(const GraphScreen& screen)
 {
-    for (const auto& [cls, key] : kScreens)
-        if (qstrcmp(screen.metaObject()->className(), cls) == 0)
-            return QString::fromLatin1(key);
-    return {};
+    const screens::Entry* entry = screens::of(screen);
+    return entry ? QString::fromLatin1(entry->key) : QString();
 }
 
 Step capture(GraphScreen& screen)

@@ -8,6 +8,7 @@ names the function and the results, that the result labels read what the screen 
 focusable control has a name of its own, and that Tab leaves every grid. It prints what a screen
 reader would read (the transcript) and exits non-zero on the first failed check.
 """
+import os
 import subprocess
 import sys
 import time
@@ -45,13 +46,18 @@ def app():
     sys.exit("Plotto did not appear on the accessibility bus")
 
 
+LAUNCHER = "Plotto!   Calculus Calculator"
+
+
 def window(title):
+    """The showing window of that title; with no title, the showing window that is not the launcher."""
     for _ in range(50):
         for w in app():
-            if w is not None and w.name == title and w.getState().contains(pyatspi.STATE_SHOWING):
+            if w is not None and w.getState().contains(pyatspi.STATE_SHOWING) and (
+                    w.name == title if title else w.name != LAUNCHER):
                 return w
         time.sleep(0.2)
-    sys.exit("no window " + title)
+    sys.exit("no window %s" % (title or "besides the launcher"))
 
 
 def find(win, name, role=None):
@@ -135,12 +141,13 @@ def read_screen(win, transcript):
 
 
 def screen(button, title, act, expect, transcript=False):
-    launcher = window("Plotto!   Calculus Calculator")
+    launcher = window(LAUNCHER)
     find(launcher, button, pyatspi.ROLE_PUSH_BUTTON).queryComponent().grabFocus()
     time.sleep(0.2)
     key("Return")  # Enter presses the focused launcher button
     win = window(title)
-    print("%s:" % title)
+    print("%s:" % win.name)
+    checked.add(button)
     act(win)
     time.sleep(0.5)
     description = graph(win).description
@@ -154,6 +161,7 @@ def screen(button, title, act, expect, transcript=False):
     key("Escape")
 
 
+checked = set()  # the launcher buttons whose screens were checked
 RESULT_PREFIXES = ("= ", "EndPt", "y = ", "slope = ", "Slope =", "x = ", "( ")
 
 
@@ -262,6 +270,14 @@ def main():
            lambda w: ["Parametric curve", "Trace at t = "])
     screen("Animate Graphs", "Animate Classes of Functions", lambda w: press(w, "Animate It!"),
            lambda w: ["Animating A of", "Frame value"])
+    # Every other screen of the program's list gets the checks every screen passes.
+    listed = subprocess.run([os.environ.get("PLOTTO", "plotto"), "--screens"], capture_output=True, text=True,
+                            check=True, timeout=30).stdout.splitlines()
+    for button in [line.split("\t")[1] for line in listed]:
+        if button not in checked:
+            screen(button, None, lambda w: None, lambda w: [])
+    check(len(checked) == len(listed), "every screen of `plotto --screens` was checked (%d of %d)"
+          % (len(checked), len(listed)))
     if failures:
         print("%d accessibility check(s) failed" % len(failures))
         sys.exit(1)

@@ -8,10 +8,13 @@
 #include <QPixmap>
 #include <QTimer>
 #include <cmath>
+#include <functional>
+#include <map>
 
 #include "funclib/FuncGlobals.h"
 #include "launcher/frmGraphingCalc.h"
 #include "screens/ConvergenceWindow.h"
+#include "screens/ScreenRegistry.h"
 
 namespace {
 
@@ -46,130 +49,80 @@ int main(int argc, char* argv[])
     frmGraphingCalc launcher;
     save(launcher, dir, QStringLiteral("launcher.png"));
 
-    // The grapher comparing three parabolas and a sine curve.
+    // More pictures of a screen, taken right after its own picture, from the state it shows.
+    const std::map<QString, std::function<void()>> more{
+        {QStringLiteral("grapher"), [&] { saveMaximized(launcher.classesScreen(), dir, QStringLiteral("grapher-maximized.png")); }},
+        {QStringLiteral("sums"),
+         [&] {
+             frmRiemann& sums = launcher.riemannScreen();
+             // The eight partitions become 32000.
+             sums.txtParts->setText(QStringLiteral("32000"));
+             sums.cmdCleanParts_Click();
+             sums.cmdParts_Click();
+             save(sums, dir, QStringLiteral("sums-32000.png"));
+             // The convergence table with the log-log plot, for y = x^2 on [0, 2], maximized on 1920x1080.
+             sums.txtLBound->setText(QStringLiteral("0"));
+             sums.txtRBound->setText(QStringLiteral("2"));
+             sums.txtParts->setText(QStringLiteral("8"));
+             sums.convergence->show();
+             sums.convergence->recompute();
+             save(*sums.convergence, dir, QStringLiteral("convergence-sums.png"));
+             saveMaximized(*sums.convergence, dir, QStringLiteral("convergence-sums-maximized.png"));
+             sums.convergence->hide();
+         }},
+        {QStringLiteral("tangent"),
+         [&] {
+             frmTangent& tangent = launcher.tangentScreen();
+             // The secants zoomed ten wheel notches about (1, 1), with the readout under the pointer.
+             tangent.zoomViewAt(1, 1, std::pow(1.25, 10));
+             const double perPixel = twipsPerPixel(tangent.surface);
+             const QPointF at(tangent.graph.plainColumn(1.05) / perPixel,
+                              tangent.graph.plainRow(1.05 * 1.05) / perPixel);
+             QMouseEvent move(QEvent::MouseMove, at, tangent.surface->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                              Qt::NoModifier);
+             QApplication::sendEvent(tangent.surface, &move);
+             save(tangent, dir, QStringLiteral("tangent-zoomed.png"));
+             tangent.originalWindow();
+         }},
+        {QStringLiteral("slope-field"),
+         [&] {
+             frmFlowField& field = launcher.slopeFieldScreen();
+             // The forty curves maximized, then approximations from (4, 3) and their convergence.
+             saveMaximized(field, dir, QStringLiteral("slope-field-maximized.png"));
+             field.CleanGraph();
+             field.cmdShowFlow_Click();
+             field.optApprox->setChecked(true);
+             field.txtDelta->setText(QStringLiteral("1"));
+             field.txtCurvePoints->setText(QStringLiteral("3"));
+             for (OptionButton* method : {field.optEuler, field.optRunga2, field.optRunga4}) {
+                 method->setChecked(true);
+                 field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
+             }
+             field.optCurve->setChecked(true);
+             field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
+             save(field, dir, QStringLiteral("slope-field-approximations.png"));
+             field.convergence->show();
+             field.convergence->recompute();
+             save(*field.convergence, dir, QStringLiteral("convergence-steps.png"));
+             field.convergence->hide();
+         }},
+    };
+    // Every screen in the state that shows what it teaches, as the registry sets it: <key>.png.
+    for (const screens::Entry& entry : screens::all()) {
+        GraphScreen& screen = launcher.screen(entry);
+        entry.showcase(screen);
+        save(screen, dir, QString::fromLatin1(entry.key) + QStringLiteral(".png"));
+        if (const auto it = more.find(QString::fromLatin1(entry.key)); it != more.end())
+            it->second();
+        screen.hide();
+    }
+
     frmClasses& grapher = launcher.classesScreen();
-    grapher.Form_Activate();
-    grapher.mnuFunc_Click(2);
-    for (const char* a : {"1", "0.25", "-0.5"}) {
-        grapher.txtA->setText(QString::fromLatin1(a));
-        grapher.txtC->setText(QStringLiteral("-4"));
-        grapher.cmdPlotto_Click();
-    }
-    grapher.mnuFunc_Click(5);
-    grapher.txtA->setText(QStringLiteral("3"));
-    grapher.txtC->setText(QStringLiteral("0"));
-    grapher.cmdPlotto_Click();
-    save(grapher, dir, QStringLiteral("grapher.png"));
-    saveMaximized(grapher, dir, QStringLiteral("grapher-maximized.png"));
-    grapher.hide();
-
-    // The sums screen: y = x^2 on [-2, 2] with eight partitions and every method checked.
     frmRiemann& sums = launcher.riemannScreen();
-    sums.Form_Activate();
-    sums.txtParts->setText(QStringLiteral("8"));
-    for (CheckBox* c :
-         {sums.chkLeft, sums.chkRight, sums.chkMid, sums.chkTrap, sums.chkRandom, sums.chkSimpson, sums.chkRiemann})
-        c->setChecked(true);
-    sums.cmdGraphNow_Click();
-    sums.cmdParts_Click();
-    save(sums, dir, QStringLiteral("sums.png"));
-    sums.txtParts->setText(QStringLiteral("32000"));
-    sums.cmdCleanParts_Click();
-    sums.cmdParts_Click();
-    save(sums, dir, QStringLiteral("sums-32000.png"));
-    // Its convergence table with the log-log plot, for y = x^2 on [0, 2], maximized on 1920x1080.
-    sums.txtLBound->setText(QStringLiteral("0"));
-    sums.txtRBound->setText(QStringLiteral("2"));
-    sums.txtParts->setText(QStringLiteral("8"));
-    sums.convergence->show();
-    sums.convergence->recompute();
-    save(*sums.convergence, dir, QStringLiteral("convergence-sums.png"));
-    saveMaximized(*sums.convergence, dir, QStringLiteral("convergence-sums-maximized.png"));
-    sums.convergence->hide();
-    sums.hide();
-
-    // Newton's method on y = x^2 - 4 from 1, three steps, with the derivative.
     frmNewton& newton = launcher.newtonScreen();
-    newton.Form_Activate();
-    newton.mnuFunc_Click(2);
-    newton.txtB->setText(QStringLiteral("0"));
-    newton.txtC->setText(QStringLiteral("-4"));
-    newton.cmdPlotto_Click();
-    newton.txtGuess->setText(QStringLiteral("1"));
-    for (int i = 0; i < 3; ++i)
-        newton.cmdApply_Click();
-    newton.cmdDeriv_Click();
-    save(newton, dir, QStringLiteral("newton.png"));
-    newton.hide();
-
-    // Secants of y = x^2 at 1 closing in on the tangent.
-    frmTangent& tangent = launcher.tangentScreen();
-    tangent.Form_Activate();
-    tangent.txtB->setText(QStringLiteral("1"));
-    tangent.cmdPlotto_Click();
-    for (int v : {2000, 1500, 1250, 1100})
-        tangent.hscDx->setValue(v);
-    save(tangent, dir, QStringLiteral("tangent.png"));
-    tangent.hide();
-
-    // The same secants zoomed ten wheel notches about (1, 1), with the readout under the pointer.
-    tangent.show();
-    tangent.zoomViewAt(1, 1, std::pow(1.25, 10));
-    {
-        const double perPixel = twipsPerPixel(tangent.surface);
-        const QPointF at(tangent.graph.plainColumn(1.05) / perPixel, tangent.graph.plainRow(1.05 * 1.05) / perPixel);
-        QMouseEvent move(QEvent::MouseMove, at, tangent.surface->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(tangent.surface, &move);
-    }
-    save(tangent, dir, QStringLiteral("tangent-zoomed.png"));
-    tangent.originalWindow();
-    tangent.hide();
-
-    // The mean value theorem for y = x^2 on [0, 2]: c = 1.
-    frmMVT& mvt = launcher.mvtScreen();
-    mvt.Form_Activate();
-    mvt.cmdPlotto_Click();
-    mvt.txtX1->setText(QStringLiteral("0"));
-    mvt.txtX2->setText(QStringLiteral("2"));
-    mvt.cmdApplyMVT_Click();
-    mvt.HscMVT->setValue(5000);
-    mvt.cmdAnimateIt_Click();
-    save(mvt, dir, QStringLiteral("mvt.png"));
-    mvt.hide();
-
-    // The circle field dy/dx = -x/y with its forty curves, then approximations from (4, 3).
     frmFlowField& field = launcher.slopeFieldScreen();
-    field.Form_Activate();
-    field.cmdShowFlow_Click();
-    field.cmdPlotto_Click();
-    save(field, dir, QStringLiteral("slope-field.png"));
-    saveMaximized(field, dir, QStringLiteral("slope-field-maximized.png"));
-    field.CleanGraph();
-    field.cmdShowFlow_Click();
-    field.optApprox->setChecked(true);
-    field.txtDelta->setText(QStringLiteral("1"));
-    field.txtCurvePoints->setText(QStringLiteral("3"));
-    for (OptionButton* method : {field.optEuler, field.optRunga2, field.optRunga4}) {
-        method->setChecked(true);
-        field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
-    }
-    field.optCurve->setChecked(true);
-    field.Form_MouseDown(1, 0, 5600 + 4 * 320, 3300 - 3 * 320);
-    save(field, dir, QStringLiteral("slope-field-approximations.png"));
-    field.convergence->show();
-    field.convergence->recompute();
-    save(*field.convergence, dir, QStringLiteral("convergence-steps.png"));
-    field.convergence->hide();
-    field.hide();
-
-    // The default parametric figure x = 4 sin 3t, y = 3 cos 2t, as points and traced at t = 1.
     frmParam& param = launcher.paramScreen();
-    param.Form_Activate();
-    param.cmdPlotto_Click();
-    param.HscT->setValue(160);
-    save(param, dir, QStringLiteral("parametric.png"));
-
+    param.show();
     // A typed cycloid, traced at t = pi.
     param.CleanGraph();
     param.setTypedCurve(QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)"));
@@ -242,15 +195,6 @@ int main(int argc, char* argv[])
     save(field, dir, QStringLiteral("typed-slope-field.png"));
     field.hide();
 
-    // Animating A of the parabola from -2 to 2 in 41 steps.
-    frmAnimate& animate = launcher.animateScreen();
-    animate.Form_Activate();
-    animate.mnuFunc_Click(2);
-    animate.txtB->setText(QStringLiteral("0"));
-    animate.cmdAnimate_Click();
-    save(animate, dir, QStringLiteral("animate.png"));
-    animate.hide();
-
     // The walk along y = x^2 - 4 with the keyboard: from near x = 3, N finds the root at 2.
     grapher.Form_Activate();
     grapher.cmdClean_Click();
@@ -271,15 +215,13 @@ int main(int argc, char* argv[])
     // below a title bar), in normal and in projector mode: docs/projector/.
     const QDir projector(dir.filePath(QStringLiteral("projector")));
     projector.mkpath(QStringLiteral("."));
-    const std::pair<QWidget*, const char*> screens[] = {
-        {&grapher, "grapher"},   {&animate, "animate"}, {&sums, "sums"}, {&newton, "newton"},
-        {&field, "slope-field"}, {&tangent, "tangent"}, {&mvt, "mvt"},   {&param, "parametric"}};
     const QSize sizes[] = {{1920, 1040}, {1280, 680}, {1024, 728}};
     const QStringList only = qEnvironmentVariable("PLOTTO_SHOT_SIZES").split(QLatin1Char(','), Qt::SkipEmptyParts);
     for (bool mode : {false, true}) {
         DrawingSurface::setProjectorMode(mode);
-        for (const auto& [window, name] : screens)
+        for (const screens::Entry& entry : screens::all())
             for (const QSize size : sizes) {
+                GraphScreen* window = &launcher.screen(entry);
                 const QString tag = QStringLiteral("%1x%2").arg(size.width()).arg(size.height() + 40);
                 if (!only.isEmpty() && !only.contains(tag))
                     continue;
@@ -288,7 +230,7 @@ int main(int argc, char* argv[])
                 QApplication::processEvents();
                 window->grab().save(projector.filePath(
                     QStringLiteral("%1-%2%3.png")
-                        .arg(QString::fromLatin1(name), tag, mode ? QStringLiteral("-projector") : QString())));
+                        .arg(QString::fromLatin1(entry.key), tag, mode ? QStringLiteral("-projector") : QString())));
                 window->hide();
             }
     }

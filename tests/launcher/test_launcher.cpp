@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The launcher: opening each screen modally from its button and its menu entry, finding it as it was
 // left, the one report of a run-time error inside a screen, and Quit.
+#include <QFile>
 #include <QLabel>
 #include <QLayout>
 #include <QMenu>
@@ -12,6 +13,7 @@
 #include "graphwin/Dialogs.h"
 #include "launcher/frmGraphingCalc.h"
 #include "tests/screens/ScreenFixture.h"
+#include "screens/ScreenRegistry.h"
 #include "screens/frmClasses.h"
 
 namespace {
@@ -92,4 +94,47 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
         EXPECT_EQ(ends, (std::vector<int>{0, 0}));
     }
     setProgramEndHandler(nullptr);
+}
+
+// Every row of the screen registry has its button and Selections entry, each opening a screen of
+// the row's class; the words the software centre and the manual page give name every screen.
+TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
+{
+    ScriptedDialogs script;
+    frmGraphingCalc l;
+    const QList<QAction*> entries = l.mnuSelect->menu()->actions();
+    ASSERT_EQ(entries.size(), static_cast<qsizetype>(screens::all().size()));
+    for (std::size_t i = 0; i < screens::all().size(); ++i) {
+        const screens::Entry& row = screens::all()[i];
+        GraphScreen& screen = l.screen(row);
+        EXPECT_EQ(screens::of(screen), &row);
+        EXPECT_EQ(entries[static_cast<qsizetype>(i)]->text(), QString::fromUtf8(row.entry));
+        auto* button = [&]() -> QPushButton* {
+            for (QPushButton* b : l.findChildren<QPushButton*>())
+                if (b->text() == QString::fromUtf8(row.button))
+                    return b;
+            return nullptr;
+        }();
+        ASSERT_NE(button, nullptr) << row.key;
+        int shown = 0;
+        for (int way = 0; way < 2; ++way) {
+            whileShown(screen, [&] { shown += screen.isVisible(); });
+            way ? entries[static_cast<qsizetype>(i)]->trigger() : button->click();
+        }
+        EXPECT_EQ(shown, 2) << row.key;
+    }
+    auto read = [](const char* file) {
+        QFile f(QStringLiteral(PLOTTO_SOURCE_DIR "/packaging/") + QString::fromLatin1(file));
+        EXPECT_TRUE(f.open(QIODevice::ReadOnly)) << file;
+        return QString::fromUtf8(f.readAll()).simplified();
+    };
+    EXPECT_TRUE(read("org.example.plotto.metainfo.xml").contains(screens::summary())) << screens::summary().toStdString();
+    const QString manual = read("plotto.6");
+    EXPECT_TRUE(manual.contains(
+        QStringLiteral("opens %1 demonstration screens").arg(screens::countInWords(int(screens::all().size())))));
+    for (const screens::Entry& row : screens::all())
+        EXPECT_TRUE(manual.contains(QStringLiteral(".TP .B ") + QString::fromUtf8(row.button).remove(QLatin1Char('&'))
+                                        .replace(QLatin1Char('-'), QStringLiteral("\\-"))))
+            << row.key;
+    EXPECT_TRUE(script.errors.empty());
 }

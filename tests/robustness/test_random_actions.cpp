@@ -34,6 +34,7 @@
 #include "launcher/frmGraphingCalc.h"
 #include "runtime/Random.h"
 #include "screens/Lesson.h"
+#include "screens/ScreenRegistry.h"
 
 namespace {
 
@@ -83,12 +84,8 @@ struct Walk {
 
     explicit Walk(std::uint64_t seed) : rng(seed)
     {
-        factories = {
-            [] { return std::make_unique<frmClasses>(); },   [] { return std::make_unique<frmRiemann>(); },
-            [] { return std::make_unique<frmAnimate>(); },   [] { return std::make_unique<frmNewton>(); },
-            [] { return std::make_unique<frmFlowField>(); }, [] { return std::make_unique<frmTangent>(); },
-            [] { return std::make_unique<frmMVT>(); },       [] { return std::make_unique<frmParam>(); },
-        };
+        for (const screens::Entry& entry : screens::all())
+            factories.push_back(entry.make);
         screens.resize(factories.size());
         controls.resize(factories.size());
         restartProgram();

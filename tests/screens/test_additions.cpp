@@ -11,6 +11,7 @@
 
 #include "screens/ConvergenceWindow.h"
 #include "screens/Lesson.h"
+#include "screens/ScreenRegistry.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
@@ -24,38 +25,7 @@
 
 namespace {
 
-struct ScreenRow {
-    const char* name;
-    std::function<std::unique_ptr<GraphScreen>()> make;
-    // Installs a typed function as the screen's entry does on OK; returns the refusal ("" taken).
-    std::function<QString(GraphScreen&)> type;
-    // The screen's convergence table, where it has one.
-    std::function<ConvergenceWindow*(GraphScreen&)> convergence;
-};
-
-QString typeExplicit(GraphScreen& s) { return s.setTypedFunction(QStringLiteral("x^3 - 2*x - 5")); }
-
-const std::vector<ScreenRow>& screens()
-{
-    static const std::vector<ScreenRow> rows{
-        {"grapher", make<frmClasses>, typeExplicit, {}},
-        {"animation", make<frmAnimate>, typeExplicit, {}},
-        {"sums", make<frmRiemann>, typeExplicit, [](GraphScreen& s) { return as<frmRiemann>(s).convergence; }},
-        {"newton", make<frmNewton>, typeExplicit, {}},
-        {"slope field", make<frmFlowField>,
-         [](GraphScreen& s) { return as<frmFlowField>(s).setTypedRates(QStringLiteral("x - y^2"), QString()); },
-         [](GraphScreen& s) { return as<frmFlowField>(s).convergence; }},
-        {"tangent", make<frmTangent>, typeExplicit, {}},
-        {"mvt", make<frmMVT>, typeExplicit, {}},
-        {"parametric",
-         make<frmParam>,
-         [](GraphScreen& s) {
-             return as<frmParam>(s).setTypedCurve(QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)"));
-         },
-         {}},
-    };
-    return rows;
-}
+using ScreenRow = screens::Entry;
 
 // Texts the classic reading refuses (Val reads them as 0) or overflows.
 const std::vector<QString>& hostileTexts()
@@ -106,7 +76,7 @@ const std::vector<Path>& additionPaths()
              window->recompute();
              EXPECT_FALSE(window->summary()->text().isEmpty());
          }},
-        {"typed function entered", [](GraphScreen& s, const ScreenRow& row) { EXPECT_EQ(row.type(s), QString()); }},
+        {"typed function entered", [](GraphScreen& s, const ScreenRow& row) { EXPECT_EQ(row.typeExample(s), QString()); }},
         {"projector mode",
          [](GraphScreen& s, const ScreenRow&) {
              s.mnuProjector_Click();
@@ -130,18 +100,18 @@ void fillEveryBox(GraphScreen& s, const QString& text)
 
 TEST(Additions, NoPathBeyondTheClassicHandlersRaisesAClassicErrorWhateverTheBoxesHold)
 {
-    for (const ScreenRow& row : screens())
+    for (const ScreenRow& row : screens::all())  // with its typed example and its convergence table
         for (bool typed : {false, true})
             for (const QString& text : hostileTexts()) {
                 ScriptedDialogs script;
                 const std::unique_ptr<GraphScreen> s = row.make();
                 s->Form_Activate();
-                ASSERT_TRUE(!typed || row.type(*s).isEmpty()) << row.name;
+                ASSERT_TRUE(!typed || row.typeExample(*s).isEmpty()) << row.key;
                 s->cmdPlotto->click();  // something drawn, with the defaults
-                ASSERT_TRUE(script.errors.empty()) << row.name;
+                ASSERT_TRUE(script.errors.empty()) << row.key;
                 fillEveryBox(*s, text);
                 for (const Path& path : additionPaths()) {
-                    const std::string where = std::string(row.name) + (typed ? ", typed, " : ", family, ") + path.name +
+                    const std::string where = std::string(row.key) + (typed ? ", typed, " : ", family, ") + path.name +
                                               ", every box holding \"" + text.left(32).toStdString() + '"';
                     try {
                         path.run(*s, row);
@@ -178,8 +148,7 @@ TEST(Additions, AConvergenceTableNamesTheBoxThatHoldsNoNumber)
             const QSignalBlocker quiet(c.box(*s));
             c.box(*s)->setText(QStringLiteral("1e400"));
         }
-        ConvergenceWindow* window =
-            dynamic_cast<frmRiemann*>(s.get()) ? as<frmRiemann>(*s).convergence : as<frmFlowField>(*s).convergence;
+        ConvergenceWindow* window = screens::of(*s)->convergence(*s);
         window->recompute();
         EXPECT_EQ(window->summary()->text(), QString::fromUtf8(c.says)) << c.name;
         EXPECT_EQ(window->grid()->rowCount(), 0) << c.name;
