@@ -348,6 +348,8 @@ FileMenu addFileMenu(QMenuBar* bar, const QString& exitCaption, std::function<vo
                file->addAction(exitCaption)};
     onTriggered(m.about, std::move(about));
     onTriggered(m.exit, std::move(exit));
+    m.about->setObjectName(QStringLiteral("mnuAbout"));
+    m.exit->setObjectName(QStringLiteral("mnuExit"));
     return m;
 }
 

@@ -207,6 +207,10 @@ private:
     bool known_ = false;
 };
 
+// Gives an object (a menu entry, say) its member's name as its object name: the key by which lessons
+// find it, whatever its caption says or is translated to.
+#define NAME_AS_MEMBER(member) (member)->setObjectName(QStringLiteral(#member))
+
 // A push button whose Click runs the handler through the guarded entry point.
 QPushButton* makeButton(QWidget* parent, const QString& caption, std::function<void()> click);
 // A menu entry whose Click runs the handler through the guarded entry point.

@@ -118,6 +118,7 @@ void buildForm(QWidget* parent, const std::vector<Control>& table)
         QWidget* w = create(row, parent);
         if (!row.name.assign(w))
             tableMistake(row.caption, "the member cannot hold this kind of control");
+        w->setObjectName(row.name.name());
         placeTwips(w, row.place.left, row.place.top, row.place.width, row.place.height);
         applyLook(row, w);
         wire(row, w);

@@ -7,13 +7,17 @@
 //
 //   const auto on = form::bind(this);
 //   form::buildForm(surface, {
-//       // name   kind           caption           place (twips)          handlers
-//       {&lblX,   Kind::Stepper, "Tangent at x =", {60, 600, 1380, 300},   {.MouseDown = on(&frmX::lblX_MouseDown)}},
-//       {&txtX,   Kind::Box,     "1",              {1500, 600, 1020, 300}, {.Change = on(&frmX::txtX_Change)}},
+//       // name          kind           caption           place (twips)          handlers
+//       {FORM_NAME(lblX), Kind::Stepper, "Tangent at x =", {60, 600, 1380, 300},   {.MouseDown = on(&frmX::lblX_MouseDown)}},
+//       {FORM_NAME(txtX), Kind::Box,     "1",              {1500, 600, 1020, 300}, {.Change = on(&frmX::txtX_Change)}},
 //   });
+//
+// FORM_NAME(member) gives the control its member's name as its object name: the key by which lessons
+// and tests find it, whatever its caption says or is translated to.
 #include <functional>
 #include <initializer_list>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include <QGroupBox>
@@ -21,6 +25,9 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/DrawingSurface.h"
+
+// A row's member, named as the member is named in the code.
+#define FORM_NAME(member) ::form::Slot(&member, QStringLiteral(#member))
 
 namespace form {
 
@@ -46,8 +53,8 @@ public:
     Slot() = default;
     template <class W>
     requires std::is_base_of_v<QWidget, W>
-    Slot(W** member)  // NOLINT(google-explicit-constructor): the table names members plainly
-        : assign_([member](QWidget* w) {
+    Slot(W** member, QString name = {})  // NOLINT(google-explicit-constructor): the table names members plainly
+        : name_(std::move(name)), assign_([member](QWidget* w) {
               auto* typed = dynamic_cast<W*>(w);
               if (!typed)
                   return false;
@@ -57,8 +64,11 @@ public:
     { }
     // Stores the created widget in the member; false when the member's type cannot hold it.
     bool assign(QWidget* widget) const { return !assign_ || assign_(widget); }
+    // The control's object name ("txtGuess"), empty for a row that names no member.
+    const QString& name() const { return name_; }
 
 private:
+    QString name_;
     std::function<bool(QWidget*)> assign_;
 };
 

@@ -120,18 +120,18 @@ void GraphScreen::buildLimits()
     // clang-format off
     form::buildForm(surface, {
         // name       kind           caption  place                        handlers
-        {&txtXmin,  Kind::Box,     "-10",  {L - 240,        3240, W, H}, {.Change = on(&GraphScreen::txtXmin_Change)}},
-        {&lblXminL, Kind::Stepper, "<",    {L - 240 - A,    3240, A, H}, {.Click = on(&GraphScreen::lblXminL_Click), .DblClick = on(&GraphScreen::lblXminL_DblClick)}},
-        {&lblXminR, Kind::Stepper, ">",    {L - 240 + W,    3240, A, H}, {.Click = on(&GraphScreen::lblXminR_Click), .DblClick = on(&GraphScreen::lblXminR_DblClick)}},
-        {&txtXmax,  Kind::Box,     "10",   {L + 6240,       3240, W, H}, {.Change = on(&GraphScreen::txtXmax_Change)}},
-        {&lblXmaxL, Kind::Stepper, "<",    {L + 6240 - A,   3240, A, H}, {.Click = on(&GraphScreen::lblXmaxL_Click), .DblClick = on(&GraphScreen::lblXmaxL_DblClick)}},
-        {&lblXmaxR, Kind::Stepper, ">",    {L + 6240 + W,   3240, A, H}, {.Click = on(&GraphScreen::lblXmaxR_Click), .DblClick = on(&GraphScreen::lblXmaxR_DblClick)}},
-        {&txtYmin,  Kind::Box,     "-10",  {L + 2880,       6360, W, H}, {.Change = on(&GraphScreen::txtYmin_Change)}},
-        {&lblYminL, Kind::Stepper, "<",    {L + 2880 - A,   6360, A, H}, {.Click = on(&GraphScreen::lblYminL_Click), .DblClick = on(&GraphScreen::lblYminL_DblClick)}},
-        {&lblYminR, Kind::Stepper, ">",    {L + 2880 + W,   6360, A, H}, {.Click = on(&GraphScreen::lblYminR_Click), .DblClick = on(&GraphScreen::lblYminR_DblClick)}},
-        {&txtYmax,  Kind::Box,     "10",   {L + 3000,          0, W, H}, {.Change = on(&GraphScreen::txtYmax_Change)}},
-        {&lblYmaxL, Kind::Stepper, "<",    {L + 3000 - A,      0, A, H}, {.Click = on(&GraphScreen::lblYmaxL_Click), .DblClick = on(&GraphScreen::lblYmaxL_DblClick)}},
-        {&lblYmaxR, Kind::Stepper, ">",    {L + 3000 + W,      0, A, H}, {.Click = on(&GraphScreen::lblYmaxR_Click), .DblClick = on(&GraphScreen::lblYmaxR_DblClick)}},
+        {FORM_NAME(txtXmin),  Kind::Box,     "-10",  {L - 240,        3240, W, H}, {.Change = on(&GraphScreen::txtXmin_Change)}},
+        {FORM_NAME(lblXminL), Kind::Stepper, "<",    {L - 240 - A,    3240, A, H}, {.Click = on(&GraphScreen::lblXminL_Click), .DblClick = on(&GraphScreen::lblXminL_DblClick)}},
+        {FORM_NAME(lblXminR), Kind::Stepper, ">",    {L - 240 + W,    3240, A, H}, {.Click = on(&GraphScreen::lblXminR_Click), .DblClick = on(&GraphScreen::lblXminR_DblClick)}},
+        {FORM_NAME(txtXmax),  Kind::Box,     "10",   {L + 6240,       3240, W, H}, {.Change = on(&GraphScreen::txtXmax_Change)}},
+        {FORM_NAME(lblXmaxL), Kind::Stepper, "<",    {L + 6240 - A,   3240, A, H}, {.Click = on(&GraphScreen::lblXmaxL_Click), .DblClick = on(&GraphScreen::lblXmaxL_DblClick)}},
+        {FORM_NAME(lblXmaxR), Kind::Stepper, ">",    {L + 6240 + W,   3240, A, H}, {.Click = on(&GraphScreen::lblXmaxR_Click), .DblClick = on(&GraphScreen::lblXmaxR_DblClick)}},
+        {FORM_NAME(txtYmin),  Kind::Box,     "-10",  {L + 2880,       6360, W, H}, {.Change = on(&GraphScreen::txtYmin_Change)}},
+        {FORM_NAME(lblYminL), Kind::Stepper, "<",    {L + 2880 - A,   6360, A, H}, {.Click = on(&GraphScreen::lblYminL_Click), .DblClick = on(&GraphScreen::lblYminL_DblClick)}},
+        {FORM_NAME(lblYminR), Kind::Stepper, ">",    {L + 2880 + W,   6360, A, H}, {.Click = on(&GraphScreen::lblYminR_Click), .DblClick = on(&GraphScreen::lblYminR_DblClick)}},
+        {FORM_NAME(txtYmax),  Kind::Box,     "10",   {L + 3000,          0, W, H}, {.Change = on(&GraphScreen::txtYmax_Change)}},
+        {FORM_NAME(lblYmaxL), Kind::Stepper, "<",    {L + 3000 - A,      0, A, H}, {.Click = on(&GraphScreen::lblYmaxL_Click), .DblClick = on(&GraphScreen::lblYmaxL_DblClick)}},
+        {FORM_NAME(lblYmaxR), Kind::Stepper, ">",    {L + 3000 + W,      0, A, H}, {.Click = on(&GraphScreen::lblYmaxR_Click), .DblClick = on(&GraphScreen::lblYmaxR_DblClick)}},
     });
     // clang-format on
 }
@@ -143,19 +143,21 @@ void GraphScreen::buildCoefficients()
     // stepper label on its left.
     // clang-format off
     std::vector<form::Control> table{
-        {&lblVariables, Kind::Label, "Variables", {120, 600, 1455, 300}, {}, {.align = Qt::AlignCenter}}};
+        {FORM_NAME(lblVariables), Kind::Label, "Variables", {120, 600, 1455, 300}, {}, {.align = Qt::AlignCenter}}};
     TextBox** boxes[6] = {&txtA, &txtB, &txtC, &txtD, &txtE, &txtF};
     ClickLabel** labels[6] = {&lblA, &lblB, &lblC, &lblD, &lblE, &lblF};
     for (int i = 0; i < config_.coefficientCount; ++i) {
         const double top = 960 + 360 * i;
-        table.push_back({boxes[i], Kind::Box, QString::fromLatin1(config_.coefficientDefaults[i]),
+        const QChar name = QChar::fromLatin1(kCoefficientNames[i]);
+        table.push_back({form::Slot(boxes[i], QStringLiteral("txt") + name), Kind::Box,
+                         QString::fromLatin1(config_.coefficientDefaults[i]),
                          {840, top, 1215, kBoxHeight}, {.Change = [this, i] { coefficientEdited(i); }}});
-        table.push_back({labels[i], Kind::Stepper, QStringLiteral("%1=").arg(QChar::fromLatin1(kCoefficientNames[i])),
+        table.push_back({form::Slot(labels[i], QStringLiteral("lbl") + name), Kind::Stepper, name + QLatin1Char('='),
                          {240, top, 495, kBoxHeight},
                          {.MouseDown = [this, i](int Button, int, double, double) { stepCoefficient(i, Button); }}});
     }
     if (config_.functionMenu)
-        table.push_back({&lblFunc, Kind::Label, config_.functionLabelCaption,
+        table.push_back({FORM_NAME(lblFunc), Kind::Label, config_.functionLabelCaption,
                          {120, 960 + 360.0 * config_.coefficientCount + 120, 1800, 660},
                          {.MouseDown = form::bind(this)(&GraphScreen::lblFunc_MouseDown)},
                          {.align = Qt::AlignCenter, .wrap = true, .boxed = true}});
@@ -171,11 +173,11 @@ void GraphScreen::buildButtons()
     // clang-format off
     form::buildForm(surface, {
         // name            kind          caption                   place           handlers
-        {&cmdPlotto,     Kind::Button, config_.plotCaption,      {C,  600, W, H}, {.Click = on(&GraphScreen::cmdPlotto_Click)}},
-        {&cmdClean,      Kind::Button, config_.cleanCaption,     {C, 1200, W, H}, {.Click = on(&GraphScreen::cmdClean_Click)}},
-        {&cmdZoomIn,     Kind::Button, config_.zoomCaption,      {C, 1800, W, H}, {.Click = on(&GraphScreen::cmdZoomIn_Click)}},
-        {&cmdSetDefault, Kind::Button, config_.defaultsCaption,  {C, 2400, W, H}, {.Click = on(&GraphScreen::cmdSetDefault_Click)}},
-        {&cmdExit,       Kind::Button, QStringLiteral("E&xit"),  {C, 6000, W, H}, {.Click = on(&GraphScreen::cmdExit_Click)}},
+        {FORM_NAME(cmdPlotto),     Kind::Button, config_.plotCaption,      {C,  600, W, H}, {.Click = on(&GraphScreen::cmdPlotto_Click)}},
+        {FORM_NAME(cmdClean),      Kind::Button, config_.cleanCaption,     {C, 1200, W, H}, {.Click = on(&GraphScreen::cmdClean_Click)}},
+        {FORM_NAME(cmdZoomIn),     Kind::Button, config_.zoomCaption,      {C, 1800, W, H}, {.Click = on(&GraphScreen::cmdZoomIn_Click)}},
+        {FORM_NAME(cmdSetDefault), Kind::Button, config_.defaultsCaption,  {C, 2400, W, H}, {.Click = on(&GraphScreen::cmdSetDefault_Click)}},
+        {FORM_NAME(cmdExit),       Kind::Button, QStringLiteral("E&xit"),  {C, 6000, W, H}, {.Click = on(&GraphScreen::cmdExit_Click)}},
     });
     // clang-format on
 }

@@ -49,6 +49,11 @@ void GraphScreen::buildViewMenu()
         entry(QStringLiteral("&Back"), {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { return backWindow(); });
     mnuViewForward =
         entry(QStringLiteral("&Forward"), {QKeySequence(Qt::ALT | Qt::Key_Right)}, [this] { return forwardWindow(); });
+    NAME_AS_MEMBER(mnuViewZoomIn);
+    NAME_AS_MEMBER(mnuViewZoomOut);
+    NAME_AS_MEMBER(mnuViewOriginal);
+    NAME_AS_MEMBER(mnuViewBack);
+    NAME_AS_MEMBER(mnuViewForward);
     viewer_ = new GraphViewer(*this);
 }
 

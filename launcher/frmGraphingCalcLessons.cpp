@@ -93,10 +93,15 @@ void frmGraphingCalc::buildLessonMenu()
 
 void frmGraphingCalc::openLesson(const QString& path)
 {
-    const lesson::Read read = lesson::load(path);
+    lesson::Read read = lesson::load(path);
     if (!read.lesson) {
         MsgBox(read.error, QStringLiteral("Open Lesson"));
         return;
+    }
+    if (read.lesson->version < lesson::kVersion) {  // an older lesson names what it sets in the older way
+        for (lesson::Step& step : read.lesson->steps)
+            lesson::upgrade(step, screen(*screens::find(step.screen)));
+        read.lesson->version = lesson::kVersion;
     }
     // Every step is checked before anything changes: a lesson that cannot be shown whole is refused.
     for (std::size_t i = 0; i < read.lesson->steps.size(); ++i) {
@@ -142,6 +147,9 @@ void frmGraphingCalc::addStep(GraphScreen& screen)
                                 "(a button pressed more than once: Apply Newton's*4). Leave empty for none."),
                  QStringLiteral("Add to the Lesson"), QStringLiteral("Plotto!"));
     step.actions = parseActions(text);
+    for (lesson::Action& a : step.actions)  // the captions typed become the buttons' keys
+        if (const QString key = lesson::buttonKey(screen, a.click); !key.isEmpty())
+            a.click = key;
     if (const QString refusal = lesson::check(step, screen); !refusal.isEmpty()) {
         MsgBox(QStringLiteral("The step was not added: ") + refusal + QLatin1Char('.'),
                QStringLiteral("Add to the Lesson"));

@@ -61,6 +61,10 @@ inline double Chk(double v)
     return v;
 }
 
+// Rounded half up to 1/scale, as the screens show results: Int(v * scale + 0.5) / scale, each step
+// checked (Overflow (6) for a value too large to scale).
+inline double RoundHalfUp(double v, double scale) { return Int(Chk(Chk(v * scale) + 0.5)) / scale; }
+
 // a / b: Division by zero (11) for a non-zero a over 0, Overflow (6) for 0 / 0 or a result too large.
 [[noreturn]] void raiseDivision(double a, double b);
 inline double Div(double a, double b)

@@ -292,6 +292,7 @@ ConvergenceWindow* addConvergenceMenu(QWidget* screen, QMenuBar* bar, const QStr
     auto* menu = new QMenu(QStringLiteral("Con&vergence"), bar);
     bar->insertMenu(bar->actions().isEmpty() ? nullptr : bar->actions().last(), menu);
     QAction* open = menu->addAction(QStringLiteral("Convergence &Table..."));
+    open->setObjectName(QStringLiteral("mnuConvergenceTable"));  // its key in lessons
     open->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     QObject::connect(open, &QAction::triggered, window, [window] {
         guarded([window] {

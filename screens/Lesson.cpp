@@ -20,47 +20,47 @@ namespace lesson {
 
 namespace {
 
-// The controls a teacher sets, by their names (each screen's names are unique, as a screen reader
-// hears them), in the form's order.
+// The controls a teacher sets, in the form's order: each has its object name (the member's name,
+// "txtGuess"), which is its key in a lesson whatever its caption says.
 std::vector<QWidget*> settable(GraphScreen& screen)
 {
     if (screen.txtXmin->accessibleName().isEmpty())
-        screen.arrangeForKeyboard();
+        screen.arrangeForKeyboard();  // the spoken names, which messages and old lessons use
     std::vector<QWidget*> out;
     for (QWidget* w : screen.surface->findChildren<QWidget*>())
         if ((qobject_cast<TextBox*>(w) || qobject_cast<CheckBox*>(w) || qobject_cast<OptionButton*>(w) ||
              qobject_cast<ScrollBar*>(w)) &&
-            !w->accessibleName().isEmpty())
+            !w->objectName().isEmpty())
             out.push_back(w);
     return out;
 }
 
-QWidget* named(GraphScreen& screen, const QString& name)
+QWidget* named(GraphScreen& screen, const QString& key)
 {
     for (QWidget* w : settable(screen))
-        if (w->accessibleName() == name)
+        if (w->objectName() == key)
             return w;
     return nullptr;
 }
 
-QAbstractButton* button(GraphScreen& screen, const QString& caption)
+QAbstractButton* button(GraphScreen& screen, const QString& key)
 {
-    for (QPushButton* b : screen.surface->findChildren<QPushButton*>())
-        if (QString(b->text()).remove(QLatin1Char('&')) == caption)
-            return b;
-    return nullptr;
+    return key.isEmpty() ? nullptr : screen.surface->findChild<QPushButton*>(key);
 }
 
 // A menu entry of the screen's own menus (not the lesson commands, which would move the lesson).
-QAction* menuEntry(GraphScreen& screen, const QString& caption)
+QAction* menuEntry(GraphScreen& screen, const QString& key)
 {
     for (QAction* menu : screen.menuBar->actions())
         if (menu != screen.mnuTools && menu->menu())
             for (QAction* entry : menu->menu()->actions())
-                if (QString(entry->text()).remove(QLatin1Char('&')) == caption)
+                if (!key.isEmpty() && entry->objectName() == key)
                     return entry;
     return nullptr;
 }
+
+// What a person sees of a control, for messages: its spoken name, or the key when it has none.
+QString spokenName(QWidget* w) { return w->accessibleName().isEmpty() ? w->objectName() : w->accessibleName(); }
 
 // What a box takes from a lesson: what a person could type into it, text of one line (at most 64
 // characters) or a number. Its own handler then reads it as it reads a person's typing.
@@ -105,7 +105,7 @@ Step capture(GraphScreen& screen)
     step.screen = screenKey(screen);
     step.function = screen.functionState();
     for (QWidget* w : settable(screen)) {
-        const QString name = w->accessibleName();
+        const QString name = w->objectName();
         if (auto* box = qobject_cast<TextBox*>(w))
             step.controls.insert(name, box->text());
         else if (auto* tick = qobject_cast<QAbstractButton*>(w))
@@ -127,7 +127,7 @@ QString check(const Step& step, GraphScreen& screen)
         if (qobject_cast<TextBox*>(w)) {
             if (!typable(it.value()))
                 return QStringLiteral("the box '%1' cannot take %2")
-                    .arg(it.key(),
+                    .arg(spokenName(w),
                          QString::fromUtf8(QJsonDocument(QJsonArray{it.value()}).toJson(QJsonDocument::Compact))
                              .mid(1)
                              .chopped(1));
@@ -135,9 +135,9 @@ QString check(const Step& step, GraphScreen& screen)
             const double v = it.value().toDouble(std::nan(""));
             if (!it.value().isDouble() || v != std::floor(v) || v < std::min(bar->minimum(), bar->maximum()) ||
                 v > std::max(bar->minimum(), bar->maximum()))
-                return QStringLiteral("the scroll bar '%1' cannot take that position").arg(it.key());
+                return QStringLiteral("the scroll bar '%1' cannot take that position").arg(spokenName(w));
         } else if (!it.value().isBool()) {
-            return QStringLiteral("'%1' is ticked or not: true or false").arg(it.key());
+            return QStringLiteral("'%1' is ticked or not: true or false").arg(spokenName(w));
         }
     }
     for (const Action& a : step.actions) {
@@ -157,7 +157,7 @@ void apply(const Step& step, GraphScreen& screen)
     // Delta x), then the boxes as they were saved, then the scroll bars.
     for (int pass = 0; pass < 3; ++pass)
         for (QWidget* w : settable(screen)) {
-            const QJsonValue value = step.controls.value(w->accessibleName());
+            const QJsonValue value = step.controls.value(w->objectName());
             if (value.isUndefined())
                 continue;
             if (auto* tick = qobject_cast<QAbstractButton*>(w); tick && pass == 0) {
@@ -178,6 +178,43 @@ void apply(const Step& step, GraphScreen& screen)
             else if (QAbstractButton* b = button(screen, a.click))
                 b->click();
         }
+}
+
+void upgrade(Step& step, GraphScreen& screen)
+{
+    // Lessons of the first version named controls by what a screen reader says of them, and buttons
+    // and menu entries by their captions; each becomes the key of the control it named. A name that
+    // matches nothing is kept, and checking the step then refuses it in words.
+    const std::vector<QWidget*> controls = settable(screen);
+    QJsonObject keyed;
+    for (auto it = step.controls.begin(); it != step.controls.end(); ++it) {
+        const auto w = std::find_if(controls.begin(), controls.end(),
+                                    [&](QWidget* c) { return c->accessibleName() == it.key(); });
+        keyed.insert(w == controls.end() ? it.key() : (*w)->objectName(), it.value());
+    }
+    step.controls = keyed;
+    const auto caption = [](const QString& text) { return QString(text).remove(QLatin1Char('&')); };
+    for (Action& a : step.actions) {
+        if (!a.menu.isEmpty()) {
+            for (QAction* menu : screen.menuBar->actions())
+                if (menu != screen.mnuTools && menu->menu())
+                    for (QAction* entry : menu->menu()->actions())
+                        if (caption(entry->text()) == a.menu && !entry->objectName().isEmpty())
+                            a.menu = entry->objectName();
+        } else {
+            for (QPushButton* b : screen.surface->findChildren<QPushButton*>())
+                if (caption(b->text()) == a.click && !b->objectName().isEmpty())
+                    a.click = b->objectName();
+        }
+    }
+}
+
+QString buttonKey(GraphScreen& screen, const QString& caption)
+{
+    for (QPushButton* b : screen.surface->findChildren<QPushButton*>())
+        if (QString(b->text()).remove(QLatin1Char('&')) == caption)
+            return b->objectName();
+    return {};
 }
 
 QByteArray toJson(const Lesson& lesson)
@@ -229,6 +266,7 @@ Read fromJson(const QByteArray& text)
     if (!steps.isArray() || steps.toArray().isEmpty())
         return {std::nullopt, QStringLiteral("The lesson has no steps.")};
     Lesson lesson;
+    lesson.version = version.toInt();
     int number = 0;
     for (const QJsonValue& v : steps.toArray()) {
         ++number;

@@ -17,33 +17,43 @@ namespace lesson {
 
 // The file format's name and the newest version this program reads and writes.
 inline constexpr const char* kFormat = "plotto-lesson";
-inline constexpr int kVersion = 1;
+inline constexpr int kVersion = 2;
 // The file name extension offered by the dialogs and registered with the desktop.
 inline constexpr const char* kExtension = "plotto";
 
 // What a step does on arrival: press a button, or choose a menu entry of the screen (the
 // convergence table, say), `times` times.
 struct Action {
-    QString click;  // a button's caption without its '&' ("Plotto!", "Apply Newton's")
+    QString click;  // a button's object name ("cmdPlotto", "cmdApply")
     int times = 1;
-    QString menu;  // or a menu entry's caption without its '&' ("Convergence Table...")
+    QString menu;  // or a menu entry's object name ("mnuConvergenceTable")
 };
 
 struct Step {
     QString screen;  // "grapher", "animation", "sums", "newton", "slope-field", "tangent", "mvt", "parametric"
     QJsonObject function;  // as GraphScreen::functionState gives it
-    QJsonObject controls;  // control name -> text (a box), true/false (a tick or option), number (a scroll bar)
+    // A control's object name ("txtGuess") -> text (a box), true/false (a tick or option), number (a
+    // scroll bar).
+    QJsonObject controls;
     std::vector<Action> actions;
 };
 
 struct Lesson {
     std::vector<Step> steps;
+    int version = kVersion;  // as read; upgrade() brings an older lesson's steps to this version's keys
 };
 
 // The key of a screen in a lesson ("sums" for the sums screen), "" for an unknown class.
 QString screenKey(const GraphScreen& screen);
 // The screens' keys, in the launcher's teaching order.
 const std::vector<QString>& screenKeys();
+
+// Brings a step of a first-version lesson to today's keys: its controls named by their spoken names
+// and its buttons and menu entries by their captions become their object names on `screen`.
+void upgrade(Step& step, GraphScreen& screen);
+// The key of the button of `screen` whose caption (without '&') is `caption`, "" when none has it:
+// for what a teacher types when adding a step.
+QString buttonKey(GraphScreen& screen, const QString& caption);
 
 // The state of `screen` now, as a step without actions.
 Step capture(GraphScreen& screen);

@@ -28,36 +28,36 @@ frmAnimate::frmAnimate() : GraphScreen(animateConfig())
     // clang-format off
     form::buildForm(surface, {
         // name             kind           caption                place                  handlers / look
-        {&lblChoice,        Kind::Label,   "Animation",           {P, 60, W, 300},       {}, {.align = Qt::AlignCenter}},
-        {&fraHow,           Kind::Frame,   "Continuous/Steps",    {P, 360, W, 1560}, {}, {}, {
-            {&optSteps,     Kind::Option,  "Steps",               {120,  300, I, 300},   {.Click = on(&frmAnimate::optSteps_Click)}},
-            {&optStepErase, Kind::Option,  "Steps+Erase",         {120,  600, I, 300},   {.Click = on(&frmAnimate::optStepErase_Click)}},
-            {&optCont,      Kind::Option,  "Continuous",          {120,  900, I, 300},   {.Click = on(&frmAnimate::optCont_Click)}, {.checked = true}},
-            {&optContErase, Kind::Option,  "Continuous+Erase",    {120, 1200, I, 300},   {.Click = on(&frmAnimate::optContErase_Click)}},
+        {FORM_NAME(lblChoice),        Kind::Label,   "Animation",           {P, 60, W, 300},       {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(fraHow),           Kind::Frame,   "Continuous/Steps",    {P, 360, W, 1560}, {}, {}, {
+            {FORM_NAME(optSteps),     Kind::Option,  "Steps",               {120,  300, I, 300},   {.Click = on(&frmAnimate::optSteps_Click)}},
+            {FORM_NAME(optStepErase), Kind::Option,  "Steps+Erase",         {120,  600, I, 300},   {.Click = on(&frmAnimate::optStepErase_Click)}},
+            {FORM_NAME(optCont),      Kind::Option,  "Continuous",          {120,  900, I, 300},   {.Click = on(&frmAnimate::optCont_Click)}, {.checked = true}},
+            {FORM_NAME(optContErase), Kind::Option,  "Continuous+Erase",    {120, 1200, I, 300},   {.Click = on(&frmAnimate::optContErase_Click)}},
         }},
-        {&fraRange,         Kind::Frame,   "Variable Range",      {P, 2040, W, 1380}, {}, {}, {
-            {&lblStart,     Kind::Label,   "Start:",              {120,   300, 900, 300}},
-            {&txtStart,     Kind::Box,     "-2",                  {1080,  300, 1380, 300}},
-            {&lblEnd,       Kind::Label,   "End:",                {120,   660, 900, 300}},
-            {&txtEnd,       Kind::Box,     "2",                   {1080,  660, 1380, 300}},
-            {&lblSteps,     Kind::Label,   "Steps:",              {120,  1020, 900, 300}},
-            {&txtSteps,     Kind::Box,     "41",                  {1080, 1020, 1380, 300}, {.Change = on(&frmAnimate::txtSteps_Change)}},
+        {FORM_NAME(fraRange),         Kind::Frame,   "Variable Range",      {P, 2040, W, 1380}, {}, {}, {
+            {FORM_NAME(lblStart),     Kind::Label,   "Start:",              {120,   300, 900, 300}},
+            {FORM_NAME(txtStart),     Kind::Box,     "-2",                  {1080,  300, 1380, 300}},
+            {FORM_NAME(lblEnd),       Kind::Label,   "End:",                {120,   660, 900, 300}},
+            {FORM_NAME(txtEnd),       Kind::Box,     "2",                   {1080,  660, 1380, 300}},
+            {FORM_NAME(lblSteps),     Kind::Label,   "Steps:",              {120,  1020, 900, 300}},
+            {FORM_NAME(txtSteps),     Kind::Box,     "41",                  {1080, 1020, 1380, 300}, {.Change = on(&frmAnimate::txtSteps_Change)}},
         }},
-        {&fraVariable,      Kind::Frame,   "Which Variable?",     {P, 3540, 1500, 1980}, {}, {}, {
-            {&chkA,         Kind::Check,   "A",                   {240,  300, 1000, 300}, {.Click = on(&frmAnimate::chkA_Click)}, {.checked = true}},
-            {&chkB,         Kind::Check,   "B",                   {240,  630, 1000, 300}, {.Click = on(&frmAnimate::chkB_Click)}},
-            {&chkC,         Kind::Check,   "C",                   {240,  960, 1000, 300}, {.Click = on(&frmAnimate::chkC_Click)}},
-            {&chkD,         Kind::Check,   "D",                   {240, 1290, 1000, 300}, {.Click = on(&frmAnimate::chkD_Click)}},
-            {&chkE,         Kind::Check,   "E",                   {240, 1620, 1000, 300}, {.Click = on(&frmAnimate::chkE_Click)}},
+        {FORM_NAME(fraVariable),      Kind::Frame,   "Which Variable?",     {P, 3540, 1500, 1980}, {}, {}, {
+            {FORM_NAME(chkA),         Kind::Check,   "A",                   {240,  300, 1000, 300}, {.Click = on(&frmAnimate::chkA_Click)}, {.checked = true}},
+            {FORM_NAME(chkB),         Kind::Check,   "B",                   {240,  630, 1000, 300}, {.Click = on(&frmAnimate::chkB_Click)}},
+            {FORM_NAME(chkC),         Kind::Check,   "C",                   {240,  960, 1000, 300}, {.Click = on(&frmAnimate::chkC_Click)}},
+            {FORM_NAME(chkD),         Kind::Check,   "D",                   {240, 1290, 1000, 300}, {.Click = on(&frmAnimate::chkD_Click)}},
+            {FORM_NAME(chkE),         Kind::Check,   "E",                   {240, 1620, 1000, 300}, {.Click = on(&frmAnimate::chkE_Click)}},
         }},
-        {&vscStep,          Kind::VScroll, "",                    {P + 1620, 3600, 255, 1920},
+        {FORM_NAME(vscStep),          Kind::VScroll, "",                    {P + 1620, 3600, 255, 1920},
             {.Change = on(&frmAnimate::vscStep_Change), .Scroll = on(&frmAnimate::vscStep_Scroll),
              .Spoken = [this] { return tickedLetters() + QStringLiteral(" = ") + lblSlide->text(); }},
             {.name = "Animation frame", .bar = {.min = 0, .max = 41, .small = 1, .large = 1}}},
-        {&lblSlide,         Kind::Label,   "-2",                  {P + 1920, 4380, 660, 300}},
-        {&lblClickAnimate,  Kind::Label,   "Select Variable(s)",  {P, 5580, W, 300},     {}, {.align = Qt::AlignCenter}},
-        {&cmdAnimate,       Kind::Button,  "&Animate It!",        {P, 5940, W, 420},     {.Click = on(&frmAnimate::cmdAnimate_Click)}},
-        {&cmdClearIt,       Kind::Button,  "Erase Graph",         {P, 6480, W, 420},     {.Click = on(&frmAnimate::cmdClearIt_Click)},
+        {FORM_NAME(lblSlide),         Kind::Label,   "-2",                  {P + 1920, 4380, 660, 300}},
+        {FORM_NAME(lblClickAnimate),  Kind::Label,   "Select Variable(s)",  {P, 5580, W, 300},     {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(cmdAnimate),       Kind::Button,  "&Animate It!",        {P, 5940, W, 420},     {.Click = on(&frmAnimate::cmdAnimate_Click)}},
+        {FORM_NAME(cmdClearIt),       Kind::Button,  "Erase Graph",         {P, 6480, W, 420},     {.Click = on(&frmAnimate::cmdClearIt_Click)},
                                                                                          {.name = "Erase Graph, animation panel"}},
     });
     // clang-format on

@@ -35,37 +35,37 @@ frmFlowField::frmFlowField() : GraphScreen(flowConfig())
     form::buildForm(surface, {
         // Left panel: rate labels, the formula display, the start and end points.
         // name          kind           caption                            place                   handlers / look
-        {&lbldy,         Kind::Stepper, "dy = Ax + By + C",                {60, 3180, 1860, 300},  {.MouseDown = on(&frmFlowField::lbldy_MouseDown)}},
-        {&lbldx,         Kind::Stepper, "dx = Dx + Ey + F",                {60, 3540, 1860, 300},  {.MouseDown = on(&frmFlowField::lbldx_MouseDown)}},
-        {&shpDyDx,       Kind::Outline, "",                                {60, 3900, 2280, 900}},
-        {&lblIntegral,   Kind::Label,   "Click in the graph to generate an integral curve.",
+        {FORM_NAME(lbldy),         Kind::Stepper, "dy = Ax + By + C",                {60, 3180, 1860, 300},  {.MouseDown = on(&frmFlowField::lbldy_MouseDown)}},
+        {FORM_NAME(lbldx),         Kind::Stepper, "dx = Dx + Ey + F",                {60, 3540, 1860, 300},  {.MouseDown = on(&frmFlowField::lbldx_MouseDown)}},
+        {FORM_NAME(shpDyDx),       Kind::Outline, "",                                {60, 3900, 2280, 900}},
+        {FORM_NAME(lblIntegral),   Kind::Label,   "Click in the graph to generate an integral curve.",
                                                                            {60, 4920, 2280, 600},  {}, {.wrap = true}},
-        {&lblPos,        Kind::Label,   "Start (____, ____)",              {60, 5640, 2280, 300},  {.Click = on(&frmFlowField::lblPos_Click)}, {.raised = true}},
-        {&lblEndpt,      Kind::Label,   "Endpt ( ____, ____ )",            {60, 6060, 2280, 300}},
-        {&cmdShowFlow,   Kind::Button,  "&Show Slope Field",               {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmFlowField::cmdShowFlow_Click)}},
+        {FORM_NAME(lblPos),        Kind::Label,   "Start (____, ____)",              {60, 5640, 2280, 300},  {.Click = on(&frmFlowField::lblPos_Click)}, {.raised = true}},
+        {FORM_NAME(lblEndpt),      Kind::Label,   "Endpt ( ____, ____ )",            {60, 6060, 2280, 300}},
+        {FORM_NAME(cmdShowFlow),   Kind::Button,  "&Show Slope Field",               {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmFlowField::cmdShowFlow_Click)}},
 
         // Right panel: purpose, method and the plot button's settings.
-        {&fraPurpose,    Kind::Frame,   "Purpose",                         {O, 120, W, 1080}, {}, {}, {
-            {&optApprox,   Kind::Option,  "Find &Appoximation",            {120, 330, I, 300},     {.Click = on(&frmFlowField::optApprox_Click)}},
-            {&optCurve,    Kind::Option,  "See smooth &curve",             {120, 660, I, 300},     {.Click = on(&frmFlowField::optCurve_Click)}, {.checked = true}},
+        {FORM_NAME(fraPurpose),    Kind::Frame,   "Purpose",                         {O, 120, W, 1080}, {}, {}, {
+            {FORM_NAME(optApprox),   Kind::Option,  "Find &Appoximation",            {120, 330, I, 300},     {.Click = on(&frmFlowField::optApprox_Click)}},
+            {FORM_NAME(optCurve),    Kind::Option,  "See smooth &curve",             {120, 660, I, 300},     {.Click = on(&frmFlowField::optCurve_Click)}, {.checked = true}},
         }},
-        {&fraMethod,     Kind::Frame,   "Method Options",                  {O, 1320, W, 1380}, {}, {}, {
-            {&optRunga4,   Kind::Option,  "Runga-Kutta &4",                {120, 330, I, 300},     {.Click = on(&frmFlowField::optRunga4_Click)}},
-            {&optRunga2,   Kind::Option,  "Runga-Kutta &2",                {120, 660, I, 300},     {.Click = on(&frmFlowField::optRunga2_Click)}},
-            {&optEuler,    Kind::Option,  "Euler's Metho&d",               {120, 990, I, 300},     {.Click = on(&frmFlowField::optEuler_Click)}, {.checked = true}},
+        {FORM_NAME(fraMethod),     Kind::Frame,   "Method Options",                  {O, 1320, W, 1380}, {}, {}, {
+            {FORM_NAME(optRunga4),   Kind::Option,  "Runga-Kutta &4",                {120, 330, I, 300},     {.Click = on(&frmFlowField::optRunga4_Click)}},
+            {FORM_NAME(optRunga2),   Kind::Option,  "Runga-Kutta &2",                {120, 660, I, 300},     {.Click = on(&frmFlowField::optRunga2_Click)}},
+            {FORM_NAME(optEuler),    Kind::Option,  "Euler's Metho&d",               {120, 990, I, 300},     {.Click = on(&frmFlowField::optEuler_Click)}, {.checked = true}},
         }},
-        {&fraPlotto,     Kind::Frame,   "Plotto Options",                  {O, 2820, W, 4080}, {}, {}, {
-            {&lblHorShift, Kind::Stepper, "Horizontal Shift",              {120,  300, I, 300},    {.MouseDown = on(&frmFlowField::lblHorShift_MouseDown)}},
-            {&txtHorShift, Kind::Box,     "0",                             {120,  630, I, 300}},
-            {&lblVerShift, Kind::Stepper, "Vertical Shift",                {120, 1020, I, 300},    {.MouseDown = on(&frmFlowField::lblVerShift_MouseDown)}},
-            {&txtVerShift, Kind::Box,     "0",                             {120, 1350, I, 300}},
-            {&chkBiDirect, Kind::Check,   "Bi-directional",                {120, 1740, I, 300}},
-            {&lblplots,    Kind::Stepper, "Number of Curve Points",        {120, 2160, I, 300},    {.MouseDown = on(&frmFlowField::lblplots_MouseDown)},
+        {FORM_NAME(fraPlotto),     Kind::Frame,   "Plotto Options",                  {O, 2820, W, 4080}, {}, {}, {
+            {FORM_NAME(lblHorShift), Kind::Stepper, "Horizontal Shift",              {120,  300, I, 300},    {.MouseDown = on(&frmFlowField::lblHorShift_MouseDown)}},
+            {FORM_NAME(txtHorShift), Kind::Box,     "0",                             {120,  630, I, 300}},
+            {FORM_NAME(lblVerShift), Kind::Stepper, "Vertical Shift",                {120, 1020, I, 300},    {.MouseDown = on(&frmFlowField::lblVerShift_MouseDown)}},
+            {FORM_NAME(txtVerShift), Kind::Box,     "0",                             {120, 1350, I, 300}},
+            {FORM_NAME(chkBiDirect), Kind::Check,   "Bi-directional",                {120, 1740, I, 300}},
+            {FORM_NAME(lblplots),    Kind::Stepper, "Number of Curve Points",        {120, 2160, I, 300},    {.MouseDown = on(&frmFlowField::lblplots_MouseDown)},
                                                                                                    {.tip = "Maximum of 10000 points"}},
-            {&txtCurvePoints, Kind::Box,  "500",                           {120, 2490, I, 300},    {.Change = on(&frmFlowField::txtCurvePoints_Change)}},
-            {&lblDeltaX,   Kind::Stepper, "Delta x = ",                    {120, 2880, I, 300},    {.MouseDown = on(&frmFlowField::lblDeltaX_MouseDown)},
+            {FORM_NAME(txtCurvePoints), Kind::Box,  "500",                           {120, 2490, I, 300},    {.Change = on(&frmFlowField::txtCurvePoints_Change)}},
+            {FORM_NAME(lblDeltaX),   Kind::Stepper, "Delta x = ",                    {120, 2880, I, 300},    {.MouseDown = on(&frmFlowField::lblDeltaX_MouseDown)},
                                                                            {.tip = "This value is used in Euler's Method to find succeeding points."}},
-            {&txtDelta,    Kind::Box,     "0.02",                          {120, 3210, I, 300}},
+            {FORM_NAME(txtDelta),    Kind::Box,     "0.02",                          {120, 3210, I, 300}},
         }},
     });
     // clang-format on

@@ -29,8 +29,7 @@ constexpr double kLeft = 11220, kWidth = 2580, kInner = 2340;
 constexpr int kScanSteps = 200000;
 constexpr int kGridRows = 20;
 
-// Rounded half up to the given scale: Int(v * scale + 0.5) / scale.
-double rounded(double v, double scale) { return rt::Int(rt::Chk(rt::Chk(v * scale) + 0.5)) / scale; }
+using rt::RoundHalfUp;
 
 }  // namespace
 
@@ -42,28 +41,28 @@ frmMVT::frmMVT() : GraphScreen(mvtConfig())
     // clang-format off
     form::buildForm(surface, {
         // name           kind          caption                  place                 handlers / look
-        {&fraMVTSet,      Kind::Frame,  "MVT Set Up",            {kLeft, 120, kWidth, 3120}, {}, {}, {
-            {&lblX1,      Kind::Label,  "Left endpt",            {120,   330, 1080, 300}},
-            {&txtX1,      Kind::Box,    "a",                     {1260,  330, 1200, 300}, {.Change = on(&frmMVT::txtX1_Change)}},
-            {&lblX2,      Kind::Label,  "Right endpt",           {120,   690, 1080, 300}},
-            {&txtX2,      Kind::Box,    "b",                     {1260,  690, 1200, 300}, {.Change = on(&frmMVT::txtX2_Change)}},
-            {&cmdApplyMVT, Kind::Button, "Apply to Graph",       {120,  1080, I, 420},    {.Click = on(&frmMVT::cmdApplyMVT_Click)}},
-            {&lblPt1,     Kind::Label,  "( _______ , _______)",  {120,  1590, I, 300}},
-            {&lblto,      Kind::Label,  "to",                    {120,  1890, I, 300},    {}, {.align = Qt::AlignCenter}},
-            {&lblPt2,     Kind::Label,  "( _______ , _______)",  {120,  2190, I, 300}},
-            {&lblSlope1,  Kind::Label,  "Slope",                 {120,  2580, I, 300}},
+        {FORM_NAME(fraMVTSet),      Kind::Frame,  "MVT Set Up",            {kLeft, 120, kWidth, 3120}, {}, {}, {
+            {FORM_NAME(lblX1),      Kind::Label,  "Left endpt",            {120,   330, 1080, 300}},
+            {FORM_NAME(txtX1),      Kind::Box,    "a",                     {1260,  330, 1200, 300}, {.Change = on(&frmMVT::txtX1_Change)}},
+            {FORM_NAME(lblX2),      Kind::Label,  "Right endpt",           {120,   690, 1080, 300}},
+            {FORM_NAME(txtX2),      Kind::Box,    "b",                     {1260,  690, 1200, 300}, {.Change = on(&frmMVT::txtX2_Change)}},
+            {FORM_NAME(cmdApplyMVT), Kind::Button, "Apply to Graph",       {120,  1080, I, 420},    {.Click = on(&frmMVT::cmdApplyMVT_Click)}},
+            {FORM_NAME(lblPt1),     Kind::Label,  "( _______ , _______)",  {120,  1590, I, 300}},
+            {FORM_NAME(lblto),      Kind::Label,  "to",                    {120,  1890, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {FORM_NAME(lblPt2),     Kind::Label,  "( _______ , _______)",  {120,  2190, I, 300}},
+            {FORM_NAME(lblSlope1),  Kind::Label,  "Slope",                 {120,  2580, I, 300}},
         }},
-        {&fraFindPt,      Kind::Frame,  "Find c",                {kLeft, 3360, kWidth, 5520}, {}, {}, {
-            {&lblSlideIt, Kind::Label,  "Use the Slider",        {120,   300, I, 300},    {}, {.align = Qt::AlignCenter}},
-            {&HscMVT,     Kind::HScroll, "",                     {120,   600, I, 255},
+        {FORM_NAME(fraFindPt),      Kind::Frame,  "Find c",                {kLeft, 3360, kWidth, 5520}, {}, {}, {
+            {FORM_NAME(lblSlideIt), Kind::Label,  "Use the Slider",        {120,   300, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {FORM_NAME(HscMVT),     Kind::HScroll, "",                     {120,   600, I, 255},
                 {.Change = on(&frmMVT::HscMVT_Change), .Spoken = [this] { return lblFindc->text().trimmed(); }},
                 {.bar = {.min = 0, .max = 20000, .small = 1, .large = 100}}},
-            {&lbl1,       Kind::Label,  "a",                     {120,   900, 1100, 300}},
-            {&lbl2,       Kind::Label,  "b",                     {1360,  900, 1100, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
-            {&lblFindc,   Kind::Label,  "x =",                   {120,  1230, I, 300},    {.Click = on(&frmMVT::lblFindc_Click)}, {.raised = true}},
-            {&lblSlope2,  Kind::Label,  "Slope = ",              {120,  1560, I, 300}},
-            {&cmdAnimateIt, Kind::Button, "Find c",              {120,  1920, I, 420},    {.Click = on(&frmMVT::cmdAnimateIt_Click)}},
-            {&gridC,      Kind::Grid,   "",                      {120,  2460, I, 2940},   {}, {.name = "Values of c", .rows = kGridRows, .columns = 3}},
+            {FORM_NAME(lbl1),       Kind::Label,  "a",                     {120,   900, 1100, 300}},
+            {FORM_NAME(lbl2),       Kind::Label,  "b",                     {1360,  900, 1100, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
+            {FORM_NAME(lblFindc),   Kind::Label,  "x =",                   {120,  1230, I, 300},    {.Click = on(&frmMVT::lblFindc_Click)}, {.raised = true}},
+            {FORM_NAME(lblSlope2),  Kind::Label,  "Slope = ",              {120,  1560, I, 300}},
+            {FORM_NAME(cmdAnimateIt), Kind::Button, "Find c",              {120,  1920, I, 420},    {.Click = on(&frmMVT::cmdAnimateIt_Click)}},
+            {FORM_NAME(gridC),      Kind::Grid,   "",                      {120,  2460, I, 2940},   {}, {.name = "Values of c", .rows = kGridRows, .columns = 3}},
         }},
     });
     // clang-format on
@@ -109,10 +108,10 @@ void frmMVT::applyMVT()
         lblSlope1->setText(QStringLiteral("ERROR!  0/0"));
         return;
     }
-    auto R4 = [](double v) { return qStr(rounded(v, 10000)); };
+    auto R4 = [](double v) { return qStr(RoundHalfUp(v, 10000)); };
     lblPt1->setText(QStringLiteral("(") + R4(r.a) + QStringLiteral(",") + R4(r.fa) + QStringLiteral(")"));
     lblPt2->setText(QStringLiteral("(") + R4(r.b) + QStringLiteral(",") + R4(r.fb) + QStringLiteral(")"));
-    lblSlope1->setText(QStringLiteral("slope = ") + qTrimStr(rounded(SecantSlope, 100000)));
+    lblSlope1->setText(QStringLiteral("slope = ") + qTrimStr(RoundHalfUp(SecantSlope, 100000)));
 }
 
 void frmMVT::drawSecantAB(SecantAB& s)
@@ -152,11 +151,11 @@ void frmMVT::slideTangent()
     using rt::Chk;
     const double a = txtX1->value(), b = txtX2->value();
     const double c = Chk(a + rt::Div(Chk(Chk(b - a) * HscMVT->value()), HscMVT->maximum()));
-    lblFindc->setText(QStringLiteral("x = ") + qStr(rounded(c, 10000)));
+    lblFindc->setText(QStringLiteral("x = ") + qStr(RoundHalfUp(c, 10000)));
     const double slope = FuncGlobals::ExplicitSlope(c);
     if (!typedDefinedAt({c}, lblSlope2) || !typedSlopeAt(slope, c, lblSlope2))
         return;
-    lblSlope2->setText(QStringLiteral("Slope =") + qStr(rounded(slope, 10000)));
+    lblSlope2->setText(QStringLiteral("Slope =") + qStr(RoundHalfUp(slope, 10000)));
     const double fc = FuncGlobals::ExplicitValue(c);
     keepDrawing(
         QStringLiteral("the tangent at x = ") + qTrimStr(c),
@@ -272,9 +271,9 @@ void frmMVT::scanC(double a, double b, double last, double secantSlope, bool fil
                 if (count < kGridRows) {
                     last = x;
                     if (fillGrid) {
-                        gridC->setCell(count, 0, qTrimStr(rounded(x, 1000)));
-                        gridC->setCell(count, 1, qTrimStr(rounded(fx, 1000)));
-                        gridC->setCell(count, 2, qTrimStr(rounded(slope, 1000)));
+                        gridC->setCell(count, 0, qTrimStr(RoundHalfUp(x, 1000)));
+                        gridC->setCell(count, 1, qTrimStr(RoundHalfUp(fx, 1000)));
+                        gridC->setCell(count, 2, qTrimStr(RoundHalfUp(slope, 1000)));
                     }
                 }
             }

@@ -33,12 +33,12 @@ frmNewton::frmNewton() : GraphScreen(newtonConfig())
     // clang-format off
     form::buildForm(surface, {
         // name            kind          caption              place                   handlers / look
-        {&lblNewtonMethod, Kind::Label,  "Newton's Method",   {C, 3060, W, 300},      {}, {.align = Qt::AlignCenter}},
-        {&lblGuess,        Kind::Label,  "Guess:",            {C, 3420, W, 300}},
-        {&txtGuess,        Kind::Box,    "FirstGuess",        {C, 3720, W, 300},      {.Click = on(&frmNewton::txtGuess_Click)}},
-        {&cmdApply,        Kind::Button, "Apply Newton's",    {C, 4140, W, 420},      {.Click = on(&frmNewton::cmdApply_Click)}},
-        {&cmdDeriv,        Kind::Button, "Graph &Derivative", {C, 4680, W, 420},      {.Click = on(&frmNewton::cmdDeriv_Click)}},
-        {&grdGuess,        Kind::Grid,   "",                  {11220, 600, 2460, 4500}, {}, {.name = "Guesses", .rows = kGridRows, .columns = 2}},
+        {FORM_NAME(lblNewtonMethod), Kind::Label,  "Newton's Method",   {C, 3060, W, 300},      {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblGuess),        Kind::Label,  "Guess:",            {C, 3420, W, 300}},
+        {FORM_NAME(txtGuess),        Kind::Box,    "FirstGuess",        {C, 3720, W, 300},      {.Click = on(&frmNewton::txtGuess_Click)}},
+        {FORM_NAME(cmdApply),        Kind::Button, "Apply Newton's",    {C, 4140, W, 420},      {.Click = on(&frmNewton::cmdApply_Click)}},
+        {FORM_NAME(cmdDeriv),        Kind::Button, "Graph &Derivative", {C, 4680, W, 420},      {.Click = on(&frmNewton::cmdDeriv_Click)}},
+        {FORM_NAME(grdGuess),        Kind::Grid,   "",                  {11220, 600, 2460, 4500}, {}, {.name = "Guesses", .rows = kGridRows, .columns = 2}},
     });
     // clang-format on
     Form_Load();

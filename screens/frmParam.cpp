@@ -45,31 +45,31 @@ frmParam::frmParam() : GraphScreen(paramConfig())
     // clang-format off
     form::buildForm(surface, {
         // name          kind           caption                  place                    handlers / look
-        {&lblXPar,       Kind::Stepper, "x = A*Sin(Bt) + C",     {60, 3180, 1860, 300},   {.MouseDown = on(&frmParam::lblXPar_MouseDown)}},
-        {&lblYPar,       Kind::Stepper, "y = D*Cos(Et) + F",     {60, 3540, 1860, 300},   {.MouseDown = on(&frmParam::lblYPar_MouseDown)}},
-        {&lblInstruct,   Kind::Label,   "Select x && y functions and enter their constants.",
+        {FORM_NAME(lblXPar),       Kind::Stepper, "x = A*Sin(Bt) + C",     {60, 3180, 1860, 300},   {.MouseDown = on(&frmParam::lblXPar_MouseDown)}},
+        {FORM_NAME(lblYPar),       Kind::Stepper, "y = D*Cos(Et) + F",     {60, 3540, 1860, 300},   {.MouseDown = on(&frmParam::lblYPar_MouseDown)}},
+        {FORM_NAME(lblInstruct),   Kind::Label,   "Select x && y functions and enter their constants.",
                                                                  {60, 3960, 2280, 600},   {}, {.wrap = true}},
-        {&cmdZout,       Kind::Button,  "Zoom &Out",             {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmParam::cmdZout_Click)}},
-        {&fraSetup,      Kind::Frame,   "Graphing Set up",       {kPanel, 120, kPanelWidth, 2280}, {}, {}, {
-            {&lblT0,     Kind::Stepper, "Initial  t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lblT0_MouseDown)}},
-            {&txtT0,     Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT0_Change)}},
-            {&lblFinalT, Kind::Stepper, "Final  t =",            {120,   690, 1440, 300}, {.MouseDown = on(&frmParam::lblFinalT_MouseDown)}},
-            {&txtTn,     Kind::Box,     "6.3",                   {1620,  690, 840, 300},  {.Change = on(&frmParam::txtTn_Change)}},
-            {&lblTstep,  Kind::Stepper, "Number of Steps",       {120,  1050, 1440, 300}, {.MouseDown = on(&frmParam::lblTstep_MouseDown)}},
-            {&txtTstep,  Kind::Box,     "1000",                  {1620, 1050, 840, 300},  {.Change = on(&frmParam::txtTstep_Change)}},
-            {&optCont,   Kind::Option,  "Connected Points",      {120,  1440, I, 300}},
-            {&optPoints, Kind::Option,  "Separate Points",       {120,  1800, I, 300},    {}, {.checked = true}},
+        {FORM_NAME(cmdZout),       Kind::Button,  "Zoom &Out",             {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmParam::cmdZout_Click)}},
+        {FORM_NAME(fraSetup),      Kind::Frame,   "Graphing Set up",       {kPanel, 120, kPanelWidth, 2280}, {}, {}, {
+            {FORM_NAME(lblT0),     Kind::Stepper, "Initial  t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lblT0_MouseDown)}},
+            {FORM_NAME(txtT0),     Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT0_Change)}},
+            {FORM_NAME(lblFinalT), Kind::Stepper, "Final  t =",            {120,   690, 1440, 300}, {.MouseDown = on(&frmParam::lblFinalT_MouseDown)}},
+            {FORM_NAME(txtTn),     Kind::Box,     "6.3",                   {1620,  690, 840, 300},  {.Change = on(&frmParam::txtTn_Change)}},
+            {FORM_NAME(lblTstep),  Kind::Stepper, "Number of Steps",       {120,  1050, 1440, 300}, {.MouseDown = on(&frmParam::lblTstep_MouseDown)}},
+            {FORM_NAME(txtTstep),  Kind::Box,     "1000",                  {1620, 1050, 840, 300},  {.Change = on(&frmParam::txtTstep_Change)}},
+            {FORM_NAME(optCont),   Kind::Option,  "Connected Points",      {120,  1440, I, 300}},
+            {FORM_NAME(optPoints), Kind::Option,  "Separate Points",       {120,  1800, I, 300},    {}, {.checked = true}},
         }},
-        {&fraTrace,      Kind::Frame,   "Trace",                 {kPanel, 2520, kPanelWidth, 2400}, {}, {}, {
-            {&lbltTrace, Kind::Stepper, "Trace at t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lbltTrace_MouseDown)}},
-            {&txtT,      Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT_Change)}},
-            {&lblXY,     Kind::Label,   "( ______ , _______ )",  {120,   720, I, 300}},
-            {&lblTslide, Kind::Label,   "t - slider",            {120,  1140, I, 300},    {}, {.align = Qt::AlignCenter}},
-            {&HscT,      Kind::HScroll, "",                      {120,  1470, I, 255},
+        {FORM_NAME(fraTrace),      Kind::Frame,   "Trace",                 {kPanel, 2520, kPanelWidth, 2400}, {}, {}, {
+            {FORM_NAME(lbltTrace), Kind::Stepper, "Trace at t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lbltTrace_MouseDown)}},
+            {FORM_NAME(txtT),      Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT_Change)}},
+            {FORM_NAME(lblXY),     Kind::Label,   "( ______ , _______ )",  {120,   720, I, 300}},
+            {FORM_NAME(lblTslide), Kind::Label,   "t - slider",            {120,  1140, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {FORM_NAME(HscT),      Kind::HScroll, "",                      {120,  1470, I, 255},
                 {.Change = on(&frmParam::HscT_Change), .Spoken = [this] { return QStringLiteral("t = ") + txtT->text(); }},
                 {.bar = {.min = 0, .max = 1000, .small = 1, .large = 20}}},
-            {&lblTmin,   Kind::Label,   "0",                     {120,  1800, 1100, 300}},
-            {&lblTmax,   Kind::Label,   "6.3",                   {1360, 1800, 1100, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
+            {FORM_NAME(lblTmin),   Kind::Label,   "0",                     {120,  1800, 1100, 300}},
+            {FORM_NAME(lblTmax),   Kind::Label,   "6.3",                   {1360, 1800, 1100, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
         }},
     });
     // clang-format on

@@ -34,21 +34,24 @@ GraphScreen::Config riemannConfig()
 
 constexpr double kPanel = 8940, kPanelWidth = 1800, kSums = 10920, kSumsWidth = 3360;
 const QString kAreaText = QStringLiteral("Area=");
+// The sums' rows within their frame: the first's top, and the step from one to the next.
+constexpr double kFirstSumRow = 360, kSumRow = 420;
 
 // The panel's rows for the sums: for each, its check and the label of its area, 420 twips apart.
 std::vector<form::Control> sumRows(frmRiemann& screen)
 {
     std::vector<form::Control> rows;
-    double top = 360;
+    double top = kFirstSumRow;
     for (const frmRiemann::Method& m : frmRiemann::kMethods) {
-        rows.push_back({&(screen.*m.check),
+        rows.push_back({form::Slot(&(screen.*m.check), QString::fromLatin1(m.checkName)),
                         form::Kind::Check,
                         QString::fromLatin1(m.caption),
                         {120, top, 1620, 360},
                         {},
                         {.tip = m.tip}});
-        rows.push_back({&(screen.*m.result), form::Kind::Label, kAreaText, {1800, top, 1500, 360}});
-        top += 420;
+        rows.push_back({form::Slot(&(screen.*m.result), QString::fromLatin1(m.resultName)), form::Kind::Label, kAreaText,
+                        {1800, top, 1500, 360}});
+        top += kSumRow;
     }
     return rows;
 }
@@ -147,16 +150,19 @@ Result simpsonSum(Parts& p, DrawingSurface::Batch& outline)
 }  // namespace
 
 // clang-format off
-const std::array<frmRiemann::Method, 7> frmRiemann::kMethods = {{
-    // caption          tip                                                        check                    area                   colour sum      cleared by a new function
-    {"Left Endpoint",  nullptr,                                                  &frmRiemann::chkLeft,    &frmRiemann::lblLeftE,   2, leftSum,      true},
-    {"Right Endpoint", nullptr,                                                  &frmRiemann::chkRight,   &frmRiemann::lblRightE,  1, rightSum,     true},
-    {"Midpoint",       nullptr,                                                  &frmRiemann::chkMid,     &frmRiemann::lblMid,     4, midSum,       true},
-    {"Trapezoidal",    nullptr,                                                  &frmRiemann::chkTrap,    &frmRiemann::lblTrap,    5, trapezoidSum, true},
-    {"Random point",   "A random point is picked on the equal width intervals ", &frmRiemann::chkRandom,  &frmRiemann::lblRnd,     6, randomSum,    true},
-    {"Simpson's",      nullptr,                                                  &frmRiemann::chkSimpson, &frmRiemann::lblSimpson, 3, simpsonSum,   false},
-    {"Riemann",        "Random width Interval and point on it",                  &frmRiemann::chkRiemann, &frmRiemann::lblRiemann, 7, riemannSum,   true},
-}};
+// The check and area members of a row, with their names.
+#define SUM_MEMBERS(check, area) &frmRiemann::check, &frmRiemann::area, #check, #area
+const std::vector<frmRiemann::Method> frmRiemann::kMethods = {
+    // caption          tip                                                        check and area                    colour sum      cleared by a new function
+    {"Left Endpoint",  nullptr,                                                  SUM_MEMBERS(chkLeft, lblLeftE),       2, leftSum,      true},
+    {"Right Endpoint", nullptr,                                                  SUM_MEMBERS(chkRight, lblRightE),     1, rightSum,     true},
+    {"Midpoint",       nullptr,                                                  SUM_MEMBERS(chkMid, lblMid),          4, midSum,       true},
+    {"Trapezoidal",    nullptr,                                                  SUM_MEMBERS(chkTrap, lblTrap),        5, trapezoidSum, true},
+    {"Random point",   "A random point is picked on the equal width intervals ", SUM_MEMBERS(chkRandom, lblRnd),       6, randomSum,    true},
+    {"Simpson's",      nullptr,                                                  SUM_MEMBERS(chkSimpson, lblSimpson),  3, simpsonSum,   false},
+    {"Riemann",        "Random width Interval and point on it",                  SUM_MEMBERS(chkRiemann, lblRiemann),  7, riemannSum,   true},
+};
+#undef SUM_MEMBERS
 // clang-format on
 
 frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
@@ -196,19 +202,19 @@ void frmRiemann::buildSumsPanel()
     // clang-format off
     form::buildForm(surface, {
         // name           kind           caption                  place               handlers / look
-        {&cmdCleanParts,  Kind::Button,  "&Erase Partitions",     {P, 1140, W, 420},  {.Click = on(&frmRiemann::cmdCleanParts_Click)}},
-        {&lblPartitions,  Kind::Stepper, "Number of Partitions",  {P, 3420, W, 300},  {.MouseDown = on(&frmRiemann::lblPartitions_MouseDown)}},
-        {&txtParts,       Kind::Box,     "1",                     {P, 3720, W, 300},  {.Change = on(&frmRiemann::txtParts_Change)}},
-        {&cmdDouble,      Kind::Button,  "&Double Partitions",    {P, 4140, W, 420},  {.Click = on(&frmRiemann::cmdDouble_Click)},
+        {FORM_NAME(cmdCleanParts),  Kind::Button,  "&Erase Partitions",     {P, 1140, W, 420},  {.Click = on(&frmRiemann::cmdCleanParts_Click)}},
+        {FORM_NAME(lblPartitions),  Kind::Stepper, "Number of Partitions",  {P, 3420, W, 300},  {.MouseDown = on(&frmRiemann::lblPartitions_MouseDown)}},
+        {FORM_NAME(txtParts),       Kind::Box,     "1",                     {P, 3720, W, 300},  {.Change = on(&frmRiemann::txtParts_Change)}},
+        {FORM_NAME(cmdDouble),      Kind::Button,  "&Double Partitions",    {P, 4140, W, 420},  {.Click = on(&frmRiemann::cmdDouble_Click)},
                                                                                      {.tip = "Automatically double Number of Partitions"}},
-        {&cmdParts,       Kind::Button,  "Graph &Partitions",     {P, 4680, W, 420},  {.Click = on(&frmRiemann::cmdParts_Click)},
+        {FORM_NAME(cmdParts),       Kind::Button,  "Graph &Partitions",     {P, 4680, W, 420},  {.Click = on(&frmRiemann::cmdParts_Click)},
                                                                                      {.tip = "See the partitions from the Riemann Sums"}},
-        {&lblLBound,      Kind::Stepper, "Left Boundary",         {P, 5340, W, 300},  {.MouseDown = on(&frmRiemann::lblLBound_MouseDown)}},
-        {&txtLBound,      Kind::Box,     "-2",                    {P, 5640, W, 300},  {.Change = on(&frmRiemann::txtLBound_Change)}},
-        {&lblRBound,      Kind::Stepper, "Right Boundary",        {P, 6060, W, 300},  {.MouseDown = on(&frmRiemann::lblRBound_MouseDown)}},
-        {&txtRBound,      Kind::Box,     "2",                     {P, 6360, W, 300},  {.Change = on(&frmRiemann::txtRBound_Change)}},
-        {&lblAreas,       Kind::Label,   "AREA",                  {kSums, 240, kSumsWidth, 300}, {}, {.align = Qt::AlignCenter}},
-        {&fraSums,        Kind::Frame,   "Area Sums",             {kSums, 600, kSumsWidth, 3300}, {},
+        {FORM_NAME(lblLBound),      Kind::Stepper, "Left Boundary",         {P, 5340, W, 300},  {.MouseDown = on(&frmRiemann::lblLBound_MouseDown)}},
+        {FORM_NAME(txtLBound),      Kind::Box,     "-2",                    {P, 5640, W, 300},  {.Change = on(&frmRiemann::txtLBound_Change)}},
+        {FORM_NAME(lblRBound),      Kind::Stepper, "Right Boundary",        {P, 6060, W, 300},  {.MouseDown = on(&frmRiemann::lblRBound_MouseDown)}},
+        {FORM_NAME(txtRBound),      Kind::Box,     "2",                     {P, 6360, W, 300},  {.Change = on(&frmRiemann::txtRBound_Change)}},
+        {FORM_NAME(lblAreas),       Kind::Label,   "AREA",                  {kSums, 240, kSumsWidth, 300}, {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(fraSums),        Kind::Frame,   "Area Sums",             {kSums, 600, kSumsWidth, kFirstSumRow + kSumRow * double(kMethods.size())}, {},
                                                                   {.tip = "Check one to see partitions when clicking Graph Partitions"}, sumRows(*this)},
     });
     // clang-format on

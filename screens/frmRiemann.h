@@ -4,6 +4,7 @@
 // approximated by up to seven methods at once, each drawn in its own colour.
 #include <array>
 #include <cstdint>
+#include <vector>
 
 #include <QGroupBox>
 
@@ -69,11 +70,14 @@ public:
         const char* tip;
         CheckBox* frmRiemann::*check;
         ClickLabel* frmRiemann::*result;
+        const char* checkName;  // the two members' names, the controls' object names
+        const char* resultName;
         int colour;
         RiemannSums::Result (*sum)(Parts& parts, DrawingSurface::Batch& batch);
         bool clearedByNewFunction;  // its area goes back to "Area=" when another function is chosen
     };
-    static const std::array<Method, 7> kMethods;
+    // The panel's frame grows with the number of rows.
+    static const std::vector<Method> kMethods;
 
 private:
     void buildSumsPanel();

@@ -35,23 +35,23 @@ frmTangent::frmTangent() : GraphScreen(tangentConfig())
     // clang-format off
     form::buildForm(surface, {
         // name       kind           caption                          place                       handlers / look
-        {&lblTan,     Kind::Label,   "Tangent Problem Set up",        {L, 240, W, 300},            {}, {.align = Qt::AlignCenter}},
-        {&lblXat,     Kind::Stepper, "Tangent at x =",                {L, 600, 1380, 300},         {.MouseDown = on(&frmTangent::lblXat_MouseDown)}},
-        {&txtX,       Kind::Box,     "1",                             {box, 600, W - 1440, 300},   {.Change = on(&frmTangent::txtX_Change)}},
-        {&lblDeltaX,  Kind::Stepper, "Delta x",                       {L, 960, 1380, 300},         {.MouseDown = on(&frmTangent::lblDeltaX_MouseDown)}},
-        {&txtDeltaX,  Kind::Box,     "1",                             {box, 960, W - 1440, 300}},
-        {&cmdApply,   Kind::Button,  "&Apply to graph",               {L, 1380, W, 420},           {.Click = on(&frmTangent::cmdApply_Click)}},
-        {&cmdHalfDx,  Kind::Button,  "Half Delta x",                  {L, 1860, W, 420},           {.Click = on(&frmTangent::cmdHalfDx_Click)}},
-        {&lblSlide,   Kind::Label,   "Delta X slider",                {L, 2460, W, 300},           {}, {.align = Qt::AlignCenter}},
-        {&hscDx,      Kind::HScroll, "",                              {L, 2760, W, 255},           {.Change = on(&frmTangent::hscDx_Change), .Spoken = [this] { return spokenDeltaX(); }},
+        {FORM_NAME(lblTan),     Kind::Label,   "Tangent Problem Set up",        {L, 240, W, 300},            {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblXat),     Kind::Stepper, "Tangent at x =",                {L, 600, 1380, 300},         {.MouseDown = on(&frmTangent::lblXat_MouseDown)}},
+        {FORM_NAME(txtX),       Kind::Box,     "1",                             {box, 600, W - 1440, 300},   {.Change = on(&frmTangent::txtX_Change)}},
+        {FORM_NAME(lblDeltaX),  Kind::Stepper, "Delta x",                       {L, 960, 1380, 300},         {.MouseDown = on(&frmTangent::lblDeltaX_MouseDown)}},
+        {FORM_NAME(txtDeltaX),  Kind::Box,     "1",                             {box, 960, W - 1440, 300}},
+        {FORM_NAME(cmdApply),   Kind::Button,  "&Apply to graph",               {L, 1380, W, 420},           {.Click = on(&frmTangent::cmdApply_Click)}},
+        {FORM_NAME(cmdHalfDx),  Kind::Button,  "Half Delta x",                  {L, 1860, W, 420},           {.Click = on(&frmTangent::cmdHalfDx_Click)}},
+        {FORM_NAME(lblSlide),   Kind::Label,   "Delta X slider",                {L, 2460, W, 300},           {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(hscDx),      Kind::HScroll, "",                              {L, 2760, W, 255},           {.Change = on(&frmTangent::hscDx_Change), .Spoken = [this] { return spokenDeltaX(); }},
                                                                                                    {.bar = {.min = 0, .max = 2000, .small = 1, .large = 100, .value = 2000}}},
-        {&lblxminuDx, Kind::Label,   "x-dx",                          {L, 3060, 600, 300}},
-        {&lblHsc,     Kind::Label,   "x=1",                           {L + 630, 3060, 1200, 300},  {}, {.align = Qt::AlignHCenter | Qt::AlignTop}},
-        {&lblXaddDx,  Kind::Label,   "x+dx",                          {L + W - 600, 3060, 600, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
+        {FORM_NAME(lblxminuDx), Kind::Label,   "x-dx",                          {L, 3060, 600, 300}},
+        {FORM_NAME(lblHsc),     Kind::Label,   "x=1",                           {L + 630, 3060, 1200, 300},  {}, {.align = Qt::AlignHCenter | Qt::AlignTop}},
+        {FORM_NAME(lblXaddDx),  Kind::Label,   "x+dx",                          {L + W - 600, 3060, 600, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
         // Stands out to the left of the column, clear of the window's right edge.
-        {&fraApply,   Kind::Frame,   "Secant Line Results",           {L - 120, 3540, W + 120, 1500}, {}, {}, {
-            {&lblPoints, Kind::Label, "( ___, ___ ) to ( ___ , ___ )", {120, 360, W, 420},        {}, {.wrap = true}},
-            {&lblTLine,  Kind::Label, "Line Equation",                 {120, 900, W, 420},        {}, {.wrap = true}},
+        {FORM_NAME(fraApply),   Kind::Frame,   "Secant Line Results",           {L - 120, 3540, W + 120, 1500}, {}, {}, {
+            {FORM_NAME(lblPoints), Kind::Label, "( ___, ___ ) to ( ___ , ___ )", {120, 360, W, 420},        {}, {.wrap = true}},
+            {FORM_NAME(lblTLine),  Kind::Label, "Line Equation",                 {120, 900, W, 420},        {}, {.wrap = true}},
         }},
     });
     // clang-format on

@@ -101,7 +101,9 @@ TEST(Numbers, ConversionsAndCheckedArithmetic)
         CASE(Pow(0, 0), 1, 0), CASE(Pow(4, 0.5), 2, 0), CASE(Pow(0, -1), 0, DivisionByZero),
         CASE(Pow(-8, 1.0 / 3), 0, InvalidProcedureCall), CASE(Pow(10, 400), 0, Overflow),
         CASE(Chk(std::exp(1000.0)), 0, Overflow), CASE(Mod(16, 15), 1, 0), CASE(Mod(-1, 15), -1, 0),
-        CASE(Mod(3, 0), 0, DivisionByZero),
+        CASE(Mod(3, 0), 0, DivisionByZero), CASE(RoundHalfUp(2.5, 1), 3, 0),
+        CASE(RoundHalfUp(-2.5, 1), -2, 0), CASE(RoundHalfUp(0.125, 100), 0.13, 0),
+        CASE(RoundHalfUp(1e306, 1000), 0, Overflow),
     };
     // clang-format on
 #undef CASE

@@ -110,7 +110,7 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
         c.prepare(*screen);
         lesson::Step step = lesson::capture(*screen);
         EXPECT_EQ(step.screen, QString::fromLatin1(c.name));
-        step.actions = {{QStringLiteral("Plotto!"), 1, {}}};
+        step.actions = {{QStringLiteral("cmdPlotto"), 1, {}}};
         saved.steps.push_back(step);
         expected.push_back(
             QJsonObject{{QStringLiteral("function"), step.function}, {QStringLiteral("controls"), step.controls}});
@@ -176,8 +176,8 @@ TEST_F(Lessons, BrokenFilesAreRefusedWithWhatAndWhere)
     const Broken cases[] = {
         {"not JSON", "<html>lesson</html>", "This is not a lesson: illegal value at character 1"},
         {"another program's JSON", R"({"format": "spreadsheet", "steps": []})", "This is not a Plotto lesson"},
-        {"a newer version", R"({"format": "plotto-lesson", "version": 2, "steps": [{"screen": "sums"}]})",
-         "made by a newer Plotto (lesson version 2; this Plotto reads version 1 and older)"},
+        {"a newer version", R"({"format": "plotto-lesson", "version": 3, "steps": [{"screen": "sums"}]})",
+         "made by a newer Plotto (lesson version 3; this Plotto reads version 2 and older)"},
         {"no steps", R"({"format": "plotto-lesson", "version": 1, "steps": []})", "The lesson has no steps."},
         {"an unknown screen", step(R"({"screen": "sums"}, {"screen": "calculus"})"),
          "Step 2: unknown screen 'calculus'"},
@@ -209,10 +209,11 @@ TEST_F(Lessons, AStepThatItsScreenCannotTakeIsRefusedAndChangesNothing)
         const char* says;
     };
     const Refused cases[] = {
-        {"a box given a list", R"({"controls": {"A": ["seven"]}})", "the box 'A' cannot take [\"seven\"]"},
-        {"a box given two lines", R"({"controls": {"A": "1\n2"}})", "the box 'A' cannot take \"1\\n2\""},
+        {"a box given a list", R"({"controls": {"txtA": ["seven"]}})", "the box 'A' cannot take [\"seven\"]"},
+        {"a box given two lines", R"({"controls": {"txtA": "1\n2"}})", "the box 'A' cannot take \"1\\n2\""},
         {"an unknown control", R"({"controls": {"Speed": "1"}})", "the screen has no control named 'Speed'"},
-        {"a tick given a number", R"({"controls": {"Midpoint": 1}})", "'Midpoint' is ticked or not: true or false"},
+        {"a control named by its caption", R"({"controls": {"A": "1"}})", "the screen has no control named 'A'"},
+        {"a tick given a number", R"({"controls": {"chkMid": 1}})", "'Midpoint' is ticked or not: true or false"},
         {"an unknown button", R"({"actions": [{"click": "Fly"}]})", "the screen has no button 'Fly'"},
         {"a function it cannot read", R"j({"function": {"typed": "sinn(x)"}})j",
          "the function 'sinn(x)' cannot be taken: unknown name 'sinn' at 1"},
@@ -224,12 +225,45 @@ TEST_F(Lessons, AStepThatItsScreenCannotTakeIsRefusedAndChangesNothing)
     const lesson::Step before = lesson::capture(sums);
     for (const Refused& c : cases) {
         const lesson::Read read =
-            lesson::fromJson(QByteArray(R"({"format": "plotto-lesson", "version": 1, "steps": [{"screen": "sums", )") +
+            lesson::fromJson(QByteArray(R"({"format": "plotto-lesson", "version": 2, "steps": [{"screen": "sums", )") +
                              QByteArray(c.step).mid(1, std::strlen(c.step) - 2) + "}]}");
         ASSERT_TRUE(read.lesson) << c.name << ": " << read.error.toStdString();
         EXPECT_EQ(lesson::check(read.lesson->steps[0], sums), QString::fromUtf8(c.says)) << c.name;
     }
     EXPECT_EQ(lesson::capture(sums).controls, before.controls);  // checking changes nothing
+}
+
+// A lesson of the first version named controls by their spoken names and buttons and menu entries by
+// their captions: opened now, each name becomes its control's key, and the step does what it did.
+TEST_F(Lessons, AFirstVersionLessonOpensWithItsNamesTurnedIntoKeys)
+{
+    const lesson::Read read = lesson::fromJson(R"({"format": "plotto-lesson", "version": 1, "steps": [
+        {"screen": "newton", "controls": {"Xmin": "-4", "A": "1", "Guess": "2"},
+         "actions": [{"click": "Plotto!"}, {"click": "Apply Newton's", "times": 2}]},
+        {"screen": "sums", "controls": {"Midpoint": true, "Number of Partitions": "16", "Speed": "1"},
+         "actions": [{"menu": "Convergence Table..."}, {"click": "Fly"}]}]})");
+    ASSERT_TRUE(read.lesson) << read.error.toStdString();
+    EXPECT_EQ(read.lesson->version, 1);
+    frmNewton newton;
+    frmRiemann sums;
+    newton.Form_Activate();
+    sums.Form_Activate();
+    lesson::Step first = read.lesson->steps[0], second = read.lesson->steps[1];
+    lesson::upgrade(first, newton);
+    lesson::upgrade(second, sums);
+    EXPECT_EQ(first.controls.keys(), (QStringList{"txtA", "txtGuess", "txtXmin"}));
+    EXPECT_EQ(std::pair(first.actions[0].click, first.actions[1].click),
+              std::pair(QStringLiteral("cmdPlotto"), QStringLiteral("cmdApply")));
+    // What matches nothing keeps its name, and checking refuses it in words.
+    EXPECT_EQ(second.controls.keys(), (QStringList{"Speed", "chkMid", "txtParts"}));
+    EXPECT_EQ(std::pair(second.actions[0].menu, second.actions[1].click),
+              std::pair(QStringLiteral("mnuConvergenceTable"), QStringLiteral("Fly")));
+    EXPECT_EQ(lesson::check(second, sums), QStringLiteral("the screen has no control named 'Speed'"));
+    ASSERT_EQ(lesson::check(first, newton), QString());
+    lesson::apply(first, newton);
+    EXPECT_EQ(std::tuple(newton.txtXmin->text(), newton.grdGuess->cell(1, 1), newton.GuessNumber),
+              std::tuple(QStringLiteral("-4"), QStringLiteral("2"), 3));
+    EXPECT_TRUE(script.errors.empty());
 }
 
 TEST_F(Lessons, ASaveNeverLeavesHalfAFile)
@@ -265,6 +299,7 @@ TEST_F(Lessons, TheExamplesOpenAndRunStepByStep)
     for (const QString& name : files) {
         const lesson::Read read = lesson::load(examples.filePath(name));
         ASSERT_TRUE(read.lesson) << read.error.toStdString();
+        EXPECT_EQ(read.lesson->version, lesson::kVersion) << name.toStdString() << " is saved in today's form";
         int number = 0;
         for (const lesson::Step& step : read.lesson->steps) {
             ++number;

@@ -444,7 +444,7 @@ TEST(View, ALessonStepKeepsTheWindowTheViewShows)
     ASSERT_TRUE(s.zoomViewAt(1, 2, 4));
     const lesson::Step step = lesson::capture(s);
     const std::pair<const char*, TextBox*> limits[] = {
-        {"Xmin", s.txtXmin}, {"Xmax", s.txtXmax}, {"Ymin", s.txtYmin}, {"Ymax", s.txtYmax}};
+        {"txtXmin", s.txtXmin}, {"txtXmax", s.txtXmax}, {"txtYmin", s.txtYmin}, {"txtYmax", s.txtYmax}};
     for (const auto& [name, box] : limits)
         EXPECT_EQ(step.controls.value(QString::fromLatin1(name)).toString(), box->text()) << name;
     EXPECT_EQ(s.txtXmin->text(), QStringLiteral("-1.75"));  // a quarter of the width, about x = 1
