@@ -10,6 +10,9 @@
 #include <QStyle>
 
 #include "graphwin/FormStyle.h"
+#include <QGroupBox>
+
+#include "screens/ScreenRegistry.h"
 #include "screens/frmClasses.h"
 #include "screens/frmMVT.h"
 #include "screens/frmRiemann.h"
@@ -73,6 +76,37 @@ TEST(FormGrowth, MenuBarIndicatorsAndScrollBarsGrowWithTheForm)
     const char* names[] = {"menu bar height", "check-box indicator", "scroll-bar thickness", "scroll-bar extent"};
     for (int i = 0; i < 4; ++i)
         EXPECT_NEAR(twice[i] / normal[i], 2, 0.3) << names[i] << ": " << normal[i] << " -> " << twice[i];
+}
+
+// Every form is built from tables: at every zoom, each control stands inside the frame that holds it
+// (a new row in a table grows its frame or is caught here) and inside the drawing surface, and no two
+// frames overlap.
+TEST(FormGrowth, EveryControlFitsItsFrameAndTheFormAtEveryZoom)
+{
+    ScriptedDialogs script;
+    for (const screens::Entry& row : screens::all()) {
+        const std::unique_ptr<GraphScreen> screen = row.make();
+        for (const double zoom : {0.5, 1.0, 1.5, 2.0, 3.0}) {
+            screen->surface->setZoom(zoom);
+            const std::string where = std::string(row.key) + " at zoom " + std::to_string(zoom);
+            const QRect surface = screen->surface->rect();
+            QList<QGroupBox*> frames = screen->surface->findChildren<QGroupBox*>();
+            for (QWidget* w : screen->surface->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+                if (!w->isWindow() && w->objectName() != QStringLiteral("viewReadout"))
+                    EXPECT_TRUE(surface.contains(w->geometry())) << where << ": " << w->objectName().toStdString();
+            for (QGroupBox* frame : frames) {
+                for (QWidget* w : frame->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+                    EXPECT_TRUE(frame->rect().contains(w->geometry()))
+                        << where << ": " << w->objectName().toStdString() << " leaves "
+                        << frame->objectName().toStdString();
+                for (QGroupBox* other : frames)
+                    EXPECT_TRUE(other == frame || other->parent() != frame->parent() ||
+                                !other->geometry().intersects(frame->geometry()))
+                        << where << ": " << frame->objectName().toStdString() << " overlaps "
+                        << other->objectName().toStdString();
+            }
+        }
+    }
 }
 
 TEST(FormGrowth, ScrollBarThumbsAndIndicatorsStandOutThreeToOne)
