@@ -66,7 +66,7 @@ void BM_StepTableFinestRowOnly(benchmark::State& state)
             double y = 3;
             const double h = 0.5 / 1600;
             for (int i = 0; i < 1600; ++i)
-                y += m.family(4 + h * i, y, h);
+                y += m.family(4 + h * i, y, h, {});
             benchmark::DoNotOptimize(y);
         }
     }

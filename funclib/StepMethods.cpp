@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The step methods' table and their bodies. A body is a template over the rates: `Rates::rise(x,
-// y, h)` is the change of y over a change h of x along the field at (x, y), and `Rates::add(a, b)`
-// is a sum with the caller's own rules. The families check every sum and division as the classic
+// y, h, dx)` is the change of y over a change h of x along the field at (x, y) (with the rate dx
+// there when it is known already), and `Rates::add(a, b)` is a sum with the caller's own rules. The families check every sum and division as the classic
 // procedures did (so that their values and the errors they raise, and where, are unchanged); the
 // typed rates add plainly and give NaN where a stage has no finite increment.
 #include "funclib/StepMethods.h"
@@ -9,6 +9,7 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -19,19 +20,19 @@ namespace StepMethods {
 namespace {
 
 struct Families {
-    static double rise(double u, double v, double h)
+    static double rise(double u, double v, double h, std::optional<double> dx = {})
     {
         const double dy = FuncGlobals::DyFunc(u, v);
-        return rt::Div(rt::Chk(dy * h), FuncGlobals::DxFunc(u, v));
+        return rt::Div(rt::Chk(dy * h), dx ? *dx : FuncGlobals::DxFunc(u, v));
     }
     static double add(double a, double b) { return rt::Chk(a + b); }
 };
 
 struct Typed {
-    static double rise(double u, double v, double h)
+    static double rise(double u, double v, double h, std::optional<double> dxHere = {})
     {
         const FuncGlobals::TypedRates& r = *FuncGlobals::TypedRate;
-        const double dy = (*r.dy)(u, v), dx = (*r.dx)(u, v);
+        const double dy = (*r.dy)(u, v), dx = dxHere ? *dxHere : (*r.dx)(u, v);
         const double k = dy * h / dx;
         return std::isfinite(k) ? k : std::numeric_limits<double>::quiet_NaN();
     }
@@ -40,26 +41,26 @@ struct Typed {
 
 struct Euler {
     template <class Rates>
-    static double step(double x, double y, double h)
+    static double step(double x, double y, double h, std::optional<double> dx)
     {
-        return Rates::rise(x, y, h);
+        return Rates::rise(x, y, h, dx);
     }
 };
 
 struct Midpoint {
     template <class Rates>
-    static double step(double x, double y, double h)
+    static double step(double x, double y, double h, std::optional<double> dx)
     {
-        const double k1 = Rates::rise(x, y, h);
+        const double k1 = Rates::rise(x, y, h, dx);
         return Rates::rise(Rates::add(x, h / 2), Rates::add(y, k1 / 2), h);
     }
 };
 
 struct FourthOrder {
     template <class Rates>
-    static double step(double x, double y, double h)
+    static double step(double x, double y, double h, std::optional<double> dx)
     {
-        const double k1 = Rates::rise(x, y, h);
+        const double k1 = Rates::rise(x, y, h, dx);
         const double k2 = Rates::rise(Rates::add(x, h / 2), Rates::add(y, k1 / 2), h);
         const double k3 = Rates::rise(Rates::add(x, h / 2), Rates::add(y, k2 / 2), h);
         const double k4 = Rates::rise(Rates::add(x, h), Rates::add(y, k3), h);
@@ -101,12 +102,12 @@ namespace FuncGlobals {
 // The classic procedures: the midpoint and fourth-order bodies over the families.
 double Runga2Step(const double& x, const double& y, const double& h)
 {
-    return StepMethods::Midpoint::step<StepMethods::Families>(x, y, h);
+    return StepMethods::Midpoint::step<StepMethods::Families>(x, y, h, {});
 }
 
 double Runga4Step(const double& x, const double& y, const double& h)
 {
-    return StepMethods::FourthOrder::step<StepMethods::Families>(x, y, h);
+    return StepMethods::FourthOrder::step<StepMethods::Families>(x, y, h, {});
 }
 
 }  // namespace FuncGlobals

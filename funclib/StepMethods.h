@@ -7,6 +7,7 @@
 // rules, and over the typed rates, which never raise. The slope field, the convergence table, the
 // benchmarks and the tests go through the rows; a new method is a row there.
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -14,8 +15,11 @@
 
 namespace StepMethods {
 
-// The increment of y over one step h in x from (x, y).
-using Stepper = double (*)(double x, double y, double h);
+// The increment of y over one step h in x from (x, y). `dxHere` is the rate dx at (x, y) when the
+// caller has it already (an approximation checks it for a vertical slope first), so that the first
+// stage need not find it again; without it the first stage finds it after dy, as the classic
+// procedures do.
+using Stepper = double (*)(double x, double y, double h, std::optional<double> dxHere);
 
 struct Method {
     const char* key;      // stable name, for code and saved settings; never shown
@@ -36,9 +40,9 @@ const Method& byKey(std::string_view key);
 
 // The increment of one step by `m` with the rates in use: the typed rates when the screen has
 // them, else the families. The approximations call it once a step.
-inline double step(const Method& m, double x, double y, double h)
+inline double step(const Method& m, double x, double y, double h, std::optional<double> dxHere = {})
 {
-    return FuncGlobals::TypedRate ? m.typed(x, y, h) : m.family(x, y, h);
+    return FuncGlobals::TypedRate ? m.typed(x, y, h, dxHere) : m.family(x, y, h, dxHere);
 }
 
 }  // namespace StepMethods

@@ -47,7 +47,7 @@ inline Step step(const Settings& s, double x, double y, double h)
     st.dx = h;
     // With typed rates a stage without a finite increment gives NaN, which the caller's checked
     // sum turns into the Overflow that the checked arithmetic of the families raises.
-    st.dy = StepMethods::step(*s.method, x, y, h);
+    st.dy = StepMethods::step(*s.method, x, y, h, p);
     return st;
 }
 

@@ -182,8 +182,8 @@ TEST(RateCatalogue, ZeroCoefficientsHandWorkedStepsAndFaults)
     EXPECT_EQ(errorOf([] { Runga2Step(1, 1, 1); }), rt::DivisionByZero);
     EXPECT_EQ(errorOf([] { Runga4Step(0, 0, 1); }), rt::Overflow);  // 0 / 0
     for (const StepMethods::Method& m : StepMethods::all()) {  // every method over the families raises alike
-        EXPECT_EQ(errorOf([&] { m.family(1, 1, 1); }), rt::DivisionByZero) << m.key;
-        EXPECT_EQ(errorOf([&] { m.family(0, 0, 1); }), rt::Overflow) << m.key;
+        EXPECT_EQ(errorOf([&] { m.family(1, 1, 1, {}); }), rt::DivisionByZero) << m.key;
+        EXPECT_EQ(errorOf([&] { m.family(0, 0, 1, {}); }), rt::Overflow) << m.key;
     }
     rates(9, 1, {0, 0, 1, 1, 0, 0});
     EXPECT_EQ(errorOf([] { DyFunc(1000, 0); }), rt::Overflow);
