@@ -140,6 +140,21 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
             references.push_back(static_cast<QLineSeries*>(s)->pen().style());
     }
     EXPECT_EQ(references, (std::vector<Qt::PenStyle>{Qt::DashLine, Qt::DashDotLine, Qt::DotLine}));
+    // The plot counts what the table's rows count: partitions here, steps for the step methods,
+    // whose lines take their rows' colours.
+    EXPECT_EQ(window.plot()->accessibleName(), QStringLiteral("Error against the number of partitions, log-log"));
+    FuncGlobals::DyFuncId = FuncGlobals::DxFuncId = 1;  // the circle, dy/dx = -x/y
+    FuncGlobals::Coefficients = {-1, 0, 0, 0, 1, 0};
+    ConvergenceWindow steps(nullptr, QStringLiteral("Steps"), [] { return Convergence::steps(4, 3, 4.5, 0.1, 3, {}); });
+    steps.recompute();
+    EXPECT_EQ(steps.plot()->accessibleName(), QStringLiteral("Error against the number of steps, log-log"));
+    for (const StepMethods::Method& m : StepMethods::all()) {
+        const auto series = steps.plot()->chart()->series();
+        const auto line = std::find_if(series.begin(), series.end(), [&](auto* s) { return s->name() == m.caption; });
+        ASSERT_NE(line, series.end()) << m.key;
+        EXPECT_EQ(static_cast<QLineSeries*>(*line)->pen().color().rgb() & 0xFFFFFF, m.colour) << m.key;
+    }
+    selectFamily(2, {1, 0, 0, 0, 0, 0});
     frmRiemann sums;  // on its screen the table is one key away, and its entry shows it
     const auto entries = sums.menuBar->findChildren<QAction*>();
     const auto open = std::find_if(entries.begin(), entries.end(), [](QAction* a) { return a->text() == "Convergence &Table..."; });
