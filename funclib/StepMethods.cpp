@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The step methods' table and their bodies. A body is a template over the rates: `Rates::rise(x,
 // y, h, dx)` is the change of y over a change h of x along the field at (x, y) (with the rate dx
-// there when it is known already), and `Rates::add(a, b)` is a sum with the caller's own rules. The families check every sum and division as the classic
-// procedures did (so that their values and the errors they raise, and where, are unchanged); the
-// typed rates add plainly and give NaN where a stage has no finite increment.
+// there when it is known already), and `Rates::add(a, b)` is a sum with the caller's own rules.
+// The families check every sum and division as the classic procedures did (so that their values
+// and the errors they raise, and where, are unchanged); the typed rates add plainly and give NaN
+// where a stage has no finite increment.
 #include "funclib/StepMethods.h"
 
 #include <cmath>
-#include <iterator>
 #include <limits>
 #include <optional>
 #include <stdexcept>

@@ -22,10 +22,10 @@ namespace StepMethods {
 using Stepper = double (*)(double x, double y, double h, std::optional<double> dxHere);
 
 struct Method {
-    const char* key;      // stable name, for code and saved settings; never shown
+    const char* key;  // stable name, for code and saved settings; never shown
     const char* caption;  // the convergence table's column heading
     std::uint32_t colour;  // 0xRRGGBB, of its line on the convergence plot
-    int order;             // the error shrinks as h^order
+    int order;  // the error shrinks as h^order
     // The step over the rate families (DyFunc / DxFunc): raises Division by zero where dx is 0,
     // Overflow where the arithmetic overflows, at the same points as the classic procedures.
     Stepper family;

@@ -220,7 +220,8 @@ TEST(TypedSources, DispatchFallsBackToTheFamilies)
     DyFuncId = DxFuncId = 1;
     Coefficients = {-1.5, 0.25, 2, 0.75, 1, -0.5};
     for (const StepMethods::Method& m : StepMethods::all()) {
-        for (const auto& [x, y, h] : {std::tuple(4.0, 3.0, 0.1), std::tuple(-2.5, 1.25, -0.3), std::tuple(0.7, -3.1, 1.0)}) {
+        for (const auto& [x, y, h] :
+             {std::tuple(4.0, 3.0, 0.1), std::tuple(-2.5, 1.25, -0.3), std::tuple(0.7, -3.1, 1.0)}) {
             TypedRate = nullptr;
             const double family = StepMethods::step(m, x, y, h);
             TypedRate = same.get();
