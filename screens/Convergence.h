@@ -68,9 +68,9 @@ struct Window {
 };
 
 // The endpoint y at xEnd of the curve dy/dx = DyFunc / DxFunc from (x0, y0), by each method of
-// funclib/StepMethods.h (one column each, in the table's order) with
-// steps h, h/2, ... (halvings + 1 rows; each step count is rounded so that the last step ends on
-// xEnd), against an adaptive seventh-order integration in extended precision.
+// funclib/StepMethods.h (one column each, in its table's order) with steps h, h/2, ... (halvings + 1
+// rows; each step count is rounded so that the last step ends on xEnd), against an adaptive
+// seventh-order integration in extended precision.
 Table steps(double x0, double y0, double xEnd, double h, int halvings, const Window& window);
 // The same table with no rows, saying `why`.
 Table stepsWithout(std::string why);
