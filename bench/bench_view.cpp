@@ -65,8 +65,8 @@ const Scene& scene(int which)
              f.optCurve->setChecked(true);
              f.cmdPlotto_Click();
              f.optApprox->setChecked(true);
-             for (OptionButton* method : {f.optEuler, f.optRunga2, f.optRunga4}) {
-                 method->setChecked(true);
+             for (const frmFlowField::MethodOption& method : frmFlowField::kMethodOptions) {
+                 (f.*method.option)->setChecked(true);
                  f.Form_MouseDown(LeftButton, 0, s.graph.column(4), s.graph.row(3));
              }
          },

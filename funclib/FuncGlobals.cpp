@@ -17,8 +17,6 @@ std::int16_t XtFuncId = 0;
 std::int16_t YtFuncId = 0;
 rt::BoundedArray<std::string, 0, 20> FuncCaption;
 
-using rt::Chk;
-
 const char* ExplicitCaption(int id)
 {
     return id >= 1 && id <= ExplicitFamilyCount ? FamilyTables::kExplicit[id - 1].caption : "";
@@ -73,13 +71,6 @@ double rate(int id, double x, double y, double p, double q, double r, bool dxCol
     return FamilyTables::kRates[id - 1].value(x, y, p, q, r, dxColumn);
 }
 
-// The slope increment of one stage: the change of y over a change h of x along the field.
-double increment(double u, double v, double h)
-{
-    const double dy = DyFunc(u, v);
-    return rt::Div(Chk(dy * h), DxFunc(u, v));
-}
-
 }  // namespace
 
 double DyFunc(const double& x, const double& y)
@@ -92,21 +83,6 @@ double DxFunc(const double& x, const double& y)
 {
     const auto& k = Coefficients;
     return rate(DxFuncId, x, y, k.D, k.E, k.F, true);
-}
-
-double Runga2Step(const double& x, const double& y, const double& h)
-{
-    const double k1 = increment(x, y, h);
-    return increment(Chk(x + h / 2), Chk(y + k1 / 2), h);
-}
-
-double Runga4Step(const double& x, const double& y, const double& h)
-{
-    const double k1 = increment(x, y, h);
-    const double k2 = increment(Chk(x + h / 2), Chk(y + k1 / 2), h);
-    const double k3 = increment(Chk(x + h / 2), Chk(y + k2 / 2), h);
-    const double k4 = increment(Chk(x + h), Chk(y + k3), h);
-    return Chk(Chk(Chk(k2 / 3 + k1 / 6) + k3 / 3) + k4 / 6);
 }
 
 const char* XtCaption(int id)

@@ -56,7 +56,8 @@ double DyFunc(const double& x, const double& y);
 double DxFunc(const double& x, const double& y);
 
 // The increment of y over one step h in x along the field, by the midpoint rule and by the classical
-// fourth-order rule. A zero dx divides by zero: Division by zero, or Overflow for 0 / 0.
+// fourth-order rule. A zero dx divides by zero: Division by zero, or Overflow for 0 / 0. They are
+// rows of the step-method table and are defined with it (funclib/StepMethods.cpp).
 double Runga2Step(const double& x, const double& y, const double& h);
 double Runga4Step(const double& x, const double& y, const double& h);
 

@@ -16,8 +16,6 @@ const TypedCurve* TypedParametric = nullptr;
 
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
 // The place of a fault in the second of two texts is counted in that text; the message says which.
 std::string inText(const char* which, const std::string& error) { return std::string(which) + ": " + error; }
 
@@ -71,37 +69,6 @@ bool ExplicitDefined(const double& x) { return TypedExplicit ? !std::isnan(Typed
 
 double RateDy(const double& x, const double& y) { return TypedRate ? (*TypedRate->dy)(x, y) : DyFunc(x, y); }
 double RateDx(const double& x, const double& y) { return TypedRate ? (*TypedRate->dx)(x, y) : DxFunc(x, y); }
-
-namespace {
-
-// One stage of a typed step: the change of y over h along the field, NaN where it has none.
-double typedIncrement(double u, double v, double h)
-{
-    const double dy = (*TypedRate->dy)(u, v), dx = (*TypedRate->dx)(u, v);
-    const double k = dy * h / dx;
-    return std::isfinite(k) ? k : kNaN;
-}
-
-}  // namespace
-
-double RateStep2(const double& x, const double& y, const double& h)
-{
-    if (!TypedRate)
-        return Runga2Step(x, y, h);
-    const double k1 = typedIncrement(x, y, h);
-    return typedIncrement(x + h / 2, y + k1 / 2, h);
-}
-
-double RateStep4(const double& x, const double& y, const double& h)
-{
-    if (!TypedRate)
-        return Runga4Step(x, y, h);
-    const double k1 = typedIncrement(x, y, h);
-    const double k2 = typedIncrement(x + h / 2, y + k1 / 2, h);
-    const double k3 = typedIncrement(x + h / 2, y + k2 / 2, h);
-    const double k4 = typedIncrement(x + h, y + k3, h);
-    return k2 / 3 + k1 / 6 + k3 / 3 + k4 / 6;
-}
 
 double CurveX(const float& t) { return TypedParametric ? (*TypedParametric->x)(t) : XtFunc(t); }
 double CurveY(const float& t) { return TypedParametric ? (*TypedParametric->y)(t) : YtFunc(t); }

@@ -59,13 +59,10 @@ inline double ExplicitSlope(const double& x) { return TypedExplicit ? TypedExpli
 // True where the function in use is defined at x (YDefined for a family).
 bool ExplicitDefined(const double& x);
 
-// dy and dx at (x, y) and the two Runge-Kutta increments: the typed rates in use, else DyFunc,
-// DxFunc, Runga2Step and Runga4Step. With typed rates the increments follow the same stages and
-// give NaN where a stage is undefined or dx is 0.
+// dy and dx at (x, y): the typed rates in use, else DyFunc and DxFunc. The steps along them are the
+// rows of funclib/StepMethods.h.
 double RateDy(const double& x, const double& y);
 double RateDx(const double& x, const double& y);
-double RateStep2(const double& x, const double& y, const double& h);
-double RateStep4(const double& x, const double& y, const double& h);
 
 // x(t) and y(t): the typed curve in use, else XtFunc and YtFunc.
 double CurveX(const float& t);

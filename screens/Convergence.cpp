@@ -11,6 +11,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
+#include "funclib/StepMethods.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "screens/IntegralCurves.h"
@@ -26,14 +27,14 @@ struct boost::numeric::odeint::vector_space_norm_inf<long double> {
 
 namespace Convergence {
 
-namespace {
-
 std::string format(const char* pattern, double v)
 {
     char text[64];
     std::snprintf(text, sizeof text, pattern, v);
     return text;
 }
+
+namespace {
 
 // What an arithmetic fault means in a cell.
 std::string faultNote(const rt::RuntimeError& error) { return std::string("no value: ") + error.what(); }
@@ -109,6 +110,7 @@ Table sumsWithout(std::string why)
     Table t;
     t.methods.assign(kSumMethods.begin(), kSumMethods.end());
     t.orders = {1, 1, 2, 2, 4};
+    t.colours = {0x1F4EB4, 0xB42A1F, 0x1E7B32, 0x7A3EA8, 0x8A5A00};
     t.rowHeadings.push_back("n");
     t.exactSource = std::move(why);
     return t;
@@ -193,8 +195,12 @@ Table sums(double L, double R, std::int32_t currentN)
 Table stepsWithout(std::string why)
 {
     Table t;
-    t.methods.assign(kStepMethods.begin(), kStepMethods.end());
-    t.orders = {1, 2, 4};
+    t.kind = Table::Kind::Steps;
+    for (const StepMethods::Method& m : StepMethods::all()) {
+        t.methods.push_back(m.caption);
+        t.orders.push_back(m.order);
+        t.colours.push_back(m.colour);
+    }
     t.rowHeadings.push_back("h");
     t.exactSource = std::move(why);
     return t;
@@ -254,8 +260,6 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
         t.exactSource = "The adaptive integration could not reach the end x (the slope grows without bound).";
     }
 
-    const IntegralCurves::Method methods[] = {IntegralCurves::Method::Euler, IntegralCurves::Method::Midpoint,
-                                              IntegralCurves::Method::FourthOrder};
     const double span = xEnd - x0;
     for (int k = 0; k <= halvings; ++k) {
         const double wanted = std::fabs(h) / std::pow(2.0, k);
@@ -264,11 +268,11 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
         t.rowHeadings.push_back(format("%.6g", step) + " (" + std::to_string(count) + " steps)");
         t.rowCounts.push_back(static_cast<double>(count));
         std::vector<Cell> row;
-        for (IntegralCurves::Method method : methods) {
+        for (const StepMethods::Method& method : StepMethods::all()) {
             Cell cell;
             IntegralCurves::Settings s;
             s.smooth = false;
-            s.method = method;
+            s.method = &method;
             double x = x0, y = y0;
             try {
                 for (long i = 0; i < count && cell.note.empty(); ++i) {

@@ -2,8 +2,8 @@
 #pragma once
 // How fast the sums and the step methods approach the exact value, apart from any window: the
 // deterministic sums of the sums screen for n = 1, 2, 4, ... against an adaptive Gauss-Kronrod
-// integral, and the Euler, midpoint and fourth-order endpoints for h, h/2, h/4, ... against an
-// adaptive Dormand-Prince integration. Both read the selected families and coefficients of
+// integral, and the endpoints of the step methods for h, h/2, h/4, ... against an adaptive
+// Runge-Kutta-Fehlberg 7(8) integration. Both read the selected families and coefficients of
 // FuncGlobals; neither raises a run-time error: a value that cannot be had is a note in words.
 #include <array>
 #include <cstdint>
@@ -14,6 +14,9 @@
 
 namespace Convergence {
 
+// A number as the tables write it, by a printf pattern ("%.3e", "%.2f", ...).
+std::string format(const char* pattern, double v);
+
 // One value of the table, or why there is none.
 struct Cell {
     std::optional<double> value;
@@ -22,6 +25,9 @@ struct Cell {
 
 // A table of values in rows against one exact value: the text of every cell, headings first.
 struct Table {
+    // What the rows count: partitions of the sums, or steps of the step methods.
+    enum class Kind { Sums, Steps };
+    Kind kind = Kind::Sums;
     std::optional<double> exact;
     std::string exactSource;  // how the exact value was found, or why it does not exist
     // How far the exact value itself may be off: an error no larger than this is not a measurement,
@@ -34,6 +40,8 @@ struct Table {
     std::vector<double> rowCounts;
     // The slope each method's error should show against that number on a log-log plot (-1, -2, -4).
     std::vector<int> orders;
+    // Each method's colour on the plot, 0xRRGGBB.
+    std::vector<std::uint32_t> colours;
     // The cells as texts: heading row, then one row per value row: the row heading and, per
     // method, the value, its error and the ratio of the previous row's error to this one's.
     std::vector<std::vector<std::string>> cells() const;
@@ -54,16 +62,15 @@ Table sums(double L, double R, std::int32_t currentN);
 // The same table with no rows, saying `why` (a boundary box that holds no usable number).
 Table sumsWithout(std::string why);
 
-inline const std::array<const char*, 3> kStepMethods{"Euler", "Runge-Kutta 2", "Runge-Kutta 4"};
-
 // The plane the steps stay in.
 struct Window {
     double xmin = -10, xmax = 10, ymin = -10, ymax = 10;
 };
 
-// The endpoint y at xEnd of the curve dy/dx = DyFunc / DxFunc from (x0, y0), by each method with
-// steps h, h/2, ... (halvings + 1 rows; each step count is rounded so that the last step ends on
-// xEnd), against an adaptive seventh-order integration in extended precision.
+// The endpoint y at xEnd of the curve dy/dx = DyFunc / DxFunc from (x0, y0), by each method of
+// funclib/StepMethods.h (one column each, in its table's order) with steps h, h/2, ... (halvings + 1
+// rows; each step count is rounded so that the last step ends on xEnd), against an adaptive
+// seventh-order integration in extended precision.
 Table steps(double x0, double y0, double xEnd, double h, int halvings, const Window& window);
 // The same table with no rows, saying `why`.
 Table stepsWithout(std::string why);

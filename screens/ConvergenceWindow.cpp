@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <vector>
 
 #include <QApplication>
@@ -31,21 +30,6 @@
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormStyle.h"
-
-namespace {
-
-// One colour per method, dark enough for a projector; the reference slopes are grey and dashed.
-const QColor kMethodColours[] = {QColor(0x1F, 0x4E, 0xB4), QColor(0xB4, 0x2A, 0x1F), QColor(0x1E, 0x7B, 0x32),
-                                 QColor(0x7A, 0x3E, 0xA8), QColor(0x8A, 0x5A, 0x00)};
-
-std::string number(const char* pattern, double v)
-{
-    char text[64];
-    std::snprintf(text, sizeof text, pattern, v);
-    return text;
-}
-
-}  // namespace
 
 ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::function<Convergence::Table()> compute)
     : QDialog(owner), compute_(std::move(compute))
@@ -146,7 +130,7 @@ void ConvergenceWindow::fillGrid()
 void ConvergenceWindow::fillPlot()
 {
     auto* chart = new QChart;
-    const bool partitions = table_.rowHeadings.empty() || table_.rowHeadings[0] == "n";
+    const bool partitions = table_.kind == Convergence::Table::Kind::Sums;
     const QString title = QStringLiteral("Error against the number of %1, log-log")
                               .arg(partitions ? QStringLiteral("partitions") : QStringLiteral("steps"));
     chart->setTitle(title);
@@ -154,8 +138,7 @@ void ConvergenceWindow::fillPlot()
     auto* x = new QLogValueAxis;
     x->setBase(2);
     x->setLabelFormat(QStringLiteral("%g"));
-    x->setTitleText(table_.rowHeadings.empty() || table_.rowHeadings[0] == "n" ? QStringLiteral("n")
-                                                                               : QStringLiteral("steps"));
+    x->setTitleText(partitions ? QStringLiteral("n") : QStringLiteral("steps"));
     auto* y = new QLogValueAxis;
     y->setBase(10);
     y->setLabelFormat(QStringLiteral("%.0e"));
@@ -168,7 +151,7 @@ void ConvergenceWindow::fillPlot()
     for (std::size_t m = 0; m < table_.methods.size() && table_.exact; ++m) {
         auto* series = new QLineSeries;
         series->setName(QString::fromStdString(table_.methods[m]));
-        series->setPen(QPen(kMethodColours[m % 5], 2.5));
+        series->setPen(QPen(QColor::fromRgb(m < table_.colours.size() ? table_.colours[m] : 0x606060), 2.5));
         series->setPointsVisible(true);
         // Only measurable errors: an error of 0 has no place on a log scale.
         for (const auto& [count, error] : table_.measuredErrors(m)) {
@@ -182,9 +165,14 @@ void ConvergenceWindow::fillPlot()
         series->attachAxis(x);
         series->attachAxis(y);
     }
-    // The reference slopes -1, -2 and -4, each from the first point of the first method of that
-    // order, across the table's range or down to the smallest error shown.
-    for (int order : {1, 2, 4}) {
+    // The reference slopes of the table's orders (-1, -2 and -4), each from the first point of the
+    // first method of that order, across the table's range or down to the smallest error shown;
+    // the lowest order dashed, the next dash-dotted, the others dotted.
+    std::vector<int> orders = table_.orders;
+    std::sort(orders.begin(), orders.end());
+    orders.erase(std::unique(orders.begin(), orders.end()), orders.end());
+    for (std::size_t o = 0; o < orders.size(); ++o) {
+        const int order = orders[o];
         std::pair<double, double> start{0.0, 0.0};
         for (std::size_t m = 0; m < table_.orders.size() && m < first.size() && start.first == 0; ++m)
             if (table_.orders[m] == order)
@@ -194,9 +182,9 @@ void ConvergenceWindow::fillPlot()
         auto* line = new QLineSeries;
         line->setName(QStringLiteral("slope -%1").arg(order));
         line->setPen(QPen(QColor(0x60, 0x60, 0x60), 1.5,
-                          order == 1   ? Qt::DashLine
-                          : order == 2 ? Qt::DashDotLine
-                                       : Qt::DotLine));
+                          o == 0   ? Qt::DashLine
+                          : o == 1 ? Qt::DashDotLine
+                                   : Qt::DotLine));
         const double end = std::max(lowest, start.second * std::pow(table_.rowCounts.back() / start.first, -order));
         line->append(start.first, start.second);
         line->append(start.first * std::pow(start.second / end, 1.0 / order), end);
@@ -244,7 +232,7 @@ QString ConvergenceWindow::plotDescription() const
         }
         std::nth_element(slopes.begin(), slopes.begin() + static_cast<long>(slopes.size() / 2), slopes.end());
         lines << QString::fromStdString(table_.methods[m]) + QStringLiteral(": slope ") +
-                     QString::fromStdString(number("%.2f", slopes[slopes.size() / 2])) + expected;
+                     QString::fromStdString(Convergence::format("%.2f", slopes[slopes.size() / 2])) + expected;
     }
     return lines.join(QLatin1Char('\n'));
 }

@@ -6,17 +6,16 @@
 
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
+#include "funclib/StepMethods.h"
 #include "runtime/Numbers.h"
 
 namespace IntegralCurves {
-
-enum class Method { Euler, Midpoint, FourthOrder };
 
 // What the screen's boxes and options say; read once per curve, since nothing can change them while
 // a curve is followed.
 struct Settings {
     bool smooth = true;  // follow the field's direction with steps of length h (else step h in x)
-    Method method = Method::Euler;
+    const StepMethods::Method* method = &StepMethods::byKey("euler");  // the approximation's method
     double xmin = -10, xmax = 10, ymin = -10, ymax = 10;
     double points = 500;  // the most segments of a curve
 };
@@ -46,11 +45,9 @@ inline Step step(const Settings& s, double x, double y, double h)
         return st;
     }
     st.dx = h;
-    switch (s.method) {
-    case Method::Euler: st.dy = rt::Div(Chk(h * FuncGlobals::RateDy(x, y)), p); break;
-    case Method::Midpoint: st.dy = FuncGlobals::RateStep2(x, y, h); break;
-    case Method::FourthOrder: st.dy = FuncGlobals::RateStep4(x, y, h); break;
-    }
+    // With typed rates a stage without a finite increment gives NaN, which the caller's checked
+    // sum turns into the Overflow that the checked arithmetic of the families raises.
+    st.dy = StepMethods::step(*s.method, x, y, h, p);
     return st;
 }
 

@@ -287,7 +287,7 @@ void frmFlowField::lblPos_Click()
 void frmFlowField::cmdPlotto_Click()
 {
     using rt::Chk;
-    MethodColour = optEuler->isChecked() ? 2 : optRunga2->isChecked() ? 3 : 4;
+    MethodColour = checkedMethod().colour;
     const double W = Chk(txtXmax->value() - txtXmin->value());
     const float sx = rt::CSng(rt::Div(Chk(txtHorShift->value() * GraphWindow::Side), W));
     const float sy = rt::CSng(rt::Div(Chk(-txtVerShift->value() * GraphWindow::Side), W));
@@ -407,7 +407,7 @@ void frmFlowField::mnuAbout_Click()
 
 void frmFlowField::describeResults(QStringList& lines) const
 {
-    const OptionButton* method = optRunga4->isChecked() ? optRunga4 : optRunga2->isChecked() ? optRunga2 : optEuler;
+    const OptionButton* method = this->*checkedMethod().option;
     // The rates as printed above the graph, with the coefficients' values walked in.
     const auto& k = FuncGlobals::Coefficients;
     const std::string dyCaption = FuncGlobals::DyCaption(FuncGlobals::DyFuncId);

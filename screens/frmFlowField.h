@@ -35,6 +35,17 @@ public:
     QAction *mnuSelectdy = nullptr, *mnuseldx = nullptr;
     std::vector<QAction*> mnuDy, mnuDx;  // index 0 is the design entry; 1 to 15 the families
 
+    // The method options, each with the step method it selects (a key of funclib/StepMethods.h) and
+    // the colour number the plot button gives its approximations.
+    struct MethodOption {
+        OptionButton* frmFlowField::*option;
+        const char* method;
+        std::int16_t colour;
+    };
+    static const std::array<MethodOption, 3> kMethodOptions;
+    // The selected option (one always is; the last one if none were).
+    const MethodOption& checkedMethod() const;
+
     // The colour number of the segments (the method's number).
     std::int16_t MethodColour = 5;
     // The current point in window units, the step of the last press and the segment counter.

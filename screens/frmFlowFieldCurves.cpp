@@ -6,6 +6,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
+#include "funclib/StepMethods.h"
 #include "graphwin/DrawingStyle.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
@@ -66,13 +67,25 @@ void frmFlowField::fieldArrows()
     });
 }
 
+const std::array<frmFlowField::MethodOption, 3> frmFlowField::kMethodOptions{{
+    {&frmFlowField::optEuler, "euler", 2},
+    {&frmFlowField::optRunga2, "rk2", 3},
+    {&frmFlowField::optRunga4, "rk4", 4},
+}};
+
+const frmFlowField::MethodOption& frmFlowField::checkedMethod() const
+{
+    for (const MethodOption& o : kMethodOptions)
+        if ((this->*o.option)->isChecked())
+            return o;
+    return kMethodOptions.back();
+}
+
 IntegralCurves::Settings frmFlowField::settings() const
 {
     IntegralCurves::Settings s;
     s.smooth = optCurve->isChecked();
-    s.method = optEuler->isChecked()    ? IntegralCurves::Method::Euler
-               : optRunga2->isChecked() ? IntegralCurves::Method::Midpoint
-                                        : IntegralCurves::Method::FourthOrder;
+    s.method = &StepMethods::byKey(checkedMethod().method);
     s.xmin = txtXmin->value();
     s.xmax = txtXmax->value();
     s.ymin = txtYmin->value();

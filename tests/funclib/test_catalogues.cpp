@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/StepMethods.h"
 #include "runtime/RuntimeError.h"
 #include "tests/TestSupport.h"
 
@@ -180,6 +181,10 @@ TEST(RateCatalogue, ZeroCoefficientsHandWorkedStepsAndFaults)
     rates(1, 1, {1, 0, 0, 0, 0, 0});  // dx = 0 everywhere
     EXPECT_EQ(errorOf([] { Runga2Step(1, 1, 1); }), rt::DivisionByZero);
     EXPECT_EQ(errorOf([] { Runga4Step(0, 0, 1); }), rt::Overflow);  // 0 / 0
+    for (const StepMethods::Method& m : StepMethods::all()) {  // every method over the families raises alike
+        EXPECT_EQ(errorOf([&] { m.family(1, 1, 1, {}); }), rt::DivisionByZero) << m.key;
+        EXPECT_EQ(errorOf([&] { m.family(0, 0, 1, {}); }), rt::Overflow) << m.key;
+    }
     rates(9, 1, {0, 0, 1, 1, 0, 0});
     EXPECT_EQ(errorOf([] { DyFunc(1000, 0); }), rt::Overflow);
     rates(13, 1, {1, 0, 0, 1, 0, 0});

@@ -6,11 +6,13 @@
 #include <fstream>
 #include <iterator>
 #include <limits>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
+#include "funclib/StepMethods.h"
 #include "fuzz/TypedProperties.h"
 
 using namespace FuncGlobals;
@@ -205,11 +207,29 @@ TEST(TypedSources, DispatchFallsBackToTheFamilies)
     auto rates = TypedRates::make("x", "1", error);
     ASSERT_TRUE(rates);
     TypedRate = rates.get();
-    EXPECT_EQ(RateStep2(0, 0, 1), 0.5);
-    EXPECT_EQ(RateStep4(0, 0, 1), 0.5);
-    auto vertical = TypedRates::make("1", "x", error);
-    TypedRate = vertical.get();
-    EXPECT_TRUE(std::isnan(RateStep4(0, 0, 1)));  // dx = 0 at the first stage: no step, no error
+    EXPECT_EQ(StepMethods::step(StepMethods::byKey("rk2"), 0, 0, 1), 0.5);
+    EXPECT_EQ(StepMethods::step(StepMethods::byKey("rk4"), 0, 0, 1), 0.5);
+    auto firstStageVertical = TypedRates::make("1", "x", error);
+    TypedRate = firstStageVertical.get();
+    EXPECT_TRUE(std::isnan(StepMethods::step(StepMethods::byKey("rk4"), 0, 0, 1)));  // dx = 0 at the first stage
+    // Every step method gives over typed rates the very steps it gives over the equal family, and
+    // NaN where dx is 0 (no step, no error).
+    auto same = TypedRates::make("A*x + B*y + C", "D*x + E*y + F", error);
+    auto vertical = TypedRates::make("1", "0", error);
+    ASSERT_TRUE(same && vertical);
+    DyFuncId = DxFuncId = 1;
+    Coefficients = {-1.5, 0.25, 2, 0.75, 1, -0.5};
+    for (const StepMethods::Method& m : StepMethods::all()) {
+        for (const auto& [x, y, h] :
+             {std::tuple(4.0, 3.0, 0.1), std::tuple(-2.5, 1.25, -0.3), std::tuple(0.7, -3.1, 1.0)}) {
+            TypedRate = nullptr;
+            const double family = StepMethods::step(m, x, y, h);
+            TypedRate = same.get();
+            EXPECT_EQ(StepMethods::step(m, x, y, h), family) << m.key << " from " << x << ", " << y;
+        }
+        TypedRate = vertical.get();
+        EXPECT_TRUE(std::isnan(StepMethods::step(m, 0, 0, 1))) << m.key;
+    }
     TypedRate = nullptr;
 }
 

@@ -13,6 +13,7 @@
 #include <QTableWidget>
 #include <QTest>
 
+#include "funclib/StepMethods.h"
 #include "screens/Convergence.h"
 #include "screens/ConvergenceWindow.h"
 #include "screens/frmRiemann.h"
@@ -74,6 +75,21 @@ TEST(ConvergenceOfSteps, TheCircleFromFourThree)
         EXPECT_NEAR(ratio(t, r, 1), 4, 0.6) << r;
         EXPECT_NEAR(ratio(t, r, 2), 16, 2.5) << r;
     }
+    // Every method, in its column under its caption, shows its row's order: halving h divides its
+    // error by 2^order (within an eighth) on dy/dx = x + y from (0, 1) to x = 1, a field with none of
+    // the circle's symmetry (on the circle Heun's rule shows a third order).
+    FuncGlobals::Coefficients = {1, 1, 0, 0, 0, 1};
+    const Table u = Convergence::steps(0, 1, 1, 0.1, 5, {});
+    ASSERT_TRUE(u.exact);
+    EXPECT_NEAR(*u.exact, 2 * std::exp(1.0) - 2, 1e-12);
+    const auto methods = StepMethods::all();
+    ASSERT_EQ(u.methods.size(), methods.size());
+    for (std::size_t m = 0; m < methods.size(); ++m) {
+        EXPECT_EQ(u.methods[m], methods[m].caption);
+        const double expected = std::ldexp(1.0, methods[m].order);
+        for (std::size_t r = 2; r <= 4; ++r)
+            EXPECT_NEAR(ratio(u, r, m), expected, expected / 8) << methods[m].key << " row " << r;
+    }
 }
 
 TEST(ConvergenceOfSteps, TheReferenceOutlastsTheFourthOrderErrorsToTheLastRow)
@@ -124,6 +140,21 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
             references.push_back(static_cast<QLineSeries*>(s)->pen().style());
     }
     EXPECT_EQ(references, (std::vector<Qt::PenStyle>{Qt::DashLine, Qt::DashDotLine, Qt::DotLine}));
+    // The plot counts what the table's rows count: partitions here, steps for the step methods,
+    // whose lines take their rows' colours.
+    EXPECT_EQ(window.plot()->accessibleName(), QStringLiteral("Error against the number of partitions, log-log"));
+    FuncGlobals::DyFuncId = FuncGlobals::DxFuncId = 1;  // the circle, dy/dx = -x/y
+    FuncGlobals::Coefficients = {-1, 0, 0, 0, 1, 0};
+    ConvergenceWindow steps(nullptr, QStringLiteral("Steps"), [] { return Convergence::steps(4, 3, 4.5, 0.1, 3, {}); });
+    steps.recompute();
+    EXPECT_EQ(steps.plot()->accessibleName(), QStringLiteral("Error against the number of steps, log-log"));
+    for (const StepMethods::Method& m : StepMethods::all()) {
+        const auto series = steps.plot()->chart()->series();
+        const auto line = std::find_if(series.begin(), series.end(), [&](auto* s) { return s->name() == m.caption; });
+        ASSERT_NE(line, series.end()) << m.key;
+        EXPECT_EQ(static_cast<QLineSeries*>(*line)->pen().color().rgb() & 0xFFFFFF, m.colour) << m.key;
+    }
+    selectFamily(2, {1, 0, 0, 0, 0, 0});
     frmRiemann sums;  // on its screen the table is one key away, and its entry shows it
     const auto entries = sums.menuBar->findChildren<QAction*>();
     const auto open = std::find_if(entries.begin(), entries.end(), [](QAction* a) { return a->text() == "Convergence &Table..."; });
