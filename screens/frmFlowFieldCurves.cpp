@@ -213,7 +213,7 @@ void frmFlowField::followCurve(double& x, double& y, bool backward, const Follow
     }
     if (!reachedEnd)
         return;
-    auto end = [](double v) { return qStr(rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)) / 1000); };
+    auto end = [](double v) { return qStr(rt::RoundHalfUp(v, 1000)); };
     lblEndpt->setText(QStringLiteral("EndPt (") + end(x) + QStringLiteral(",") + end(y));
 }
 
