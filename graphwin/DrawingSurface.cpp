@@ -14,16 +14,8 @@
 #include "graphwin/Dialogs.h"
 #include "graphwin/Raster.h"
 
-namespace {
-
-constexpr double kTwipsPerPixel = 15.0;
-// The property that keeps a widget's place in twips.
-constexpr const char* kTwipsProperty = "plottoTwips";
-
-}  // namespace
-
 DrawingSurface::DrawingSurface(double widthTwips, double heightTwips, QWidget* parent)
-    : QWidget(parent), widthTwips_(widthTwips), heightTwips_(heightTwips)
+    : TwipArea(parent), widthTwips_(widthTwips), heightTwips_(heightTwips)
 {
     screenScale_ = std::max(1.0, qApp ? qApp->devicePixelRatio() : 1.0);
     scale_ = screenScale_;
@@ -153,25 +145,6 @@ void DrawingSurface::placeChildren()
         if (auto* grid = qobject_cast<Grid*>(w))
             grid->applyZoom(zoom_);
     }
-}
-
-void placeTwips(QWidget* widget, double left, double top, double width, double height)
-{
-    // The place in twips is kept, so that a zoomed form can put the widget where it belongs.
-    widget->setProperty(kTwipsProperty, QRectF(left, top, width, height));
-    const double k = kTwipsPerPixel;
-    widget->setGeometry(static_cast<int>(std::lround(left / k)), static_cast<int>(std::lround(top / k)),
-                        static_cast<int>(std::lround(width / k)), static_cast<int>(std::lround(height / k)));
-}
-
-QRectF twipsOf(const QWidget* widget) { return widget->property(kTwipsProperty).toRectF(); }
-
-double twipsPerPixel(const QWidget* widget)
-{
-    for (const QWidget* w = widget; w; w = w->parentWidget())
-        if (const auto* surface = qobject_cast<const DrawingSurface*>(w))
-            return kTwipsPerPixel / surface->zoom();
-    return kTwipsPerPixel;
 }
 
 void DrawingSurface::Cls()

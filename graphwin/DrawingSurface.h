@@ -21,6 +21,7 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/Raster.h"
+#include "graphwin/TwipArea.h"
 
 class QPainter;
 
@@ -35,7 +36,7 @@ struct DrawOp {
 // 0xRRGGBB (as the run time's colours are written) to an opaque QRgb.
 inline QRgb rgbColor(std::uint32_t rgb) { return 0xFF000000u | rgb; }
 
-class DrawingSurface : public QWidget {
+class DrawingSurface : public TwipArea {
     Q_OBJECT
 public:
     DrawingSurface(double widthTwips, double heightTwips, QWidget* parent = nullptr);
@@ -170,10 +171,9 @@ public:
     // A colour as projector mode draws it (unchanged with the mode off).
     static QRgb ink(QRgb color);
 
-    // The form's scale: 1 at the normal size. Resizes the surface and everything placed on it, and
-    // draws the picture again at the new resolution.
+    // Sets the form's scale (zoom(), 1 at the normal size). Resizes the surface and everything placed
+    // on it, and draws the picture again at the new resolution.
     void setZoom(double zoom);
-    double zoom() const { return zoom_; }
 Q_SIGNALS:
     // The form took a new zoom (its window grew or shrank).
     void zoomChanged(double zoom);
@@ -283,7 +283,6 @@ private:
 
     double widthTwips_, heightTwips_;
     QSize normalSize_;
-    double zoom_ = 1.0;
     double screenScale_ = 1.0;  // the screen's device pixels per logical pixel
     double scale_;  // device pixels per logical pixel of the normal-size form
     double pxPerTwip_;
@@ -455,12 +454,3 @@ private:
     std::size_t n_ = 0;
     double ends_[4 * kChunk];
 };
-
-// Twips per logical pixel for a widget placed on a surface: 15 at the normal size, less when the
-// form is zoomed in.
-double twipsPerPixel(const QWidget* widget);
-// Places a widget on the surface (or in a frame on it) at a position and size given in twips; the
-// surface puts it there again at every zoom.
-void placeTwips(QWidget* widget, double left, double top, double width, double height);
-// The place in twips a widget was given, whatever the zoom (its pixels change with it).
-QRectF twipsOf(const QWidget* widget);
