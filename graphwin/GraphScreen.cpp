@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "graphwin/GraphScreen.h"
-#include "graphwin/GraphViewer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -100,9 +99,7 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 
 GraphScreen::~GraphScreen()
 {
-    // The surface outlives this part of the screen by a little: its last events must not reach the
-    // view, which asks the screen.
-    surface->removeEventFilter(viewer_);
+    leaveView();
     leaveDescriptions();
     std::erase(allScreens(), this);
     if (typed_ && FuncGlobals::TypedExplicit == typed_.get())

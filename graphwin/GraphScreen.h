@@ -363,6 +363,8 @@ private:
     // The explicit function's column walk (plotExplicit's drawing), for a typed function or a family.
     void drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool typed);
     void buildViewMenu();
+    // Stops the view (GraphViewer) from watching the surface, as the screen goes.
+    void leaveView();
     // Shows `limits` when they can be shown; `remember` puts the window in the history.
     bool moveView(const view::Limits& limits, bool remember);
     // Clears the picture (the screen's own clear) and draws `steps` again; what could not be drawn.
