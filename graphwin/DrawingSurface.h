@@ -2,8 +2,8 @@
 #pragma once
 // The client area of a screen, addressed in twips (x to the right, y downwards, 15 twips to a
 // logical pixel at the window's normal size). Everything drawn is kept in a backing image until the
-// next Cls. Lines and points are set straight into the image; only text and circles go through a
-// painter.
+// next Cls. Lines and points are set straight into the image; only text, circles and cleared areas
+// go through a painter.
 //
 // The whole form can be shown larger or smaller by one zoom factor: the surface, every control on
 // it (placed in twips by placeTwips) and their fonts scale together, and the picture is drawn again
@@ -162,12 +162,14 @@ public:
     double heightTwips() const { return heightTwips_; }
 
     // Projector mode, for every surface of the run: lines, points and circles drawn with a pen
-    // kProjectorPen times as wide, circles that much larger, and colours lighter than 3:1 against
-    // white darkened until they reach it. Only how a shape is drawn changes, never where: the
-    // operations and their twips are the same, and each surface draws its picture again.
+    // kProjectorPen times as wide, circles of a radius kProjectorRadius times as large, and colours
+    // lighter than 3:1 against white darkened until they reach it. Only how a shape is drawn
+    // changes, never where: the operations and their twips are the same, and each surface draws its
+    // picture again.
     static void setProjectorMode(bool on);
     static bool projectorMode() { return projector_; }
     static constexpr double kProjectorPen = 2.5;
+    static constexpr double kProjectorRadius = 1.5;
     // A colour as projector mode draws it (unchanged with the mode off).
     static QRgb ink(QRgb color);
 
