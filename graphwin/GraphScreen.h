@@ -396,6 +396,8 @@ private:
     // handler runs.
     QAction* addToolsEntry(const QString& caption, QKeySequence key, std::function<void()> run);
     void buildLessonCommands();
+    // Leaves the screens whose menu bar shows where the lesson stands (as the screen goes).
+    void leaveLessonPlaces();
     void refreshLessonPlace();
     // Grows the menu bar and its menus with the form, and tells the style the form's zoom.
     void applyFormZoom(double zoom);
