@@ -85,7 +85,7 @@ public:
     QMenuBar* menuBar = nullptr;
     QAction *mnuFile = nullptr, *mnuAbout = nullptr, *sep1 = nullptr, *mnuExit = nullptr;
     QAction* mnuSelect = nullptr;
-    std::vector<QAction*> mnuFunc;  // index 0 is the design entry; 1 to 15 the families
+    std::vector<QAction*> mnuFunc;  // index 0 is the design entry; 1 to ExplicitFamilyCount the families
 
     // Graph window and plotting.
     virtual void CleanGraph();
