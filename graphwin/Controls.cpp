@@ -11,7 +11,7 @@
 #include <QStringList>
 
 #include "graphwin/Dialogs.h"
-#include "graphwin/DrawingSurface.h"
+#include "graphwin/TwipArea.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 

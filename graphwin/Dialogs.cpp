@@ -9,7 +9,7 @@
 #include <QMessageBox>
 #include <QWidget>
 
-#include "graphwin/DrawingSurface.h"
+#include "graphwin/TwipArea.h"
 
 namespace {
 
@@ -75,7 +75,7 @@ QString InputBox(const QString& prompt, const QString& title, const QString& def
     // box opens over its window wherever the window is.
     if (xTwips >= 0 && yTwips >= 0) {
         QWidget* window = dialog.parentWidget() ? dialog.parentWidget()->window() : nullptr;
-        const double perPixel = window ? twipsPerPixel(window->findChild<DrawingSurface*>()) : 15.0;
+        const double perPixel = window ? twipsPerPixel(window->findChild<TwipArea*>()) : 15.0;
         const QPoint origin = window ? window->frameGeometry().topLeft() : QPoint();
         dialog.move(origin + QPoint(static_cast<int>(xTwips / perPixel), static_cast<int>(yTwips / perPixel)));
     }

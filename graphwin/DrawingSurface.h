@@ -2,8 +2,8 @@
 #pragma once
 // The client area of a screen, addressed in twips (x to the right, y downwards, 15 twips to a
 // logical pixel at the window's normal size). Everything drawn is kept in a backing image until the
-// next Cls. Lines and points are set straight into the image; only text and circles go through a
-// painter.
+// next Cls. Lines and points are set straight into the image; only text, circles and cleared areas
+// go through a painter.
 //
 // The whole form can be shown larger or smaller by one zoom factor: the surface, every control on
 // it (placed in twips by placeTwips) and their fonts scale together, and the picture is drawn again
@@ -21,6 +21,7 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/Raster.h"
+#include "graphwin/TwipArea.h"
 
 class QPainter;
 
@@ -35,7 +36,7 @@ struct DrawOp {
 // 0xRRGGBB (as the run time's colours are written) to an opaque QRgb.
 inline QRgb rgbColor(std::uint32_t rgb) { return 0xFF000000u | rgb; }
 
-class DrawingSurface : public QWidget {
+class DrawingSurface : public TwipArea {
     Q_OBJECT
 public:
     DrawingSurface(double widthTwips, double heightTwips, QWidget* parent = nullptr);
@@ -161,19 +162,20 @@ public:
     double heightTwips() const { return heightTwips_; }
 
     // Projector mode, for every surface of the run: lines, points and circles drawn with a pen
-    // kProjectorPen times as wide, circles that much larger, and colours lighter than 3:1 against
-    // white darkened until they reach it. Only how a shape is drawn changes, never where: the
-    // operations and their twips are the same, and each surface draws its picture again.
+    // kProjectorPen times as wide, circles of a radius kProjectorRadius times as large, and colours
+    // lighter than 3:1 against white darkened until they reach it. Only how a shape is drawn
+    // changes, never where: the operations and their twips are the same, and each surface draws its
+    // picture again.
     static void setProjectorMode(bool on);
     static bool projectorMode() { return projector_; }
     static constexpr double kProjectorPen = 2.5;
+    static constexpr double kProjectorRadius = 1.5;
     // A colour as projector mode draws it (unchanged with the mode off).
     static QRgb ink(QRgb color);
 
-    // The form's scale: 1 at the normal size. Resizes the surface and everything placed on it, and
-    // draws the picture again at the new resolution.
+    // Sets the form's scale (zoom(), 1 at the normal size). Resizes the surface and everything placed
+    // on it, and draws the picture again at the new resolution.
     void setZoom(double zoom);
-    double zoom() const { return zoom_; }
 Q_SIGNALS:
     // The form took a new zoom (its window grew or shrank).
     void zoomChanged(double zoom);
@@ -283,7 +285,6 @@ private:
 
     double widthTwips_, heightTwips_;
     QSize normalSize_;
-    double zoom_ = 1.0;
     double screenScale_ = 1.0;  // the screen's device pixels per logical pixel
     double scale_;  // device pixels per logical pixel of the normal-size form
     double pxPerTwip_;
@@ -455,12 +456,3 @@ private:
     std::size_t n_ = 0;
     double ends_[4 * kChunk];
 };
-
-// Twips per logical pixel for a widget placed on a surface: 15 at the normal size, less when the
-// form is zoomed in.
-double twipsPerPixel(const QWidget* widget);
-// Places a widget on the surface (or in a frame on it) at a position and size given in twips; the
-// surface puts it there again at every zoom.
-void placeTwips(QWidget* widget, double left, double top, double width, double height);
-// The place in twips a widget was given, whatever the zoom (its pixels change with it).
-QRectF twipsOf(const QWidget* widget);

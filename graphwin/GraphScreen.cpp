@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What every screen's form holds and does: its controls built (the square, the limit boxes with
+// their arrow labels, the coefficient panel, the buttons), the graph cleared with its axes, the plot
+// of the function in use, the limits' zoom and defaults, the coefficients copied into the module
+// state, the function menu with its cycling label, and the window's opening size and zoom. (Menus:
+// ScreenMenus.cpp; typed functions: ScreenTyped.cpp; the view: ScreenView.cpp; descriptions:
+// ScreenAccess.cpp; the trace and the walk: ScreenTrace.cpp; keyboard order: Keyboard.cpp.)
 #include "graphwin/GraphScreen.h"
-#include "graphwin/GraphViewer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -36,20 +41,6 @@ constexpr double kBoxWidth = 600, kBoxHeight = 300, kArrowWidth = 180;
 // What a window manager typically adds around a window: borders and a title bar.
 const QSize kWindowBorders(8, 40);
 constexpr const char* kCoefficientNames = "ABCDEF";
-
-// The lesson commands the program's owner of the lesson set, and every screen, whose menu bar
-// shows where the lesson stands.
-GraphScreen::LessonCommands& lessonCommands()
-{
-    static GraphScreen::LessonCommands commands;
-    return commands;
-}
-
-std::vector<GraphScreen*>& allScreens()
-{
-    static std::vector<GraphScreen*> screens;
-    return screens;
-}
 
 }  // namespace
 
@@ -100,11 +91,9 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 
 GraphScreen::~GraphScreen()
 {
-    // The surface outlives this part of the screen by a little: its last events must not reach the
-    // view, which asks the screen.
-    surface->removeEventFilter(viewer_);
+    leaveView();
     leaveDescriptions();
-    std::erase(allScreens(), this);
+    leaveLessonPlaces();
     if (typed_ && FuncGlobals::TypedExplicit == typed_.get())
         FuncGlobals::TypedExplicit = nullptr;
 }
@@ -182,30 +171,6 @@ void GraphScreen::buildButtons()
     // clang-format on
 }
 
-QMenu* GraphScreen::addMenu(const QString& caption)
-{
-    // The Tools menu stays last: a screen's own menus go before it.
-    auto* menu = new QMenu(caption, menuBar);
-    menuBar->insertMenu(mnuTools, menu);
-    return menu;
-}
-
-void GraphScreen::buildMenus()
-{
-    const FileMenu file = addFileMenu(
-        menuBar, QStringLiteral("E&xit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
-    mnuFile = file.menu;
-    mnuAbout = file.about;
-    sep1 = file.separator;
-    mnuExit = file.exit;
-    if (config_.functionMenu) {
-        QMenu* select = addMenu(config_.functionMenuCaption);
-        mnuSelect = select->menuAction();
-        startMenuArray(select, mnuFunc);
-    }
-    buildToolsMenu();
-}
-
 void GraphScreen::applyFormZoom(double zoom)
 {
     FormStyle::setWindowZoom(this, zoom);
@@ -222,265 +187,11 @@ void GraphScreen::applyFormZoom(double zoom)
             w->update();  // indicators and scroll-bar parts are measured by the style at the zoom
 }
 
-QAction* GraphScreen::addToolsEntry(const QString& caption, QKeySequence key, std::function<void()> run)
-{
-    QAction* a = toolsMenu_->addAction(caption);
-    a->setShortcut(key);
-    a->setShortcutContext(Qt::WindowShortcut);
-    connect(a, &QAction::triggered, this, [run = std::move(run)] { guarded(run); });
-    return a;
-}
-
-void GraphScreen::buildToolsMenu()
-{
-    toolsMenu_ = menuBar->addMenu(QStringLiteral("&Tools"));
-    mnuTools = toolsMenu_->menuAction();
-    mnuTypeFunction =
-        addToolsEntry(config_.functionMenu ? QStringLiteral("&Type a Function...") : QStringLiteral("&Type..."),
-                      QKeySequence(Qt::CTRL | Qt::Key_E), [this] { mnuTypeFunction_Click(); });
-    mnuProjector = addToolsEntry(QStringLiteral("&Projector Mode"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
-                                 [this] { mnuProjector_Click(); });
-    mnuProjector->setCheckable(true);
-    mnuHearCurve = addToolsEntry(QStringLiteral("&Hear the Curve"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H),
-                                 [this] { mnuHearCurve_Click(); });
-    surface->KeyDown = [this](int key, Qt::KeyboardModifiers modifiers) { return exploreKey(key, modifiers); };
-    // The mode belongs to the run: each screen's entry shows it as it is when its menu opens.
-    connect(toolsMenu_, &QMenu::aboutToShow, this,
-            [this] { mnuProjector->setChecked(DrawingSurface::projectorMode()); });
-    buildLessonCommands();
-    buildViewMenu();
-}
-
-void GraphScreen::setLessonCommands(LessonCommands commands)
-{
-    lessonCommands() = std::move(commands);
-    refreshLessonPlaces();
-}
-
-void GraphScreen::refreshLessonPlaces()
-{
-    for (GraphScreen* s : allScreens())
-        s->refreshLessonPlace();
-}
-
-void GraphScreen::refreshLessonPlace()
-{
-    const QString place = lessonCommands().place ? lessonCommands().place() : QString();
-    lblLessonPlace->setText(place);
-    lblLessonPlace->setVisible(!place.isEmpty());
-    const bool open = !place.isEmpty();
-    mnuNextStep->setEnabled(open);
-    mnuPreviousStep->setEnabled(open);
-    const bool owned = static_cast<bool>(lessonCommands().add);
-    mnuAddStep->setEnabled(owned);
-    mnuSaveLesson->setEnabled(owned);
-    mnuOpenLesson->setEnabled(owned);
-}
-
-void GraphScreen::buildLessonCommands()
-{
-    toolsMenu_->addSeparator();
-    mnuAddStep = addToolsEntry(QStringLiteral("&Add This Screen to the Lesson"),
-                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
-                                   if (lessonCommands().add)
-                                       lessonCommands().add(*this);
-                               });
-    mnuOpenLesson = addToolsEntry(QStringLiteral("&Open Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_O), [] {
-        if (lessonCommands().open)
-            lessonCommands().open();
-    });
-    mnuSaveLesson = addToolsEntry(QStringLiteral("&Save Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_S), [] {
-        if (lessonCommands().save)
-            lessonCommands().save();
-    });
-    // Page Down and Page Up, which every presentation clicker sends; only while a lesson is open.
-    mnuNextStep = addToolsEntry(QStringLiteral("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
-        if (lessonCommands().next)
-            lessonCommands().next();
-    });
-    mnuPreviousStep = addToolsEntry(QStringLiteral("Pre&vious Step"), QKeySequence(Qt::Key_PageUp), [] {
-        if (lessonCommands().previous)
-            lessonCommands().previous();
-    });
-    lblLessonPlace = new QLabel(menuBar);
-    lblLessonPlace->setContentsMargins(8, 0, 12, 0);
-    menuBar->setCornerWidget(lblLessonPlace, Qt::TopRightCorner);
-    allScreens().push_back(this);
-    refreshLessonPlace();
-}
-
-QJsonObject GraphScreen::functionState() const
-{
-    if (!config_.functionMenu)
-        return {};
-    if (typed_)
-        return {{QStringLiteral("typed"), QString::fromStdString(typed_->f->text())}};
-    for (int i = 1; i <= FuncGlobals::ExplicitFamilyCount; ++i)
-        if (lblFunc->text() == QString::fromLatin1(FuncGlobals::ExplicitCaption(i)))
-            return {{QStringLiteral("family"), i}};
-    return {};
-}
-
-QString GraphScreen::checkFunctionState(const QJsonObject& state) const
-{
-    return checkFunctions(state, {{"family", "typed", FuncGlobals::ExplicitFamilyCount, {"x"}}});
-}
-
-void GraphScreen::setFunctionState(const QJsonObject& state)
-{
-    if (state.contains(QStringLiteral("typed")))
-        setTypedFunction(state.value(QStringLiteral("typed")).toString());
-    else if (state.contains(QStringLiteral("family")))
-        mnuFunc_Click(state.value(QStringLiteral("family")).toInt());
-}
-
-QString GraphScreen::checkFunctions(const QJsonObject& state, std::initializer_list<FunctionSlot> functions)
-{
-    QStringList known;
-    for (const FunctionSlot& slot : functions)
-        known << QString::fromLatin1(slot.family) << QString::fromLatin1(slot.typed);
-    for (auto it = state.begin(); it != state.end(); ++it)
-        if (!known.contains(it.key()))
-            return QStringLiteral("the screen has no function '%1'").arg(it.key());
-    for (const FunctionSlot& slot : functions) {
-        const QJsonValue family = state.value(QString::fromLatin1(slot.family));
-        const QJsonValue typed = state.value(QString::fromLatin1(slot.typed));
-        if (!family.isUndefined() && (!family.isDouble() || family.toDouble() != std::floor(family.toDouble()) ||
-                                      family.toDouble() < 1 || family.toDouble() > slot.count))
-            return QStringLiteral("'%1' is a family number from 1 to %2")
-                .arg(QString::fromLatin1(slot.family))
-                .arg(slot.count);
-        if (!typed.isUndefined()) {
-            std::string error;
-            if (!typed.isString() ||
-                !FuncGlobals::TypedExpression::compile(typed.toString().toStdString(), slot.variables, error))
-                return QStringLiteral("the function '%1' cannot be taken: %2")
-                    .arg(typed.toString(), QString::fromStdString(error));
-        }
-    }
-    return {};
-}
-
-void GraphScreen::mnuProjector_Click()
-{
-    DrawingSurface::setProjectorMode(!DrawingSurface::projectorMode());
-    mnuProjector->setChecked(DrawingSurface::projectorMode());
-}
-
-void GraphScreen::rememberTyped(const QString& caption, std::function<void()> apply)
-{
-    for (QAction* old : history_)
-        if (old->text() == caption) {
-            history_.removeOne(old);
-            delete old;
-            break;
-        }
-    if (!historySeparator_)
-        historySeparator_ = toolsMenu_->insertSeparator(nullptr);
-    QAction* before = history_.isEmpty() ? nullptr : history_.front();
-    auto* action = new QAction(caption, toolsMenu_);
-    connect(action, &QAction::triggered, this, [this, apply] {
-        guarded([this, &apply] {
-            apply();
-            refreshDescription();
-        });
-    });
-    toolsMenu_->insertAction(before, action);
-    history_.prepend(action);
-    constexpr int kRemembered = 8;
-    while (history_.size() > kRemembered)
-        delete history_.takeLast();
-}
-
-void GraphScreen::runTypedEntry(TypedEntryLayout entry, const std::function<QString(const QStringList&)>& take)
-{
-    const std::optional<QStringList> texts = openTypedEntry(this, entry);
-    if (!texts)
-        return;
-    const QString refusal = take(*texts);
-    if (!refusal.isEmpty())
-        MsgBox(refusal, QStringLiteral("Typed function"));
-    refreshDescription();
-}
-
-void GraphScreen::mnuTypeFunction_Click()
-{
-    if (!config_.functionMenu)
-        return;
-    TypedEntryLayout entry;
-    entry.title = QStringLiteral("Type a function y = f(x)");
-    entry.fields = {QStringLiteral("y =")};
-    entry.initial = {typed_ ? QString::fromStdString(typed_->f->text()) : QString()};
-    entry.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")},
-                      {QStringLiteral("x^3 - 2*x - 5")},
-                      {QStringLiteral("exp(-x^2)")},
-                      {QStringLiteral("sin(x)/x")},
-                      {QStringLiteral("ln(x)")},
-                      {QStringLiteral("sqrt(4 - x^2)")},
-                      {QStringLiteral("abs(x)")},
-                      {QStringLiteral("1/(1 + x^2)")}};
-    entry.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
-    entry.check = [](const QStringList& texts, QString& preview) {
-        std::string error;
-        const auto f = FuncGlobals::TypedFunction::make(texts.value(0).toStdString(), error);
-        if (!f)
-            return QString::fromStdString(error);
-        preview = QStringLiteral("Understood: y = ") + QString::fromStdString(f->f->understood()) +
-                  QStringLiteral("\nDerivative: y' = ") + QString::fromStdString(f->f->derivativeText());
-        return QString();
-    };
-    runTypedEntry(entry, [this](const QStringList& texts) { return setTypedFunction(texts.value(0)); });
-}
-
-QString GraphScreen::setTypedFunction(const QString& text)
-{
-    if (!config_.functionMenu)
-        return QStringLiteral("This screen does not graph a function y = f(x).");
-    std::string error;
-    auto made = FuncGlobals::TypedFunction::make(text.toStdString(), error);
-    if (!made)
-        return QString::fromStdString(error);
-    typed_ = std::move(made);
-    installTyped();
-    lblFunc->setText(QStringLiteral("y = ") + text.trimmed());
-    functionReplaced();
-    rememberTyped(QStringLiteral("y = ") + text.trimmed(), [this, text] { setTypedFunction(text); });
-    return QString();
-}
-
-bool GraphScreen::typedDefinedAt(std::initializer_list<double> xs, QLabel* label, const QString& before) const
-{
-    if (!typed_)
-        return true;
-    for (double x : xs)
-        if (std::isnan(typed_->value(x))) {
-            label->setText(before + QStringLiteral("undefined: no f(x) at x = ") + qTrimStr(x));
-            return false;
-        }
-    return true;
-}
-
-bool GraphScreen::typedSlopeAt(double slope, double x, QLabel* label) const
-{
-    if (!typed_ || !std::isnan(slope))
-        return true;
-    label->setText(QStringLiteral("no slope: f'(x) is undefined at x = ") + qTrimStr(x));
-    return false;
-}
-
-QString GraphScreen::typedTooLarge() { return QStringLiteral("cannot be computed: the numbers are too large"); }
-
-void GraphScreen::installTyped()
-{
-    if (config_.functionMenu)
-        FuncGlobals::TypedExplicit = typed_.get();
-}
-
 void GraphScreen::loadFunctionMenu()
 {
     using namespace FuncGlobals;
     FunctionId = 1;
-    FunctionCount = 15;
+    FunctionCount = ExplicitFamilyCount;
     for (int i = 1; i <= ExplicitFamilyCount; ++i)
         FuncCaption[i] = ExplicitCaption(i);
     fillMenuArray(

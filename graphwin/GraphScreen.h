@@ -85,7 +85,7 @@ public:
     QMenuBar* menuBar = nullptr;
     QAction *mnuFile = nullptr, *mnuAbout = nullptr, *sep1 = nullptr, *mnuExit = nullptr;
     QAction* mnuSelect = nullptr;
-    std::vector<QAction*> mnuFunc;  // index 0 is the design entry; 1 to 15 the families
+    std::vector<QAction*> mnuFunc;  // index 0 is the design entry; 1 to ExplicitFamilyCount the families
 
     // Graph window and plotting.
     virtual void CleanGraph();
@@ -363,6 +363,8 @@ private:
     // The explicit function's column walk (plotExplicit's drawing), for a typed function or a family.
     void drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool typed);
     void buildViewMenu();
+    // Stops the view (GraphViewer) from watching the surface, as the screen goes.
+    void leaveView();
     // Shows `limits` when they can be shown; `remember` puts the window in the history.
     bool moveView(const view::Limits& limits, bool remember);
     // Clears the picture (the screen's own clear) and draws `steps` again; what could not be drawn.
@@ -394,6 +396,8 @@ private:
     // handler runs.
     QAction* addToolsEntry(const QString& caption, QKeySequence key, std::function<void()> run);
     void buildLessonCommands();
+    // Leaves the screens whose menu bar shows where the lesson stands (as the screen goes).
+    void leaveLessonPlaces();
     void refreshLessonPlace();
     // Grows the menu bar and its menus with the form, and tells the style the form's zoom.
     void applyFormZoom(double zoom);

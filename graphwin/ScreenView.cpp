@@ -57,6 +57,13 @@ void GraphScreen::buildViewMenu()
     viewer_ = new GraphViewer(*this);
 }
 
+void GraphScreen::leaveView()
+{
+    // The surface outlives this part of the screen by a little: its last events must not reach the
+    // view, which asks the screen.
+    surface->removeEventFilter(viewer_);
+}
+
 std::optional<view::Limits> GraphScreen::shownWindow() const
 {
     const auto xmin = txtXmin->number(), xmax = txtXmax->number(), ymin = txtYmin->number(), ymax = txtYmax->number();

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A screen's menu bar: the File menu, the function menu's place, the Tools menu (typed functions,
+// projector mode, hearing the curve) with the lesson commands, which every screen shares, and the
+// place of the lesson shown at the bar's right. (The View menu: ScreenView.cpp.)
+#include <vector>
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "graphwin/Dialogs.h"
+#include "graphwin/GraphScreen.h"
+
+namespace {
+
+// The lesson commands that the program's owner of the lesson set, for every screen.
+GraphScreen::LessonCommands& lessonCommands()
+{
+    static GraphScreen::LessonCommands commands;
+    return commands;
+}
+
+// Every screen, each of whose menu bars shows where the lesson stands.
+std::vector<GraphScreen*>& allScreens()
+{
+    static std::vector<GraphScreen*> screens;
+    return screens;
+}
+
+}  // namespace
+
+QMenu* GraphScreen::addMenu(const QString& caption)
+{
+    // The Tools menu stays last: a screen's own menus go before it.
+    auto* menu = new QMenu(caption, menuBar);
+    menuBar->insertMenu(mnuTools, menu);
+    return menu;
+}
+
+void GraphScreen::buildMenus()
+{
+    const FileMenu file = addFileMenu(
+        menuBar, QStringLiteral("E&xit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
+    mnuFile = file.menu;
+    mnuAbout = file.about;
+    sep1 = file.separator;
+    mnuExit = file.exit;
+    if (config_.functionMenu) {
+        QMenu* select = addMenu(config_.functionMenuCaption);
+        mnuSelect = select->menuAction();
+        startMenuArray(select, mnuFunc);
+    }
+    buildToolsMenu();
+}
+
+QAction* GraphScreen::addToolsEntry(const QString& caption, QKeySequence key, std::function<void()> run)
+{
+    QAction* a = toolsMenu_->addAction(caption);
+    a->setShortcut(key);
+    a->setShortcutContext(Qt::WindowShortcut);
+    connect(a, &QAction::triggered, this, [run = std::move(run)] { guarded(run); });
+    return a;
+}
+
+void GraphScreen::buildToolsMenu()
+{
+    toolsMenu_ = menuBar->addMenu(QStringLiteral("&Tools"));
+    mnuTools = toolsMenu_->menuAction();
+    mnuTypeFunction =
+        addToolsEntry(config_.functionMenu ? QStringLiteral("&Type a Function...") : QStringLiteral("&Type..."),
+                      QKeySequence(Qt::CTRL | Qt::Key_E), [this] { mnuTypeFunction_Click(); });
+    mnuProjector = addToolsEntry(QStringLiteral("&Projector Mode"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+                                 [this] { mnuProjector_Click(); });
+    mnuProjector->setCheckable(true);
+    mnuHearCurve = addToolsEntry(QStringLiteral("&Hear the Curve"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H),
+                                 [this] { mnuHearCurve_Click(); });
+    surface->KeyDown = [this](int key, Qt::KeyboardModifiers modifiers) { return exploreKey(key, modifiers); };
+    // The mode belongs to the run: each screen's entry shows it as it is when its menu opens.
+    connect(toolsMenu_, &QMenu::aboutToShow, this,
+            [this] { mnuProjector->setChecked(DrawingSurface::projectorMode()); });
+    buildLessonCommands();
+    buildViewMenu();
+}
+
+void GraphScreen::setLessonCommands(LessonCommands commands)
+{
+    lessonCommands() = std::move(commands);
+    refreshLessonPlaces();
+}
+
+void GraphScreen::refreshLessonPlaces()
+{
+    for (GraphScreen* s : allScreens())
+        s->refreshLessonPlace();
+}
+
+void GraphScreen::refreshLessonPlace()
+{
+    const QString place = lessonCommands().place ? lessonCommands().place() : QString();
+    lblLessonPlace->setText(place);
+    lblLessonPlace->setVisible(!place.isEmpty());
+    const bool open = !place.isEmpty();
+    mnuNextStep->setEnabled(open);
+    mnuPreviousStep->setEnabled(open);
+    const bool owned = static_cast<bool>(lessonCommands().add);
+    mnuAddStep->setEnabled(owned);
+    mnuSaveLesson->setEnabled(owned);
+    mnuOpenLesson->setEnabled(owned);
+}
+
+void GraphScreen::buildLessonCommands()
+{
+    toolsMenu_->addSeparator();
+    mnuAddStep = addToolsEntry(QStringLiteral("&Add This Screen to the Lesson"),
+                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
+                                   if (lessonCommands().add)
+                                       lessonCommands().add(*this);
+                               });
+    mnuOpenLesson = addToolsEntry(QStringLiteral("&Open Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_O), [] {
+        if (lessonCommands().open)
+            lessonCommands().open();
+    });
+    mnuSaveLesson = addToolsEntry(QStringLiteral("&Save Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_S), [] {
+        if (lessonCommands().save)
+            lessonCommands().save();
+    });
+    // Page Down and Page Up, which every presentation clicker sends; only while a lesson is open.
+    mnuNextStep = addToolsEntry(QStringLiteral("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
+        if (lessonCommands().next)
+            lessonCommands().next();
+    });
+    mnuPreviousStep = addToolsEntry(QStringLiteral("Pre&vious Step"), QKeySequence(Qt::Key_PageUp), [] {
+        if (lessonCommands().previous)
+            lessonCommands().previous();
+    });
+    lblLessonPlace = new QLabel(menuBar);
+    lblLessonPlace->setContentsMargins(8, 0, 12, 0);
+    menuBar->setCornerWidget(lblLessonPlace, Qt::TopRightCorner);
+    allScreens().push_back(this);
+    refreshLessonPlace();
+}
+
+void GraphScreen::leaveLessonPlaces() { std::erase(allScreens(), this); }
+
+void GraphScreen::mnuProjector_Click()
+{
+    DrawingSurface::setProjectorMode(!DrawingSurface::projectorMode());
+    mnuProjector->setChecked(DrawingSurface::projectorMode());
+}

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A screen's typed function: its entry (Tools, Type a Function), the typed functions of the session
+// offered again in the Tools menu, the checks that say in words where a typed function or its slope
+// is undefined, and the function state a lesson keeps and gives back (a family or a typed text).
+#include <cmath>
+
+#include <QAction>
+#include <QJsonValue>
+#include <QLabel>
+#include <QMenu>
+
+#include "funclib/FuncGlobals.h"
+#include "graphwin/Dialogs.h"
+#include "graphwin/GraphScreen.h"
+
+QJsonObject GraphScreen::functionState() const
+{
+    if (!config_.functionMenu)
+        return {};
+    if (typed_)
+        return {{QStringLiteral("typed"), QString::fromStdString(typed_->f->text())}};
+    for (int i = 1; i <= FuncGlobals::ExplicitFamilyCount; ++i)
+        if (lblFunc->text() == QString::fromLatin1(FuncGlobals::ExplicitCaption(i)))
+            return {{QStringLiteral("family"), i}};
+    return {};
+}
+
+QString GraphScreen::checkFunctionState(const QJsonObject& state) const
+{
+    return checkFunctions(state, {{"family", "typed", FuncGlobals::ExplicitFamilyCount, {"x"}}});
+}
+
+void GraphScreen::setFunctionState(const QJsonObject& state)
+{
+    if (state.contains(QStringLiteral("typed")))
+        setTypedFunction(state.value(QStringLiteral("typed")).toString());
+    else if (state.contains(QStringLiteral("family")))
+        mnuFunc_Click(state.value(QStringLiteral("family")).toInt());
+}
+
+QString GraphScreen::checkFunctions(const QJsonObject& state, std::initializer_list<FunctionSlot> functions)
+{
+    QStringList known;
+    for (const FunctionSlot& slot : functions)
+        known << QString::fromLatin1(slot.family) << QString::fromLatin1(slot.typed);
+    for (auto it = state.begin(); it != state.end(); ++it)
+        if (!known.contains(it.key()))
+            return QStringLiteral("the screen has no function '%1'").arg(it.key());
+    for (const FunctionSlot& slot : functions) {
+        const QJsonValue family = state.value(QString::fromLatin1(slot.family));
+        const QJsonValue typed = state.value(QString::fromLatin1(slot.typed));
+        if (!family.isUndefined() && (!family.isDouble() || family.toDouble() != std::floor(family.toDouble()) ||
+                                      family.toDouble() < 1 || family.toDouble() > slot.count))
+            return QStringLiteral("'%1' is a family number from 1 to %2")
+                .arg(QString::fromLatin1(slot.family))
+                .arg(slot.count);
+        if (!typed.isUndefined()) {
+            std::string error;
+            if (!typed.isString() ||
+                !FuncGlobals::TypedExpression::compile(typed.toString().toStdString(), slot.variables, error))
+                return QStringLiteral("the function '%1' cannot be taken: %2")
+                    .arg(typed.toString(), QString::fromStdString(error));
+        }
+    }
+    return {};
+}
+
+void GraphScreen::rememberTyped(const QString& caption, std::function<void()> apply)
+{
+    for (QAction* old : history_)
+        if (old->text() == caption) {
+            history_.removeOne(old);
+            delete old;
+            break;
+        }
+    if (!historySeparator_)
+        historySeparator_ = toolsMenu_->insertSeparator(nullptr);
+    QAction* before = history_.isEmpty() ? nullptr : history_.front();
+    auto* action = new QAction(caption, toolsMenu_);
+    connect(action, &QAction::triggered, this, [this, apply] {
+        guarded([this, &apply] {
+            apply();
+            refreshDescription();
+        });
+    });
+    toolsMenu_->insertAction(before, action);
+    history_.prepend(action);
+    constexpr int kRemembered = 8;
+    while (history_.size() > kRemembered)
+        delete history_.takeLast();
+}
+
+void GraphScreen::runTypedEntry(TypedEntryLayout entry, const std::function<QString(const QStringList&)>& take)
+{
+    const std::optional<QStringList> texts = openTypedEntry(this, entry);
+    if (!texts)
+        return;
+    const QString refusal = take(*texts);
+    if (!refusal.isEmpty())
+        MsgBox(refusal, QStringLiteral("Typed function"));
+    refreshDescription();
+}
+
+void GraphScreen::mnuTypeFunction_Click()
+{
+    if (!config_.functionMenu)
+        return;
+    TypedEntryLayout entry;
+    entry.title = QStringLiteral("Type a function y = f(x)");
+    entry.fields = {QStringLiteral("y =")};
+    entry.initial = {typed_ ? QString::fromStdString(typed_->f->text()) : QString()};
+    entry.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")},
+                      {QStringLiteral("x^3 - 2*x - 5")},
+                      {QStringLiteral("exp(-x^2)")},
+                      {QStringLiteral("sin(x)/x")},
+                      {QStringLiteral("ln(x)")},
+                      {QStringLiteral("sqrt(4 - x^2)")},
+                      {QStringLiteral("abs(x)")},
+                      {QStringLiteral("1/(1 + x^2)")}};
+    entry.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
+    entry.check = [](const QStringList& texts, QString& preview) {
+        std::string error;
+        const auto f = FuncGlobals::TypedFunction::make(texts.value(0).toStdString(), error);
+        if (!f)
+            return QString::fromStdString(error);
+        preview = QStringLiteral("Understood: y = ") + QString::fromStdString(f->f->understood()) +
+                  QStringLiteral("\nDerivative: y' = ") + QString::fromStdString(f->f->derivativeText());
+        return QString();
+    };
+    runTypedEntry(entry, [this](const QStringList& texts) { return setTypedFunction(texts.value(0)); });
+}
+
+QString GraphScreen::setTypedFunction(const QString& text)
+{
+    if (!config_.functionMenu)
+        return QStringLiteral("This screen does not graph a function y = f(x).");
+    std::string error;
+    auto made = FuncGlobals::TypedFunction::make(text.toStdString(), error);
+    if (!made)
+        return QString::fromStdString(error);
+    typed_ = std::move(made);
+    installTyped();
+    lblFunc->setText(QStringLiteral("y = ") + text.trimmed());
+    functionReplaced();
+    rememberTyped(QStringLiteral("y = ") + text.trimmed(), [this, text] { setTypedFunction(text); });
+    return QString();
+}
+
+bool GraphScreen::typedDefinedAt(std::initializer_list<double> xs, QLabel* label, const QString& before) const
+{
+    if (!typed_)
+        return true;
+    for (double x : xs)
+        if (std::isnan(typed_->value(x))) {
+            label->setText(before + QStringLiteral("undefined: no f(x) at x = ") + qTrimStr(x));
+            return false;
+        }
+    return true;
+}
+
+bool GraphScreen::typedSlopeAt(double slope, double x, QLabel* label) const
+{
+    if (!typed_ || !std::isnan(slope))
+        return true;
+    label->setText(QStringLiteral("no slope: f'(x) is undefined at x = ") + qTrimStr(x));
+    return false;
+}
+
+QString GraphScreen::typedTooLarge() { return QStringLiteral("cannot be computed: the numbers are too large"); }
+
+void GraphScreen::installTyped()
+{
+    if (config_.functionMenu)
+        FuncGlobals::TypedExplicit = typed_.get();
+}
