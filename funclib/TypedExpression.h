@@ -7,7 +7,8 @@
 // The text is read by our own small grammar, so that every refusal names its place ("unknown name
 // 'sinn' at 1") and the precedence is the textbook's: ^ binds tighter than unary minus and groups
 // to the right, ln and log are the natural logarithm, e and pi are constants, and a product must
-// be written with * ("2x" is refused with a message that says to write 2*x). The parsed tree is
+// be written with * ("2x" is refused with a message that says to write 2*x), and the functions are
+// the rows of the table in TypedFunctions.h (a name not in it is refused). The parsed tree is
 // handed, fully parenthesised, to muparser, which compiles it to byte code (tens of nanoseconds a
 // point), and to GiNaC, which differentiates it symbolically; the derivative goes back to muparser
 // the same way. Evaluation never raises: a point where the expression is undefined or not finite

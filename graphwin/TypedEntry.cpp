@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "funclib/TypedFunctions.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormStyle.h"
 
@@ -18,9 +19,8 @@ QString typedNamesHelp(const QString& variables, const QString& coefficients)
 {
     return QStringLiteral("Use %1, the coefficients %2, the numbers e and pi, + - * / and ^ (a power, "
                           "taken before a minus sign: -x^2 is -(x^2)). Write every product with *, as 2*x. "
-                          "Functions: sin cos tan cot sec csc asin acos atan sinh cosh tanh exp sqrt abs, "
-                          "and ln or log, both the natural logarithm.")
-        .arg(variables, coefficients);
+                          "Functions: %3.")
+        .arg(variables, coefficients, QString::fromStdString(FuncGlobals::typedFunctionsHelp()));
 }
 
 std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayout& entry)
