@@ -402,14 +402,21 @@ void GraphScreen::lblD_MouseDown(int Button, int, double, double) { stepCoeffici
 void GraphScreen::lblE_MouseDown(int Button, int, double, double) { stepCoefficient(4, Button); }
 void GraphScreen::lblF_MouseDown(int Button, int, double, double) { stepCoefficient(5, Button); }
 
+bool GraphScreen::stepFamily(std::int16_t& id, int Button, int count)
+{
+    if (Button == LeftButton)
+        id = rt::CInt(rt::Mod(id + 1, count));
+    else if (Button == RightButton)
+        id = rt::CInt(rt::Mod(id - 1, count));
+    else
+        return false;
+    return true;
+}
+
 void GraphScreen::lblFunc_MouseDown(int Button, int, double, double)
 {
     using namespace FuncGlobals;
-    if (Button == LeftButton)
-        FunctionId = rt::CInt(rt::Mod(FunctionId + 1, FunctionCount));
-    else if (Button == RightButton)
-        FunctionId = rt::CInt(rt::Mod(FunctionId - 1, FunctionCount));
-    else
+    if (!stepFamily(FunctionId, Button, FunctionCount))
         return;
     if (FunctionId == 0)
         FunctionId = FunctionCount;
@@ -429,6 +436,7 @@ void GraphScreen::mnuFunc_Click(int Index)
     const std::string& caption = FuncCaption[FunctionId];
     if (lblFunc)
         lblFunc->setText(QString::fromStdString(caption));
+    shownFamily_ = FunctionId;
 }
 
 void GraphScreen::showHelp(std::initializer_list<std::pair<const char*, const char*>> boxes)

@@ -174,10 +174,11 @@ public:
     // The screen's function, for a lesson: {"family": n} for the family its label shows,
     // {"typed": text} for a typed one, {} while it shows none. The slope-field and parametric
     // screens name their two functions. `checkFunctionState` says why a state cannot be taken ("" when
-    // it can); `setFunctionState` does what choosing it by hand does.
-    virtual QJsonObject functionState() const;
-    virtual QString checkFunctionState(const QJsonObject& state) const;
-    virtual void setFunctionState(const QJsonObject& state);
+    // it can); `setFunctionState` does what choosing it by hand does. All three read the screen's
+    // `functionParts()`.
+    QJsonObject functionState() const;
+    QString checkFunctionState(const QJsonObject& state) const;
+    void setFunctionState(const QJsonObject& state);
 
     // Lessons: the commands of the Tools menu run what the program's owner of the lesson set here
     // (the lesson belongs to the run, not to one screen). `place` says where the lesson stands
@@ -305,15 +306,29 @@ protected:
             fault(error);
         }
     }
-    // Checks a lesson's function state against the screen's functions: each slot has a family key
-    // (a number from 1 to `count`) and a typed key (a text in `variables` and the coefficients).
-    struct FunctionSlot {
+    // One part of the screen's function (the explicit function; dy or dx; x(t) or y(t)), as a lesson
+    // keeps it: the keys of its family number (1 to `count`) and of its typed text (in `variables`
+    // and the coefficients), the family its label shows now (0: none) and how one is chosen.
+    struct FunctionPart {
         const char* family;
         const char* typed;
         int count;
         FuncGlobals::VariableNames variables;
+        int shown;
+        std::function<void(int)> choose;
     };
-    static QString checkFunctions(const QJsonObject& state, std::initializer_list<FunctionSlot> functions);
+    // A press on a function label: the left button moves `id` to the next family, the right to the
+    // one before (wrapping by Mod of `count`, so 0 can come out: the caller decides what 0 means);
+    // false, and `id` unchanged, for another button.
+    static bool stepFamily(std::int16_t& id, int Button, int count);
+    // The screen's parts, in order (none on a screen without a function menu).
+    virtual std::vector<FunctionPart> functionParts();
+    // The typed texts in use, one a part, or none while the families are.
+    virtual QStringList typedTexts() const;
+    // Takes typed texts for all the parts at once, as the entry's OK does: "" or the refusal.
+    virtual QString setTypedTexts(const QStringList& texts);
+    // The family the function label shows (0 before one is chosen).
+    int shownFamily_ = 0;
     // Offers `caption` again in the Tools menu (the session's typed functions, newest first); the
     // entry runs `apply`.
     void rememberTyped(const QString& caption, std::function<void()> apply);

@@ -13,51 +13,62 @@
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
 
-QJsonObject GraphScreen::functionState() const
+std::vector<GraphScreen::FunctionPart> GraphScreen::functionParts()
 {
     if (!config_.functionMenu)
         return {};
-    if (typed_)
-        return {{QStringLiteral("typed"), QString::fromStdString(typed_->f->text())}};
-    for (int i = 1; i <= FuncGlobals::ExplicitFamilyCount; ++i)
-        if (lblFunc->text() == QString::fromLatin1(FuncGlobals::ExplicitCaption(i)))
-            return {{QStringLiteral("family"), i}};
-    return {};
+    return {{"family", "typed", FuncGlobals::ExplicitFamilyCount, {"x"}, shownFamily_,
+             [this](int family) { mnuFunc_Click(family); }}};
+}
+
+QStringList GraphScreen::typedTexts() const
+{
+    return typed_ ? QStringList{QString::fromStdString(typed_->f->text())} : QStringList{};
+}
+
+QString GraphScreen::setTypedTexts(const QStringList& texts) { return setTypedFunction(texts.value(0)); }
+
+QJsonObject GraphScreen::functionState() const
+{
+    const std::vector<FunctionPart> parts = const_cast<GraphScreen*>(this)->functionParts();
+    const QStringList typed = typedTexts();
+    QJsonObject state;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        if (!typed.isEmpty())
+            state.insert(QString::fromLatin1(parts[i].typed), typed.value(static_cast<qsizetype>(i)));
+        else if (parts[i].shown >= 1)
+            state.insert(QString::fromLatin1(parts[i].family), parts[i].shown);
+    }
+    return state;
 }
 
 QString GraphScreen::checkFunctionState(const QJsonObject& state) const
 {
-    return checkFunctions(state, {{"family", "typed", FuncGlobals::ExplicitFamilyCount, {"x"}}});
-}
-
-void GraphScreen::setFunctionState(const QJsonObject& state)
-{
-    if (state.contains(QStringLiteral("typed")))
-        setTypedFunction(state.value(QStringLiteral("typed")).toString());
-    else if (state.contains(QStringLiteral("family")))
-        mnuFunc_Click(state.value(QStringLiteral("family")).toInt());
-}
-
-QString GraphScreen::checkFunctions(const QJsonObject& state, std::initializer_list<FunctionSlot> functions)
-{
-    QStringList known;
-    for (const FunctionSlot& slot : functions)
-        known << QString::fromLatin1(slot.family) << QString::fromLatin1(slot.typed);
+    const std::vector<FunctionPart> parts = const_cast<GraphScreen*>(this)->functionParts();
+    QStringList known, typedKeys;
+    int typedGiven = 0;
+    for (const FunctionPart& part : parts) {
+        known << QString::fromLatin1(part.family) << QString::fromLatin1(part.typed);
+        typedKeys << QString::fromLatin1(part.typed);
+        typedGiven += state.contains(QString::fromLatin1(part.typed));
+    }
     for (auto it = state.begin(); it != state.end(); ++it)
         if (!known.contains(it.key()))
             return QStringLiteral("the screen has no function '%1'").arg(it.key());
-    for (const FunctionSlot& slot : functions) {
-        const QJsonValue family = state.value(QString::fromLatin1(slot.family));
-        const QJsonValue typed = state.value(QString::fromLatin1(slot.typed));
+    if (typedGiven != 0 && typedGiven != static_cast<int>(parts.size()))
+        return QStringLiteral("a typed function names every part: %1").arg(typedKeys.join(QStringLiteral(" and ")));
+    for (const FunctionPart& part : parts) {
+        const QJsonValue family = state.value(QString::fromLatin1(part.family));
+        const QJsonValue typed = state.value(QString::fromLatin1(part.typed));
         if (!family.isUndefined() && (!family.isDouble() || family.toDouble() != std::floor(family.toDouble()) ||
-                                      family.toDouble() < 1 || family.toDouble() > slot.count))
+                                      family.toDouble() < 1 || family.toDouble() > part.count))
             return QStringLiteral("'%1' is a family number from 1 to %2")
-                .arg(QString::fromLatin1(slot.family))
-                .arg(slot.count);
+                .arg(QString::fromLatin1(part.family))
+                .arg(part.count);
         if (!typed.isUndefined()) {
             std::string error;
             if (!typed.isString() ||
-                !FuncGlobals::TypedExpression::compile(typed.toString().toStdString(), slot.variables, error))
+                !FuncGlobals::TypedExpression::compile(typed.toString().toStdString(), part.variables, error))
                 return QStringLiteral("the function '%1' cannot be taken: %2")
                     .arg(typed.toString(), QString::fromStdString(error));
         }
@@ -65,10 +76,26 @@ QString GraphScreen::checkFunctions(const QJsonObject& state, std::initializer_l
     return {};
 }
 
+void GraphScreen::setFunctionState(const QJsonObject& state)
+{
+    const std::vector<FunctionPart> parts = functionParts();
+    if (!parts.empty() && state.contains(QString::fromLatin1(parts.front().typed))) {
+        QStringList texts;
+        for (const FunctionPart& part : parts)
+            texts << state.value(QString::fromLatin1(part.typed)).toString();
+        setTypedTexts(texts);
+        return;
+    }
+    for (const FunctionPart& part : parts)
+        if (state.contains(QString::fromLatin1(part.family)))
+            part.choose(state.value(QString::fromLatin1(part.family)).toInt());
+}
+
 void GraphScreen::rememberTyped(const QString& caption, std::function<void()> apply)
 {
+    // An entry is known by the words it was made from (kept as its data), not by what its menu shows.
     for (QAction* old : history_)
-        if (old->text() == caption) {
+        if (old->data().toString() == caption) {
             history_.removeOne(old);
             delete old;
             break;
@@ -77,6 +104,7 @@ void GraphScreen::rememberTyped(const QString& caption, std::function<void()> ap
         historySeparator_ = toolsMenu_->insertSeparator(nullptr);
     QAction* before = history_.isEmpty() ? nullptr : history_.front();
     auto* action = new QAction(caption, toolsMenu_);
+    action->setData(caption);
     connect(action, &QAction::triggered, this, [this, apply] {
         guarded([this, &apply] {
             apply();

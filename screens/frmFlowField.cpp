@@ -114,6 +114,7 @@ void frmFlowField::mnuDy_Click(int Index)
     DyFuncId = rt::CInt(Index);
     lbldx->setText(QString::fromStdString(DxCaptions[DxFuncId]));
     lbldy->setText(QString::fromStdString(DyCaptions[DyFuncId]));
+    shownRates_ = {DyFuncId, DxFuncId};
     ShowDyDx();
 }
 
@@ -125,17 +126,14 @@ void frmFlowField::mnuDx_Click(int Index)
     DxFuncId = rt::CInt(Index);
     lbldx->setText(QString::fromStdString(DxCaptions[DxFuncId]));
     lbldy->setText(QString::fromStdString(DyCaptions[DyFuncId]));
+    shownRates_ = {DyFuncId, DxFuncId};
     ShowDyDx();
 }
 
 void frmFlowField::lbldy_MouseDown(int Button, int, double, double)
 {
     using namespace FuncGlobals;
-    if (Button == LeftButton)
-        DyFuncId = rt::CInt(rt::Mod(DyFuncId + 1, FamilyCount));
-    else if (Button == RightButton)
-        DyFuncId = rt::CInt(rt::Mod(DyFuncId - 1, FamilyCount));
-    else
+    if (!stepFamily(DyFuncId, Button, FamilyCount))
         return;
     if (DyFuncId == 0)
         DyFuncId = RateFamilyCount;
@@ -145,11 +143,7 @@ void frmFlowField::lbldy_MouseDown(int Button, int, double, double)
 void frmFlowField::lbldx_MouseDown(int Button, int, double, double)
 {
     using namespace FuncGlobals;
-    if (Button == LeftButton)
-        DxFuncId = rt::CInt(rt::Mod(DxFuncId + 1, FamilyCount));
-    else if (Button == RightButton)
-        DxFuncId = rt::CInt(rt::Mod(DxFuncId - 1, FamilyCount));
-    else
+    if (!stepFamily(DxFuncId, Button, FamilyCount))
         return;
     if (DyFuncId == 0)  // the dy number, deliberately: dx can be left at 0
         DxFuncId = RateFamilyCount;
@@ -174,40 +168,17 @@ frmFlowField::~frmFlowField()
         FuncGlobals::TypedRate = nullptr;
 }
 
-QJsonObject frmFlowField::functionState() const
+std::vector<GraphScreen::FunctionPart> frmFlowField::functionParts()
 {
-    if (typedRates_)
-        return {{QStringLiteral("dyTyped"), QString::fromStdString(typedRates_->dy->text())},
-                {QStringLiteral("dxTyped"), QString::fromStdString(typedRates_->dx->text())}};
-    QJsonObject state;
-    for (int i = 1; i <= FuncGlobals::RateFamilyCount; ++i) {
-        if (lbldy->text() == QString::fromLatin1(FuncGlobals::DyCaption(i)))
-            state.insert(QStringLiteral("dy"), i);
-        if (lbldx->text() == QString::fromLatin1(FuncGlobals::DxCaption(i)))
-            state.insert(QStringLiteral("dx"), i);
-    }
-    return state;
+    return {{"dy", "dyTyped", FuncGlobals::RateFamilyCount, {"x", "y"}, shownRates_[0], [this](int i) { mnuDy_Click(i); }},
+            {"dx", "dxTyped", FuncGlobals::RateFamilyCount, {"x", "y"}, shownRates_[1], [this](int i) { mnuDx_Click(i); }}};
 }
 
-QString frmFlowField::checkFunctionState(const QJsonObject& state) const
+QStringList frmFlowField::typedTexts() const
 {
-    if (state.contains(QStringLiteral("dyTyped")) != state.contains(QStringLiteral("dxTyped")))
-        return QStringLiteral("typed rates name both dyTyped and dxTyped");
-    return checkFunctions(state, {{"dy", "dyTyped", FuncGlobals::RateFamilyCount, {"x", "y"}},
-                                  {"dx", "dxTyped", FuncGlobals::RateFamilyCount, {"x", "y"}}});
-}
-
-void frmFlowField::setFunctionState(const QJsonObject& state)
-{
-    if (state.contains(QStringLiteral("dyTyped"))) {
-        setTypedRates(state.value(QStringLiteral("dyTyped")).toString(),
-                      state.value(QStringLiteral("dxTyped")).toString());
-        return;
-    }
-    if (state.contains(QStringLiteral("dy")))
-        mnuDy_Click(state.value(QStringLiteral("dy")).toInt());
-    if (state.contains(QStringLiteral("dx")))
-        mnuDx_Click(state.value(QStringLiteral("dx")).toInt());
+    if (!typedRates_)
+        return {};
+    return {QString::fromStdString(typedRates_->dy->text()), QString::fromStdString(typedRates_->dx->text())};
 }
 
 void frmFlowField::installTyped() { FuncGlobals::TypedRate = typedRates_.get(); }

@@ -100,15 +100,16 @@ public:
     void mnuTypeFunction_Click() override;
     bool typedInUse() const override { return typedRates_ != nullptr; }
     // For a lesson: {"dy": n, "dx": m} (the families the labels show) or {"dyTyped": .., "dxTyped": ..}.
-    QJsonObject functionState() const override;
-    QString checkFunctionState(const QJsonObject& state) const override;
-    void setFunctionState(const QJsonObject& state) override;
+    std::vector<FunctionPart> functionParts() override;
+    QStringList typedTexts() const override;
+    QString setTypedTexts(const QStringList& texts) override { return setTypedRates(texts.value(0), texts.value(1)); }
 
 protected:
     void installTyped() override;
 
 private:
     std::shared_ptr<const FuncGlobals::TypedRates> typedRates_;
+    std::array<int, 2> shownRates_{};  // the dy and dx families the labels show
     // A curve from a press, guarded: with typed rates a curve that meets an undefined rate stops and
     // the end point label says so.
     void startCurve(int Button, double X, double Y);

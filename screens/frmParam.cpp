@@ -109,6 +109,7 @@ void frmParam::mnuXFunc_Click(int Index)
     installTyped();
     FuncGlobals::XtFuncId = rt::CInt(Index);
     lblXPar->setText(QString::fromStdString(XCaptions[FuncGlobals::XtFuncId]));
+    shownCurve_[0] = FuncGlobals::XtFuncId;
 }
 
 void frmParam::mnuYFunc_Click(int Index)
@@ -117,6 +118,7 @@ void frmParam::mnuYFunc_Click(int Index)
     installTyped();
     FuncGlobals::YtFuncId = rt::CInt(Index);
     lblYPar->setText(QString::fromStdString(YCaptions[FuncGlobals::YtFuncId]));
+    shownCurve_[1] = FuncGlobals::YtFuncId;
 }
 
 void frmParam::lblXPar_MouseDown(int, int, double, double)
@@ -272,40 +274,17 @@ frmParam::~frmParam()
         FuncGlobals::TypedParametric = nullptr;
 }
 
-QJsonObject frmParam::functionState() const
+std::vector<GraphScreen::FunctionPart> frmParam::functionParts()
 {
-    if (typedCurve_)
-        return {{QStringLiteral("xTyped"), QString::fromStdString(typedCurve_->x->text())},
-                {QStringLiteral("yTyped"), QString::fromStdString(typedCurve_->y->text())}};
-    QJsonObject state;
-    for (int i = 1; i <= FuncGlobals::ParametricFamilyCount; ++i) {
-        if (lblXPar->text() == QString::fromLatin1(FuncGlobals::XtCaption(i)))
-            state.insert(QStringLiteral("x"), i);
-        if (lblYPar->text() == QString::fromLatin1(FuncGlobals::YtCaption(i)))
-            state.insert(QStringLiteral("y"), i);
-    }
-    return state;
+    return {{"x", "xTyped", FuncGlobals::ParametricFamilyCount, {"t"}, shownCurve_[0], [this](int i) { mnuXFunc_Click(i); }},
+            {"y", "yTyped", FuncGlobals::ParametricFamilyCount, {"t"}, shownCurve_[1], [this](int i) { mnuYFunc_Click(i); }}};
 }
 
-QString frmParam::checkFunctionState(const QJsonObject& state) const
+QStringList frmParam::typedTexts() const
 {
-    if (state.contains(QStringLiteral("xTyped")) != state.contains(QStringLiteral("yTyped")))
-        return QStringLiteral("a typed curve names both xTyped and yTyped");
-    return checkFunctions(state, {{"x", "xTyped", FuncGlobals::ParametricFamilyCount, {"t"}},
-                                  {"y", "yTyped", FuncGlobals::ParametricFamilyCount, {"t"}}});
-}
-
-void frmParam::setFunctionState(const QJsonObject& state)
-{
-    if (state.contains(QStringLiteral("xTyped"))) {
-        setTypedCurve(state.value(QStringLiteral("xTyped")).toString(),
-                      state.value(QStringLiteral("yTyped")).toString());
-        return;
-    }
-    if (state.contains(QStringLiteral("x")))
-        mnuXFunc_Click(state.value(QStringLiteral("x")).toInt());
-    if (state.contains(QStringLiteral("y")))
-        mnuYFunc_Click(state.value(QStringLiteral("y")).toInt());
+    if (!typedCurve_)
+        return {};
+    return {QString::fromStdString(typedCurve_->x->text()), QString::fromStdString(typedCurve_->y->text())};
 }
 
 void frmParam::installTyped() { FuncGlobals::TypedParametric = typedCurve_.get(); }

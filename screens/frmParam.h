@@ -2,6 +2,7 @@
 #pragma once
 // Parametric curves x(t), y(t) from two catalogues of twelve families, drawn as points or joined,
 // and traced by a t typed into a box or chosen with a slider.
+#include <array>
 #include <string>
 #include <vector>
 
@@ -69,15 +70,16 @@ public:
     void mnuTypeFunction_Click() override;
     bool typedInUse() const override { return typedCurve_ != nullptr; }
     // For a lesson: {"x": n, "y": m} (the families the captions show) or {"xTyped": .., "yTyped": ..}.
-    QJsonObject functionState() const override;
-    QString checkFunctionState(const QJsonObject& state) const override;
-    void setFunctionState(const QJsonObject& state) override;
+    std::vector<FunctionPart> functionParts() override;
+    QStringList typedTexts() const override;
+    QString setTypedTexts(const QStringList& texts) override { return setTypedCurve(texts.value(0), texts.value(1)); }
 
 protected:
     void installTyped() override;
 
 private:
     std::shared_ptr<const FuncGlobals::TypedCurve> typedCurve_;
+    std::array<int, 2> shownCurve_{4, 5};  // the x and y families the captions show
     // The curve's plot over t: `at(t)` gives the twip point of t, and a connected segment (or the
     // first point) is drawn only where `from` holds for its start.
     template <class At, class From>
