@@ -33,7 +33,7 @@ public:
     ClickLabel *lbldy = nullptr, *lbldx = nullptr;
     QWidget* shpDyDx = nullptr;
     QAction *mnuSelectdy = nullptr, *mnuseldx = nullptr;
-    std::vector<QAction*> mnuDy, mnuDx;  // index 0 is the design entry; 1 to 15 the families
+    std::vector<QAction*> mnuDy, mnuDx;  // index 0 is the design entry; 1 to RateFamilyCount the families
 
     // The method options, each with the step method it selects (a key of funclib/StepMethods.h) and
     // the colour number the plot button gives its approximations.

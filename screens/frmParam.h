@@ -17,7 +17,7 @@ public:
     frmParam();
 
     QAction *mnuSelectX = nullptr, *mnuSelectY = nullptr;
-    std::vector<QAction*> mnuXFunc, mnuYFunc;  // index 0 is the design entry; 1 to 12 the families
+    std::vector<QAction*> mnuXFunc, mnuYFunc;  // index 0 is the design entry; 1 to ParametricFamilyCount the families
     ClickLabel *lblXPar = nullptr, *lblYPar = nullptr, *lblInstruct = nullptr;
     QGroupBox *fraSetup = nullptr, *fraTrace = nullptr;
     ClickLabel *lblT0 = nullptr, *lblFinalT = nullptr, *lblTstep = nullptr, *lbltTrace = nullptr;

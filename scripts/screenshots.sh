@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes the README's screenshots of the launcher and all eight screens from the program itself,
+# Makes the README's screenshots of the launcher and every screen of the registry from the program itself,
 # headless, into docs/ (100%) and docs/hidpi/ (200%).
 set -euo pipefail
 cd "$(dirname "$0")/.."
