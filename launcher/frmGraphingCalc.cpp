@@ -116,7 +116,7 @@ frmGraphingCalc::~frmGraphingCalc()
 
 void frmGraphingCalc::addScreen(const screens::Entry& entry)
 {
-    auto open = [this, &entry] { showScreen(screen(entry)); };
+    auto open = [this, &entry] { openScreen(entry); };
     QPushButton* b = makeButton(this, QString::fromUtf8(entry.button), open);
     // Keep the buttons in teaching order, two to a row, whichever screens exist.
     b->setProperty("place", entry.place);

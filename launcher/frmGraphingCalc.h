@@ -87,6 +87,8 @@ public:
     // The screens, each created (loaded) on first use, by their row in the registry or its key.
     GraphScreen& screen(const screens::Entry& entry);
     GraphScreen& screen(const char* key);
+    // Shows a screen modally, as its button does.
+    void openScreen(const screens::Entry& entry) { showScreen(screen(entry)); }
     frmClasses& classesScreen() { return static_cast<frmClasses&>(screen("grapher")); }
     frmRiemann& riemannScreen() { return static_cast<frmRiemann&>(screen("sums")); }
     frmNewton& newtonScreen() { return static_cast<frmNewton&>(screen("newton")); }

@@ -42,9 +42,16 @@ const char* const kQtOptions[][2] = {{"platform", "name"},
                                      {"fontengine", "engine"},
                                      {"im", "server"}};
 
-// Answers --help and --version, or an unknown option, before any window exists (so that they work
-// without a display). Returns the exit status to end with, or -1 to start the program.
-int answerCommandLine(int argc, char* argv[])
+// What the command line asks the program to open once the launcher is up.
+struct Opening {
+    QString lesson;  // a lesson's path, or ""
+    const screens::Entry* screen = nullptr;  // a screen to show, or none
+};
+
+// Answers --help, --version and --screens, or an unknown option or screen, before any window exists
+// (so that they work without a display). Returns the exit status to end with, or -1 to start the
+// program with `opening`.
+int answerCommandLine(int argc, char* argv[], Opening& opening)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -60,6 +67,13 @@ int answerCommandLine(int argc, char* argv[])
                                   QStringLiteral("Lists the demonstration screens: key, button and menu entry, "
                                                  "separated by tabs, one screen a line, in teaching order."));
     parser.addOption(list);
+    QStringList keys;
+    for (const screens::Entry* e : screens::inTeachingOrder())
+        keys << QString::fromLatin1(e->key);
+    const QCommandLineOption screen(QStringLiteral("screen"),
+                                    QStringLiteral("Opens a screen at the start: %1.").arg(keys.join(QStringLiteral(", "))),
+                                    QStringLiteral("name"));
+    parser.addOption(screen);
     for (const auto& [name, value] : kQtOptions) {
         QCommandLineOption qt(QString::fromLatin1(name), QString(), value ? QString::fromLatin1(value) : QString());
         qt.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -94,6 +108,15 @@ int answerCommandLine(int argc, char* argv[])
                      qPrintable(usage));
         return 2;
     }
+    if (parser.isSet(screen)) {
+        opening.screen = screens::find(parser.value(screen));
+        if (!opening.screen) {
+            std::fprintf(stderr, "plotto: no screen '%s' (the screens are %s)\n", qPrintable(parser.value(screen)),
+                         qPrintable(keys.join(QStringLiteral(", "))));
+            return 2;
+        }
+    }
+    opening.lesson = parser.positionalArguments().value(0);
     return -1;
 }
 
@@ -103,7 +126,8 @@ int main(int argc, char* argv[])
 {
     QCoreApplication::setApplicationName(QStringLiteral("plotto"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PLOTTO_VERSION));
-    if (const int status = answerCommandLine(argc, argv); status >= 0)
+    Opening opening;
+    if (const int status = answerCommandLine(argc, argv, opening); status >= 0)
         return status;
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Plotto"));
@@ -112,14 +136,15 @@ int main(int argc, char* argv[])
     QApplication::setFont(QFont(QStringLiteral("Times New Roman"), 10));
     frmGraphingCalc launcher;
     launcher.show();
-    // A lesson named on the command line (or opened from the file manager) opens once the launcher is up.
-    const QStringList arguments = QCoreApplication::arguments();
-    QString lessonPath;
-    for (int i = 1; i < arguments.size(); ++i)
-        if (!arguments[i].startsWith(QLatin1Char('-')))
-            lessonPath = arguments[i];
-    if (!lessonPath.isEmpty())
-        QTimer::singleShot(0, &launcher,
-                           [&launcher, lessonPath] { guarded([&] { launcher.openLesson(lessonPath); }); });
+    // A lesson named on the command line (or opened from the file manager), or a screen asked for by
+    // --screen, opens once the launcher is up.
+    if (!opening.lesson.isEmpty())
+        QTimer::singleShot(0, &launcher, [&launcher, path = opening.lesson] {
+            guarded([&] { launcher.openLesson(path); });
+        });
+    else if (opening.screen)
+        QTimer::singleShot(0, &launcher, [&launcher, entry = opening.screen] {
+            guarded([&] { launcher.openScreen(*entry); });
+        });
     return QApplication::exec();
 }
