@@ -32,29 +32,30 @@ inline constexpr double kUndefined = std::numeric_limits<double>::quiet_NaN();
 // overflow or division by zero on the way raises the run-time error.
 struct Explicit {
     const char* caption;
+    const char* typed;  // the same formula as a typed function in x and A to E (for its exact derivatives)
     double (*value)(double x, K k);
     double (*slope)(double x, K k);
 };
 
 inline constexpr Explicit kExplicit[] = {
-    {"y = A * (Bx - C)^2 + D",
+    {"y = A * (Bx - C)^2 + D", "A*(B*x - C)^2 + D",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x - k.C);
          return Chk(u * k.A * u + k.D);
      },
      [](double x, K k) -> double { return Chk((k.A + k.A) * k.B * Chk(k.B * x - k.C)); }},
-    {"y = Ax^2 + Bx + C", [](double x, K k) -> double { return Chk(k.A * x * x + k.B * x + k.C); },
+    {"y = Ax^2 + Bx + C", "A*x^2 + B*x + C", [](double x, K k) -> double { return Chk(k.A * x * x + k.B * x + k.C); },
      [](double x, K k) -> double { return Chk((k.A + k.A) * x + k.B); }},
-    {"y = A(Bx - C)^3 + D",
+    {"y = A(Bx - C)^3 + D", "A*(B*x - C)^3 + D",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x - k.C);
          return Chk(Pow(u, 3.0) * k.A + k.D);
      },
      [](double x, K k) -> double { return Chk(Pow(Chk(k.B * x - k.C), 2.0) * (k.A * 3 * k.B)); }},
-    {"y = Ax^3 + Bx^2 + Cx + D",
+    {"y = Ax^3 + Bx^2 + Cx + D", "A*x^3 + B*x^2 + C*x + D",
      [](double x, K k) -> double { return Chk(Pow(x, 3.0) * k.A + k.B * x * x + k.C * x + k.D); },
      [](double x, K k) -> double { return Chk(Pow(x, 2.0) * (k.A * 3) + (k.B + k.B) * x + k.C); }},
-    {"y = A*Sin(Bx + C) + Dx + E",
+    {"y = A*Sin(Bx + C) + Dx + E", "A*sin(B*x + C) + D*x + E",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.D * x + k.A * std::sin(u) + k.E);
@@ -63,7 +64,7 @@ inline constexpr Explicit kExplicit[] = {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * std::cos(u) + k.D);
      }},
-    {"y = A*Cos(Bx + C) + Dx + E",
+    {"y = A*Cos(Bx + C) + Dx + E", "A*cos(B*x + C) + D*x + E",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.D * x + k.A * std::cos(u) + k.E);
@@ -72,7 +73,7 @@ inline constexpr Explicit kExplicit[] = {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * (-1.0) * std::sin(u) + k.D);
      }},
-    {"y = A*Tan(Bx + C) + Dx + E",
+    {"y = A*Tan(Bx + C) + Dx + E", "A*tan(B*x + C) + D*x + E",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.D * x + k.A * std::tan(u) + k.E);
@@ -81,7 +82,7 @@ inline constexpr Explicit kExplicit[] = {
          const double u = Chk(k.B * x + k.C);
          return Div(Chk(k.B * k.A), Pow(std::cos(u), 2.0));
      }},
-    {"y = A*Ln(Bx + C) + D",
+    {"y = A*Ln(Bx + C) + D", "A*ln(B*x + C) + D",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          if (u <= 0.0)
@@ -94,7 +95,7 @@ inline constexpr Explicit kExplicit[] = {
              return kUndefined;
          return Div(Chk(k.B * k.A), u);
      }},
-    {"y = A*e^(Bx + C) + D",
+    {"y = A*e^(Bx + C) + D", "A*e^(B*x + C) + D",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.A * Chk(std::exp(u)) + k.D);
@@ -103,7 +104,7 @@ inline constexpr Explicit kExplicit[] = {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * Chk(std::exp(u)));
      }},
-    {"y = A /(Bx + C) + D",
+    {"y = A /(Bx + C) + D", "A/(B*x + C) + D",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          if (u == 0.0)
@@ -116,13 +117,13 @@ inline constexpr Explicit kExplicit[] = {
              return kUndefined;
          return Div(Chk(k.A * (-1.0) * k.B), Pow(u, 2.0));
      }},
-    {"y = A(Bx - C)^4 + D",
+    {"y = A(Bx - C)^4 + D", "A*(B*x - C)^4 + D",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x - k.C);
          return Chk(Pow(u, 4.0) * k.A + k.D);
      },
      [](double x, K k) -> double { return Chk(Pow(Chk(k.B * x - k.C), 3.0) * (k.B * k.A * 4)); }},
-    {"y = Ax^4 + Bx^3 + Cx^2 + Dx + E",
+    {"y = Ax^4 + Bx^3 + Cx^2 + Dx + E", "A*x^4 + B*x^3 + C*x^2 + D*x + E",
      [](double x, K k) -> double {
          const double x3B = Chk(k.B * Pow(x, 3.0));
          return Chk(Pow(x, 4.0) * k.A + x3B + k.C * x * x + k.D * x + k.E);
@@ -130,7 +131,7 @@ inline constexpr Explicit kExplicit[] = {
      [](double x, K k) -> double {
          return Chk(Pow(x, 3.0) * (k.A * 4) + Pow(x, 2.0) * (k.B * 3) + (k.C + k.C) * x + k.D);
      }},
-    {"y = Ax * Sin(Bx + C) + Dx + E",
+    {"y = Ax * Sin(Bx + C) + Dx + E", "A*x*sin(B*x + C) + D*x + E",
      [](double x, K k) -> double {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.A * x * std::sin(u) + k.D * x + k.E);
@@ -139,7 +140,7 @@ inline constexpr Explicit kExplicit[] = {
          const double u = Chk(k.B * x + k.C);
          return Chk(k.B * k.A * x * std::cos(u) + k.A * std::sin(u) + k.D);
      }},
-    {"y = A * x^B + C",
+    {"y = A * x^B + C", "A*x^B + C",
      [](double x, K k) -> double {
          if (x <= 0.0 && (rt::Int(k.B) != k.B || k.B <= 0.0))
              return kUndefined;
@@ -151,7 +152,7 @@ inline constexpr Explicit kExplicit[] = {
              return kUndefined;
          return Chk(Pow(x, e) * (k.B * k.A));
      }},
-    {"y = A * B^x + C",
+    {"y = A * B^x + C", "A*B^x + C",
      [](double x, K k) -> double {
          if (k.B <= 0.0)
              return kUndefined;

@@ -9,6 +9,7 @@
 
 #include <ginac/ginac.h>
 
+#include "funclib/TypedSymbolic.h"
 #include "funclib/TypedText.h"
 
 namespace FuncGlobals::typed {
@@ -37,6 +38,8 @@ bool identicallyZero(const Node& n, const std::vector<std::string>& names)
     }
     return true;
 }
+
+}  // namespace
 
 // True when some divisor, power base or logarithm's argument in the tree is identically 0.
 bool dividesByZero(const Node& n, const std::vector<std::string>& names)
@@ -89,7 +92,7 @@ GiNaC::ex exactNumber(double v, const std::string& shown)
 
 // a^b, where GiNaC would work out a power of two numbers exactly (and 4^(2^(4e44)) never ends): a
 // small whole power of a small fraction stays exact, any other power of numbers is a double.
-GiNaC::ex raise(const GiNaC::ex& a, const GiNaC::ex& b)
+static GiNaC::ex raise(const GiNaC::ex& a, const GiNaC::ex& b)
 {
     using namespace GiNaC;
     if (!is_a<numeric>(a) || !is_a<numeric>(b))
@@ -127,6 +130,8 @@ GiNaC::ex toGinac(const Node& n, const std::map<std::string, GiNaC::realsymbol>&
         return exactNumber(n.function->value(ex_to<numeric>(a).to_double()), "");
     return symbolicCall(*n.function, a);
 }
+
+namespace {
 
 // True when some operation of the tree is undefined or overflows for some finite arguments.
 bool mayBeUndefined(const Node& n)
