@@ -78,6 +78,21 @@ double numericValue(const GiNaC::ex& e)
     return kNaN;
 }
 
+// Writes the coefficients' values into the tree as the numbers they are, as if typed there: the
+// function GiNaC is given is the one drawn, and a part that these values make 0 where it divides is
+// found before GiNaC meets it.
+void withValues(typed::Node& n, const CoefficientSet& k)
+{
+    if (n.op == typed::Op::Variable && n.name.size() == 1 && n.name[0] >= 'A' && n.name[0] <= 'F') {
+        const double values[] = {k.A, k.B, k.C, k.D, k.E, k.F};
+        n.op = typed::Op::Number;
+        n.value = values[n.name[0] - 'A'];
+        n.shown = shortest(n.value);
+    }
+    for (typed::NodePtr& a : n.args)
+        withValues(*a, k);
+}
+
 }  // namespace
 
 // The function and its derivatives so far, in GiNaC's terms.
@@ -109,24 +124,14 @@ TaylorSeries TaylorSeries::ofText(const std::string& text, double centre, const 
     s.centre_ = centre;
     try {
         const typed::NodePtr tree = typed::read(text, {"x"}, TypedExpression::MaxDepth);
-        std::vector<std::string> names{"x"};
-        for (char c = 'A'; c <= 'F'; ++c)
-            names.emplace_back(1, c);
-        if (typed::dividesByZero(*tree, names)) {
+        withValues(*tree, k);
+        if (typed::dividesByZero(*tree, {"x"})) {
             s.refusal_ = "part of the expression is 0 where it divides or is a base";
             return s;
         }
         auto symbolic = std::make_unique<Symbolic>();
-        std::map<std::string, GiNaC::realsymbol> symbols{{"x", symbolic->x}};
-        const double values[] = {k.A, k.B, k.C, k.D, k.E, k.F};
-        GiNaC::exmap coefficients;
-        for (int i = 0; i < 6; ++i) {
-            const GiNaC::realsymbol c(std::string(1, static_cast<char>('A' + i)));
-            symbols.emplace(c.get_name(), c);
-            coefficients[c] = exactOf(values[i]);
-        }
         symbolic->centre = exactOf(centre);
-        symbolic->derivatives.push_back(typed::toGinac(*tree, symbols).subs(coefficients));
+        symbolic->derivatives.push_back(typed::toGinac(*tree, {{"x", symbolic->x}}));
         s.symbolic_ = std::move(symbolic);
     } catch (const typed::Refusal& r) {
         s.refusal_ = r.message;

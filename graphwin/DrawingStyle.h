@@ -16,6 +16,10 @@ inline constexpr int kAxes = 0;  // black, with their unit ticks
 inline constexpr int kNewtonSteps = 0;  // black: the vertical to the curve and the tangent down to the axis
 inline constexpr int kConstruction = 4;  // red: secant and tangent lines, the endpoints of a secant
 inline constexpr int kFieldArrows = 1;  // blue: the slope field's arrows
+inline constexpr int kTaylorFunction = 1;  // blue: f on the Taylor screen
+inline constexpr int kTaylorPolynomial = 4;  // red: the Taylor polynomial of the degree shown
+inline constexpr int kTaylorPrevious = 12;  // light red: the one a degree below, faint
+inline constexpr int kTaylorBand = 10;  // light green: where |f - P_n| is below the tolerance, on the x axis
 inline constexpr int kMarkWidth = 3;  // a point that marks a result (the MVT's c, the parametric trace)
 inline constexpr double kEndpointRadius = 50;  // twips
 

@@ -40,6 +40,9 @@ frmGraphingCalc::frmGraphingCalc()
 
     selections_ = menuBar->addMenu(QStringLiteral("&Selections"));
     mnuSelect = selections_->menuAction();
+    // The screens added to the seed's eight, each an entry here and not a button.
+    more_ = menuBar->addMenu(QStringLiteral("&More Demonstrations"));
+    mnuMore = more_->menuAction();
 
     auto* heading = new QLabel(QStringLiteral("Choose a demonstration"), this);
     heading->setAlignment(Qt::AlignCenter);
@@ -117,6 +120,13 @@ frmGraphingCalc::~frmGraphingCalc()
 void frmGraphingCalc::addScreen(const screens::Entry& entry)
 {
     auto open = [this, &entry] { openScreen(entry); };
+    if (entry.kind == screens::Entry::Kind::Addition) {
+        QAction* action = more_->addAction(QString::fromUtf8(entry.entry));
+        onTriggered(action, open);
+        buttons_.push_back(nullptr);
+        entries_.push_back(action);
+        return;
+    }
     QPushButton* b = makeButton(this, QString::fromUtf8(entry.button), open);
     // Keep the buttons in teaching order, two to a row, whichever screens exist.
     b->setProperty("place", entry.place);

@@ -43,6 +43,8 @@ public:
     QMenuBar* menuBar = nullptr;
     QAction *mnuFile = nullptr, *mnuAbout = nullptr, *Sep1 = nullptr, *mnuExit = nullptr;
     QAction* mnuSelect = nullptr;
+    // The launcher's menu of the screens added to the seed's (screens::Entry::Kind::Addition).
+    QAction* mnuMore = nullptr;
     QAction* mnuRiemann = nullptr;
     QAction* mnuGrapher = nullptr;
     QAction* mnuAnimate = nullptr;
@@ -113,12 +115,13 @@ private:
     GraphScreen* shown_ = nullptr;  // the screen shown now, if any
     GraphScreen* pending_ = nullptr;  // the screen to show when the one shown closes
     int pendingStep_ = -1;  // the step to open on the screen shown next
-    // Adds a screen's button to the grid and its entry to the Selections menu.
-    // Buttons stand in teaching order (`place`), two to a row.
+    // Adds a screen's button to the grid and its entry to the Selections menu (an addition: its entry
+    // to the More Demonstrations menu). Buttons stand in teaching order (`place`), two to a row.
     void addScreen(const screens::Entry& entry);
 
     class QGridLayout* grid_ = nullptr;
     class QMenu* selections_ = nullptr;
+    class QMenu* more_ = nullptr;
     // Each screen's button, Selections entry and (once opened) window, by its row in the registry.
     std::vector<QPushButton*> buttons_;
     std::vector<QAction*> entries_;

@@ -16,6 +16,7 @@
 #include "screens/frmParam.h"
 #include "screens/frmRiemann.h"
 #include "screens/frmTangent.h"
+#include "screens/frmTaylor.h"
 
 namespace screens {
 
@@ -134,6 +135,18 @@ void showParametric(GraphScreen& g)
     s.HscT->setValue(160);
 }
 
+void showTaylor(GraphScreen& g)
+{
+    // sin x about 0 to degree 7, against the tolerance 0.1, with the Lagrange bound at x = 2.
+    auto& s = as<frmTaylor>(g);
+    s.Form_Activate();
+    s.mnuFunc_Click(5);
+    set({{s.txtA, "1"}, {s.txtB, "1"}, {s.txtC, "0"}, {s.txtD, "0"}, {s.txtE, "0"}, {s.txtAtX, "2"}});
+    s.chkLagrange->setChecked(true);
+    for (int n = 0; n <= 7; ++n)
+        s.cmdAddTerm_Click();
+}
+
 const Entry kScreens[] = {
     // key          class           place  button                          Selections entry
     {"sums", "frmRiemann", 2, "&Riemann Sums + Others", "&Riemann Sums +", "Riemann and other sums", make<frmRiemann>,
@@ -157,6 +170,10 @@ const Entry kScreens[] = {
          return as<frmParam>(s).setTypedCurve(QStringLiteral("t - sin(t)"), QStringLiteral("1 - cos(t)"));
      },
      showParametric},
+    // An addition: opened from the launcher's More Demonstrations menu, with no button.
+    {"taylor", "frmTaylor", 8, "Taylor Polynomials", "&Taylor Polynomials", "Taylor polynomials term by term",
+     make<frmTaylor>, [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("ln(1 + x)")); }, showTaylor, {},
+     Entry::Kind::Addition},
 };
 
 }  // namespace

@@ -18,11 +18,14 @@ class ConvergenceWindow;
 namespace screens {
 
 struct Entry {
+    // One of the launcher's eight buttons with its Selections entry, or a screen added since, which
+    // the launcher's More Demonstrations menu opens (by its `entry` caption) and which has no button.
+    enum class Kind { Seed, Addition };
     const char* key;  // the screen's name in lessons, pictures and `plotto --screens` ("sums")
     const char* className;  // the screen's class, as Qt's meta-object names it
     int place;  // where its button stands on the launcher, in teaching order (0 first, two to a row)
-    const char* button;  // the launcher button's caption, with its Alt letter
-    const char* entry;  // the Selections menu entry's caption, with its Alt letter
+    const char* button;  // the launcher button's caption, with its Alt letter (an addition's: the manual's)
+    const char* entry;  // the Selections (or More Demonstrations) menu entry's caption, with its Alt letter
     const char* describes;  // what it shows, as a phrase for a list ("Newton's method")
     std::function<std::unique_ptr<GraphScreen>()> make;
     // Installs a typed example function (or rates, or curve) as the entry dialog's OK does: "" when
@@ -32,9 +35,11 @@ struct Entry {
     std::function<void(GraphScreen&)> showcase;
     // The screen's convergence table, where it has one.
     std::function<ConvergenceWindow*(GraphScreen&)> convergence = {};
+    Kind kind = Kind::Seed;
 };
 
-// The table, in the order of the launcher's Selections menu.
+// The table: the seed's screens in the order of the launcher's Selections menu, then the additions in
+// the order of its More Demonstrations menu.
 std::span<const Entry> all();
 // The same rows in teaching order (the launcher's buttons, lessons' list of screens, the summary).
 std::vector<const Entry*> inTeachingOrder();

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMenu>
+#include <QMenuBar>
 #include <QResizeEvent>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -96,33 +97,42 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
     setProgramEndHandler(nullptr);
 }
 
-// Every row of the screen registry has its button and Selections entry, each opening a screen of
-// the row's class; the words the software centre and the manual page give name every screen.
+// Every row of the screen registry opens a screen of the row's class: a seed's from its button and
+// its Selections entry, an addition's from its More Demonstrations entry (and has no button); the
+// words the software centre and the manual page give name every screen.
 TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
 {
     ScriptedDialogs script;
     frmGraphingCalc l;
-    const QList<QAction*> entries = l.mnuSelect->menu()->actions();
-    ASSERT_EQ(entries.size(), static_cast<qsizetype>(screens::all().size()));
-    for (std::size_t i = 0; i < screens::all().size(); ++i) {
-        const screens::Entry& row = screens::all()[i];
+    const QList<QAction*> menus[] = {l.mnuSelect->menu()->actions(), l.mnuMore->menu()->actions()};
+    qsizetype next[2] = {0, 0};
+    for (const screens::Entry& row : screens::all()) {
+        const int kind = row.kind == screens::Entry::Kind::Addition;
+        ASSERT_LT(next[kind], menus[kind].size()) << row.key;
+        QAction* entry = menus[kind][next[kind]++];
         GraphScreen& screen = l.screen(row);
         EXPECT_EQ(screens::of(screen), &row);
-        EXPECT_EQ(entries[static_cast<qsizetype>(i)]->text(), QString::fromUtf8(row.entry));
+        EXPECT_EQ(entry->text(), QString::fromUtf8(row.entry));
         auto* button = [&]() -> QPushButton* {
             for (QPushButton* b : l.findChildren<QPushButton*>())
                 if (b->text() == QString::fromUtf8(row.button))
                     return b;
             return nullptr;
         }();
-        ASSERT_NE(button, nullptr) << row.key;
+        EXPECT_EQ(button == nullptr, bool(kind)) << row.key;
         int shown = 0;
-        for (int way = 0; way < 2; ++way) {
+        for (int way = kind; way < 2; ++way) {
             whileShown(screen, [&] { shown += screen.isVisible(); });
-            way ? entries[static_cast<qsizetype>(i)]->trigger() : button->click();
+            way ? entry->trigger() : button->click();
         }
-        EXPECT_EQ(shown, 2) << row.key;
+        EXPECT_EQ(shown, 2 - kind) << row.key;
     }
+    EXPECT_EQ(next[0], menus[0].size());
+    EXPECT_EQ(next[1], menus[1].size());
+    // The additions' menu stands between Selections and Lessons.
+    const QList<QAction*> bar = l.menuBar->actions();
+    EXPECT_EQ(bar.indexOf(l.mnuMore), bar.indexOf(l.mnuSelect) + 1);
+    EXPECT_EQ(bar.indexOf(l.mnuLessons), bar.indexOf(l.mnuMore) + 1);
     auto read = [](const char* file) {
         QFile f(QStringLiteral(PLOTTO_SOURCE_DIR "/packaging/") + QString::fromLatin1(file));
         EXPECT_TRUE(f.open(QIODevice::ReadOnly)) << file;

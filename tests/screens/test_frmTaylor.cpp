@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Taylor screen through its buttons and boxes: the terms listed, P_n and the error at x against
+// the series written out, words where f or a derivative does not exist at a, degree 20 and beyond,
+// what is drawn, and no classic error whatever the boxes hold.
+#include "screens/frmTaylor.h"
+
+#include <cmath>
+
+#include "ScreenFixture.h"
+
+using Taylor = ScreenFixture<frmTaylor>;
+
+namespace {
+// Adds `n` terms to a fresh screen on family `family` (its default coefficients) or on a typed text.
+void build(frmTaylor& s, const char* f, const char* centre, int n)
+{
+    if (f[0] == '#')
+        s.mnuFunc_Click(std::atoi(f + 1));
+    else
+        EXPECT_EQ(s.setTypedFunction(QString::fromUtf8(f)), QString());
+    s.txtCentre->setText(QString::fromUtf8(centre));
+    for (int i = 0; i < n; ++i)
+        s.cmdAddTerm->click();
+}
+QString column(frmTaylor& s, int c, int rows)
+{
+    QStringList out;
+    for (int r = 1; r <= rows; ++r)
+        out << s.grdTerms->cell(r, c);
+    return out.join(QLatin1Char('|'));
+}
+}  // namespace
+
+TEST_F(Taylor, TermsAndWordsThroughTheButtons)
+{
+    run({
+        {"sin (family 5) at 0", [](auto& s) { build(s, "#5", "0", 6); return column(s, 1, 7) + '|' + s.lblDegree->text(); },
+         "0|x|0|-x^3/6|0|x^5/120||Degree: 5"},
+        {"remove a term", [](auto& s) { build(s, "#5", "0", 6); s.cmdRemoveTerm->click(); return column(s, 1, 6) + '|' + s.lblDegree->text(); },
+         "0|x|0|-x^3/6|0||Degree: 4"},
+        {"never below 0", [](auto& s) { build(s, "#5", "0", 1); s.cmdRemoveTerm->click(); return s.lblDegree->text(); }, "Degree: 0"},
+        {"exp at 0", [](auto& s) { build(s, "e^x", "0", 4); return column(s, 1, 4); }, "1|x|x^2/2|x^3/6"},
+        {"ln at 1, stepped from 0", [](auto& s) { build(s, "ln(x)", "0", 3); press(s.lblCentre, Qt::LeftButton); return column(s, 1, 3) + '|' + s.txtCentre->text(); },
+         "0|(x - 1)|-(x - 1)^2/2|1"},
+        {"ln at 0", [](auto& s) { build(s, "ln(x)", "0", 2); return column(s, 1, 2) + '|' + s.lblStatus->text(); },
+         "f(a) does not exist|f(a) does not exist|No Taylor polynomial of degree 1 about a = 0: f(a) does not exist."},
+        {"sqrt at 0", [](auto& s) { build(s, "sqrt(x)", "0", 2); return column(s, 1, 2); }, "0|f^(1)(a) does not exist"},
+        {"a refused family", [](auto& s) { build(s, "#10", "0", 1); s.txtB->setText(QStringLiteral("0")); s.txtC->setText(QStringLiteral("0")); s.cmdPlotto->click(); return s.lblStatus->text(); },
+         "No Taylor polynomial: part of the expression is 0 where it divides or is a base."},
+        {"degree 20, then no further than 30", [](auto& s) { build(s, "e^x", "0", 21); QString d = s.lblDegree->text(); for (int i = 0; i < 12; ++i) s.cmdAddTerm->click(); return d + '|' + s.lblDegree->text() + '|' + s.grdTerms->cell(21, 1); },
+         "Degree: 20|Degree: 30|x^20/2432902008176640000"},
+    });
+}
+
+TEST_F(Taylor, ValuesAtXAgainstTheSeriesWrittenOut)
+{
+    build(*screen, "cos(x)", "0", 7);
+    screen->txtAtX->setText(QStringLiteral("0.5"));
+    screen->chkLagrange->setChecked(true);
+    const double x = 0.5, p6 = 1 - x * x / 2 + std::pow(x, 4) / 24 - std::pow(x, 6) / 720;
+    EXPECT_NEAR(screen->grdTerms->cell(7, 2).toDouble(), p6, 1e-9);
+    EXPECT_NEAR(screen->grdTerms->cell(7, 3).toDouble(), std::cos(x) - p6, 1e-12);
+    EXPECT_NEAR(screen->grdTerms->cell(7, 4).toDouble(), std::sin(x) * std::pow(x, 7) / 5040, 1e-13);
+    EXPECT_NEAR(screen->grdTerms->cell(3, 2).toDouble(), 1 - x * x / 2, 1e-12);
+    // e^x at 0.01: the term of degree 8 is 1e-16 / 40320, below what a double adds to P_7.
+    build(*screen, "e^x", "0", 9);
+    screen->txtAtX->setText(QStringLiteral("0.01"));
+    EXPECT_EQ(column(*screen, 3, 9).section('|', 7), QStringLiteral("past double precision|past double precision"));
+    expectDescribed("Degree 8. Terms: 0: 1; 1: x; 2: x^2/2", {screen->lblStatus});
+}
+
+TEST_F(Taylor, WhatIsDrawnAndNothingRaises)
+{
+    const auto pointsIn = [this](int colour) {
+        return std::count_if(ops().begin(), ops().end(),
+                             [c = Taylor::colour(colour)](const DrawOp& op) { return op.color == c; });
+    };
+    build(*screen, "#5", "0", 4);  // sin x: P_3 = x - x^3/6 within 0.1 of sin x on about |x| < 1.4
+    EXPECT_GT(pointsIn(4), 100);  // P_3
+    EXPECT_GT(pointsIn(12), 100);  // P_2, faint
+    EXPECT_GT(pointsIn(10), 0);  // the band
+    EXPECT_TRUE(screen->everyDrawingKept());
+    build(*screen, "ln(x)", "0", 3);  // f drawn, no polynomial
+    screen->CleanGraph();
+    screen->cmdPlotto->click();
+    EXPECT_EQ(pointsIn(4) + pointsIn(12) + pointsIn(10), 0);
+    for (const char* text : {"1e400", "abc", "", "-1e308"}) {
+        for (QLineEdit* box : {screen->txtCentre, screen->txtTolerance, screen->txtAtX})
+            box->setText(QString::fromLatin1(text));
+        screen->cmdAddTerm->click();
+        press(screen->lblCentre, Qt::RightButton);
+        screen->chkLagrange->click();
+    }
+    EXPECT_TRUE(script.errors.empty());
+}
