@@ -210,6 +210,11 @@ double TaylorSeries::lagrangeBound(int n, double x)
 {
     if (n + 1 > kMaxDegree || term(n + 1).state != TaylorTerm::State::Found)
         return kNaN;
+    const auto at = static_cast<std::size_t>(n);
+    if (at < bounds_.size() && bounds_[at].first == x)
+        return bounds_[at].second;
+    if (bounds_.size() <= at)
+        bounds_.resize(at + 1, {kNaN, kNaN});
     const GiNaC::ex& d = symbolic_->derivatives[static_cast<std::size_t>(n + 1)];
     double largest = 0;
     try {
@@ -223,7 +228,8 @@ double TaylorSeries::lagrangeBound(int n, double x)
     } catch (const std::exception&) {
         return kNaN;
     }
-    return largest * std::pow(std::fabs(x - centre_), n + 1) / std::tgamma(n + 2.0);
+    bounds_[at] = {x, largest * std::pow(std::fabs(x - centre_), n + 1) / std::tgamma(n + 2.0)};
+    return bounds_[at].second;
 }
 
 std::string TaylorSeries::termText(const TaylorTerm& term, double centre)

@@ -7,6 +7,7 @@
 // its coefficients. Window-free: the Taylor screen draws and lists what this finds.
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "funclib/Families.h"
@@ -59,6 +60,8 @@ private:
     struct Symbolic;
     std::unique_ptr<Symbolic> symbolic_;
     std::vector<TaylorTerm> terms_;
+    // The bounds worked out, by degree: the x each was for and its value (a grid asks again per click).
+    std::vector<std::pair<double, double>> bounds_;
     std::string refusal_;
     double centre_ = 0;
 };

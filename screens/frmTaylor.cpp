@@ -21,12 +21,12 @@ GraphScreen::Config taylorConfig()
 {
     GraphScreen::Config c;
     c.caption = QStringLiteral("Taylor Polynomials");
-    c.surfaceWidth = 17100;
+    c.surfaceWidth = 17200;
     return c;
 }
 
 constexpr int kGridRows = TaylorSeries::kMaxDegree + 2;  // the headings, then degrees 0 to the last
-constexpr double kRight = 11220, kRightWidth = 5700;
+constexpr double kRight = 11220, kRightWidth = 5800;
 // A term smaller than this, relative to P_n, changes nothing a double can show.
 constexpr double kPrecision = 1e-16;
 
@@ -39,7 +39,7 @@ double horner(const std::vector<double>& c, double h)
     return p;
 }
 
-QString shown(double v) { return std::isfinite(v) ? QString::number(v, 'g', 10) : QStringLiteral("--"); }
+QString shown(double v) { return std::isfinite(v) ? QString::number(v, 'g', 9) : QStringLiteral("--"); }
 
 }  // namespace
 
@@ -73,7 +73,7 @@ void frmTaylor::Form_Load()
 {
     GraphScreen::Form_Load();
     const char* headings[] = {"n", "New term", "P_n(x)", "f(x) - P_n(x)", "Lagrange bound"};
-    const double widths[] = {360, 1400, 1200, 1250, 0};
+    const double widths[] = {360, 1400, 1150, 1300, 0};
     for (int c = 0; c < 5; ++c) {
         grdTerms->setCell(0, c, QString::fromLatin1(headings[c]));
         grdTerms->setColumnWidthTwips(c, widths[c]);
@@ -117,7 +117,7 @@ void frmTaylor::txtAtX_Change() { fillGrid(); }
 
 void frmTaylor::chkLagrange_Click()
 {
-    grdTerms->setColumnWidthTwips(4, chkLagrange->isChecked() ? 1200 : 0);
+    grdTerms->setColumnWidthTwips(4, chkLagrange->isChecked() ? 1300 : 0);
     fillGrid();
 }
 
@@ -149,12 +149,11 @@ void frmTaylor::showDegree(int n)
                       .arg(degree_)
                       .arg(qTrimStr(s.centre()), QString::fromStdString(last.why));
     else
-        status_ = QStringLiteral("P_%1 about a = %2 in red, P_%3 faint; the green band on the x axis is where "
-                                 "|f - P_%1| < %4.")
-                      .arg(degree_)
-                      .arg(qTrimStr(s.centre()))
-                      .arg(degree_ - 1)
-                      .arg(txtTolerance->text().trimmed());
+        status_ =
+            QStringLiteral("P_%1 about a = %2 in red%3; the green band on the x axis is where |f - P_%1| < %4.")
+                .arg(degree_)
+                .arg(qTrimStr(s.centre()), degree_ > 0 ? QStringLiteral(", P_%1 faint").arg(degree_ - 1) : QString(),
+                     txtTolerance->text().trimmed());
     if (degree_ == TaylorSeries::kMaxDegree && n > degree_)
         status_ += QStringLiteral(" Degree %1 is the last this screen works out.").arg(degree_);
     draw();
@@ -254,6 +253,11 @@ void frmTaylor::fillGrid()
         const double term = t.value * std::pow(*x - s.centre(), k);
         grdTerms->setCell(k + 1, 2, shown(p));
         const bool past = term != 0 && std::fabs(term) < kPrecision * std::fabs(p);
+        if (past && k == degree_)
+            lblStatus->setText(status_ + QStringLiteral(" At x = %1 the new term is past double precision: it "
+                                                        "changes no digit of P_%2 a double can hold.")
+                                             .arg(qTrimStr(*x))
+                                             .arg(k));
         grdTerms->setCell(k + 1, 3,
                           past             ? QStringLiteral("past double precision")
                           : std::isnan(fx) ? QStringLiteral("no f(x)")
@@ -287,8 +291,8 @@ void frmTaylor::describeResults(QStringList& lines) const
     for (int k = 0; k <= degree_; ++k)
         terms << QStringLiteral("%1: %2").arg(grdTerms->cell(k + 1, 0), grdTerms->cell(k + 1, 1));
     lines << QStringLiteral("Degree %1. Terms: ").arg(degree_) + terms.join(QStringLiteral("; ")) + QLatin1Char('.');
-    if (!status_.isEmpty())
-        lines << status_;
+    if (!lblStatus->text().isEmpty())
+        lines << lblStatus->text();
 }
 
 void frmTaylor::mnuAbout_Click()

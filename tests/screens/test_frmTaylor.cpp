@@ -34,20 +34,68 @@ QString column(frmTaylor& s, int c, int rows)
 TEST_F(Taylor, TermsAndWordsThroughTheButtons)
 {
     run({
-        {"sin (family 5) at 0", [](auto& s) { build(s, "#5", "0", 6); return column(s, 1, 7) + '|' + s.lblDegree->text(); },
+        {"sin (family 5) at 0",
+         [](auto& s) {
+             build(s, "#5", "0", 6);
+             return column(s, 1, 7) + '|' + s.lblDegree->text();
+         },
          "0|x|0|-x^3/6|0|x^5/120||Degree: 5"},
-        {"remove a term", [](auto& s) { build(s, "#5", "0", 6); s.cmdRemoveTerm->click(); return column(s, 1, 6) + '|' + s.lblDegree->text(); },
+        {"remove a term",
+         [](auto& s) {
+             build(s, "#5", "0", 6);
+             s.cmdRemoveTerm->click();
+             return column(s, 1, 6) + '|' + s.lblDegree->text();
+         },
          "0|x|0|-x^3/6|0||Degree: 4"},
-        {"never below 0", [](auto& s) { build(s, "#5", "0", 1); s.cmdRemoveTerm->click(); return s.lblDegree->text(); }, "Degree: 0"},
-        {"exp at 0", [](auto& s) { build(s, "e^x", "0", 4); return column(s, 1, 4); }, "1|x|x^2/2|x^3/6"},
-        {"ln at 1, stepped from 0", [](auto& s) { build(s, "ln(x)", "0", 3); press(s.lblCentre, Qt::LeftButton); return column(s, 1, 3) + '|' + s.txtCentre->text(); },
+        {"never below 0",
+         [](auto& s) {
+             build(s, "#5", "0", 1);
+             s.cmdRemoveTerm->click();
+             return s.lblDegree->text();
+         },
+         "Degree: 0"},
+        {"exp at 0",
+         [](auto& s) {
+             build(s, "e^x", "0", 4);
+             return column(s, 1, 4);
+         },
+         "1|x|x^2/2|x^3/6"},
+        {"ln at 1, stepped from 0",
+         [](auto& s) {
+             build(s, "ln(x)", "0", 3);
+             press(s.lblCentre, Qt::LeftButton);
+             return column(s, 1, 3) + '|' + s.txtCentre->text();
+         },
          "0|(x - 1)|-(x - 1)^2/2|1"},
-        {"ln at 0", [](auto& s) { build(s, "ln(x)", "0", 2); return column(s, 1, 2) + '|' + s.lblStatus->text(); },
+        {"ln at 0",
+         [](auto& s) {
+             build(s, "ln(x)", "0", 2);
+             return column(s, 1, 2) + '|' + s.lblStatus->text();
+         },
          "f(a) does not exist|f(a) does not exist|No Taylor polynomial of degree 1 about a = 0: f(a) does not exist."},
-        {"sqrt at 0", [](auto& s) { build(s, "sqrt(x)", "0", 2); return column(s, 1, 2); }, "0|f^(1)(a) does not exist"},
-        {"a refused family", [](auto& s) { build(s, "#10", "0", 1); s.txtB->setText(QStringLiteral("0")); s.txtC->setText(QStringLiteral("0")); s.cmdPlotto->click(); return s.lblStatus->text(); },
+        {"sqrt at 0",
+         [](auto& s) {
+             build(s, "sqrt(x)", "0", 2);
+             return column(s, 1, 2);
+         },
+         "0|f^(1)(a) does not exist"},
+        {"a refused family",
+         [](auto& s) {
+             build(s, "#10", "0", 1);
+             s.txtB->setText(QStringLiteral("0"));
+             s.txtC->setText(QStringLiteral("0"));
+             s.cmdPlotto->click();
+             return s.lblStatus->text();
+         },
          "No Taylor polynomial: part of the expression is 0 where it divides or is a base."},
-        {"degree 20, then no further than 30", [](auto& s) { build(s, "e^x", "0", 21); QString d = s.lblDegree->text(); for (int i = 0; i < 12; ++i) s.cmdAddTerm->click(); return d + '|' + s.lblDegree->text() + '|' + s.grdTerms->cell(21, 1); },
+        {"degree 20, then no further than 30",
+         [](auto& s) {
+             build(s, "e^x", "0", 21);
+             QString d = s.lblDegree->text();
+             for (int i = 0; i < 12; ++i)
+                 s.cmdAddTerm->click();
+             return d + '|' + s.lblDegree->text() + '|' + s.grdTerms->cell(21, 1);
+         },
          "Degree: 20|Degree: 30|x^20/2432902008176640000"},
     });
 }
@@ -66,6 +114,7 @@ TEST_F(Taylor, ValuesAtXAgainstTheSeriesWrittenOut)
     build(*screen, "e^x", "0", 9);
     screen->txtAtX->setText(QStringLiteral("0.01"));
     EXPECT_EQ(column(*screen, 3, 9).section('|', 7), QStringLiteral("past double precision|past double precision"));
+    EXPECT_TRUE(screen->lblStatus->text().endsWith(QStringLiteral("it changes no digit of P_8 a double can hold.")));
     expectDescribed("Degree 8. Terms: 0: 1; 1: x; 2: x^2/2", {screen->lblStatus});
 }
 
