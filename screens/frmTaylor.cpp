@@ -125,10 +125,11 @@ TaylorSeries* frmTaylor::series()
 {
     const double a = txtCentre->number().value_or(0);
     const auto& k = FuncGlobals::Coefficients;
-    const std::string key =
-        (typed_ ? "typed " + typed_->f->text() : "family " + std::to_string(FuncGlobals::FunctionId)) + " " +
-        qTrimStr(a).toStdString() + " " + std::to_string(k.A) + " " + std::to_string(k.B) + " " + std::to_string(k.C) +
-        " " + std::to_string(k.D) + " " + std::to_string(k.E);
+    // Every digit of the centre and the coefficients: a change in the last one is another series.
+    QString key = typed_ ? QStringLiteral("typed ") + QString::fromStdString(typed_->f->text())
+                         : QStringLiteral("family %1").arg(FuncGlobals::FunctionId);
+    for (double v : {a, k.A, k.B, k.C, k.D, k.E})
+        key += QLatin1Char(' ') + QString::number(v, 'g', 17);
     if (!series_ || key != seriesKey_) {
         series_ = typed_ ? TaylorSeries::ofText(typed_->f->text(), a, k)
                          : TaylorSeries::ofFamily(FuncGlobals::FunctionId, a, k);

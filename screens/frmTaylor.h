@@ -60,6 +60,6 @@ private:
 
     int degree_ = -1;
     std::optional<FuncGlobals::TaylorSeries> series_;
-    std::string seriesKey_;
+    QString seriesKey_;
     QString status_;
 };

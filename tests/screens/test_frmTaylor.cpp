@@ -73,6 +73,16 @@ TEST_F(Taylor, TermsAndWordsThroughTheButtons)
              return column(s, 1, 2) + '|' + s.lblStatus->text();
          },
          "f(a) does not exist|f(a) does not exist|No Taylor polynomial of degree 1 about a = 0: f(a) does not exist."},
+        {"a coefficient's last digit is another series",
+         [](auto& s) {
+             build(s, "#2", "0", 0);
+             s.txtC->setText(QStringLiteral("1"));
+             s.cmdAddTerm->click();
+             s.txtC->setText(QStringLiteral("1.0000001"));
+             s.cmdPlotto->click();
+             return column(s, 1, 1);
+         },
+         "10000001/10000000"},
         {"sqrt at 0",
          [](auto& s) {
              build(s, "sqrt(x)", "0", 2);
