@@ -33,7 +33,7 @@ int shiftCode(Qt::KeyboardModifiers modifiers)
 
 TextBox::TextBox(QWidget* parent, const QString& text) : QLineEdit(text, parent)
 {
-    connect(this, &QLineEdit::textChanged, this, [this] { guarded([this] { runChange(); }); });
+    connect(this, &QLineEdit::textChanged, this, [this] { guarded(this, [this] { runChange(); }); });
 }
 
 void TextBox::runChange()
@@ -79,7 +79,7 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event)
 {
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && Click)
-        guarded(Click);
+        guarded(this, Click);
 }
 
 Grid::Grid(QWidget* parent, int rows, int columns) : QTableWidget(rows, columns, parent)
@@ -189,7 +189,7 @@ void ClickLabel::raiseMouseDown(QMouseEvent* event)
     const int button = buttonCode(event->button()), shift = shiftCode(event->modifiers());
     const double t = twipsPerPixel(this);
     const double x = event->position().x() * t, y = event->position().y() * t;
-    guarded([&] { MouseDown(button, shift, x, y); });
+    guarded(this, [&] { MouseDown(button, shift, x, y); });
     announceStep();
 }
 
@@ -200,7 +200,7 @@ void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()) && Click)
-        guarded(Click);
+        guarded(this, Click);
 }
 
 void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
@@ -210,7 +210,7 @@ void ClickLabel::mouseDoubleClickEvent(QMouseEvent* event)
     releaseEndsDoubleClick_ = true;
     raiseMouseDown(event);
     if (event->button() == Qt::LeftButton && DblClick)
-        guarded(DblClick);
+        guarded(this, DblClick);
 }
 
 ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(orientation, parent)
@@ -227,19 +227,19 @@ ScrollBar::ScrollBar(Qt::Orientation orientation, QWidget* parent) : QScrollBar(
     connect(this, &QAbstractSlider::valueChanged, this, [this](int v) {
         if (isSliderDown()) {
             if (Scroll)
-                guarded(Scroll);
+                guarded(this, Scroll);
             return;
         }
         lastChangeValue_ = v;
         if (Change)
-            guarded(Change);
+            guarded(this, Change);
     });
     connect(this, &QAbstractSlider::sliderReleased, this, [this] {
         if (value() == lastChangeValue_)
             return;
         lastChangeValue_ = value();
         if (Change)
-            guarded(Change);
+            guarded(this, Change);
     });
 }
 
@@ -304,7 +304,7 @@ CheckBox::CheckBox(QWidget* parent, const QString& caption) : QCheckBox(caption,
 {
     connect(this, &QAbstractButton::toggled, this, [this] {
         if (Click)
-            guarded(Click);
+            guarded(this, Click);
     });
 }
 
@@ -312,7 +312,7 @@ OptionButton::OptionButton(QWidget* parent, const QString& caption) : QRadioButt
 {
     connect(this, &QAbstractButton::toggled, this, [this](bool on) {
         if (on && Click)
-            guarded(Click);
+            guarded(this, Click);
     });
 }
 
@@ -332,13 +332,15 @@ QPushButton* makeButton(QWidget* parent, const QString& caption, std::function<v
 {
     auto* button = new QPushButton(caption, parent);
     button->setAutoDefault(false);
-    QObject::connect(button, &QPushButton::clicked, button, [click = std::move(click)] { guarded(click); });
+    QObject::connect(button, &QPushButton::clicked, button,
+                     [button, click = std::move(click)] { guarded(button, click); });
     return button;
 }
 
 void onTriggered(QAction* action, std::function<void()> click)
 {
-    QObject::connect(action, &QAction::triggered, action, [click = std::move(click)] { guarded(click); });
+    QObject::connect(action, &QAction::triggered, action,
+                     [action, click = std::move(click)] { guarded(action, click); });
 }
 
 FileMenu addFileMenu(QMenuBar* bar, const QString& exitCaption, std::function<void()> about, std::function<void()> exit)

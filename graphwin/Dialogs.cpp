@@ -98,6 +98,23 @@ void reportRuntimeError(const rt::RuntimeError& error)
     endProgram(1);
 }
 
+void reportRuntimeErrorFrom(const QObject* source, const rt::RuntimeError& error)
+{
+    const QObject* o = source;
+    while (o && !o->isWidgetType())
+        o = o->parent();  // a menu entry belongs to its menu, which belongs to its window
+    const QWidget* window = o ? static_cast<const QWidget*>(o)->window() : nullptr;
+    if (!window || !window->property(kErrorsInWords).toBool()) {
+        reportRuntimeError(error);
+        return;
+    }
+    MsgBox(QStringLiteral("That could not be done: %1 (error %2). Nothing else is affected; change what was typed "
+                          "and try again.")
+               .arg(QString::fromUtf8(error.what()))
+               .arg(error.number()),
+           window->windowTitle());
+}
+
 void endProgram(int exitCode)
 {
     if (endHandler) {

@@ -12,6 +12,8 @@
 
 #include "runtime/RuntimeError.h"
 
+class QObject;
+
 // A script that stands in for the real dialogs (tests): every box shown is recorded as
 // (title, prompt), input boxes are answered from `answers` (empty text once it runs out), and the
 // number of every run-time error that reaches the report is recorded instead of ending the program.
@@ -43,6 +45,13 @@ QString FileBox(bool saving, const QString& title, const QString& directory = QS
 // set, records the box and the number and returns).
 void reportRuntimeError(const rt::RuntimeError& error);
 
+// The window property by which a screen that is an addition to the classic eight asks that a
+// run-time error of a person's action on it be said in words, the program carrying on.
+inline constexpr const char* kErrorsInWords = "plottoErrorsInWords";
+// The run-time error of an action that came from `source` (a control or a menu entry): said in words
+// when its window asks for that, else reported and the program ended as reportRuntimeError does.
+void reportRuntimeErrorFrom(const QObject* source, const rt::RuntimeError& error);
+
 // Ends the program at once: every window closes and the event loops return.
 void endProgram(int exitCode);
 
@@ -72,5 +81,17 @@ void guarded(Handler&& handler)
         handler();
     } catch (const rt::RuntimeError& error) {
         reportRuntimeError(error);
+    }
+}
+
+// The same for an action that came from `source`, whose window decides how its error is told.
+template <class Handler>
+void guarded(const QObject* source, Handler&& handler)
+{
+    detail::ActionScope scope;
+    try {
+        handler();
+    } catch (const rt::RuntimeError& error) {
+        reportRuntimeErrorFrom(source, error);
     }
 }

@@ -48,6 +48,7 @@ GraphScreen::GraphScreen(Config config) : config_(std::move(config))
 {
     setWindowTitle(config_.caption);
     setFont(QFont(QStringLiteral("Times New Roman"), 10));
+    setProperty(kErrorsInWords, config_.errorsInWords);
 
     // The window can be resized, maximized and shown full screen (F11); the form inside scales as a
     // whole with it.

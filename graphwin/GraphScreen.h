@@ -59,6 +59,10 @@ public:
         QString cleanCaption = QStringLiteral("&Erase Graph");
         QString zoomCaption = QStringLiteral("&Zoom In");
         QString defaultsCaption = QStringLiteral("&Reset to Default");
+        // A screen added to the classic eight: a person's action on it that meets one of the classic
+        // run-time errors (equal window limits, a number too large) is told in words, and the
+        // program carries on.
+        bool errorsInWords = false;
     };
 
     ~GraphScreen() override;

@@ -20,6 +20,7 @@ namespace {
 GraphScreen::Config taylorConfig()
 {
     GraphScreen::Config c;
+    c.errorsInWords = true;
     c.caption = QStringLiteral("Taylor Polynomials");
     c.surfaceWidth = 17200;
     return c;

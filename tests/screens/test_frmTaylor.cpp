@@ -2,6 +2,7 @@
 // The Taylor screen through its buttons and boxes: the terms listed, P_n and the error at x against
 // the series written out, words where f or a derivative does not exist at a, degree 20 and beyond,
 // what is drawn, and no classic error whatever the boxes hold.
+#include "screens/frmClasses.h"
 #include "screens/frmTaylor.h"
 
 #include <cmath>
@@ -151,4 +152,34 @@ TEST_F(Taylor, WhatIsDrawnAndNothingRaises)
         screen->chkLagrange->click();
     }
     EXPECT_TRUE(script.errors.empty());
+}
+
+// The shared controls on an added screen: what would end the program on the classic eight (equal
+// window limits, a coefficient beyond the range) is told in words, and the screen carries on; the
+// same typing on a classic screen still gives the classic report.
+TEST_F(Taylor, ClassicErrorsOfItsSharedControlsAreToldInWords)
+{
+    const struct {
+        const char* what;
+        std::function<void(GraphScreen&)> act;
+        int number;
+    } cases[] = {
+        {"equal window limits", [](GraphScreen& s) { s.txtXmax->setText(s.txtXmin->text()); }, 11},
+        {"a coefficient too large", [](GraphScreen& s) { s.txtA->setText(QStringLiteral("1e400")); }, 6},
+    };
+    for (const auto& c : cases) {
+        const std::size_t shown = script.shown.size();
+        c.act(*screen);
+        EXPECT_TRUE(script.errors.empty()) << c.what;
+        ASSERT_EQ(script.shown.size(), shown + 1) << c.what;
+        EXPECT_TRUE(script.shown.back().second.startsWith(QStringLiteral("That could not be done: ")) &&
+                    script.shown.back().second.contains(QStringLiteral("(error %1)").arg(c.number)))
+            << c.what << ": " << script.shown.back().second.toStdString();
+        screen->cmdSetDefault->click();
+        frmClasses classic;
+        classic.Form_Activate();
+        c.act(classic);
+        EXPECT_EQ(script.errors, std::vector<int>{c.number}) << c.what;
+        script.errors.clear();
+    }
 }
