@@ -41,7 +41,7 @@ frmGraphingCalc::frmGraphingCalc()
     selections_ = menuBar->addMenu(QStringLiteral("&Selections"));
     mnuSelect = selections_->menuAction();
     // The screens added to the seed's eight, each an entry here and not a button.
-    more_ = menuBar->addMenu(QStringLiteral("&More Demonstrations"));
+    more_ = menuBar->addMenu(QStringLiteral("More &Demonstrations"));
     mnuMore = more_->menuAction();
 
     auto* heading = new QLabel(QStringLiteral("Choose a demonstration"), this);

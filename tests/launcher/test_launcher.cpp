@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The launcher: opening each screen modally from its button and its menu entry, finding it as it was
 // left, the one report of a run-time error inside a screen, and Quit.
+#include <map>
+
 #include <QFile>
 #include <QLabel>
 #include <QLayout>
@@ -146,5 +148,19 @@ TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
         EXPECT_TRUE(manual.contains(QStringLiteral(".TP .B ") + QString::fromUtf8(row.button).remove(QLatin1Char('&'))
                                         .replace(QLatin1Char('-'), QStringLiteral("\\-"))))
             << row.key;
+    // The added menu's Alt letter opens it alone: no menu or button of the window shares it (the
+    // classic launcher's own letters, two of which it shares, stay as they are).
+    std::map<QChar, QStringList> letters;
+    QStringList captions;
+    for (QAction* menu : l.menuBar->actions())
+        captions << menu->text();
+    for (QPushButton* b : l.findChildren<QPushButton*>())
+        captions << b->text();
+    for (const QString& caption : captions)
+        if (const qsizetype at = caption.indexOf(QLatin1Char('&')); at >= 0 && at + 1 < caption.size())
+            letters[caption.at(at + 1).toLower()] << caption;
+    const QString more = l.mnuMore->text();
+    ASSERT_GE(more.indexOf(QLatin1Char('&')), 0);
+    EXPECT_EQ(letters[more.at(more.indexOf(QLatin1Char('&')) + 1).toLower()], QStringList{more});
     EXPECT_TRUE(script.errors.empty());
 }
