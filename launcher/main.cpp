@@ -64,8 +64,9 @@ int answerCommandLine(int argc, char* argv[], Opening& opening)
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption list(QStringLiteral("screens"),
-                                  QStringLiteral("Lists the demonstration screens: key, button and menu entry, "
-                                                 "separated by tabs, one screen a line, in teaching order."));
+                                  QStringLiteral("Lists the demonstration screens, one a line in teaching order, "
+                                                 "separated by tabs: key, button, menu entry, classic or addition "
+                                                 "(an addition opens from More Demonstrations), the entry's Alt letter."));
     parser.addOption(list);
     QStringList keys;
     for (const screens::Entry* e : screens::inTeachingOrder())
@@ -98,9 +99,15 @@ int answerCommandLine(int argc, char* argv[], Opening& opening)
         return 0;
     }
     if (parser.isSet(list)) {
-        for (const screens::Entry* e : screens::inTeachingOrder())
-            std::printf("%s\t%s\t%s\n", e->key, qPrintable(QString::fromUtf8(e->button).remove(QLatin1Char('&'))),
-                        qPrintable(QString::fromUtf8(e->entry).remove(QLatin1Char('&'))));
+        for (const screens::Entry* e : screens::inTeachingOrder()) {
+            const QString entry = QString::fromUtf8(e->entry);
+            const qsizetype letter = entry.indexOf(QLatin1Char('&')) + 1;
+            std::printf("%s\t%s\t%s\t%s\t%s\n", e->key,
+                        qPrintable(QString::fromUtf8(e->button).remove(QLatin1Char('&'))),
+                        qPrintable(QString(entry).remove(QLatin1Char('&'))),
+                        e->kind == screens::Entry::Kind::Addition ? "addition" : "classic",
+                        qPrintable(letter > 0 ? entry.mid(letter, 1).toLower() : QString()));
+        }
         return 0;
     }
     if (parser.positionalArguments().size() > 1) {  // one lesson at a time

@@ -140,11 +140,17 @@ def read_screen(win, transcript):
         print("    graph: " + graph(win).description.replace("\n", "\n           "))
 
 
-def screen(button, title, act, expect, transcript=False):
+def screen(button, title, act, expect, transcript=False, menu_letter=None):
     launcher = window(LAUNCHER)
-    find(launcher, button, pyatspi.ROLE_PUSH_BUTTON).queryComponent().grabFocus()
-    time.sleep(0.2)
-    key("Return")  # Enter presses the focused launcher button
+    if menu_letter:  # an added screen: its entry in More Demonstrations, by the keyboard
+        launcher.queryComponent().grabFocus()
+        time.sleep(0.2)
+        key("alt+d")
+        key(menu_letter)
+    else:
+        find(launcher, button, pyatspi.ROLE_PUSH_BUTTON).queryComponent().grabFocus()
+        time.sleep(0.2)
+        key("Return")  # Enter presses the focused launcher button
     win = window(title)
     print("%s:" % win.name)
     checked.add(button)
@@ -273,9 +279,9 @@ def main():
     # Every other screen of the program's list gets the checks every screen passes.
     listed = subprocess.run([os.environ.get("PLOTTO", "plotto"), "--screens"], capture_output=True, text=True,
                             check=True, timeout=30).stdout.splitlines()
-    for button in [line.split("\t")[1] for line in listed]:
+    for key_name, button, entry, kind, letter in [line.split("\t") for line in listed]:
         if button not in checked:
-            screen(button, None, lambda w: None, lambda w: [])
+            screen(button, None, lambda w: None, lambda w: [], menu_letter=letter if kind == "addition" else None)
     check(len(checked) == len(listed), "every screen of `plotto --screens` was checked (%d of %d)"
           % (len(checked), len(listed)))
     if failures:
