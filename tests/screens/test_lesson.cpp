@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "screens/Lesson.h"
+#include "screens/ScreenRegistry.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
@@ -295,7 +296,7 @@ TEST_F(Lessons, TheExamplesOpenAndRunStepByStep)
 {
     const QDir examples(QStringLiteral(PLOTTO_SOURCE_DIR "/examples"));
     const QStringList files = examples.entryList({QStringLiteral("*.plotto")}, QDir::Files, QDir::Name);
-    ASSERT_EQ(files.size(), 3);
+    ASSERT_EQ(files.size(), 4);
     for (const QString& name : files) {
         const lesson::Read read = lesson::load(examples.filePath(name));
         ASSERT_TRUE(read.lesson) << read.error.toStdString();
@@ -304,14 +305,9 @@ TEST_F(Lessons, TheExamplesOpenAndRunStepByStep)
         for (const lesson::Step& step : read.lesson->steps) {
             ++number;
             // Each step on the screen it names, fresh as a launcher would show it.
-            std::unique_ptr<GraphScreen> screen;
-            const QString key = step.screen;
-            if (key == QStringLiteral("sums"))
-                screen = std::make_unique<frmRiemann>();
-            else if (key == QStringLiteral("newton"))
-                screen = std::make_unique<frmNewton>();
-            else
-                screen = std::make_unique<frmFlowField>();
+            const screens::Entry* entry = screens::find(step.screen);
+            ASSERT_NE(entry, nullptr) << name.toStdString() << " step " << number;
+            const std::unique_ptr<GraphScreen> screen = entry->make();
             screen->surface->setRecording(true);
             screen->Form_Activate();
             ASSERT_EQ(lesson::check(step, *screen), QString()) << name.toStdString() << " step " << number;
