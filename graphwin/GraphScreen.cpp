@@ -219,6 +219,17 @@ void GraphScreen::copyCoefficients()
         copyCoefficient(i);
 }
 
+void GraphScreen::activate()
+{
+    try {
+        Form_Activate();
+    } catch (const rt::RuntimeError& error) {
+        if (!config_.errorsInWords)
+            throw;
+        reportRuntimeErrorFrom(this, error);
+    }
+}
+
 void GraphScreen::CleanGraph()
 {
     surface->Cls();

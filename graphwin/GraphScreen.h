@@ -139,6 +139,9 @@ public:
     // Life of the screen.
     virtual void Form_Load();
     virtual void Form_Activate();
+    // What the launcher runs as it shows the screen: Form_Activate, whose classic run-time error a
+    // screen that tells errors in words (Config::errorsInWords) tells as it does a control's.
+    void activate();
     virtual void mnuAbout_Click() = 0;
     void cmdExit_Click();
     void mnuExit_Click();

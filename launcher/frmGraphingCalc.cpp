@@ -166,7 +166,7 @@ void frmGraphingCalc::showScreen(GraphScreen& first)
     for (GraphScreen* next = &first; next;) {
         GraphScreen& screen = *next;
         pending_ = nullptr;
-        screen.Form_Activate();
+        screen.activate();
         if (pendingStep_ >= 0) {
             step_ = std::exchange(pendingStep_, -1);
             GraphScreen::refreshLessonPlaces();

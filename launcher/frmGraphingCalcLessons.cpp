@@ -126,7 +126,7 @@ void frmGraphingCalc::goToStep(int index)
     if (shown_ == &target) {
         step_ = index;
         GraphScreen::refreshLessonPlaces();
-        target.Form_Activate();
+        target.activate();
         lesson::apply(lesson_.steps[static_cast<std::size_t>(index)], target);
         return;
     }

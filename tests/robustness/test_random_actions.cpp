@@ -263,8 +263,8 @@ struct Walk {
             const QString path = lessonDir.filePath(QStringLiteral("walk.plotto"));
             if (pick(2) == 0) {
                 lesson::Step step = lesson::capture(s);
-                const QStringList buttons = {QStringLiteral("Plotto!"), QStringLiteral("Graph Partitions"),
-                                             QStringLiteral("Apply Newton's"), QStringLiteral("Find c")};
+                const QStringList buttons = {QStringLiteral("cmdPlotto"), QStringLiteral("cmdParts"),
+                                             QStringLiteral("cmdApply"), QStringLiteral("cmdAddTerm")};
                 step.actions = {{buttons[pick(4)], 1 + pick(2), {}}};
                 what += "saves a lesson (" + lesson::save({{step}}, path).toStdString() + ")";
             } else {
@@ -275,7 +275,7 @@ struct Walk {
                     for (std::size_t i = 0; i < screens.size(); ++i)
                         if (lesson::screenKey(*screens[i]) == step.screen &&
                             lesson::check(step, *screens[i]).isEmpty()) {
-                            screens[i]->Form_Activate();
+                            screens[i]->activate();
                             lesson::apply(step, *screens[i]);
                             what += " on " + step.screen.toStdString();
                         }
@@ -355,7 +355,7 @@ TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
     for (long n = 0; n < total; ++n) {
         if (walk.pick(40) == 0) {  // the launcher shows another screen
             current = static_cast<std::size_t>(walk.pick(static_cast<int>(walk.screens.size())));
-            walk.screens[current]->Form_Activate();
+            walk.screens[current]->activate();
             walk.log.push_back("shows screen " + std::to_string(current));
         }
         walk.script.answers.clear();

@@ -182,4 +182,11 @@ TEST_F(Taylor, ClassicErrorsOfItsSharedControlsAreToldInWords)
         EXPECT_EQ(script.errors, std::vector<int>{c.number}) << c.what;
         script.errors.clear();
     }
+    // A limit left holding what the classic screens refuse does not stop the screen from being shown
+    // again by the launcher: the error is told in words there too.
+    screen->txtXmin->setText(QStringLiteral("1e400"));
+    const std::size_t shown = script.shown.size();
+    screen->activate();
+    EXPECT_TRUE(script.errors.empty());
+    EXPECT_EQ(script.shown.size(), shown + 1);
 }
