@@ -38,6 +38,16 @@ void MsgBox(const QString& prompt, const QString& title)
     box.exec();
 }
 
+bool YesNoBox(const QString& prompt, const QString& title)
+{
+    if (activeScript)
+        return scriptedAnswer(title, prompt) == QLatin1String("yes");
+    QMessageBox box(QMessageBox::Question, title, prompt, QMessageBox::Yes | QMessageBox::No, dialogParent());
+    box.setDefaultButton(QMessageBox::No);
+    box.setFont(FormStyle::zoomed(QApplication::font(), box.parentWidget()));
+    return box.exec() == QMessageBox::Yes;
+}
+
 DialogScript* dialogScript() { return activeScript; }
 
 QString scriptedAnswer(const QString& title, const QString& prompt)
@@ -52,13 +62,19 @@ QString scriptedAnswer(const QString& title, const QString& prompt)
 
 QString FileBox(bool saving, const QString& title, const QString& directory)
 {
+    return FileBox(saving, title, directory, QStringLiteral("Plotto lessons (*.plotto);;All files (*)"),
+                   QStringLiteral("plotto"));
+}
+
+QString FileBox(bool saving, const QString& title, const QString& directory, const QString& filter,
+                const QString& extension)
+{
     if (activeScript)
         return scriptedAnswer(title, QStringLiteral("file"));
-    const QString filter = QStringLiteral("Plotto lessons (*.plotto);;All files (*)");
     QString path = saving ? QFileDialog::getSaveFileName(dialogParent(), title, directory, filter)
                           : QFileDialog::getOpenFileName(dialogParent(), title, directory, filter);
-    if (saving && !path.isEmpty() && QFileInfo(path).suffix().isEmpty())
-        path += QStringLiteral(".plotto");
+    if (saving && !path.isEmpty() && !extension.isEmpty() && QFileInfo(path).suffix().isEmpty())
+        path += QLatin1Char('.') + extension;
     return path;
 }
 

@@ -33,6 +33,9 @@ QString scriptedAnswer(const QString& title, const QString& prompt);
 // A modal message box with an OK button only.
 void MsgBox(const QString& prompt, const QString& title);
 
+// A modal question with Yes and No (No the default): true for Yes. With a script set, answered by
+// its next answer ("yes" for Yes).
+bool YesNoBox(const QString& prompt, const QString& title);
 // A modal input box; returns the typed text, or "" on Cancel. A negative position centres it.
 QString InputBox(const QString& prompt, const QString& title, const QString& defaultText = QString(),
                  double xTwips = -1, double yTwips = -1);
@@ -40,6 +43,10 @@ QString InputBox(const QString& prompt, const QString& title, const QString& def
 // A modal file dialog for a lesson (*.plotto): the chosen path, or "" on Cancel. With a script set,
 // it is recorded as (title, "file") and answered from `answers` like an input box.
 QString FileBox(bool saving, const QString& title, const QString& directory = QString());
+// The same for other files: `filter` as the file dialog takes it ("Pictures (*.svg *.png)"), and
+// `extension` added to a name saved without one ("" adds none).
+QString FileBox(bool saving, const QString& title, const QString& directory, const QString& filter,
+                const QString& extension);
 
 // Shows "Run-time error 'N':", a blank line and the message, then ends the program (with a script
 // set, records the box and the number and returns).

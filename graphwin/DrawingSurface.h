@@ -145,6 +145,17 @@ public:
     void setFontUnderline(bool underline);
     QFont textFont() const { return font_; }
 
+    // How the kept picture is painted as vector shapes (export and print).
+    struct VectorLook {
+        bool colour = true;  // false: black, greys and line styles, for a photocopier
+        double penScale = 1.0;  // the lines' width, times the screen's
+    };
+    // Paints what was drawn since the last Cls inside `clip` (twips) as vector shapes on `painter`,
+    // whose coordinates are twips: a curve dotted column by column becomes one path, segments and
+    // bars paths, circles and texts themselves. False when more was drawn than the surface keeps
+    // (the caller then has only the picture).
+    bool paintVector(QPainter& painter, const QRectF& clip, const VectorLook& look) const;
+
     // Recording of every operation since the last Cls (tests and tools).
     void setRecording(bool on) { recording_ = on; }
     const std::vector<DrawOp>& ops() const { return ops_; }

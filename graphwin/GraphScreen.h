@@ -26,6 +26,7 @@
 #include "graphwin/Controls.h"
 #include "graphwin/DrawingSurface.h"
 #include "graphwin/FormTable.h"
+#include "graphwin/GraphExport.h"
 #include "graphwin/GraphScene.h"
 #include "graphwin/GraphView.h"
 #include "graphwin/GraphWindow.h"
@@ -169,6 +170,20 @@ public:
     // (the slope field) the walk takes them with Shift.
     QAction* mnuHearCurve = nullptr;
     void mnuHearCurve_Click();
+
+    // The graph at print quality (Tools): Export Graph (Ctrl+Shift+E) writes the graph square as SVG,
+    // PDF or PNG with its caption (the description Ctrl+C copies), Print (Ctrl+P) and Print Preview
+    // put it on a page, scaled to fit with its shape kept.
+    QAction *mnuExportGraph = nullptr, *mnuPrint = nullptr, *mnuPrintPreview = nullptr;
+    void mnuExportGraph_Click();
+    void mnuPrint_Click();
+    void mnuPrintPreview_Click();
+    // What is exported: the surface, the graph square's outline and the caption.
+    graphexport::Graph exportedGraph() const;
+    // Writes the graph to `path` (the format by its extension): "" or what went wrong, in words.
+    QString exportGraph(const QString& path, const graphexport::Options& options) const;
+    // Paints the graph on `device`'s page (a printer, a picture), one page, fitted with its shape kept.
+    void printGraph(QPaintDevice& device, const QRectF& page, const graphexport::Options& options) const;
     bool exploreKey(int key, Qt::KeyboardModifiers modifiers);
     // The chosen curve's points as the trace plays them, and its samples; empty when nothing is drawn.
     std::vector<audio::Point> tracePoints() const;
@@ -192,13 +207,13 @@ public:
     // ("Step 3 of 7"), shown at the right of every screen's menu bar.
     struct LessonCommands {
         std::function<void(GraphScreen&)> add;
-        std::function<void()> save, open, next, previous;
+        std::function<void()> save, open, next, previous, worksheet;
         std::function<QString()> place;
     };
     static void setLessonCommands(LessonCommands commands);
     static void refreshLessonPlaces();
     QAction *mnuAddStep = nullptr, *mnuSaveLesson = nullptr, *mnuOpenLesson = nullptr;
-    QAction *mnuNextStep = nullptr, *mnuPreviousStep = nullptr;
+    QAction *mnuNextStep = nullptr, *mnuPreviousStep = nullptr, *mnuExportWorksheet = nullptr;
     QLabel* lblLessonPlace = nullptr;
 
     // Makes the screen usable from the keyboard and by a screen reader: every control gets an
@@ -212,6 +227,10 @@ public:
     // the last clear and the screen's results. It is the graph's accessible description (refreshed
     // after every action) and the text that Ctrl+C copies with the picture.
     QString describe() const;
+    // The screen's own results, a line each, as the description ends with them (a worksheet's numbers).
+    QStringList results() const;
+    // The selected family's caption with the coefficients' values (or the typed function's text).
+    QString describeFamily() const;
     void refreshDescription();
     // Ctrl+C: a focused grid as tab-separated text; otherwise the graph square as an image at the
     // window's resolution, with the description.
@@ -377,8 +396,6 @@ protected:
     virtual void describeResults(QStringList& lines) const;
     // Records what was drawn, for the description (cleared with the picture).
     void noteDrawn(const QString& what);
-    // The selected family's caption with the coefficients' values.
-    QString describeFamily() const;
 
 private:
     friend class GraphViewer;

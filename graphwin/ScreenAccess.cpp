@@ -71,6 +71,13 @@ QString GraphScreen::describe() const
 
 void GraphScreen::describeResults(QStringList&) const { }
 
+QStringList GraphScreen::results() const
+{
+    QStringList lines;
+    describeResults(lines);
+    return lines;
+}
+
 QString GraphScreen::describeFamily() const
 {
     using namespace FuncGlobals;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A screen's menu bar: the File menu, the function menu's place, the Tools menu (typed functions,
-// projector mode, hearing the curve) with the lesson commands, which every screen shares, and the
+// projector mode, hearing the curve, export and printing) with the lesson commands, which every screen shares, and the
 // place of the lesson shown at the bar's right. (The View menu: ScreenView.cpp.)
 #include <vector>
 
@@ -76,6 +76,14 @@ void GraphScreen::buildToolsMenu()
     mnuHearCurve = addToolsEntry(QStringLiteral("&Hear the Curve"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H),
                                  [this] { mnuHearCurve_Click(); });
     surface->KeyDown = [this](int key, Qt::KeyboardModifiers modifiers) { return exploreKey(key, modifiers); };
+    toolsMenu_->addSeparator();
+    mnuExportGraph = addToolsEntry(QStringLiteral("&Export Graph..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+                                   [this] { mnuExportGraph_Click(); });
+    mnuPrint = addToolsEntry(QStringLiteral("P&rint..."), QKeySequence(Qt::CTRL | Qt::Key_P), [this] { mnuPrint_Click(); });
+    mnuPrintPreview = addToolsEntry(QStringLiteral("Pr&int Preview..."), {}, [this] { mnuPrintPreview_Click(); });
+    NAME_AS_MEMBER(mnuExportGraph);
+    NAME_AS_MEMBER(mnuPrint);
+    NAME_AS_MEMBER(mnuPrintPreview);
     // The mode belongs to the run: each screen's entry shows it as it is when its menu opens.
     connect(toolsMenu_, &QMenu::aboutToShow, this,
             [this] { mnuProjector->setChecked(DrawingSurface::projectorMode()); });
@@ -106,6 +114,7 @@ void GraphScreen::refreshLessonPlace()
     const bool owned = static_cast<bool>(lessonCommands().add);
     mnuAddStep->setEnabled(owned);
     mnuSaveLesson->setEnabled(owned);
+    mnuExportWorksheet->setEnabled(owned);
     mnuOpenLesson->setEnabled(owned);
 }
 
@@ -125,6 +134,11 @@ void GraphScreen::buildLessonCommands()
         if (lessonCommands().save)
             lessonCommands().save();
     });
+    mnuExportWorksheet = addToolsEntry(QStringLiteral("Export Lesson as &Worksheet..."), {}, [] {
+        if (lessonCommands().worksheet)
+            lessonCommands().worksheet();
+    });
+    NAME_AS_MEMBER(mnuExportWorksheet);
     // Page Down and Page Up, which every presentation clicker sends; only while a lesson is open.
     mnuNextStep = addToolsEntry(QStringLiteral("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
         if (lessonCommands().next)

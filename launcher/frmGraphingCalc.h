@@ -86,6 +86,16 @@ public:
     // The example lessons found beside the program (installed, or in the source tree).
     static QStringList exampleLessons();
 
+    // Lessons as worksheets. writeWorksheet opens the lesson at `lessonPath` step by step on this
+    // launcher's screens and writes the worksheet (plotto LESSON --worksheet OUT [--blank], with no
+    // window shown): "" or what went wrong. The menu entry (Lessons, and every screen's Tools) writes the
+    // open lesson through a separate run of the program, `worksheetProgram`, so that the screens on show
+    // keep everything they hold.
+    QAction* mnuExportWorksheet = nullptr;
+    void mnuExportWorksheet_Click();
+    QString writeWorksheet(const QString& lessonPath, const QString& out, bool blank);
+    static inline QString worksheetProgram;  // "" for this program itself
+
     // The screens, each created (loaded) on first use, by their row in the registry or its key.
     GraphScreen& screen(const screens::Entry& entry);
     GraphScreen& screen(const char* key);

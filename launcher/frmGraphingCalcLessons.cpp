@@ -2,13 +2,18 @@
 // The launcher's part in lessons: the Lessons menu, the commands every screen's Tools menu runs, and
 // the moves from step to step, across screens.
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include "graphwin/Dialogs.h"
+#include "launcher/Worksheet.h"
 #include "launcher/frmGraphingCalc.h"
 
 namespace {
@@ -67,6 +72,9 @@ void frmGraphingCalc::buildLessonMenu()
     mnuSaveLesson = menu->addAction(QStringLiteral("&Save Lesson..."));
     mnuSaveLesson->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     onTriggered(mnuSaveLesson, [this] { saveLesson(); });
+    mnuExportWorksheet = menu->addAction(QStringLiteral("Export Lesson as &Worksheet..."));
+    NAME_AS_MEMBER(mnuExportWorksheet);
+    onTriggered(mnuExportWorksheet, [this] { mnuExportWorksheet_Click(); });
     const QStringList examples = exampleLessons();
     if (!examples.isEmpty()) {
         QMenu* shipped = menu->addMenu(QStringLiteral("&Examples"));
@@ -82,6 +90,7 @@ void frmGraphingCalc::buildLessonMenu()
         .open = [this] { chooseLesson(); },
         .next = [this] { goToStep(step_ + 1); },
         .previous = [this] { goToStep(step_ - 1); },
+        .worksheet = [this] { mnuExportWorksheet_Click(); },
         .place =
             [this] {
                 return step_ >= 0 && !lesson_.steps.empty()
@@ -181,4 +190,61 @@ void frmGraphingCalc::saveLesson()
         return;
     if (const QString error = lesson::save(lesson_, path); !error.isEmpty())
         MsgBox(error, QStringLiteral("Save Lesson"));
+}
+
+QString frmGraphingCalc::writeWorksheet(const QString& lessonPath, const QString& out, bool blank)
+{
+    lesson::Read read = lesson::load(lessonPath);
+    if (!read.lesson)
+        return QStringLiteral("Cannot read the lesson %1: %2").arg(lessonPath, read.error);
+    if (read.lesson->version < lesson::kVersion)
+        for (lesson::Step& step : read.lesson->steps)
+            lesson::upgrade(step, screen(*screens::find(step.screen)));
+    const QString title = !read.lesson->title.isEmpty()
+                              ? read.lesson->title
+                              : QFileInfo(lessonPath).completeBaseName().replace(QLatin1Char('-'), QLatin1Char(' '));
+    return worksheet::write(*read.lesson, title, out, blank,
+                            [this](const QString& key) -> GraphScreen& { return screen(*screens::find(key)); });
+}
+
+void frmGraphingCalc::mnuExportWorksheet_Click()
+{
+    const QString title = QStringLiteral("Export Lesson as Worksheet");
+    if (lesson_.steps.empty()) {
+        MsgBox(QStringLiteral("There is no lesson to export: open one with Lessons, Open Lesson, or add a screen with "
+                              "Tools, Add This Screen to the Lesson."),
+               title);
+        return;
+    }
+    QSettings settings(QStringLiteral("Plotto"), QStringLiteral("Plotto"));
+    const QString out = FileBox(true, title, settings.value(QStringLiteral("export/folder"), QDir::homePath()).toString(),
+                                QStringLiteral("PDF document (*.pdf)"), QStringLiteral("pdf"));
+    if (out.isEmpty())
+        return;
+    settings.setValue(QStringLiteral("export/folder"), QFileInfo(out).absolutePath());
+    const bool blank = YesNoBox(QStringLiteral("Leave the results blank, as boxes for the students to fill in? The "
+                                               "answers then go to a second file, %1.")
+                                    .arg(QFileInfo(worksheet::answersPath(out)).fileName()),
+                                title);
+    // The lesson as it stands, saved where the separate run reads it.
+    QTemporaryDir dir;
+    const QString lessonPath = dir.filePath(QStringLiteral("lesson.plotto"));
+    if (const QString error = lesson::save(lesson_, lessonPath); !dir.isValid() || !error.isEmpty()) {
+        MsgBox(QStringLiteral("The lesson could not be handed over: %1").arg(error), title);
+        return;
+    }
+    QStringList arguments{lessonPath, QStringLiteral("--worksheet"), out};
+    if (blank)
+        arguments << QStringLiteral("--blank");
+    QProcess run;
+    run.start(worksheetProgram.isEmpty() ? QCoreApplication::applicationFilePath() : worksheetProgram, arguments);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool finished = run.waitForFinished(120000);
+    QApplication::restoreOverrideCursor();
+    if (!finished || run.exitStatus() != QProcess::NormalExit || run.exitCode() != 0) {
+        const QString said = QString::fromLocal8Bit(run.readAllStandardError()).trimmed();
+        MsgBox(QStringLiteral("The worksheet was not written: %1")
+                   .arg(said.isEmpty() ? run.errorString() : said.section(QLatin1Char('\n'), 0, 0)),
+               title);
+    }
 }

@@ -46,6 +46,8 @@ const char* const kQtOptions[][2] = {{"platform", "name"},
 struct Opening {
     QString lesson;  // a lesson's path, or ""
     const screens::Entry* screen = nullptr;  // a screen to show, or none
+    QString worksheet;  // the lesson written as a worksheet to this PDF, with no window shown, or ""
+    bool blank = false;  // the worksheet's results left blank, the answers beside it
 };
 
 // Answers --help, --version and --screens, or an unknown option or screen, before any window exists
@@ -75,6 +77,15 @@ int answerCommandLine(int argc, char* argv[], Opening& opening)
                                     QStringLiteral("Opens a screen at the start: %1.").arg(keys.join(QStringLiteral(", "))),
                                     QStringLiteral("name"));
     parser.addOption(screen);
+    const QCommandLineOption worksheet(QStringLiteral("worksheet"),
+                                       QStringLiteral("Writes the lesson as a worksheet to a PDF file, one step a "
+                                                      "page, and ends, with no window shown."),
+                                       QStringLiteral("file.pdf"));
+    parser.addOption(worksheet);
+    const QCommandLineOption blank(QStringLiteral("blank"),
+                                   QStringLiteral("With --worksheet: leaves the results as boxes to fill in, and "
+                                                  "writes the answers to a second file (NAME-answers.pdf)."));
+    parser.addOption(blank);
     for (const auto& [name, value] : kQtOptions) {
         QCommandLineOption qt(QString::fromLatin1(name), QString(), value ? QString::fromLatin1(value) : QString());
         qt.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -124,6 +135,18 @@ int answerCommandLine(int argc, char* argv[], Opening& opening)
         }
     }
     opening.lesson = parser.positionalArguments().value(0);
+    if (parser.isSet(blank) && !parser.isSet(worksheet)) {
+        std::fprintf(stderr, "plotto: --blank goes with --worksheet\n\n%s", qPrintable(usage));
+        return 2;
+    }
+    if (parser.isSet(worksheet)) {
+        if (opening.lesson.isEmpty()) {
+            std::fprintf(stderr, "plotto: --worksheet needs a lesson: plotto LESSON --worksheet OUT.pdf\n");
+            return 2;
+        }
+        opening.worksheet = parser.value(worksheet);
+        opening.blank = parser.isSet(blank);
+    }
     return -1;
 }
 
@@ -136,12 +159,23 @@ int main(int argc, char* argv[])
     Opening opening;
     if (const int status = answerCommandLine(argc, argv, opening); status >= 0)
         return status;
+    // A worksheet is written without a window: Qt's offscreen platform needs no display.
+    if (!opening.worksheet.isEmpty())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Plotto"));
     // One typeface for everything the program shows, menus and message boxes included (Debian's
     // metric-compatible Liberation Serif stands in where Times New Roman is not installed).
     QApplication::setFont(QFont(QStringLiteral("Times New Roman"), 10));
     frmGraphingCalc launcher;
+    if (!opening.worksheet.isEmpty()) {
+        const QString error = launcher.writeWorksheet(opening.lesson, opening.worksheet, opening.blank);
+        if (!error.isEmpty()) {
+            std::fprintf(stderr, "plotto: %s\n", qPrintable(error));
+            return 1;
+        }
+        return 0;
+    }
     launcher.show();
     // A lesson named on the command line (or opened from the file manager), or a screen asked for by
     // --screen, opens once the launcher is up.

@@ -235,11 +235,15 @@ QByteArray toJson(const Lesson& lesson)
         }
         if (!actions.isEmpty())
             o.insert(QStringLiteral("actions"), actions);
+        if (!s.note.isEmpty())
+            o.insert(QStringLiteral("note"), s.note);
         steps.append(o);
     }
-    const QJsonObject root{{QStringLiteral("format"), QString::fromLatin1(kFormat)},
-                           {QStringLiteral("version"), kVersion},
-                           {QStringLiteral("steps"), steps}};
+    QJsonObject root{{QStringLiteral("format"), QString::fromLatin1(kFormat)},
+                     {QStringLiteral("version"), kVersion},
+                     {QStringLiteral("steps"), steps}};
+    if (!lesson.title.isEmpty())
+        root.insert(QStringLiteral("title"), lesson.title);
     return QJsonDocument(root).toJson(QJsonDocument::Indented);
 }
 
@@ -267,6 +271,7 @@ Read fromJson(const QByteArray& text)
         return {std::nullopt, QStringLiteral("The lesson has no steps.")};
     Lesson lesson;
     lesson.version = version.toInt();
+    lesson.title = root.value(QStringLiteral("title")).toString();
     int number = 0;
     for (const QJsonValue& v : steps.toArray()) {
         ++number;
@@ -281,6 +286,7 @@ Read fromJson(const QByteArray& text)
                                      QStringList(screenKeys().begin(), screenKeys().end()).join(QStringLiteral(", ")))};
         s.function = o.value(QStringLiteral("function")).toObject();
         s.controls = o.value(QStringLiteral("controls")).toObject();
+        s.note = o.value(QStringLiteral("note")).toString();
         for (const QJsonValue& a : o.value(QStringLiteral("actions")).toArray()) {
             const QJsonObject action = a.toObject();
             if (!action.value(QStringLiteral("click")).isString() && !action.value(QStringLiteral("menu")).isString())

@@ -36,11 +36,13 @@ struct Step {
     // scroll bar).
     QJsonObject controls;
     std::vector<Action> actions;
+    QString note{};  // what the teacher says of the step (its worksheet's text), "" for none
 };
 
 struct Lesson {
     std::vector<Step> steps;
     int version = kVersion;  // as read; upgrade() brings an older lesson's steps to this version's keys
+    QString title{};  // "" for none (a worksheet then takes the file's name)
 };
 
 // The key of a screen in a lesson ("sums" for the sums screen), "" for an unknown class.

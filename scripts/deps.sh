@@ -6,11 +6,11 @@ set -euo pipefail
 
 PACKAGES=(
   cmake ninja-build g++ clang
-  qt6-base-dev libgl-dev libboost-dev
+  qt6-base-dev qt6-svg-dev libgl-dev libboost-dev
   libginac-dev libmuparser-dev pkg-config qt6-charts-dev libqt6opengl6-dev qt6-multimedia-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-liberation fonts-dejavu-core
-  xvfb xauth imagemagick python3
+  xvfb xauth imagemagick python3 poppler-utils
   openbox xdotool xclip dbus at-spi2-core python3-pyatspi
   lintian appstream desktop-file-utils dpkg-dev
 )

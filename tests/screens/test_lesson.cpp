@@ -153,15 +153,17 @@ TEST_F(Lessons, EachToolsEntryRunsTheCommandOfTheLessonsOwner)
     std::string ran;
     GraphScreen::setLessonCommands({.add = [&](GraphScreen&) { ran += 'a'; }, .save = [&] { ran += 's'; },
                                     .open = [&] { ran += 'o'; }, .next = [&] { ran += 'n'; },
-                                    .previous = [&] { ran += 'p'; }, .place = [] { return QStringLiteral("Step 2 of 3"); }});
+                                    .previous = [&] { ran += 'p'; }, .worksheet = [&] { ran += 'w'; },
+                                    .place = [] { return QStringLiteral("Step 2 of 3"); }});
     frmClasses screen;
-    for (QAction* a : {screen.mnuAddStep, screen.mnuSaveLesson, screen.mnuOpenLesson, screen.mnuNextStep, screen.mnuPreviousStep})
+    for (QAction* a : {screen.mnuAddStep, screen.mnuSaveLesson, screen.mnuOpenLesson, screen.mnuNextStep,
+                       screen.mnuPreviousStep, screen.mnuExportWorksheet})
         a->trigger();
-    EXPECT_EQ(ran, "asonp");
+    EXPECT_EQ(ran, "asonpw");
     EXPECT_EQ(screen.lblLessonPlace->text(), QStringLiteral("Step 2 of 3"));
     GraphScreen::setLessonCommands({});
     screen.mnuOpenLesson->trigger();  // without an owner, nothing runs
-    EXPECT_EQ(ran, "asonp");
+    EXPECT_EQ(ran, "asonpw");
 }
 
 TEST_F(Lessons, BrokenFilesAreRefusedWithWhatAndWhere)

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Export of the graph (see GraphExport.h).
+#include "graphwin/GraphExport.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+namespace graphexport {
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440, kTwipsPerPoint = 20;
+
+QFont captionFont()
+{
+    QFont f(QStringLiteral("Times New Roman"));
+    f.setPixelSize(static_cast<int>(kCaptionSize));
+    return f;
+}
+
+double captionHeight(const Graph& graph, const Options& options)
+{
+    if (!options.caption || graph.caption.isEmpty())
+        return 0;
+    const QRectF r = QFontMetricsF(captionFont())
+                         .boundingRect(QRectF(0, 0, graph.twips.width(), 1e7), Qt::TextWordWrap, graph.caption);
+    // A line to spare: a printer's fonts may wrap a word later than the screen's.
+    return kMargin + r.height() + kCaptionSize * 1.5;
+}
+
+QString couldNotWrite(const QString& path, const QString& why)
+{
+    return QStringLiteral("Could not write %1: %2.").arg(QDir::toNativeSeparators(path), why);
+}
+
+}  // namespace
+
+std::optional<Format> formatOf(const QString& path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("svg"))
+        return Format::Svg;
+    if (suffix == QLatin1String("pdf"))
+        return Format::Pdf;
+    if (suffix == QLatin1String("png"))
+        return Format::Png;
+    return std::nullopt;
+}
+
+QSizeF pageTwips(const Graph& graph, const Options& options)
+{
+    return {graph.twips.width() + 2 * kMargin, graph.twips.height() + 2 * kMargin + captionHeight(graph, options)};
+}
+
+QSize pixelSize(const Graph& graph, const Options& options)
+{
+    const QSizeF page = pageTwips(graph, options);
+    const double k = std::clamp(options.dpi, kMinDpi, kMaxDpi) / kTwipsPerInch;
+    return {static_cast<int>(std::lround(page.width() * k)), static_cast<int>(std::lround(page.height() * k))};
+}
+
+bool paint(QPainter& painter, const Graph& graph, const Options& options)
+{
+    const QSizeF page = pageTwips(graph, options);
+    painter.save();
+    painter.fillRect(QRectF(QPointF(0, 0), page), Qt::white);
+    painter.save();
+    painter.translate(kMargin - graph.twips.left(), kMargin - graph.twips.top());
+    const bool vector =
+        graph.surface->paintVector(painter, graph.twips, {.colour = options.colour, .penScale = options.lineWidth});
+    if (!vector)  // more was drawn than is kept: the picture as it is on the screen
+        painter.drawImage(graph.twips, graph.surface->picture(graph.twips));
+    // The square's outline, as the form draws it around the graph.
+    painter.setClipping(false);
+    painter.setPen(QPen(Qt::black, DrawingSurface::kTwipsPerPixel));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(graph.twips);
+    painter.restore();
+    if (const double h = captionHeight(graph, options); h > 0) {
+        painter.setFont(captionFont());
+        painter.setPen(Qt::black);
+        painter.drawText(QRectF(kMargin, kMargin + graph.twips.height() + kMargin, graph.twips.width(), h),
+                         Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, graph.caption);
+    }
+    painter.restore();
+    return vector;
+}
+
+bool paintFitted(QPainter& painter, const Graph& graph, const Options& options, const QRectF& target)
+{
+    const QSizeF page = pageTwips(graph, options);
+    const double k = std::min(target.width() / page.width(), target.height() / page.height());
+    painter.save();
+    painter.translate(target.left() + (target.width() - page.width() * k) / 2, target.top());
+    painter.scale(k, k);
+    const bool vector = paint(painter, graph, options);
+    painter.restore();
+    return vector;
+}
+
+QString write(const QString& path, const Graph& graph, const Options& options)
+{
+    const std::optional<Format> format = formatOf(path);
+    if (!format)
+        return QStringLiteral("The file name %1 does not say which kind of file to write: end it with .svg, .pdf or "
+                              ".png.")
+            .arg(QFileInfo(path).fileName().isEmpty() ? QStringLiteral("(none)") : QFileInfo(path).fileName());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return couldNotWrite(path, file.errorString());
+    const QSizeF page = pageTwips(graph, options);
+    bool painted = false;
+    switch (*format) {
+    case Format::Svg: {
+        QSvgGenerator svg;
+        svg.setOutputDevice(&file);
+        svg.setSize(QSize(static_cast<int>(std::ceil(page.width() / DrawingSurface::kTwipsPerPixel)),
+                          static_cast<int>(std::ceil(page.height() / DrawingSurface::kTwipsPerPixel))));
+        svg.setViewBox(QRectF(QPointF(0, 0), page));
+        svg.setTitle(QStringLiteral("Plotto"));
+        svg.setDescription(graph.caption);
+        QPainter painter;
+        if ((painted = painter.begin(&svg)))
+            paint(painter, graph, options);
+        break;
+    }
+    case Format::Pdf: {
+        QPdfWriter pdf(&file);
+        pdf.setCreator(QStringLiteral("Plotto"));
+        pdf.setTitle(graph.caption.section(QLatin1Char('\n'), 0, 0));
+        pdf.setPageSize(QPageSize(QSizeF(page.width() / kTwipsPerPoint, page.height() / kTwipsPerPoint),
+                                  QPageSize::Point, QString(), QPageSize::ExactMatch));
+        pdf.setPageMargins(QMarginsF(0, 0, 0, 0));
+        QPainter painter;
+        if ((painted = painter.begin(&pdf))) {
+            const double k = pdf.resolution() / kTwipsPerInch;
+            painter.scale(k, k);
+            paint(painter, graph, options);
+        }
+        break;
+    }
+    case Format::Png: {
+        const int dpi = std::clamp(options.dpi, kMinDpi, kMaxDpi);
+        QImage image(pixelSize(graph, options), QImage::Format_RGB32);
+        if (image.isNull()) {
+            file.cancelWriting();
+            return couldNotWrite(path, QStringLiteral("the picture is too large for the memory"));
+        }
+        image.fill(Qt::white);
+        const int dotsPerMetre = static_cast<int>(std::lround(dpi / 0.0254));
+        image.setDotsPerMeterX(dotsPerMetre);
+        image.setDotsPerMeterY(dotsPerMetre);
+        {
+            QPainter painter(&image);
+            painter.scale(dpi / kTwipsPerInch, dpi / kTwipsPerInch);
+            paint(painter, graph, options);
+        }
+        painted = image.save(&file, "PNG");
+        break;
+    }
+    }
+    if (!painted) {
+        file.cancelWriting();
+        return couldNotWrite(path, file.errorString().isEmpty() ? QStringLiteral("the file could not be made")
+                                                                : file.errorString());
+    }
+    if (!file.commit())
+        return couldNotWrite(path, file.errorString());
+    return {};
+}
+
+}  // namespace graphexport

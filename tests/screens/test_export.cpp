@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The graph leaving the program: the vector drawing against the screen's own picture for every
+// screen's showcase, the three file formats as other programs read them, the page fitted for
+// printing, and what a bad file name does.
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include "graphwin/GraphExport.h"
+#include "graphwin/GraphScreen.h"
+#include "screens/ScreenRegistry.h"
+
+#include "ScreenFixture.h"
+
+namespace {
+
+bool inked(QRgb c) { return qRed(c) < 235 || qGreen(c) < 235 || qBlue(c) < 235; }
+
+// The share of the inked pixels of `a` that have an inked pixel of `b` within `reach` pixels.
+double coveredShare(const QImage& a, const QImage& b, int reach)
+{
+    long inkedA = 0, covered = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            if (!inked(a.pixel(x, y)))
+                continue;
+            ++inkedA;
+            bool found = false;
+            for (int dy = -reach; dy <= reach && !found; ++dy)
+                for (int dx = -reach; dx <= reach && !found; ++dx)
+                    found = b.valid(x + dx, y + dy) && inked(b.pixel(x + dx, y + dy));
+            covered += found;
+        }
+    return inkedA == 0 ? 1.0 : static_cast<double>(covered) / static_cast<double>(inkedA);
+}
+
+// The graph painted from its vectors at the screen's own resolution (a pixel is 15 twips), on the
+// pixels that the screen's picture of the same rectangle covers.
+QImage vectorAtScreenSize(const graphexport::Graph& g, QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    const double k = DrawingSurface::kTwipsPerPixel;
+    painter.translate(-std::floor(g.twips.left() / k + 1e-7), -std::floor(g.twips.top() / k + 1e-7));
+    painter.scale(1 / k, 1 / k);
+    EXPECT_TRUE(g.surface->paintVector(painter, g.twips, {}));
+    return image;
+}
+
+// The colours of the strokes and fills an SVG file uses.
+QSet<QString> svgColours(const QByteArray& svg)
+{
+    QSet<QString> colours;
+    static const QRegularExpression colour(QStringLiteral("(?:stroke|fill)=\"(#[0-9a-f]{6})\""));
+    for (const auto& m : colour.globalMatch(QString::fromUtf8(svg)))
+        colours.insert(m.captured(1));
+    return colours;
+}
+
+QString runTool(const QString& tool, const QStringList& arguments)
+{
+    QProcess p;
+    p.start(tool, arguments);
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+class ExportTest : public ::testing::TestWithParam<const screens::Entry*> { };
+
+}  // namespace
+
+// Every kind of plot the screens draw: the drawing exported as vectors lies where the screen's pixels
+// lie (within a pixel, at the same size), in the same colours, so that a handout shows what the class saw.
+TEST_P(ExportTest, VectorDrawingLiesOnTheScreensPicture)
+{
+    const screens::Entry& row = *GetParam();
+    std::unique_ptr<GraphScreen> screen = row.make();
+    row.showcase(*screen);
+    const graphexport::Graph g = screen->exportedGraph();
+    const QImage shown = g.surface->picture(g.twips);
+    const QImage vector = vectorAtScreenSize(g, shown.size());
+    // Every pixel of the screen is drawn by the vectors; the vectors add only the joins between a
+    // curve's dots, and its round ends.
+    EXPECT_GE(coveredShare(shown, vector, 1), 0.995) << row.key;
+    EXPECT_GE(coveredShare(vector, shown, 2), 0.97) << row.key;
+
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("graph.svg"));
+    ASSERT_EQ(screen->exportGraph(path, {}), QString()) << row.key;
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray svg = file.readAll();
+    EXPECT_FALSE(svg.contains("<image")) << row.key << ": a picture where vectors belong";
+    // Each colour of a curve on the screen (any colour covering 30 pixels or more) is a stroke in the file.
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x)
+            ++counts[shown.pixel(x, y) & 0xFFFFFFu];
+    const QSet<QString> inFile = svgColours(svg);
+    for (auto [rgb, n] : counts.asKeyValueRange()) {
+        if (n >= 30 && rgb != 0xFFFFFFu) {
+            EXPECT_TRUE(inFile.contains(QStringLiteral("#%1").arg(rgb, 6, 16, QLatin1Char('0'))))
+                << row.key << ": colour " << std::hex << rgb << " on the screen, not in the file";
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryScreen, ExportTest, ::testing::ValuesIn(screens::inTeachingOrder()),
+                         [](const auto& info) {
+                             return QString::fromLatin1(info.param->key).remove(QLatin1Char('-')).toStdString();
+                         });
+
+// The three formats as other programs read them: an SVG of paths, a one-page PDF whose text is the
+// caption, a PNG of the chosen resolution; in black and white, no colour but greys and line styles.
+TEST(Export, FilesOfEachFormatAsOtherProgramsReadThem)
+{
+    const screens::Entry& row = *screens::find(QStringLiteral("grapher"));
+    std::unique_ptr<GraphScreen> screen = row.make();
+    row.showcase(*screen);
+    QTemporaryDir dir;
+    const graphexport::Graph g = screen->exportedGraph();
+
+    ASSERT_EQ(screen->exportGraph(dir.filePath(QStringLiteral("g.svg")), {}), QString());
+    QFile svgFile(dir.filePath(QStringLiteral("g.svg")));
+    ASSERT_TRUE(svgFile.open(QIODevice::ReadOnly));
+    const QByteArray svg = svgFile.readAll();
+    EXPECT_GE(svg.count("<path"), 20);
+    EXPECT_TRUE(svg.contains("Window: x from")) << "the caption is text in the file";
+
+    graphexport::Options mono;
+    mono.colour = false;
+    ASSERT_EQ(screen->exportGraph(dir.filePath(QStringLiteral("mono.svg")), mono), QString());
+    QFile monoFile(dir.filePath(QStringLiteral("mono.svg")));
+    ASSERT_TRUE(monoFile.open(QIODevice::ReadOnly));
+    const QByteArray monoSvg = monoFile.readAll();
+    for (const QString& c : svgColours(monoSvg)) {
+        const QRgb rgb = c.mid(1).toUInt(nullptr, 16);
+        EXPECT_EQ(qRed(rgb), qGreen(rgb)) << c.toStdString() << " is not a grey";
+        EXPECT_EQ(qGreen(rgb), qBlue(rgb)) << c.toStdString() << " is not a grey";
+    }
+    EXPECT_TRUE(monoSvg.contains("stroke-dasharray")) << "the curves told apart by line styles";
+
+    for (int dpi : {300, 150}) {
+        graphexport::Options o;
+        o.dpi = dpi;
+        const QString png = dir.filePath(QStringLiteral("g%1.png").arg(dpi));
+        ASSERT_EQ(screen->exportGraph(png, o), QString());
+        const QImage image(png);
+        // 1440 twips to the inch: the page's twips times dpi / 1440.
+        const QSizeF page = graphexport::pageTwips(g, o);
+        EXPECT_EQ(image.width(), std::lround(page.width() * dpi / 1440.0)) << dpi;
+        EXPECT_EQ(image.height(), std::lround(page.height() * dpi / 1440.0)) << dpi;
+        EXPECT_NEAR(image.dotsPerMeterX() * 0.0254, dpi, 0.5);
+    }
+
+    const QString pdf = dir.filePath(QStringLiteral("g.pdf"));
+    ASSERT_EQ(screen->exportGraph(pdf, {}), QString());
+    const QString pdfinfo = QStandardPaths::findExecutable(QStringLiteral("pdfinfo"));
+    if (pdfinfo.isEmpty())
+        GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
+    EXPECT_TRUE(runTool(pdfinfo, {pdf}).contains(QRegularExpression(QStringLiteral("Pages:\\s+1\\n"))));
+    const QString text =
+        runTool(QStandardPaths::findExecutable(QStringLiteral("pdftotext")), {pdf, QStringLiteral("-")});
+    EXPECT_TRUE(text.contains(QStringLiteral("Window: x from"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(screen->txtXmax->text())) << text.toStdString();
+}
+
+// Printing fits the page to the paper with its shape kept: on a tall page the graph is as wide as the
+// paper, and on a wide one as tall, and square either way.
+TEST(Export, PageFittedWithItsShapeKept)
+{
+    const screens::Entry& row = *screens::find(QStringLiteral("newton"));
+    std::unique_ptr<GraphScreen> screen = row.make();
+    row.showcase(*screen);
+    graphexport::Options bare;
+    bare.caption = false;
+    const QSizeF page = graphexport::pageTwips(screen->exportedGraph(), bare);
+    struct Paper {
+        const char* name;
+        QSize size;
+    };
+    for (const Paper& paper : {Paper{"tall", {400, 900}}, Paper{"wide", {900, 400}}}) {
+        QImage image(paper.size, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        screen->printGraph(image, QRectF(QPointF(0, 0), paper.size), bare);
+        // The page is painted white over the grey paper: its white rectangle is the fitted page.
+        QRect white;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) != QColor(Qt::gray).rgb())
+                    white |= QRect(x, y, 1, 1);
+        const double k = std::min(paper.size.width() / page.width(), paper.size.height() / page.height());
+        EXPECT_NEAR(white.width(), page.width() * k, 1.5) << paper.name;
+        EXPECT_NEAR(white.height(), page.height() * k, 1.5) << paper.name;
+        EXPECT_EQ(white.top(), 0) << paper.name;
+        EXPECT_NEAR(white.center().x(), paper.size.width() / 2.0, 1.5) << paper.name;
+    }
+}
+
+// A file name that says no format, a folder that does not exist, a name that is a folder: a message
+// in words, and nothing left under the name (nor a temporary file beside it).
+TEST(Export, BadFileNamesAreToldAndLeaveNoFile)
+{
+    std::unique_ptr<GraphScreen> screen = screens::find(QStringLiteral("grapher"))->make();
+    QTemporaryDir dir;
+    QDir(dir.path()).mkdir(QStringLiteral("taken.svg"));
+    struct Case {
+        const char* name;
+        QString path;
+        const char* says;
+    };
+    const Case cases[] = {
+        {"no extension", dir.filePath(QStringLiteral("graph")), "end it with .svg, .pdf or .png"},
+        {"unknown extension", dir.filePath(QStringLiteral("graph.jpg")), "end it with .svg, .pdf or .png"},
+        {"missing folder", dir.filePath(QStringLiteral("no/such/folder/graph.pdf")), "Could not write"},
+        {"a folder's name", dir.filePath(QStringLiteral("taken.svg")), "Could not write"},
+    };
+    for (const Case& c : cases) {
+        const QString error = screen->exportGraph(c.path, {});
+        EXPECT_TRUE(error.contains(QLatin1String(c.says))) << c.name << ": " << error.toStdString();
+    }
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList()) << "a file was left behind";
+
+    // Through the menu: the message is shown, and a good name writes the file after asking the options.
+    DialogScript script;
+    setDialogScript(&script);
+    script.answers = {dir.filePath(QStringLiteral("graph")), dir.filePath(QStringLiteral("graph.png"))};
+    screen->mnuExportGraph_Click();
+    screen->mnuExportGraph_Click();
+    setDialogScript(nullptr);
+    ASSERT_EQ(script.shown.size(), 4u);
+    EXPECT_EQ(script.shown[1].first, QStringLiteral("Export Graph"));
+    EXPECT_TRUE(script.shown[1].second.contains(QStringLiteral("end it with"))) << script.shown[1].second.toStdString();
+    EXPECT_EQ(script.shown[3].second, QStringLiteral("options"));
+    EXPECT_TRUE(QFile::exists(dir.filePath(QStringLiteral("graph.png"))));
+}
