@@ -99,6 +99,7 @@ std::string phrase(const Side& s)
 // What one side of a holds for the band.
 struct SideSearch {
     bool defined = false;  // f is defined somewhere on it
+    bool gaps = false;  // and undefined somewhere else
     bool noDelta = false;
     bool edge = false;
     double delta = 0, leaveT = 0, leaveY = 0;  // (closest point outside, for noDelta)
@@ -131,6 +132,7 @@ SideSearch searchSide(const Values& f, double a, double L, double eps, int direc
     const auto outside = [&](double y) { return std::isfinite(y) && std::fabs(y - L) >= eps; };
     SideSearch s;
     s.defined = std::any_of(ys.begin(), ys.end(), [](double y) { return !std::isnan(y); });
+    s.gaps = s.defined && std::any_of(ys.begin(), ys.end(), [](double y) { return std::isnan(y); });
     const auto first = std::find_if(ys.begin(), ys.end(), outside);
     if (first == ys.end()) {
         s.edge = true;
@@ -276,6 +278,8 @@ DeltaSearch largestDelta(const Values& f, double a, double L, double eps, double
     if (d.undefinedSides == 1)
         d.words += std::string(" f is not defined to the ") + (left.defined ? "right" : "left") +
                    " of a: only x where it is defined count.";
+    else if (left.gaps || right.gaps)
+        d.words += " f is undefined at some x of the window: they are not in its domain and do not count.";
     return d;
 }
 

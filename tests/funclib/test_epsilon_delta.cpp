@@ -69,6 +69,11 @@ TEST(EpsilonDelta, LargestDeltaAgainstWhereTheGraphMeetsTheBand)
     EXPECT_NEAR(x2.leaveX, std::sqrt(4.5), 1e-11);
     EXPECT_NEAR(x2.leaveY, 4.5, 1e-10);
     EXPECT_NE(x2.words.find("the largest δ is 0.1213203436"), std::string::npos) << x2.words;
+    // ln x at 1 (L = 0): the band 0 +- 1 is left at x = 1/e on the left, before x = e on the right; the
+    // window's x <= 0 are outside the domain, and said so.
+    const DeltaSearch ln = delta("ln(x)", 1, 0, 1);
+    EXPECT_NEAR(ln.delta, 1 - std::exp(-1.0), 1e-12);
+    EXPECT_NE(ln.words.find("f is undefined at some x of the window"), std::string::npos) << ln.words;
 }
 
 TEST(EpsilonDelta, NoDeltaWherePointsArbitrarilyCloseLeaveTheBand)
