@@ -218,8 +218,14 @@ void frmLimits::draw(const DeltaSearch* found)
     const QString what = p->searched ? QStringLiteral("the band L = %1 ± ε = %2 about a = %3 for %4")
                                            .arg(shown(p->L), shown(p->eps), shown(p->a), describeFamily())
                                      : QStringLiteral("%1 with a = %2 marked").arg(describeFamily(), txtPoint->text());
+    // f is the curve that the readout names, the trace plays and the keyboard walks along.
     keepDrawing(
-        what, [this, p, f] { drawPicture(*p, f); }, typed_, QStringLiteral("limits"));
+        what,
+        [this, p, f, name = describeFamily(), function = typed_] {
+            noteTraced(explicitCurve(name, FuncGlobals::ExplicitSnapshot::What::Value, function));
+            drawPicture(*p, f);
+        },
+        typed_, QStringLiteral("limits"));
 }
 
 void frmLimits::drawPicture(const Picture& p, const FuncGlobals::ExplicitSnapshot& f)

@@ -132,6 +132,10 @@ TEST_F(Limits, TheHoleTheDotAndTheBandsAreDrawn)
     EXPECT_NEAR(linesIn(colour(10)), 1 + 2 * 0.5 * 320 / 45, 1);
     EXPECT_NEAR(linesIn(colour(11)), 1 + 2 * 1.8955 * 320 / 45, 1);
     EXPECT_TRUE(screen->everyDrawingKept());
+    // f is the curve the readout names: at x = 2 it gives sin 2 / 2 = 0.4546.
+    const QString readout = screen->readoutAt(screen->graph.plainColumn(2), screen->graph.plainRow(0.4546));
+    EXPECT_TRUE(readout.contains(QStringLiteral("sin(x)/x")) && readout.contains(QStringLiteral("0.45")))
+        << readout.toStdString();
     // x^2 at 1 with L = 2: the dot at (1, 1), filled, and the circle at (1, 2).
     screen->CleanGraph();
     setUp(*screen, "#1", "1", "2");
