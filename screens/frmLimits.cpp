@@ -339,7 +339,7 @@ void frmLimits::mnuAbout_Click()
          "settle on one value (six values in a row agreeing to 1e-5), settle on different values, grow without "
          "bound or do not settle."},
         {"[Find δ] and [Halve ε]",
-         "[Find δ] shades the band L ± ε in green and the band a ± δ in light blue, with the largest δ for which "
+         "[Find δ] shades the band L ± ε in green and the band a ± δ in cyan, with the largest δ for which "
          "the graph stays in the green band, and marks in red where the graph first leaves it.  [Halve ε] halves ε "
          "and looks again; clicking the green label ε = halves it with the left button and doubles it with the "
          "right.  Each ε adds a row to the table: ε, δ, δ/ε and where the graph leaves the band, so that you can "
