@@ -182,6 +182,10 @@ std::string shown(double v) { return std::isfinite(v) ? fixed("%.10g", v == 0 ? 
 LimitEstimate estimateLimit(const Values& f, double a)
 {
     LimitEstimate e;
+    if (!std::isfinite(a)) {
+        e.words = "a must be a number.";
+        return e;
+    }
     e.left = sideOf(f, a, -1);
     e.right = sideOf(f, a, 1);
     const std::string at = " at a = " + shown(a);

@@ -144,6 +144,7 @@ TEST(EpsilonDelta, TheLimitFromBothSides)
          "The left side tends to -infinity and the right side to infinity: no limit at a = 0."},
         {"an oscillation", "sin(1/x)", 0, false, 0,
          "The left side does not settle and the right side does not settle: no limit at a = 0."},
+        {"a is not a number", "x", NAN, false, 0, "a must be a number."},
         {"nowhere defined", "sqrt(-1 - x^2)", 3, false, 0,
          "f is not defined near a = 3 on either side: no limit there."},
     };
