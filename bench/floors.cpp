@@ -4,7 +4,9 @@
 // Each sets the shared function state as the handler's screen has it after opening.
 #include <benchmark/benchmark.h>
 
+#include "funclib/EpsilonDelta.h"
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "runtime/VectorState.h"
 #include "screens/IntegralCurves.h"
 #include "screens/RiemannSums.h"
@@ -153,6 +155,20 @@ void BM_Bare42PlotsOfEvaluations(benchmark::State& state)
     }
 }
 BENCHMARK(BM_Bare42PlotsOfEvaluations)->Unit(benchmark::kMillisecond);
+
+// The limits screen's Halve epsilon without the screen: the delta search alone, x^2 at 1 with L = 1
+// and epsilon 0.25 over the window from -10 to 10.
+void BM_LimitsDeltaSearch(benchmark::State& state)
+{
+    FuncGlobals::Coefficients = {1, 1, 0, 0, 0, 0};
+    FuncGlobals::FunctionId = 1;
+    const FuncGlobals::ExplicitSnapshot f(FuncGlobals::ExplicitSnapshot::What::Value, nullptr);
+    const limits::Values values = [&f](const std::vector<double>& xs) { return f.at(xs); };
+    noteState(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(limits::largestDelta(values, 1, 1, 0.25, -10, 10).delta);
+}
+BENCHMARK(BM_LimitsDeltaSearch)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -20,6 +20,12 @@ inline constexpr int kTaylorFunction = 1;  // blue: f on the Taylor screen
 inline constexpr int kTaylorPolynomial = 4;  // red: the Taylor polynomial of the degree shown
 inline constexpr int kTaylorPrevious = 12;  // light red: the one a degree below, faint
 inline constexpr int kTaylorBand = 10;  // light green: where |f - P_n| is below the tolerance, on the x axis
+inline constexpr int kLimitsFunction = 1;  // blue: f on the limits screen, its dot and hole at a
+inline constexpr int kLimitsEpsilonBand = 10;  // light green: the band L +- epsilon, shaded
+inline constexpr int kLimitsEpsilonEdge = 2;  // green: its edges
+inline constexpr int kLimitsDeltaBand = 11;  // light cyan: the band a +- delta, shaded
+inline constexpr int kLimitsDeltaEdge = 3;  // cyan: its edges
+inline constexpr int kLimitsLeave = 4;  // red: where the graph first leaves the band
 inline constexpr int kMarkWidth = 3;  // a point that marks a result (the MVT's c, the parametric trace)
 inline constexpr double kEndpointRadius = 50;  // twips
 

@@ -11,6 +11,7 @@
 #include "screens/frmAnimate.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
+#include "screens/frmLimits.h"
 #include "screens/frmMVT.h"
 #include "screens/frmNewton.h"
 #include "screens/frmParam.h"
@@ -147,6 +148,20 @@ void showTaylor(GraphScreen& g)
         s.cmdAddTerm_Click();
 }
 
+void showLimits(GraphScreen& g)
+{
+    // x^2 at 2 with L = 4: epsilon 2, then halved twice; the table lists the three.
+    auto& s = as<frmLimits>(g);
+    s.Form_Activate();
+    s.mnuFunc_Click(1);
+    set({{s.txtA, "1"}, {s.txtB, "1"}, {s.txtC, "0"}, {s.txtD, "0"}});
+    set({{s.txtXmin, "-1"}, {s.txtXmax, "5"}, {s.txtYmin, "-1"}, {s.txtYmax, "8"}});
+    set({{s.txtPoint, "2"}, {s.txtLimit, "4"}, {s.txtEpsilon, "2"}});
+    s.cmdFindDelta_Click();
+    s.cmdHalve_Click();
+    s.cmdHalve_Click();
+}
+
 const Entry kScreens[] = {
     // key          class           place  button                          Selections entry
     {"sums", "frmRiemann", 2, "&Riemann Sums + Others", "&Riemann Sums +", "Riemann and other sums", make<frmRiemann>,
@@ -173,6 +188,10 @@ const Entry kScreens[] = {
     // An addition: opened from the launcher's More Demonstrations menu, with no button.
     {"taylor", "frmTaylor", 8, "Taylor Polynomials", "&Taylor Polynomials", "Taylor polynomials term by term",
      make<frmTaylor>, [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("ln(1 + x)")); }, showTaylor, {},
+     Entry::Kind::Addition},
+    {"limits", "frmLimits", 9, "Limits by Epsilon and Delta", "&Limits by Epsilon and Delta",
+     "limits by epsilon and delta", make<frmLimits>,
+     [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("sin(x)/x")); }, showLimits, {},
      Entry::Kind::Addition},
 };
 

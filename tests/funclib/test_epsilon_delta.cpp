@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The limit and the largest delta, without a window: delta against the closed form of where f meets
+// L +- eps, the bands left arbitrarily close to a, the one-sided limits in words, and delta/eps as
+// eps halves.
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "funclib/EpsilonDelta.h"
+#include "funclib/FunctionSource.h"
+
+using limits::DeltaSearch;
+
+namespace {
+// A typed function as the search reads it: NaN where it is undefined.
+limits::Values typed(const char* text)
+{
+    std::string error;
+    auto f = FuncGlobals::TypedFunction::make(text, error);
+    EXPECT_TRUE(f) << text << ": " << error;
+    return [f](const std::vector<double>& xs) {
+        std::vector<double> ys;
+        for (double x : xs) {
+            const double y = f->value(x);
+            ys.push_back(std::isfinite(y) ? y : NAN);
+        }
+        return ys;
+    };
+}
+DeltaSearch delta(const char* f, double a, double L, double eps)
+{
+    return limits::largestDelta(typed(f), a, L, eps, -10, 10);
+}
+}  // namespace
+
+TEST(EpsilonDelta, LargestDeltaAgainstWhereTheGraphMeetsTheBand)
+{
+    const struct {
+        const char* name;
+        const char* f;
+        double a, L, eps, delta;
+        bool edge;
+        int undefinedSides;
+    } rows[] = {
+        // 2(1 + t) + 3 - 5 = 2t reaches 0.5 at t = 0.25, on both sides.
+        {"2x + 3 at 1", "2*x + 3", 1, 5, 0.5, 0.25, false, 0},
+        // (2 + t)^2 = 4.5 on the right comes before (2 - t)^2 = 3.5 on the left.
+        {"x^2 at 2", "x^2", 2, 4, 0.5, std::sqrt(4.5) - 2, false, 0},
+        // sin t / t = 1/2 at the nonzero root of sin t = t/2; f(0) itself is undefined.
+        {"sin(x)/x at 0 (a hole)", "sin(x)/x", 0, 1, 0.5, 1.8954942670339809, false, 0},
+        {"x^3 at 0", "x^3", 0, 0, 0.001, 0.1, false, 0},
+        // sqrt t = 1/2 at t = 1/4; the left side is outside the domain.
+        {"sqrt(x) at 0", "sqrt(x)", 0, 0, 0.5, 0.25, false, 1},
+        // Nothing leaves the band 5 +- 100: the nearer edge, x = 10, is 9 away.
+        {"a wide band", "2*x + 3", 1, 5, 100, 9, true, 0},
+        // The jump is inside the band 0 +- 2.
+        {"x/abs(x) with a wide band", "x/abs(x)", 0, 0, 2, 10, true, 0},
+    };
+    for (const auto& r : rows) {
+        const DeltaSearch d = delta(r.f, r.a, r.L, r.eps);
+        ASSERT_EQ(d.outcome, DeltaSearch::Outcome::Found) << r.name << ": " << d.words;
+        EXPECT_NEAR(d.delta, r.delta, 1e-11 * r.delta) << r.name;
+        EXPECT_LE(d.delta, r.delta * (1 + 1e-15)) << r.name << ": a delta that works is never past the true one";
+        EXPECT_EQ(d.reachesEdge, r.edge) << r.name;
+        EXPECT_EQ(d.undefinedSides, r.undefinedSides) << r.name;
+    }
+    const DeltaSearch x2 = delta("x^2", 2, 4, 0.5);
+    EXPECT_NEAR(x2.leaveX, std::sqrt(4.5), 1e-11);
+    EXPECT_NEAR(x2.leaveY, 4.5, 1e-10);
+    EXPECT_NE(x2.words.find("the largest δ is 0.1213203436"), std::string::npos) << x2.words;
+    // ln x at 1 (L = 0): the band 0 +- 1 is left at x = 1/e on the left, before x = e on the right; the
+    // window's x <= 0 are outside the domain, and said so.
+    const DeltaSearch ln = delta("ln(x)", 1, 0, 1);
+    EXPECT_NEAR(ln.delta, 1 - std::exp(-1.0), 1e-12);
+    EXPECT_NE(ln.words.find("f is undefined at some x of the window"), std::string::npos) << ln.words;
+}
+
+TEST(EpsilonDelta, NoDeltaWherePointsArbitrarilyCloseLeaveTheBand)
+{
+    const struct {
+        const char* name;
+        const char* f;
+        double a, L, eps;
+    } rows[] = {
+        {"a jump, L between the sides", "x/abs(x)", 0, 0, 0.5},
+        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5},
+        {"a pole", "1/x", 0, 0, 0.5},
+        {"an oscillation", "sin(1/x)", 0, 0, 0.5},
+        {"a wrong L", "2*x + 3", 1, 6, 0.5},
+        {"an L just outside the band", "x^2", 2, 4.5, 0.5},
+    };
+    for (const auto& r : rows) {
+        const DeltaSearch d = delta(r.f, r.a, r.L, r.eps);
+        EXPECT_EQ(d.outcome, DeltaSearch::Outcome::NoDelta) << r.name << ": " << d.words;
+        EXPECT_LT(std::fabs(d.closeX - r.a), 1e-12) << r.name;
+        EXPECT_GE(std::fabs(d.closeY - r.L), r.eps) << r.name;
+    }
+    EXPECT_EQ(delta("x/abs(x)", 0, 0, 0.5)
+                  .words.rfind("For ε = 0.5 no δ works: points arbitrarily close to a leave the band", 0),
+              0u);
+}
+
+TEST(EpsilonDelta, WhatIsNotSearchedIsSaid)
+{
+    const struct {
+        const char* name;
+        double a, eps;
+        const char* says;
+    } rows[] = {
+        {"eps 0", 1, 0, "ε must be a positive number."},
+        {"eps negative", 1, -0.5, "ε must be a positive number."},
+        {"eps not a number", 1, NAN, "ε must be a positive number."},
+        {"a outside the window", 12, 0.5, "a = 12 is not inside the window from -10 to 10"},
+        {"a on its edge", 10, 0.5, "a = 10 is not inside the window"},
+        {"eps lost in rounding", 1, 1e-12, "ε = 1e-12 is below what rounding in f"},
+    };
+    for (const auto& r : rows) {
+        const DeltaSearch d = delta("2*x + 3", r.a, 5, r.eps);
+        EXPECT_EQ(d.outcome, DeltaSearch::Outcome::Refused) << r.name;
+        EXPECT_EQ(d.words.rfind(r.says, 0), 0u) << r.name << ": " << d.words;
+    }
+    EXPECT_EQ(delta("sqrt(-1 - x^2)", 0, 0, 0.5).outcome, DeltaSearch::Outcome::Refused);
+}
+
+TEST(EpsilonDelta, TheLimitFromBothSides)
+{
+    const struct {
+        const char* name;
+        const char* f;
+        double a;
+        bool exists;
+        double limit;
+        const char* words;  // the sentence, where there is no limit
+    } rows[] = {
+        {"sin(x)/x at 0", "sin(x)/x", 0, true, 1, nullptr},
+        {"(x^2 - 1)/(x - 1) at 1", "(x^2 - 1)/(x - 1)", 1, true, 2, nullptr},
+        {"2x + 3 at 1", "2*x + 3", 1, true, 5, nullptr},
+        {"x^2 at 2", "x^2", 2, true, 4, nullptr},
+        {"(1 - cos x)/x^2 at 0", "(1 - cos(x))/x^2", 0, true, 0.5, nullptr},
+        {"sqrt(x) at 0, from the right only", "sqrt(x)", 0, true, 0, nullptr},
+        {"a jump", "x/abs(x)", 0, false, 0, "The left side tends to -1 and the right side to 1: no limit at a = 0."},
+        {"a pole", "1/x", 0, false, 0,
+         "The left side tends to -infinity and the right side to infinity: no limit at a = 0."},
+        {"an oscillation", "sin(1/x)", 0, false, 0,
+         "The left side does not settle and the right side does not settle: no limit at a = 0."},
+        {"a is not a number", "x", NAN, false, 0, "a must be a number."},
+        {"nowhere defined", "sqrt(-1 - x^2)", 3, false, 0,
+         "f is not defined near a = 3 on either side: no limit there."},
+    };
+    for (const auto& r : rows) {
+        const limits::LimitEstimate e = limits::estimateLimit(typed(r.f), r.a);
+        EXPECT_EQ(e.exists, r.exists) << r.name << ": " << e.words;
+        if (r.exists)
+            EXPECT_EQ(e.limit, r.limit) << r.name << ": " << e.words;
+        else
+            EXPECT_EQ(e.words, r.words) << r.name;
+    }
+}
+
+TEST(EpsilonDelta, DeltaShrinksWithEpsilonAsTheSlopeSays)
+{
+    // 2x + 3 at 1: delta = eps / 2. x^2 at 2, L = 4: delta = sqrt(4 + eps) - 2 (the right side
+    // is the nearer), so delta / eps tends to 1/f'(2) = 1/4.
+    double eps = 0.5;
+    for (int k = 0; k < 24; ++k, eps /= 2) {
+        const DeltaSearch line = delta("2*x + 3", 1, 5, eps), square = delta("x^2", 2, 4, eps);
+        // To the relative precision asked for, or to a few units in the last place of x near a.
+        EXPECT_NEAR(line.delta, eps / 2, 1e-11 * eps + 4e-15) << "eps = " << eps;
+        EXPECT_NEAR(square.delta, std::sqrt(4 + eps) - 2, 1e-11 * eps + 4e-15) << "eps = " << eps;
+    }
+    EXPECT_NEAR(delta("x^2", 2, 4, std::ldexp(0.5, -23)).delta / std::ldexp(0.5, -23), 0.25, 1e-6);
+}
