@@ -20,6 +20,11 @@ inline constexpr int kTaylorFunction = 1;  // blue: f on the Taylor screen
 inline constexpr int kTaylorPolynomial = 4;  // red: the Taylor polynomial of the degree shown
 inline constexpr int kTaylorPrevious = 12;  // light red: the one a degree below, faint
 inline constexpr int kTaylorBand = 10;  // light green: where |f - P_n| is below the tolerance, on the x axis
+inline constexpr int kAreaF = 1;  // blue: f on the area screen
+inline constexpr int kAreaG = 4;  // red: g on the area screen
+inline constexpr int kAreaFAbove = 11;  // light cyan: the strips where f is above g
+inline constexpr int kAreaGAbove = 12;  // light red: the strips where g is above f
+inline constexpr int kAreaCrossing = 0;  // black: a crossing of f and g, marked
 inline constexpr int kMarkWidth = 3;  // a point that marks a result (the MVT's c, the parametric trace)
 inline constexpr double kEndpointRadius = 50;  // twips
 

@@ -9,6 +9,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "screens/frmAnimate.h"
+#include "screens/frmArea.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
 #include "screens/frmMVT.h"
@@ -147,6 +148,17 @@ void showTaylor(GraphScreen& g)
         s.cmdAddTerm_Click();
 }
 
+void showArea(GraphScreen& g)
+{
+    // y = x^2 against g(x) = x + 2 on [-2, 3]: crossings at -1 and 2, both colours of shading.
+    auto& s = as<frmArea>(g);
+    s.Form_Activate();
+    s.mnuFunc_Click(1);
+    set({{s.txtA, "1"}, {s.txtB, "1"}, {s.txtC, "0"}, {s.txtD, "0"}, {s.txtG, "x + 2"}});
+    set({{s.txtLeft, "-2"}, {s.txtRight, "3"}, {s.txtStrips, "8"}});
+    s.cmdCrossings_Click();
+}
+
 const Entry kScreens[] = {
     // key          class           place  button                          Selections entry
     {"sums", "frmRiemann", 2, "&Riemann Sums + Others", "&Riemann Sums +", "Riemann and other sums", make<frmRiemann>,
@@ -174,6 +186,9 @@ const Entry kScreens[] = {
     {"taylor", "frmTaylor", 8, "Taylor Polynomials", "&Taylor Polynomials", "Taylor polynomials term by term",
      make<frmTaylor>, [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("ln(1 + x)")); }, showTaylor, {},
      Entry::Kind::Addition},
+    {"area", "frmArea", 9, "Area Between Two Curves", "&Area Between Curves", "the area between two curves",
+     make<frmArea>, [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("sqrt(x)")); }, showArea,
+     [](GraphScreen& s) { return as<frmArea>(s).convergence; }, Entry::Kind::Addition},
 };
 
 }  // namespace
