@@ -150,12 +150,14 @@ void showTaylor(GraphScreen& g)
 
 void showArea(GraphScreen& g)
 {
-    // y = x^2 against g(x) = x + 2 on [-2, 3]: crossings at -1 and 2, both colours of shading.
+    // y = x^2 against g(x) = x + 2 on [-2, 3] in a window about it: crossings at -1 and 2, both colours of
+    // shading.
     auto& s = as<frmArea>(g);
     s.Form_Activate();
     s.mnuFunc_Click(1);
     set({{s.txtA, "1"}, {s.txtB, "1"}, {s.txtC, "0"}, {s.txtD, "0"}, {s.txtG, "x + 2"}});
     set({{s.txtLeft, "-2"}, {s.txtRight, "3"}, {s.txtStrips, "8"}});
+    set({{s.txtXmin, "-3"}, {s.txtXmax, "4"}, {s.txtYmin, "-2"}, {s.txtYmax, "10"}});
     s.cmdCrossings_Click();
 }
 

@@ -63,7 +63,7 @@ frmArea::frmArea() : GraphScreen(areaConfig())
         {FORM_NAME(cmdCrossings), Kind::Button,  "Find &Crossings",         {C, 5460, W, 420},             {.Click = on(&frmArea::cmdCrossings_Click)},
                                                                                                             {.tip = "Find where f and g cross in [a, b], shade the region and sum the strips"}},
         {FORM_NAME(lblLegend),    Kind::Label,   "",                        {R, 240, kRightWidth, 300},    {}, {.wrap = true}},
-        {FORM_NAME(grdAreas),     Kind::Grid,    "",                        {R, 600, kRightWidth, 2300},   {}, {.name = "Areas by the strip rules", .rows = kGridRows, .columns = 3}},
+        {FORM_NAME(grdAreas),     Kind::Grid,    "",                        {R, 600, kRightWidth, 1950},   {}, {.name = "Areas by the strip rules", .rows = kGridRows, .columns = 3}},
         {FORM_NAME(lblCrossings), Kind::Label,   "",                        {R, 3000, kRightWidth, 2000},  {}, {.wrap = true}},
         {FORM_NAME(lblStatus),    Kind::Label,   "",                        {R, 5100, kRightWidth, 1700},  {}, {.wrap = true}},
     });
@@ -97,7 +97,7 @@ void frmArea::Form_Load()
     for (std::size_t m = 0; m < StripRules::kRules.size(); ++m)
         grdAreas->setCell(static_cast<int>(m) + 1, 0, QString::fromLatin1(StripRules::kRules[m].name));
     grdAreas->setCell(kGridRows - 1, 0, QStringLiteral("Limit (integral)"));
-    lblLegend->setText(QStringLiteral("Shaded light cyan where f is above g, light red where g is above f."));
+    lblLegend->setText(QStringLiteral("Shaded light cyan where f is above g, yellow where g is above f."));
 }
 
 void frmArea::Form_Activate()
@@ -387,7 +387,7 @@ void frmArea::mnuAbout_Click()
          "move them by one (left button up, right button down)."},
         {"[Find Crossings]",
          "Lists each x in [a, b] where f = g, found to the computer's full precision, and shades the region: light "
-         "cyan where f is above g, light red where g is above f.  Where a curve is not defined somewhere in [a, b] "
+         "cyan where f is above g, yellow where g is above f.  Where a curve is not defined somewhere in [a, b] "
          "the screen says where, and gives no area."},
         {"The strips",
          "The grid sums n strips by five rules: the signed area of f - g (parts where g is above count as "
