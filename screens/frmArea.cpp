@@ -30,9 +30,13 @@ constexpr double kRight = 11220, kRightWidth = 5800;
 constexpr int kGridRows = static_cast<int>(StripRules::kRules.size()) + 2;  // headings, the rules, the limit
 constexpr int kListed = 6;  // crossings listed on the label; the description lists them all
 
-QString shown(const std::optional<double>& v)
+// A value as the grid shows it; a signed value within rounding of 0 beside its unsigned counterpart
+// `scale` (the two halves of x - x^3 on [-1, 1] cancelling to 1e-17) is 0, as it is exactly.
+QString shown(const std::optional<double>& v, double scale = 0)
 {
-    return v && std::isfinite(*v) ? QString::number(*v, 'g', 10) : QStringLiteral("--");
+    if (!v || !std::isfinite(*v))
+        return QStringLiteral("--");
+    return QString::number(std::fabs(*v) <= 1e-13 * scale ? 0.0 : *v, 'g', 10);
 }
 
 AreaBetween::Values valuesOf(const ExplicitSnapshot& s)
@@ -310,17 +314,19 @@ void frmArea::fillResults()
                               : QStringLiteral("Crossings in [a, b]:\n") + list.join(QLatin1Char('\n')));
     for (std::size_t m = 0; m < r.sums.size(); ++m) {
         const bool odd = StripRules::kRules[m].evenOnly && r.strips % 2;
-        grdAreas->setCell(static_cast<int>(m) + 1, 1, odd ? QStringLiteral("n odd") : shown(r.sums[m].signedSum));
+        grdAreas->setCell(static_cast<int>(m) + 1, 1,
+                          odd ? QStringLiteral("n odd")
+                              : shown(r.sums[m].signedSum, r.sums[m].unsignedSum.value_or(0)));
         grdAreas->setCell(static_cast<int>(m) + 1, 2, odd ? QStringLiteral("n odd") : shown(r.sums[m].unsignedSum));
     }
-    grdAreas->setCell(kGridRows - 1, 1, shown(r.signedArea));
+    grdAreas->setCell(kGridRows - 1, 1, shown(r.signedArea, r.unsignedArea.value_or(0)));
     grdAreas->setCell(kGridRows - 1, 2, shown(r.unsignedArea));
     grdAreas->setCell(0, 0, QStringLiteral("Rule (n = %1)").arg(r.strips));
     if (r.signedArea) {
         lblStatus->setText(
             QStringLiteral("Signed area %1, unsigned area %2 from x = %3 to %4 (adaptive Gauss-Kronrod, split at "
                            "the crossings; error below %5).")
-                .arg(shown(r.signedArea), shown(r.unsignedArea),
+                .arg(shown(r.signedArea, r.unsignedArea.value_or(0)), shown(r.unsignedArea),
                      QString::fromStdString(AreaBetween::shownX(inputs_->a)),
                      QString::fromStdString(AreaBetween::shownX(inputs_->b)),
                      QString::number(std::max(r.accuracy, 1e-15), 'g', 1)));

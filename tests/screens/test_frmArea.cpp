@@ -193,6 +193,15 @@ TEST_F(Area, SumsAndAreasThroughTheBoxes)
              return s.lblCrossings->text() + '|' + s.grdAreas->cell(6, 2);
          },
          "Crossings in [a, b]:\nx = 0.7853981634 (sign change, TOMS 748)|2.828427125"},
+        {"x and x^3 on [-1, 1]: the halves cancel",
+         [](auto& s) {
+             EXPECT_EQ(s.setTypedFunction(QStringLiteral("x")), QString());
+             type({s.txtG, s.txtLeft, s.txtRight}, "x^3|-1|1");
+             s.cmdCrossings->click();
+             return s.grdAreas->cell(6, 1) + '|' + s.grdAreas->cell(6, 2) + '|' + s.lblCrossings->text();
+         },
+         "0|0.5|Crossings in [a, b]:\nx = -1 (f = g at a scanned point)\nx = 0 (f = g at a scanned point)\nx = 1 (f = "
+         "g at a scanned point)"},
         {"a gap of f",
          [](auto& s) {
              EXPECT_EQ(s.setTypedFunction(QStringLiteral("1/x")), QString());
