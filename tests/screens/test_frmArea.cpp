@@ -6,10 +6,13 @@
 #include "screens/AreaBetween.h"
 #include "screens/Convergence.h"
 #include "screens/ConvergenceWindow.h"
+#include "screens/Lesson.h"
 #include "screens/frmArea.h"
 
 #include <cmath>
 #include <numbers>
+
+#include <QTemporaryDir>
 
 #include "ScreenFixture.h"
 
@@ -260,4 +263,31 @@ TEST_F(Area, DrawsBothColoursKeepsThePictureAndNeverRaises)
         screen->convergence->recompute();
     }
     EXPECT_TRUE(script.errors.empty());
+}
+
+// A lesson step saved from the screen (f typed, g, a, b and n in their boxes, Find Crossings
+// pressed) gives a fresh screen the same crossings and the same grid.
+TEST_F(Area, ALessonStepBringsBackTheBoxesAndTheResults)
+{
+    EXPECT_EQ(screen->setTypedFunction(QStringLiteral("sin(x)")), QString());
+    type({screen->txtG, screen->txtLeft, screen->txtRight, screen->txtStrips}, "cos(x)|0|3|6");
+    lesson::Lesson saved;
+    saved.steps.push_back(lesson::capture(*screen));
+    saved.steps.back().actions = {{QStringLiteral("cmdCrossings"), 1, {}}};
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("area.plotto"));
+    ASSERT_EQ(lesson::save(saved, path), QString());
+    const lesson::Read read = lesson::load(path);
+    ASSERT_TRUE(read.lesson) << read.error.toStdString();
+    frmArea fresh;
+    fresh.Form_Activate();
+    ASSERT_EQ(lesson::check(read.lesson->steps.front(), fresh), QString());
+    lesson::apply(read.lesson->steps.front(), fresh);
+    screen->cmdCrossings->click();
+    EXPECT_EQ(texts({fresh.txtG, fresh.txtLeft, fresh.txtRight, fresh.txtStrips, fresh.lblCrossings}),
+              "cos(x)|0|3|6|Crossings in [a, b]:\nx = 0.7853981634 (sign change, TOMS 748)");
+    for (int c = 1; c <= 2; ++c)
+        EXPECT_EQ(column(fresh, c), column(*screen, c));
+    // sin - cos on [0, 3]: [-cos x - sin x] from 0 to 3 = 1 - cos 3 - sin 3, worked out apart from the screen.
+    EXPECT_NEAR(fresh.grdAreas->cell(6, 1).toDouble(), 1 - std::cos(3.0) - std::sin(3.0), 1e-9);
 }
