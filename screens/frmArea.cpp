@@ -28,7 +28,7 @@ GraphScreen::Config areaConfig()
 
 constexpr double kRight = 11220, kRightWidth = 5800;
 constexpr int kGridRows = static_cast<int>(StripRules::kRules.size()) + 2;  // headings, the rules, the limit
-constexpr int kListed = 6;  // crossings listed on the label; the description lists them all
+constexpr int kListed = 5;  // crossings listed on the label (a line each); the description lists them all
 
 // A value as the grid shows it; a signed value within rounding of 0 beside its unsigned counterpart
 // `scale` (the two halves of x - x^3 on [-1, 1] cancelling to 1e-17) is 0, as it is exactly.
