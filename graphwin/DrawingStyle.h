@@ -26,6 +26,11 @@ inline constexpr int kLimitsEpsilonEdge = 2;  // green: its edges
 inline constexpr int kLimitsDeltaBand = 11;  // light cyan: the band a +- delta, shaded
 inline constexpr int kLimitsDeltaEdge = 3;  // cyan: its edges
 inline constexpr int kLimitsLeave = 4;  // red: where the graph first leaves the band
+inline constexpr int kAreaF = 1;  // blue: f on the area screen
+inline constexpr int kAreaG = 4;  // red: g on the area screen
+inline constexpr int kAreaFAbove = 11;  // light cyan: the strips where f is above g
+inline constexpr int kAreaGAbove = 14;  // yellow: the strips where g is above f
+inline constexpr int kAreaCrossing = 0;  // black: a crossing of f and g, marked
 inline constexpr int kMarkWidth = 3;  // a point that marks a result (the MVT's c, the parametric trace)
 inline constexpr double kEndpointRadius = 50;  // twips
 

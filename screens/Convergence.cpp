@@ -16,6 +16,7 @@
 #include "runtime/RuntimeError.h"
 #include "screens/IntegralCurves.h"
 #include "screens/RiemannSums.h"
+#include "screens/StripRules.h"
 
 // Odeint knows the norm of a float and of a double state; the reference of the step table is a
 // long double.
@@ -105,21 +106,74 @@ std::string Table::tabSeparated() const
     return text;
 }
 
+Integral gaussKronrod(const std::function<double(double)>& f, double L, double R)
+{
+    Integral i;
+    i.value = boost::math::quadrature::gauss_kronrod<double, 61>::integrate(f, L, R, 15, 1e-12, &i.error);
+    i.converged = std::isfinite(i.value) && i.error <= 1e-8 * std::max(1.0, std::fabs(i.value));
+    return i;
+}
+
 Table sumsWithout(std::string why)
 {
     Table t;
-    t.methods.assign(kSumMethods.begin(), kSumMethods.end());
-    t.orders = {1, 1, 2, 2, 4};
-    t.colours = {0x1F4EB4, 0xB42A1F, 0x1E7B32, 0x7A3EA8, 0x8A5A00};
+    for (const StripRules::Rule& rule : StripRules::kRules) {
+        t.methods.push_back(rule.name);
+        t.orders.push_back(rule.order);
+        t.colours.push_back(rule.colour);
+    }
     t.rowHeadings.push_back("n");
     t.exactSource = std::move(why);
+    return t;
+}
+
+namespace {
+
+// n = 1, 2, 4, ... up to at least 1024 and at least currentN, with currentN itself.
+std::vector<std::int32_t> stripCounts(std::int32_t currentN)
+{
+    std::vector<std::int32_t> ns;
+    for (std::int32_t n = 1; n <= std::max<std::int32_t>(1024, currentN); n *= 2)
+        ns.push_back(n);
+    if (currentN > 0 && std::find(ns.begin(), ns.end(), currentN) == ns.end()) {
+        ns.push_back(currentN);
+        std::sort(ns.begin(), ns.end());
+    }
+    return ns;
+}
+
+}  // namespace
+
+Table strips(const std::function<double(double)>& f, double L, double R, std::int32_t currentN,
+             std::optional<double> exact, double accuracy, std::string source)
+{
+    Table t = sumsWithout(std::move(source));
+    t.exact = exact;
+    t.exactAccuracy = accuracy;
+    for (std::int32_t n : stripCounts(currentN)) {
+        t.rowHeadings.push_back(std::to_string(n));
+        t.rowCounts.push_back(n);
+        std::vector<Cell> row;
+        for (const StripRules::Rule& rule : StripRules::kRules) {
+            Cell cell;
+            const double v = rule.evenOnly && n % 2 ? std::nan("") : rule.apply(f, L, R, n);
+            if (rule.evenOnly && n % 2)
+                cell.note = "n odd";
+            else if (!std::isfinite(v))
+                cell.note = "no value";
+            else
+                cell.value = v;
+            row.push_back(cell);
+        }
+        t.values.push_back(row);
+    }
     return t;
 }
 
 Table sums(double L, double R, std::int32_t currentN)
 {
     Table t = sumsWithout({});
-    auto f = [](double x) { return FuncGlobals::ExplicitValue(x); };
+    const StripRules::Function f = [](double x) { return FuncGlobals::ExplicitValue(x); };
 
     // The exact value: first the domain, then an adaptive Gauss-Kronrod rule.
     try {
@@ -133,45 +187,28 @@ Table sums(double L, double R, std::int32_t currentN)
             t.exactSource = "The function is not defined everywhere on the interval (for example at x = " +
                             rt::Trim(rt::Str(*gap)) + "): the integral does not exist there.";
         } else {
-            double error = 0;
-            const double value =
-                boost::math::quadrature::gauss_kronrod<double, 61>::integrate(f, L, R, 15, 1e-12, &error);
-            if (!std::isfinite(value) || !(error <= 1e-8 * std::max(1.0, std::fabs(value))))
+            const Integral i = gaussKronrod(f, L, R);
+            if (!i.converged)
                 t.exactSource = "The function is unbounded on the interval: the integral does not exist there.";
             else {
-                t.exact = value;
-                t.exactAccuracy = error;
-                t.exactSource = "Exact value " + format("%.12g", value) + " (adaptive Gauss-Kronrod, 61 points)";
+                t.exact = i.value;
+                t.exactAccuracy = i.error;
+                t.exactSource = "Exact value " + format("%.12g", i.value) + " (adaptive Gauss-Kronrod, 61 points)";
             }
         }
     } catch (const rt::RuntimeError& error) {
         t.exactSource = "The integral cannot be computed: " + std::string(error.what()) + ".";
     }
 
-    std::vector<std::int32_t> ns;
-    for (std::int32_t n = 1; n <= std::max<std::int32_t>(1024, currentN); n *= 2)
-        ns.push_back(n);
-    if (currentN > 0 && std::find(ns.begin(), ns.end(), currentN) == ns.end()) {
-        ns.push_back(currentN);
-        std::sort(ns.begin(), ns.end());
-    }
-    auto ignore = [](auto&&...) {};
-    for (std::int32_t n : ns) {
+    for (std::int32_t n : stripCounts(currentN)) {
         t.rowHeadings.push_back(std::to_string(n));
         t.rowCounts.push_back(n);
         std::vector<Cell> row;
-        for (std::size_t m = 0; m < kSumMethods.size(); ++m) {
+        for (const StripRules::Rule& rule : StripRules::kRules) {
             Cell cell;
             try {
                 const double dx = rt::Div(rt::Chk(R - L), n);
-                RiemannSums::Result r;
-                switch (m) {
-                case 0: r = RiemannSums::leftEndpoint(f, L, dx, n, ignore); break;
-                case 1: r = RiemannSums::rightEndpoint(f, L, dx, n, ignore); break;
-                case 2: r = RiemannSums::midpoint(f, L, dx, n, ignore); break;
-                case 3: r = RiemannSums::trapezoidal(f, L, dx, n, ignore); break;
-                default: r = RiemannSums::simpson(f, L, dx, n, ignore); break;
-                }
+                const RiemannSums::Result r = rule.classic(f, L, dx, n);
                 if (r.odd)
                     cell.note = "n odd";
                 else if (r.gap)

@@ -3,10 +3,12 @@
 // How fast the sums and the step methods approach the exact value, apart from any window: the
 // deterministic sums of the sums screen for n = 1, 2, 4, ... against an adaptive Gauss-Kronrod
 // integral, and the endpoints of the step methods for h, h/2, h/4, ... against an adaptive
-// Runge-Kutta-Fehlberg 7(8) integration. Both read the selected families and coefficients of
+// Runge-Kutta-Fehlberg 7(8) integration; and the same rules, in double precision, for any function
+// (the area screen's f - g). The first two read the selected families and coefficients of
 // FuncGlobals; neither raises a run-time error: a value that cannot be had is a note in words.
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -52,7 +54,14 @@ struct Table {
     std::vector<std::pair<double, double>> measuredErrors(std::size_t m) const;
 };
 
-inline const std::array<const char*, 5> kSumMethods{"Left", "Right", "Midpoint", "Trapezoid", "Simpson"};
+// The integral of f over [L, R] by an adaptive Gauss-Kronrod rule (61 points, up to 15 levels):
+// the value, the rule's estimate of its error, and whether that estimate is small enough (1e-8 of
+// the value) for the value to stand as exact; a function unbounded on the interval fails it.
+struct Integral {
+    double value = 0, error = 0;
+    bool converged = false;
+};
+Integral gaussKronrod(const std::function<double(double)>& f, double L, double R);
 
 // The five deterministic sums of the selected explicit family on [L, R] for n = 1, 2, 4, ... up to
 // at least 1024 and at least `currentN` (which gets a row of its own when it is not a power of two),
@@ -61,6 +70,11 @@ inline const std::array<const char*, 5> kSumMethods{"Left", "Right", "Midpoint",
 Table sums(double L, double R, std::int32_t currentN);
 // The same table with no rows, saying `why` (a boundary box that holds no usable number).
 Table sumsWithout(std::string why);
+// The five strip rules of screens/StripRules.h in double precision for f on [L, R], rows as sums()
+// makes them, against `exact` (accurate to `accuracy`), described by `source`, or none when
+// `exact` is empty and `source` says why.
+Table strips(const std::function<double(double)>& f, double L, double R, std::int32_t currentN,
+             std::optional<double> exact, double accuracy, std::string source);
 
 // The plane the steps stay in.
 struct Window {

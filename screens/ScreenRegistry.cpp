@@ -9,6 +9,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "screens/frmAnimate.h"
+#include "screens/frmArea.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
 #include "screens/frmLimits.h"
@@ -162,6 +163,19 @@ void showLimits(GraphScreen& g)
     s.cmdHalve_Click();
 }
 
+void showArea(GraphScreen& g)
+{
+    // y = x^2 against g(x) = x + 2 on [-2, 3] in a window about it: crossings at -1 and 2, both colours of
+    // shading.
+    auto& s = as<frmArea>(g);
+    s.Form_Activate();
+    s.mnuFunc_Click(1);
+    set({{s.txtA, "1"}, {s.txtB, "1"}, {s.txtC, "0"}, {s.txtD, "0"}, {s.txtG, "x + 2"}});
+    set({{s.txtLeft, "-2"}, {s.txtRight, "3"}, {s.txtStrips, "8"}});
+    set({{s.txtXmin, "-3"}, {s.txtXmax, "4"}, {s.txtYmin, "-2"}, {s.txtYmax, "10"}});
+    s.cmdCrossings_Click();
+}
+
 const Entry kScreens[] = {
     // key          class           place  button                          Selections entry
     {"sums", "frmRiemann", 2, "&Riemann Sums + Others", "&Riemann Sums +", "Riemann and other sums", make<frmRiemann>,
@@ -189,7 +203,10 @@ const Entry kScreens[] = {
     {"taylor", "frmTaylor", 8, "Taylor Polynomials", "&Taylor Polynomials", "Taylor polynomials term by term",
      make<frmTaylor>, [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("ln(1 + x)")); }, showTaylor, {},
      Entry::Kind::Addition},
-    {"limits", "frmLimits", 9, "Limits by Epsilon and Delta", "&Limits by Epsilon and Delta",
+    {"area", "frmArea", 9, "Area Between Two Curves", "&Area Between Curves", "the area between two curves",
+     make<frmArea>, [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("sqrt(x)")); }, showArea,
+     [](GraphScreen& s) { return as<frmArea>(s).convergence; }, Entry::Kind::Addition},
+    {"limits", "frmLimits", 10, "Limits by Epsilon and Delta", "&Limits by Epsilon and Delta",
      "limits by epsilon and delta", make<frmLimits>,
      [](GraphScreen& s) { return s.setTypedFunction(QStringLiteral("sin(x)/x")); }, showLimits, {},
      Entry::Kind::Addition},

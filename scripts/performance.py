@@ -25,6 +25,7 @@ PAIRS = [
     ("Parametric plot, 32000 steps, connected", "BM_ParametricPlot32000/1", "BM_Bare64000ParametricEvaluations", 2),
     ("Animation: default continuous run, 42 frames", "BM_ContinuousAnimation42Frames", "BM_Bare42PlotsOfEvaluations", 2),
     ("Limits: Halve ε at the default settings (x² at 1, two bands drawn; budget 16 ms)", "BM_LimitsHalveEpsilon", "BM_LimitsDeltaSearch", None),
+    ("Area between curves: find crossings + areas (default settings)", "BM_AreaFindCrossings/8", "BM_AreaComputationOnly", None),
     ("Convergence table of the sums, n up to 32768", "BM_SumsTableTo32000", "BM_SumsTableEvaluationsOnly", None),
     ("Convergence table of the step methods, h to h/64", "BM_StepTableToHOver64", "BM_StepTableFinestRowOnly", None),
 ]

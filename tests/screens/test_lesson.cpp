@@ -298,7 +298,7 @@ TEST_F(Lessons, TheExamplesOpenAndRunStepByStep)
 {
     const QDir examples(QStringLiteral(PLOTTO_SOURCE_DIR "/examples"));
     const QStringList files = examples.entryList({QStringLiteral("*.plotto")}, QDir::Files, QDir::Name);
-    ASSERT_EQ(files.size(), 5);
+    ASSERT_EQ(files.size(), 6);
     for (const QString& name : files) {
         const lesson::Read read = lesson::load(examples.filePath(name));
         ASSERT_TRUE(read.lesson) << read.error.toStdString();
