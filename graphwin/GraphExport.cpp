@@ -20,12 +20,7 @@ namespace {
 
 constexpr double kTwipsPerInch = 1440, kTwipsPerPoint = 20;
 
-QFont captionFont()
-{
-    QFont f(QStringLiteral("Times New Roman"));
-    f.setPixelSize(static_cast<int>(kCaptionSize));
-    return f;
-}
+QFont captionFont() { return pageFont(kCaptionSize); }
 
 double captionHeight(const Graph& graph, const Options& options)
 {
@@ -43,6 +38,55 @@ QString couldNotWrite(const QString& path, const QString& why)
 }
 
 }  // namespace
+
+QFont pageFont(double size, bool bold)
+{
+    QFont f(QStringLiteral("Times New Roman"));
+    f.setPixelSize(std::max(1, static_cast<int>(size)));
+    f.setBold(bold);
+    return f;
+}
+
+TableLayout layoutTable(const std::vector<QStringList>& rows, double width, double size)
+{
+    TableLayout t;
+    t.size = size;
+    const QFontMetricsF m(pageFont(size, true));
+    for (const QStringList& r : rows)
+        for (qsizetype c = 0; c < r.size(); ++c) {
+            if (static_cast<std::size_t>(c) >= t.widths.size())
+                t.widths.push_back(2 * size);
+            t.widths[static_cast<std::size_t>(c)] =
+                std::max(t.widths[static_cast<std::size_t>(c)], m.horizontalAdvance(r[c]) + size);
+        }
+    double total = 0;
+    for (double w : t.widths)
+        total += w;
+    if (total > width)
+        for (double& w : t.widths)
+            w *= width / total;
+    t.rowHeight = m.height() + 0.6 * size;
+    return t;
+}
+
+void paintTableRow(QPainter& painter, const TableLayout& layout, const QStringList& cells, bool heading, double left,
+                   double top)
+{
+    painter.save();
+    painter.setFont(pageFont(layout.size, heading));
+    painter.setPen(QPen(Qt::black, layout.size / 20));
+    painter.setBrush(Qt::NoBrush);
+    double x = left;
+    for (std::size_t c = 0; c < layout.widths.size(); ++c) {
+        const QRectF cell(x, top, layout.widths[c], layout.rowHeight);
+        painter.drawRect(cell);
+        const QString text = static_cast<qsizetype>(c) < cells.size() ? cells[static_cast<qsizetype>(c)] : QString();
+        painter.drawText(cell.adjusted(layout.size * 0.4, 0, -layout.size * 0.4, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                         text);
+        x += layout.widths[c];
+    }
+    painter.restore();
+}
 
 std::optional<Format> formatOf(const QString& path)
 {

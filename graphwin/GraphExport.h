@@ -5,9 +5,12 @@
 // PDF or PNG (at a chosen resolution), or painted on any page (printing, worksheets). A page is laid
 // out in twips, 1440 to the inch, the unit every form is drawn in.
 #include <optional>
+#include <vector>
 
+#include <QFont>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 
 #include "graphwin/DrawingSurface.h"
 
@@ -46,6 +49,20 @@ bool paint(QPainter& painter, const Graph& graph, const Options& options);
 bool paintFitted(QPainter& painter, const Graph& graph, const Options& options, const QRectF& target);
 // The pixel size of a PNG of the page at `dpi`.
 QSize pixelSize(const Graph& graph, const Options& options);
+
+// A table on a page (a worksheet's tables, a convergence table's PDF): its columns as wide as their
+// widest cell, narrowed together to `width` when wider; rows of one height. Twips, type `size` high.
+struct TableLayout {
+    std::vector<double> widths;
+    double rowHeight = 0;
+    double size = 0;
+};
+TableLayout layoutTable(const std::vector<QStringList>& rows, double width, double size);
+// Paints one row of cells with its top left at (left, top), each cell boxed (the headings in bold).
+void paintTableRow(QPainter& painter, const TableLayout& layout, const QStringList& cells, bool heading, double left,
+                   double top);
+// The type of the pages, at `size` twips (20 to a point).
+QFont pageFont(double size, bool bold = false);
 
 // Writes the page to `path` in the format of its extension, through a temporary file that takes the
 // final name only when everything was written (nothing half-written is ever left under it): "" or what

@@ -38,13 +38,7 @@ constexpr double kGraphSide = 7200;  // the graph's width on the page (5 inches)
 constexpr QChar kBlank = QChar(0xFFFC);
 constexpr double kBlankWidth = 1100;
 
-QFont font(double size, bool bold = false)
-{
-    QFont f(QStringLiteral("Times New Roman"));
-    f.setPixelSize(static_cast<int>(size));
-    f.setBold(bold);
-    return f;
-}
+QFont font(double size, bool bold = false) { return graphexport::pageFont(size, bold); }
 
 // A number as the program writes one, not preceded by a letter, a digit or '_' (the 7 of P_7).
 const QRegularExpression& numberPattern()
@@ -112,42 +106,15 @@ std::vector<Block> table(const std::vector<QStringList>& rows, bool blank)
     std::vector<Block> blocks;
     if (rows.empty())
         return blocks;
-    const QFont f = font(kSmall), bold = font(kSmall, true);
-    const QFontMetricsF m(f);
-    qsizetype columns = 0;
-    for (const QStringList& r : rows)
-        columns = std::max(columns, r.size());
-    std::vector<double> widths(static_cast<std::size_t>(columns), 400);
-    for (const QStringList& r : rows)
-        for (qsizetype c = 0; c < r.size(); ++c)
-            widths[static_cast<std::size_t>(c)] =
-                std::max(widths[static_cast<std::size_t>(c)], m.horizontalAdvance(r[c]) + 200);
-    double total = 0;
-    for (double w : widths)
-        total += w;
-    if (total > kWidth)
-        for (double& w : widths)
-            w *= kWidth / total;
-    const double h = m.height() + 120;
+    const graphexport::TableLayout layout = graphexport::layoutTable(rows, kWidth, kSmall);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         QStringList cells = rows[i];
         if (blank && i > 0)  // the first column names the row (n, a guess's number): it stays
             for (qsizetype c = 1; c < cells.size(); ++c)
                 if (isNumber(cells[c]))
                     cells[c].clear();
-        blocks.push_back({h, [cells, widths, h, f, bold, heading = i == 0](QPainter& p, double top) {
-                              p.setFont(heading ? bold : f);
-                              p.setPen(QPen(Qt::black, 10));
-                              double x = kMargin;
-                              for (std::size_t c = 0; c < widths.size(); ++c) {
-                                  const QRectF cell(x, top, widths[c], h);
-                                  p.drawRect(cell);
-                                  p.drawText(cell.adjusted(80, 0, -80, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                                             c < static_cast<std::size_t>(cells.size())
-                                                 ? cells[static_cast<qsizetype>(c)]
-                                                 : QString());
-                                  x += widths[c];
-                              }
+        blocks.push_back({layout.rowHeight, [cells, layout, heading = i == 0](QPainter& p, double top) {
+                              graphexport::paintTableRow(p, layout, cells, heading, kMargin, top);
                           }});
     }
     blocks.push_back({200, [](QPainter&, double) {}});

@@ -90,11 +90,12 @@ public:
     // launcher's screens and writes the worksheet (plotto LESSON --worksheet OUT [--blank], with no
     // window shown): "" or what went wrong. The menu entry (Lessons, and every screen's Tools) writes the
     // open lesson through a separate run of the program, `worksheetProgram`, so that the screens on show
-    // keep everything they hold.
+    // keep everything they hold. The program's main sets `worksheetProgram` to itself; where it is not
+    // set (a test that has no plotto to run), the entry says so instead.
     QAction* mnuExportWorksheet = nullptr;
     void mnuExportWorksheet_Click();
     QString writeWorksheet(const QString& lessonPath, const QString& out, bool blank);
-    static inline QString worksheetProgram;  // "" for this program itself
+    static inline QString worksheetProgram;
 
     // The screens, each created (loaded) on first use, by their row in the registry or its key.
     GraphScreen& screen(const screens::Entry& entry);

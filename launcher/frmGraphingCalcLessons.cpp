@@ -216,6 +216,10 @@ void frmGraphingCalc::mnuExportWorksheet_Click()
                title);
         return;
     }
+    if (worksheetProgram.isEmpty()) {
+        MsgBox(QStringLiteral("Worksheets are written by the plotto program, which this run cannot start."), title);
+        return;
+    }
     QSettings settings(QStringLiteral("Plotto"), QStringLiteral("Plotto"));
     const QString out = FileBox(true, title, settings.value(QStringLiteral("export/folder"), QDir::homePath()).toString(),
                                 QStringLiteral("PDF document (*.pdf)"), QStringLiteral("pdf"));
@@ -237,7 +241,7 @@ void frmGraphingCalc::mnuExportWorksheet_Click()
     if (blank)
         arguments << QStringLiteral("--blank");
     QProcess run;
-    run.start(worksheetProgram.isEmpty() ? QCoreApplication::applicationFilePath() : worksheetProgram, arguments);
+    run.start(worksheetProgram, arguments);
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const bool finished = run.waitForFinished(120000);
     QApplication::restoreOverrideCursor();

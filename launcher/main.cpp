@@ -167,6 +167,7 @@ int main(int argc, char* argv[])
     // One typeface for everything the program shows, menus and message boxes included (Debian's
     // metric-compatible Liberation Serif stands in where Times New Roman is not installed).
     QApplication::setFont(QFont(QStringLiteral("Times New Roman"), 10));
+    frmGraphingCalc::worksheetProgram = QCoreApplication::applicationFilePath();
     frmGraphingCalc launcher;
     if (!opening.worksheet.isEmpty()) {
         const QString error = launcher.writeWorksheet(opening.lesson, opening.worksheet, opening.blank);

@@ -106,6 +106,28 @@ std::string Table::tabSeparated() const
     return text;
 }
 
+std::string Table::csv() const
+{
+    // Comma-separated, a field quoted when it holds a comma, a quote or a line break (its quotes doubled).
+    std::string text;
+    for (const auto& line : cells()) {
+        for (std::size_t i = 0; i < line.size(); ++i) {
+            const std::string& f = line[i];
+            text += i ? "," : "";
+            if (f.find_first_of(",\"\n\r") == std::string::npos) {
+                text += f;
+                continue;
+            }
+            text += '"';
+            for (char c : f)
+                text += c == '"' ? std::string("\"\"") : std::string(1, c);
+            text += '"';
+        }
+        text += "\r\n";
+    }
+    return text;
+}
+
 Integral gaussKronrod(const std::function<double(double)>& f, double L, double R)
 {
     Integral i;

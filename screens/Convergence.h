@@ -49,6 +49,8 @@ struct Table {
     std::vector<std::vector<std::string>> cells() const;
     // The cells as tab-separated lines, for a spreadsheet.
     std::string tabSeparated() const;
+    // The same as comma-separated values (RFC 4180: quoted where needed, lines ended by CR LF).
+    std::string csv() const;
     // Method m's measurable errors, in row order: (the row's count, the error) for every row whose
     // value exists and whose error is finite and beyond the exact value's own accuracy.
     std::vector<std::pair<double, double>> measuredErrors(std::size_t m) const;

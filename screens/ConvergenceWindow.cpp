@@ -60,9 +60,16 @@ ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::
     plot_->setMinimumWidth(320);
     body->addWidget(plot_, 1);
     layout->addLayout(body, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    auto* exporting = new QPushButton(QStringLiteral("&Export Table..."), this);
+    exporting->setObjectName(QStringLiteral("cmdExportTable"));
+    connect(exporting, &QPushButton::clicked, this, [this] { guarded([this] { exportTableClicked(); }); });
+    buttons->addWidget(exporting);
     auto* again = new QPushButton(QStringLiteral("Re&compute"), this);
     connect(again, &QPushButton::clicked, this, [this] { guarded([this] { recompute(); }); });
-    layout->addWidget(again, 0, Qt::AlignRight);
+    buttons->addWidget(again);
+    layout->addLayout(buttons);
     auto* copy = new QShortcut(QKeySequence::Copy, this);
     connect(copy, &QShortcut::activated, this, [this] {
         if (plot_->hasFocus()) {  // the plot as an image, with what it shows in words

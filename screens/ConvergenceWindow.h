@@ -34,6 +34,11 @@ public:
     QTableWidget* grid() const { return grid_; }
     QLabel* summary() const { return summary_; }
     QChartView* plot() const { return plot_; }
+    // The table as it is shown, written to `path`: comma-separated values (.csv) or a PDF page with the
+    // window's title and summary (.pdf), through a temporary file renamed at the end: "" or what went
+    // wrong. The Export Table button asks for the file.
+    QString exportTable(const QString& path) const;
+    void exportTableClicked();
     // What the plot shows, in words: each method's measured slope against its expected one.
     QString plotDescription() const;
     // The window's size at which its font is the normal one; it grows with the window from there.

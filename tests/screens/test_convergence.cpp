@@ -7,6 +7,10 @@
 #include <QChartView>
 #include <QLineSeries>
 #include <QClipboard>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScrollBar>
@@ -177,4 +181,64 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
     ASSERT_TRUE(data);
     EXPECT_TRUE(data->hasImage());
     EXPECT_EQ(data->text(), said);
+}
+
+// The table leaves the window as a spreadsheet reads it and as a page: the CSV read back field by field
+// is the table's cells (a field with a comma quoted), the PDF's text holds the headings and the exact
+// value's digits, and a name that says no format is refused with no file left.
+TEST(ConvergenceExport, CsvReadsBackAsTheCellsAndThePdfHoldsTheTable)
+{
+    ScriptedDialogs script;
+    selectFamily(2, {1, 0, 0, 0, 0, 0});  // y = x^2 on [0, 2]
+    ConvergenceWindow window(nullptr, QStringLiteral("Convergence of the sums"),
+                             [] { return Convergence::sums(0, 2, 4); });
+    window.recompute();
+    // A plain reader of RFC 4180: fields split at commas outside quotes, "" inside quotes is one quote.
+    const auto readCsv = [](const QByteArray& bytes) {
+        std::vector<std::vector<std::string>> read(1);
+        std::string field;
+        bool quoted = false;
+        for (qsizetype i = 0; i < bytes.size(); ++i) {
+            const char c = bytes[i];
+            if (quoted && c == '"' && i + 1 < bytes.size() && bytes[i + 1] == '"')
+                field += '"', ++i;
+            else if (c == '"')
+                quoted = !quoted;
+            else if (!quoted && c == ',')
+                read.back().push_back(field), field.clear();
+            else if (!quoted && c == '\r')
+                continue;
+            else if (!quoted && c == '\n')
+                read.back().push_back(field), field.clear(), read.emplace_back();
+            else
+                field += c;
+        }
+        read.pop_back();
+        return read;
+    };
+    // Cells that need quoting: a comma, a quote, a line break.
+    Table awkward;
+    awkward.methods = {"Plain", "Comma, here", "Quote \"q\""};
+    awkward.rowHeadings = {"n", "1"};
+    awkward.values = {{{std::nullopt, "a"}, {std::nullopt, "b,c"}, {std::nullopt, "line\nbreak"}}};
+    EXPECT_EQ(readCsv(QByteArray::fromStdString(awkward.csv())), awkward.cells());
+
+    QTemporaryDir dir;
+    ASSERT_EQ(window.exportTable(dir.filePath(QStringLiteral("t.csv"))), QString());
+    QFile csv(dir.filePath(QStringLiteral("t.csv")));
+    ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
+    EXPECT_EQ(readCsv(csv.readAll()), window.table().cells());
+
+    ASSERT_EQ(window.exportTable(dir.filePath(QStringLiteral("t.pdf"))), QString());
+    const QString pdftotext = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+    if (!pdftotext.isEmpty()) {
+        QProcess p;
+        p.start(pdftotext, {dir.filePath(QStringLiteral("t.pdf")), QStringLiteral("-")});
+        p.waitForFinished(30000);
+        const QString text = QString::fromUtf8(p.readAllStandardOutput());
+        EXPECT_TRUE(text.contains(QStringLiteral("Convergence of the sums")));
+        EXPECT_TRUE(text.contains(QString::fromStdString(window.table().cells()[0][1]))) << text.toStdString();
+    }
+    EXPECT_TRUE(window.exportTable(dir.filePath(QStringLiteral("t.txt"))).contains(QStringLiteral(".csv or .pdf")));
+    EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("t.txt"))));
 }

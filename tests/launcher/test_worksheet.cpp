@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Lessons as worksheets: the blanks of a line of results, the program run from the command line with
+// no display (its pages, its blanks and answers, what it says of files it cannot read or write), and
+// the menu entry that runs it.
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "graphwin/Dialogs.h"
+#include "launcher/Worksheet.h"
+#include "launcher/frmGraphingCalc.h"
+#include "screens/frmRiemann.h"
+#include "tests/screens/ScreenFixture.h"
+
+namespace {
+
+const QString kBox = QString(QChar(0xFFFC));
+
+struct Outcome {
+    int status;
+    QString out, err;
+};
+
+// The program itself, with no display: DISPLAY and WAYLAND_DISPLAY unset and no platform chosen.
+Outcome plotto(const QStringList& arguments)
+{
+    QProcess p;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        env.remove(QString::fromLatin1(name));
+    p.setProcessEnvironment(env);
+    p.start(QStringLiteral(PLOTTO_BINARY), arguments);
+    p.waitForFinished(120000);
+    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, QString::fromUtf8(p.readAllStandardOutput()),
+            QString::fromUtf8(p.readAllStandardError())};
+}
+
+QString tool(const char* name, const QStringList& arguments)
+{
+    const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
+    if (path.isEmpty())
+        return {};
+    QProcess p;
+    p.start(path, arguments);
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+int pages(const QString& pdf)
+{
+    const QRegularExpressionMatch m =
+        QRegularExpression(QStringLiteral("Pages:\\s+(\\d+)")).match(tool("pdfinfo", {pdf}));
+    return m.hasMatch() ? m.captured(1).toInt() : -1;
+}
+
+QString example(const char* name) { return QStringLiteral(PLOTTO_SOURCE_DIR "/examples/") + QLatin1String(name); }
+
+}  // namespace
+
+// A number written as a result becomes a box; what the step gives, a label of a list, a power and a
+// digit inside a name stay.
+TEST(Worksheet, TheBlanksOfALineOfResults)
+{
+    struct Case {
+        const char* name;
+        QString line, given, blank;
+    };
+    const QString family = QStringLiteral("y = Ax^2 + Bx + C with A = 1, B = 0, C = -4");
+    const Case cases[] = {
+        {"a sum",
+         QStringLiteral("Left Endpoint (ticked): =  5.5"),
+         {},
+         QStringLiteral("Left Endpoint (ticked): =  ") + kBox},
+        {"a list",
+         QStringLiteral("Guesses: 1: 2; 2: 2.1; 3: -2.09e-3."),
+         {},
+         QStringLiteral("Guesses: 1: %1; 2: %1; 3: %1.").arg(kBox)},
+        {"names and powers",
+         QStringLiteral("P_7 at x^2 is x3 = 0.25"),
+         {},
+         QStringLiteral("P_7 at x^2 is x3 = ") + kBox},
+        {"the function given", QStringLiteral("Newton's method on ") + family + QStringLiteral(": c = 1.5"), family,
+         QStringLiteral("Newton's method on ") + family + QStringLiteral(": c = ") + kBox},
+        {"no result",
+         QStringLiteral("Area under the curve from -2 to 2 with 8 partitions."),
+         {},
+         QStringLiteral("Area under the curve from -2 to 2 with 8 partitions.")},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(worksheet::blanked(c.line, true, c.given), c.blank) << c.name;
+        EXPECT_EQ(worksheet::blanked(c.line, false, c.given), c.line) << c.name;
+    }
+    EXPECT_EQ(worksheet::answersPath(QStringLiteral("/tmp/week 3.pdf")), QStringLiteral("/tmp/week 3-answers.pdf"));
+}
+
+// plotto LESSON --worksheet OUT.pdf with no display: a page a step (the Newton lesson's four), its
+// numbers as text; --blank leaves them out and writes them to the answers beside it.
+TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
+{
+    QTemporaryDir dir;
+    const QString out = dir.filePath(QStringLiteral("newton.pdf"));
+    const Outcome full = plotto({example("newtons-method.plotto"), QStringLiteral("--worksheet"), out});
+    ASSERT_EQ(full.status, 0) << full.err.toStdString();
+    if (tool("pdfinfo", {out}).isEmpty())
+        GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
+    EXPECT_EQ(pages(out), 4);
+    const QString text = tool("pdftotext", {out, QStringLiteral("-")});
+    // The third step applies Newton's method to x^3 - 2x - 5 from 2 three times.
+    for (const char* seen : {"Step 3 of 4", "2.09456812110419", "Page 4 of 4", "Newton"})
+        EXPECT_TRUE(text.contains(QLatin1String(seen))) << seen;
+
+    const QString sheet = dir.filePath(QStringLiteral("students.pdf"));
+    const Outcome blank =
+        plotto({example("newtons-method.plotto"), QStringLiteral("--worksheet"), sheet, QStringLiteral("--blank")});
+    ASSERT_EQ(blank.status, 0) << blank.err.toStdString();
+    const QString students = tool("pdftotext", {sheet, QStringLiteral("-")});
+    const QString answers =
+        tool("pdftotext", {dir.filePath(QStringLiteral("students-answers.pdf")), QStringLiteral("-")});
+    EXPECT_FALSE(students.contains(QStringLiteral("2.09456812110419")));
+    EXPECT_TRUE(students.contains(QStringLiteral("x^3 - 2*x - 5"))) << "the function stays";
+    EXPECT_TRUE(answers.contains(QStringLiteral("2.09456812110419")));
+    EXPECT_EQ(pages(sheet), pages(dir.filePath(QStringLiteral("students-answers.pdf"))));
+}
+
+// What goes wrong is said, with a status a script can test: 1 for a file, 2 for the command line.
+TEST(Worksheet, WhatGoesWrongIsSaidWithItsStatus)
+{
+    QTemporaryDir dir;
+    QFile broken(dir.filePath(QStringLiteral("broken.plotto")));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("{\"format\": \"plotto-lesson\", \"version\": 2, \"steps\": [");
+    broken.close();
+    struct Case {
+        const char* name;
+        QStringList arguments;
+        int status;
+        const char* says;
+    };
+    const QString out = dir.filePath(QStringLiteral("w.pdf"));
+    const Case cases[] = {
+        {"no such lesson",
+         {dir.filePath(QStringLiteral("none.plotto")), QStringLiteral("--worksheet"), out},
+         1,
+         "Cannot read the lesson"},
+        {"not a lesson", {broken.fileName(), QStringLiteral("--worksheet"), out}, 1, "This is not a lesson"},
+        {"no folder to write in",
+         {example("newtons-method.plotto"), QStringLiteral("--worksheet"), dir.filePath(QStringLiteral("no/w.pdf"))},
+         1,
+         "Could not write"},
+        {"no lesson", {QStringLiteral("--worksheet"), out}, 2, "needs a lesson"},
+        {"blank alone", {example("newtons-method.plotto"), QStringLiteral("--blank")}, 2, "--blank goes with"},
+    };
+    for (const Case& c : cases) {
+        const Outcome r = plotto(c.arguments);
+        EXPECT_EQ(r.status, c.status) << c.name;
+        EXPECT_TRUE(r.err.contains(QLatin1String(c.says))) << c.name << ": " << r.err.toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(out)) << "nothing is left under the name";
+}
+
+// The menu entry hands the open lesson to a separate run of the program, which leaves the screens on
+// show as they are; without a program to run, or a lesson, it says so.
+TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
+{
+    DialogScript script;
+    setDialogScript(&script);
+    frmGraphingCalc launcher;
+    QTemporaryDir dir;
+    const QString out = dir.filePath(QStringLiteral("sheet.pdf"));
+    script.answers = {out, QStringLiteral("yes")};
+    frmGraphingCalc::worksheetProgram = QStringLiteral(PLOTTO_BINARY);
+    launcher.mnuExportWorksheet_Click();  // no lesson yet
+    ASSERT_EQ(script.shown.size(), 1u);
+    EXPECT_TRUE(script.shown[0].second.contains(QStringLiteral("no lesson"))) << script.shown[0].second.toStdString();
+
+    // On the lesson's first screen, from its Tools menu, as a teacher would.
+    frmRiemann& sums = launcher.riemannScreen();
+    QString before, after;
+    QTimer::singleShot(0, &sums, [&] {
+        before = sums.txtParts->text() + sums.lblLeftE->text();
+        script.shown.clear();
+        sums.mnuExportWorksheet->trigger();
+        after = sums.txtParts->text() + sums.lblLeftE->text();
+        sums.cmdExit->click();
+    });
+    launcher.openLesson(example("the-definite-integral.plotto"));
+    EXPECT_TRUE(QFile::exists(out));
+    EXPECT_TRUE(QFile::exists(dir.filePath(QStringLiteral("sheet-answers.pdf"))));
+    EXPECT_FALSE(before.isEmpty());
+    EXPECT_EQ(after, before) << "the screen on show keeps what it holds";
+    ASSERT_EQ(script.shown.size(), 2u) << "the file and the question, and no message";
+
+    frmGraphingCalc::worksheetProgram.clear();
+    script.shown.clear();
+    launcher.mnuExportWorksheet_Click();
+    ASSERT_EQ(script.shown.size(), 1u);
+    EXPECT_TRUE(script.shown[0].second.contains(QStringLiteral("cannot start")));
+    setDialogScript(nullptr);
+}
