@@ -33,7 +33,7 @@ constexpr double kPageWidth = 11906, kPageHeight = 16838, kMargin = 1080;
 constexpr double kWidth = kPageWidth - 2 * kMargin;
 constexpr double kTop = kMargin + 400, kBottom = kPageHeight - kMargin - 300;
 constexpr double kBody = 220, kHeading = 300, kTitle = 400, kSmall = 180;
-constexpr double kGraphSide = 7200;  // the graph's width on the page (5 inches)
+constexpr double kGraphSide = 6300;  // the graph's width on the page (4.4 inches)
 // The mark that stands for a blank in a line of results: drawn as a box to write in.
 constexpr QChar kBlank = QChar(0xFFFC);
 constexpr double kBlankWidth = 1100;
@@ -76,26 +76,48 @@ Block paragraph(const QString& text, const QFont& f, double after = 120)
             }};
 }
 
-// A line of results, its blanks drawn as boxes.
+// A line of results, its blanks drawn as boxes, wrapped at the margin a word or a box at a time.
 Block resultLine(const QString& line)
 {
     const QFont f = font(kBody);
     if (!line.contains(kBlank))
         return paragraph(line, f, 60);
-    const double h = QFontMetricsF(f).height() * 1.5;
-    return {h, [line, f](QPainter& p, double top) {
+    const QFontMetricsF m(f);
+    const double lineHeight = m.height() * 1.6;
+    struct Piece {
+        QString text;  // "" for a box
+        double x, y;
+    };
+    std::vector<Piece> pieces;
+    double x = 0, y = 0;
+    const auto place = [&](const QString& text, double width) {
+        if (x > 0 && x + width > kWidth) {
+            x = 0;
+            y += lineHeight;
+        }
+        pieces.push_back({text, x, y});
+        x += width;
+    };
+    const QStringList parts = line.split(kBlank);
+    for (qsizetype i = 0; i < parts.size(); ++i) {
+        // Each word with the space after it, so that a line breaks between words.
+        static const QRegularExpression words(QStringLiteral("\\S+\\s*|\\s+"));
+        for (const QRegularExpressionMatch& w : words.globalMatch(parts[i]))
+            place(w.captured(), m.horizontalAdvance(w.captured()));
+        if (i + 1 < parts.size())
+            place(QString(), kBlankWidth + 120);
+    }
+    return {y + lineHeight, [pieces, f, lineHeight](QPainter& p, double top) {
                 p.setFont(f);
                 p.setPen(QPen(Qt::black, 15));
+                p.setBrush(Qt::NoBrush);
                 const QFontMetricsF m(f);
-                double x = kMargin;
-                const QStringList parts = line.split(kBlank);
-                for (qsizetype i = 0; i < parts.size(); ++i) {
-                    p.drawText(QPointF(x, top + m.ascent() + 60), parts[i]);
-                    x += m.horizontalAdvance(parts[i]);
-                    if (i + 1 < parts.size()) {
-                        p.drawRect(QRectF(x + 40, top + 10, kBlankWidth, m.height() + 80));
-                        x += kBlankWidth + 80;
-                    }
+                for (const Piece& piece : pieces) {
+                    const double baseline = top + piece.y + (lineHeight + m.ascent() - m.descent()) / 2;
+                    if (piece.text.isEmpty())
+                        p.drawRect(QRectF(kMargin + piece.x + 60, top + piece.y + 20, kBlankWidth, lineHeight - 40));
+                    else
+                        p.drawText(QPointF(kMargin + piece.x, baseline), piece.text);
                 }
             }};
 }
@@ -107,15 +129,24 @@ std::vector<Block> table(const std::vector<QStringList>& rows, bool blank)
     if (rows.empty())
         return blocks;
     const graphexport::TableLayout layout = graphexport::layoutTable(rows, kWidth, kSmall);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        QStringList cells = rows[i];
-        if (blank && i > 0)  // the first column names the row (n, a guess's number): it stays
-            for (qsizetype c = 1; c < cells.size(); ++c)
-                if (isNumber(cells[c]))
-                    cells[c].clear();
-        blocks.push_back({layout.rowHeight, [cells, layout, heading = i == 0](QPainter& p, double top) {
-                              graphexport::paintTableRow(p, layout, cells, heading, kMargin, top);
-                          }});
+    std::vector<QStringList> shown = rows;
+    if (blank)  // the first column names the row (n, a guess's number): it stays
+        for (std::size_t i = 1; i < shown.size(); ++i)
+            for (qsizetype c = 1; c < shown[i].size(); ++c)
+                if (isNumber(shown[i][c]))
+                    shown[i][c].clear();
+    const auto paintRows = [layout](const std::vector<QStringList>& rows, std::size_t first) {
+        return [layout, rows, first](QPainter& p, double top) {
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                graphexport::paintTableRow(p, layout, rows[i], first + i == 0, kMargin, top + layout.rowHeight * i);
+        };
+    };
+    // A table that fits on a page is kept together; a longer one runs on a row at a time.
+    if (layout.rowHeight * static_cast<double>(shown.size()) < (kBottom - kTop) / 2) {
+        blocks.push_back({layout.rowHeight * static_cast<double>(shown.size()), paintRows(shown, 0)});
+    } else {
+        for (std::size_t i = 0; i < shown.size(); ++i)
+            blocks.push_back({layout.rowHeight, paintRows({shown[i]}, i)});
     }
     blocks.push_back({200, [](QPainter&, double) {}});
     return blocks;
