@@ -16,6 +16,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSpinBox>
 
@@ -119,7 +120,12 @@ void GraphScreen::mnuExportGraph_Click()
 {
     QSettings s = settings();
     const QString folder = s.value(QStringLiteral("export/folder"), QDir::homePath()).toString();
-    const QString path = FileBox(true, QStringLiteral("Export Graph"), folder,
+    // A name from the window's title, offered in the last folder: "newtons-method-and-derivatives.svg".
+    QString name = windowTitle().toLower();
+    name.replace(QRegularExpression(QStringLiteral("[^a-z0-9]+")), QStringLiteral("-"));
+    name = name.section(QLatin1Char('-'), 0, -1, QString::SectionSkipEmpty);
+    const QString path = FileBox(true, QStringLiteral("Export Graph"),
+                                 QDir(folder).filePath((name.isEmpty() ? QStringLiteral("graph") : name) + ".svg"),
                                  QStringLiteral("SVG drawing (*.svg);;PDF document (*.pdf);;PNG picture (*.png)"), {});
     if (path.isEmpty())
         return;
