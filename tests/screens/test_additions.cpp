@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the program does beyond the classic handlers (the description, Ctrl+C, the spoken scroll
 // bars, the walk and the trace, lessons, the convergence tables, the typed-function entry,
-// projector mode) never ends it with a classic run-time error, whatever the boxes hold: every box of
-// every screen is filled with a text the classic reading refuses or overflows, on a family and on a
-// typed function, and each of those paths is run.
+// projector mode, export and printing) never ends it with a classic run-time error, whatever the
+// boxes hold: every box of every screen is filled with a text the classic reading refuses or
+// overflows, on a family and on a typed function, and each of those paths is run.
 #include <functional>
 #include <memory>
 
 #include <QSignalBlocker>
+#include <QTemporaryDir>
 
 #include "screens/ConvergenceWindow.h"
 #include "screens/Lesson.h"
@@ -75,6 +76,16 @@ const std::vector<Path>& additionPaths()
              ConvergenceWindow* window = row.convergence(s);
              window->recompute();
              EXPECT_FALSE(window->summary()->text().isEmpty());
+         }},
+        {"graph exported and printed, table exported",
+         [](GraphScreen& s, const ScreenRow& row) {
+             const QTemporaryDir dir;
+             for (const char* name : {"g.svg", "g.pdf", "g.png"})
+                 EXPECT_EQ(s.exportGraph(dir.filePath(QLatin1String(name)), {}), QString()) << name;
+             s.mnuPrintPreview_Click();
+             if (row.convergence) {
+                 EXPECT_EQ(row.convergence(s)->exportTable(dir.filePath(QStringLiteral("t.csv"))), QString());
+             }
          }},
         {"typed function entered", [](GraphScreen& s, const ScreenRow& row) { EXPECT_EQ(row.typeExample(s), QString()); }},
         {"projector mode",
