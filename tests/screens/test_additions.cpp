@@ -80,8 +80,10 @@ const std::vector<Path>& additionPaths()
         {"graph exported and printed, table exported",
          [](GraphScreen& s, const ScreenRow& row) {
              const QTemporaryDir dir;
+             graphexport::Options small;
+             small.dpi = graphexport::kMinDpi;
              for (const char* name : {"g.svg", "g.pdf", "g.png"})
-                 EXPECT_EQ(s.exportGraph(dir.filePath(QLatin1String(name)), {}), QString()) << name;
+                 EXPECT_EQ(s.exportGraph(dir.filePath(QLatin1String(name)), small), QString()) << name;
              s.mnuPrintPreview_Click();
              if (row.convergence) {
                  EXPECT_EQ(row.convergence(s)->exportTable(dir.filePath(QStringLiteral("t.csv"))), QString());
