@@ -54,7 +54,7 @@ frmArea::frmArea() : GraphScreen(areaConfig())
     // clang-format off
     form::buildForm(surface, {
         // name                  kind           caption                    place                          handlers / look
-        {FORM_NAME(lblArea),      Kind::Label,   "Area Between Curves",     {C, 3060, W, 300},             {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblArea),      Kind::Label,   "Two Curves",              {C, 3060, W, 300},             {}, {.align = Qt::AlignCenter}},
         {FORM_NAME(lblG),         Kind::Label,   "g(x) =",                  {C, 3420, 600, 300}},
         {FORM_NAME(txtG),         Kind::Box,     "x + 2",                   {C + 600, 3420, W - 600, 300}},
         {FORM_NAME(lblLeft),      Kind::Stepper, "Left a",                  {C, 3780, 1000, 300},          {.MouseDown = on(&frmArea::lblLeft_MouseDown)}},
