@@ -7,6 +7,7 @@
 #include "funclib/EpsilonDelta.h"
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
+#include "funclib/TaylorSeries.h"
 #include "runtime/VectorState.h"
 #include "screens/IntegralCurves.h"
 #include "screens/RiemannSums.h"
@@ -169,6 +170,32 @@ void BM_LimitsDeltaSearch(benchmark::State& state)
         benchmark::DoNotOptimize(limits::largestDelta(values, 1, 1, 0.25, -10, 10).delta);
 }
 BENCHMARK(BM_LimitsDeltaSearch)->Unit(benchmark::kMillisecond);
+
+// The Taylor screen's two steps without the screen: the series of sin x about 0 (its terms kept, as
+// the screen keeps them), and f, P_7 and P_6 on the 6399 columns of the window from -10 to 10, twice.
+void BM_TaylorEvaluationsOnly(benchmark::State& state)
+{
+    FuncGlobals::Coefficients = {1, 1, 0, 0, 0, 0};
+    FuncGlobals::FunctionId = 5;
+    FuncGlobals::TaylorSeries series = FuncGlobals::TaylorSeries::ofFamily(5, 0, FuncGlobals::Coefficients);
+    for (int k = 0; k <= 7; ++k)
+        (void)series.term(k);
+    const FuncGlobals::ExplicitSnapshot f(FuncGlobals::ExplicitSnapshot::What::Value, nullptr);
+    std::vector<double> xs;
+    for (int c = 2401; c <= 8799; ++c)
+        xs.push_back((c - 5600) * 20.0 / 6400);
+    noteState(state);
+    for (auto _ : state)
+        for (int click = 0; click < 2; ++click) {
+            double sum = 0;
+            for (double v : f.at(xs))
+                sum += v;
+            for (double x : xs)
+                sum += series.polynomial(7, x) + series.polynomial(6, x);
+            benchmark::DoNotOptimize(sum);
+        }
+}
+BENCHMARK(BM_TaylorEvaluationsOnly)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

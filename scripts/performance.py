@@ -24,6 +24,7 @@ PAIRS = [
     ("Parametric plot, 32000 steps, separate points", "BM_ParametricPlot32000/0", "BM_Bare64000ParametricEvaluations", 2),
     ("Parametric plot, 32000 steps, connected", "BM_ParametricPlot32000/1", "BM_Bare64000ParametricEvaluations", 2),
     ("Animation: default continuous run, 42 frames", "BM_ContinuousAnimation42Frames", "BM_Bare42PlotsOfEvaluations", 2),
+    ("Taylor polynomials: Remove a Term and Add a Term on sin x at degree 7 (two steps; budget 16 ms each)", "BM_TaylorRemoveAndAddTerm", "BM_TaylorEvaluationsOnly", None),
     ("Limits: Halve ε at the default settings (x² at 1, two bands drawn; budget 16 ms)", "BM_LimitsHalveEpsilon", "BM_LimitsDeltaSearch", None),
     ("Area between curves: find crossings + areas (default settings)", "BM_AreaFindCrossings/8", "BM_AreaComputationOnly", None),
     ("Convergence table of the sums, n up to 32768", "BM_SumsTableTo32000", "BM_SumsTableEvaluationsOnly", None),
