@@ -128,10 +128,10 @@ std::string Table::csv() const
     return text;
 }
 
-Integral gaussKronrod(const std::function<double(double)>& f, double L, double R)
+Integral gaussKronrod(const std::function<double(double)>& f, double L, double R, unsigned levels)
 {
     Integral i;
-    i.value = boost::math::quadrature::gauss_kronrod<double, 61>::integrate(f, L, R, 15, 1e-12, &i.error);
+    i.value = boost::math::quadrature::gauss_kronrod<double, 61>::integrate(f, L, R, levels, 1e-12, &i.error);
     i.converged = std::isfinite(i.value) && i.error <= 1e-8 * std::max(1.0, std::fabs(i.value));
     return i;
 }

@@ -63,7 +63,8 @@ struct Integral {
     double value = 0, error = 0;
     bool converged = false;
 };
-Integral gaussKronrod(const std::function<double(double)>& f, double L, double R);
+// `levels` bounds the halvings (each level doubles the evaluations at most: 61 * 2^levels in all).
+Integral gaussKronrod(const std::function<double(double)>& f, double L, double R, unsigned levels = 15);
 
 // The five deterministic sums of the selected explicit family on [L, R] for n = 1, 2, 4, ... up to
 // at least 1024 and at least `currentN` (which gets a row of its own when it is not a power of two),

@@ -291,3 +291,16 @@ TEST_F(Area, ALessonStepBringsBackTheBoxesAndTheResults)
     // sin - cos on [0, 3]: [-cos x - sin x] from 0 to 3 = 1 - cos 3 - sin 3, worked out apart from the screen.
     EXPECT_NEAR(fresh.grdAreas->cell(6, 1).toDouble(), 1 - std::cos(3.0) - std::sin(3.0), 1e-9);
 }
+
+// Where the adaptive rule cannot settle near a point (sin(1/x) at 0), no area is claimed and the
+// words say between which crossings; a smooth fast oscillation still has its area.
+TEST(AreaBetween, AnIntegralThatDoesNotSettleIsSaidNotGuessed)
+{
+    const AreaBetween::Result wild = AreaBetween::compute(typed("sin(1/x)"), typed("0"), -1, 1.3, 8);
+    EXPECT_FALSE(wild.signedArea || wild.unsignedArea);
+    EXPECT_NE(wild.why.find("does not settle between x = -0.00"), std::string::npos) << wild.why;
+    // The integral of sin(50x) over [-1, 1.3] is (cos 50 - cos 65) / 50.
+    const AreaBetween::Result fast = AreaBetween::compute(typed("sin(50*x)"), typed("0"), -1, 1.3, 8);
+    ASSERT_TRUE(fast.signedArea) << fast.why;
+    EXPECT_NEAR(*fast.signedArea, (std::cos(50.0) - std::cos(65.0)) / 50, 1e-12);
+}
