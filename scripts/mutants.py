@@ -16,6 +16,7 @@ roughly an hour and a half on a 2-core machine; --count makes it smaller.
 import argparse
 import json
 import os
+import datetime
 import random
 import resource
 import signal
@@ -139,7 +140,9 @@ def failing_tests(tree, timeout):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
     parser.add_argument("--count", type=int, default=150, help="mutants to run (default 150)")
-    parser.add_argument("--seed", type=int, default=20261123, help="the sample's seed (default 20261123)")
+    parser.add_argument("--seed", type=int, default=None,
+                        help="the sample's seed (default: today's date as YYYYMMDD, so that each report is of a "
+                             "fresh sample, never the one the tests were last written against)")
     parser.add_argument("--tree", default="build/mutants/tree", help="work tree for the mutants")
     parser.add_argument("--out", default="build/mutants/report.md", help="the report")
     parser.add_argument("--test-timeout", type=int, default=90,
@@ -158,6 +161,10 @@ def main():
                         help="for every killed mutant, also list the test cases that fail: a case that alone "
                              "kills a mutant is one a consolidation must keep (slower)")
     args = parser.parse_args()
+    if args.seed is None and not (args.recheck or args.survivors):
+        args.seed = int(datetime.date.today().strftime("%Y%m%d"))
+    if args.seed is not None:
+        print("sample seed %d" % args.seed, flush=True)
     root = os.path.abspath(os.path.join(os.path.dirname(__file__), ".."))
     tree = os.path.abspath(args.tree)
     if args.list:
