@@ -258,9 +258,14 @@ int room(const QWidget* widget)
                    .width() -
                2;
     }
-    if (qobject_cast<const QGroupBox*>(widget))
-        // The title stands between the frame's corners, a little in from each.
-        return widget->width() - 2 * style->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, widget);
+    if (const auto* box = qobject_cast<const QGroupBox*>(widget)) {
+        // The title may reach from where the style puts it to the frame's right edge.
+        QStyleOptionGroupBox option;
+        option.initFrom(box);
+        option.text = box->title();
+        option.subControls = QStyle::SC_GroupBoxLabel | QStyle::SC_GroupBoxFrame;
+        return box->width() - style->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, box).left();
+    }
     if (const auto* label = qobject_cast<const QLabel*>(widget)) {
         if (label->wordWrap())
             return std::numeric_limits<int>::max();

@@ -34,7 +34,8 @@ GraphScreen::Config riemannConfig()
 }
 
 constexpr double kPanel = 8940, kPanelWidth = 1800, kSums = 10920, kSumsWidth = 3360;
-const QString kAreaText = QStringLiteral("Area=");
+// An area label before its sum is worked out (a table caption: buildForm translates it).
+const char* const kAreaText = QT_TRANSLATE_NOOP("Plotto", "Area=");
 // The sums' rows within their frame: the first's top, and the step from one to the next.
 constexpr double kFirstSumRow = 360, kSumRow = 420;
 
@@ -283,7 +284,7 @@ void frmRiemann::resetAreas()
 {
     for (const Method& m : kMethods)
         if (m.clearedByNewFunction)
-            (this->*m.result)->setText(kAreaText);
+            (this->*m.result)->setText(Plotto::tr(kAreaText));
 }
 
 void frmRiemann::cmdParts_Click()

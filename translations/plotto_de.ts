@@ -2187,5 +2187,9 @@ Ableitung: y&apos; = </translation>
         <source>: answers</source>
         <translation>: Lösungen</translation>
     </message>
+    <message>
+        <source>Area=</source>
+        <translation>Fläche=</translation>
+    </message>
 </context>
 </TS>

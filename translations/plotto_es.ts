@@ -2187,5 +2187,9 @@ Derivada: y&apos; = </translation>
         <source>: answers</source>
         <translation>: respuestas</translation>
     </message>
+    <message>
+        <source>Area=</source>
+        <translation>Área=</translation>
+    </message>
 </context>
 </TS>

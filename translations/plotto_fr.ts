@@ -2187,5 +2187,9 @@ Dérivée : y&apos; = </translation>
         <source>: answers</source>
         <translation> : réponses</translation>
     </message>
+    <message>
+        <source>Area=</source>
+        <translation>Aire=</translation>
+    </message>
 </context>
 </TS>

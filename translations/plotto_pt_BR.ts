@@ -2187,5 +2187,9 @@ Derivada: y&apos; = </translation>
         <source>: answers</source>
         <translation>: respostas</translation>
     </message>
+    <message>
+        <source>Area=</source>
+        <translation>Área=</translation>
+    </message>
 </context>
 </TS>
