@@ -14,6 +14,7 @@
 #include <QSet>
 
 #include "graphwin/Controls.h"
+#include "graphwin/Language.h"
 #include "runtime/RuntimeError.h"
 
 QString spoken(QString text)
@@ -54,13 +55,13 @@ QString kindOf(const QWidget* w)
     if (qobject_cast<const QRadioButton*>(w))
         return QStringLiteral("option");
     if (qobject_cast<const QCheckBox*>(w))
-        return QStringLiteral("check box");
+        return Plotto::tr("check box");
     if (qobject_cast<const QAbstractButton*>(w) || qobject_cast<const ClickLabel*>(w))
         return QStringLiteral("button");
     if (qobject_cast<const QLineEdit*>(w))
         return QStringLiteral("box");
     if (qobject_cast<const QScrollBar*>(w))
-        return QStringLiteral("scroll bar");
+        return Plotto::tr("scroll bar");
     if (qobject_cast<const QTableWidget*>(w))
         return QStringLiteral("table");
     return QStringLiteral("control");
@@ -131,9 +132,9 @@ public:
     QStringList keyBindingsForAction(const QString& name) const override
     {
         if (name == pressAction() || name == increaseAction())
-            return {QStringLiteral("Space")};
+            return {Plotto::tr("Space")};
         if (name == decreaseAction())
-            return {QStringLiteral("Minus")};
+            return {Plotto::tr("Minus")};
         return {};
     }
 

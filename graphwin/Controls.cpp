@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include "graphwin/Dialogs.h"
+#include "graphwin/Language.h"
 #include "graphwin/TwipArea.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
@@ -60,8 +61,10 @@ void TextBox::assign(const QString& text)
         runChange();
 }
 
-double TextBox::value() const { return rt::Val(text().toStdString()); }
-std::optional<double> TextBox::number() const { return rt::TryVal(text().toStdString()); }
+// Where the language writes a decimal comma, a box takes "1,5" as 1.5 too (English reads it as 1, as
+// the classic rules do).
+double TextBox::value() const { return rt::Val(i18n::typedDecimals(text()).toStdString()); }
+std::optional<double> TextBox::number() const { return rt::TryVal(i18n::typedDecimals(text()).toStdString()); }
 
 bool TextBox::event(QEvent* event)
 {
@@ -111,11 +114,13 @@ void Grid::setCell(int row, int column, const QString& text)
 {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
         rt::raise(rt::SubscriptOutOfRange);
-    item(row, column)->setText(text);
+    // A table shows its numbers with the language's decimal separator.
+    const QString shown = i18n::decimals(text);
+    item(row, column)->setText(shown);
     // The heading row also names the columns for assistive tools (the header itself stays hidden;
     // row 0 shows the headings as the form draws them).
     if (row == 0)
-        setHorizontalHeaderItem(column, new QTableWidgetItem(text));
+        setHorizontalHeaderItem(column, new QTableWidgetItem(shown));
 }
 
 QString Grid::tabSeparated() const
@@ -345,8 +350,8 @@ void onTriggered(QAction* action, std::function<void()> click)
 
 FileMenu addFileMenu(QMenuBar* bar, const QString& exitCaption, std::function<void()> about, std::function<void()> exit)
 {
-    QMenu* file = bar->addMenu(QStringLiteral("&File"));
-    FileMenu m{file->menuAction(), file->addAction(QStringLiteral("&About")), file->addSeparator(),
+    QMenu* file = bar->addMenu(Plotto::tr("&File"));
+    FileMenu m{file->menuAction(), file->addAction(Plotto::tr("&About")), file->addSeparator(),
                file->addAction(exitCaption)};
     onTriggered(m.about, std::move(about));
     onTriggered(m.exit, std::move(exit));
@@ -380,6 +385,9 @@ QString notNumbers(std::initializer_list<std::pair<QString, const QLineEdit*>> b
 QString qStr(double v) { return QString::fromStdString(rt::Str(v)); }
 QString qStr(float v) { return QString::fromStdString(rt::Str(v)); }
 QString qTrimStr(double v) { return QString::fromStdString(rt::Trim(rt::Str(v))); }
+QString shownStr(double v) { return i18n::decimals(qStr(v)); }
+QString shownStr(float v) { return i18n::decimals(qStr(v)); }
+QString shownTrimStr(double v) { return i18n::decimals(qTrimStr(v)); }
 
 void startMenuArray(QMenu* menu, std::vector<QAction*>& entries)
 {

@@ -186,6 +186,12 @@ QString notNumbers(std::initializer_list<std::pair<QString, const QLineEdit*>> b
 QString qStr(double v);
 QString qStr(float v);
 QString qTrimStr(double v);
+// A number shown to a person as a result (a label, a description): Str, or Str without its blanks,
+// with the language's decimal separator (i18n::decimals). Boxes keep the classic text: what the
+// program writes into a box is read back by the classic rules.
+QString shownStr(double v);
+QString shownStr(float v);  // a single's digits, as qStr(float)
+QString shownTrimStr(double v);
 
 // A menu array: a menu whose entry 0 is the hidden design entry and whose entries 1..count are added
 // at load time. `startMenuArray` adds the design entry; `fillMenuArray` adds the missing entries with

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QWidget>
 
+#include "graphwin/Language.h"
 #include "graphwin/TwipArea.h"
 
 namespace {
@@ -62,7 +63,7 @@ QString scriptedAnswer(const QString& title, const QString& prompt)
 
 QString FileBox(bool saving, const QString& title, const QString& directory)
 {
-    return FileBox(saving, title, directory, QStringLiteral("Plotto lessons (*.plotto);;All files (*)"),
+    return FileBox(saving, title, directory, Plotto::tr("Plotto lessons (*.plotto);;All files (*)"),
                    QStringLiteral("plotto"));
 }
 
@@ -124,8 +125,8 @@ void reportRuntimeErrorFrom(const QObject* source, const rt::RuntimeError& error
         reportRuntimeError(error);
         return;
     }
-    MsgBox(QStringLiteral("That could not be done: %1 (error %2). Nothing else is affected; change what was typed "
-                          "and try again.")
+    MsgBox(Plotto::tr("That could not be done: %1 (error %2). Nothing else is affected; change what was typed "
+                      "and try again.")
                .arg(QString::fromUtf8(error.what()))
                .arg(error.number()),
            window->windowTitle());

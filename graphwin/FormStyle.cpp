@@ -3,10 +3,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QWidget>
@@ -136,9 +144,33 @@ void FormStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     }
 }
 
+void FormStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (button && (element == CE_PushButtonLabel || element == CE_CheckBoxLabel || element == CE_RadioButtonLabel)) {
+        const int room = option->rect.width() - (element == CE_PushButtonLabel ? 0 : 2);
+        if (option->fontMetrics.horizontalAdvance(QString(button->text).remove(QLatin1Char('&'))) > room) {
+            QStyleOptionButton shortened = *button;
+            shortened.text = option->fontMetrics.elidedText(button->text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+            QProxyStyle::drawControl(element, &shortened, painter, widget);
+            return;
+        }
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
 void FormStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                    const QWidget* widget) const
 {
+    if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option); control == CC_GroupBox && box) {
+        QStyleOptionGroupBox shortened = *box;
+        const int room = caption::room(widget);
+        if (room > 0 && option->fontMetrics.horizontalAdvance(QString(box->text).remove(QLatin1Char('&'))) > room)
+            shortened.text = option->fontMetrics.elidedText(box->text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+        QProxyStyle::drawComplexControl(control, &shortened, painter, widget);
+        return;
+    }
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control != CC_ScrollBar || !bar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -193,3 +225,123 @@ void installFormStyle()
     QStyle* base = QStyleFactory::create(QApplication::style()->name());
     QApplication::setStyle(new FormStyle(base));
 }
+
+namespace caption {
+
+QString of(const QWidget* widget)
+{
+    QString text;
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+        text = button->text();
+    else if (const auto* box = qobject_cast<const QGroupBox*>(widget))
+        text = box->title();
+    else if (const auto* label = qobject_cast<const QLabel*>(widget); label && label->textFormat() != Qt::RichText)
+        text = label->text();
+    return text.remove(QLatin1Char('&'));
+}
+
+int room(const QWidget* widget)
+{
+    QStyle* style = widget->style();
+    if (const auto* push = qobject_cast<const QPushButton*>(widget)) {
+        QStyleOptionButton option;
+        option.initFrom(push);
+        return style->subElementRect(QStyle::SE_PushButtonContents, &option, push).width();
+    }
+    if (qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget)) {
+        QStyleOptionButton option;
+        option.initFrom(widget);
+        const bool check = qobject_cast<const QCheckBox*>(widget);
+        return style
+                   ->subElementRect(check ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents, &option,
+                                    widget)
+                   .width() -
+               2;
+    }
+    if (const auto* box = qobject_cast<const QGroupBox*>(widget)) {
+        // The title may reach from where the style puts it to the frame's right edge.
+        QStyleOptionGroupBox option;
+        option.initFrom(box);
+        option.text = box->title();
+        option.subControls = QStyle::SC_GroupBoxLabel | QStyle::SC_GroupBoxFrame;
+        return box->width() - style->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, box).left();
+    }
+    if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+        if (label->wordWrap())
+            return std::numeric_limits<int>::max();
+        const int indent = label->indent() > 0 ? label->indent() : 0;
+        return label->contentsRect().width() - 2 * label->margin() - indent;
+    }
+    return std::numeric_limits<int>::max();
+}
+
+bool fits(const QWidget* widget)
+{
+    const QString text = of(widget);
+    if (text.isEmpty())
+        return true;
+    const QFontMetrics metrics(widget->font());
+    // A label of several lines is as wide as its widest line.
+    int widest = 0;
+    for (const QString& line : text.split(QLatin1Char('\n')))
+        widest = std::max(widest, metrics.horizontalAdvance(line));
+    return widest <= room(widget);
+}
+
+namespace {
+
+constexpr char kOwnTip[] = "plottoOwnTip";
+constexpr char kTipQueued[] = "plottoTipQueued";
+
+void updateTip(QWidget* widget)
+{
+    if (!widget->property(kOwnTip).isValid())
+        widget->setProperty(kOwnTip, widget->toolTip());
+    const QString own = widget->property(kOwnTip).toString();
+    const QString whole = of(widget);
+    const QString tip = fits(widget) || whole == own ? own : own.isEmpty() ? whole : whole + QLatin1Char('\n') + own;
+    if (widget->toolTip() != tip)
+        widget->setToolTip(tip);
+}
+
+class Watcher : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::Resize:
+        case QEvent::FontChange:
+        case QEvent::StyleChange:
+        case QEvent::Show: {
+            // Once the form has finished growing or shrinking: its zoom, which the style's room for a
+            // caption depends on, is recorded after its controls are resized.
+            auto* widget = static_cast<QWidget*>(watched);
+            if (!widget->property(kTipQueued).toBool()) {
+                widget->setProperty(kTipQueued, true);
+                QMetaObject::invokeMethod(
+                    widget,
+                    [widget] {
+                        widget->setProperty(kTipQueued, false);
+                        updateTip(widget);
+                    },
+                    Qt::QueuedConnection);
+            }
+            break;
+        }
+        default: break;
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+void watch(QWidget* widget)
+{
+    static auto* watcher = new Watcher(qApp);
+    widget->installEventFilter(watcher);
+    updateTip(widget);
+}
+
+}  // namespace caption

@@ -4,6 +4,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "graphwin/FormStyle.h"
+#include "graphwin/Language.h"
+
 namespace form {
 
 namespace {
@@ -13,9 +16,13 @@ namespace {
     throw std::logic_error("form table, row \"" + caption.toStdString() + "\": " + what);
 }
 
+// A table's English text in the language in use (tables mark their texts for the catalogues with
+// QT_TRANSLATE_NOOP("Plotto", ...)); a box's caption is its first text and stays as it is.
+QString shown(const char* text) { return text ? Plotto::tr(text) : QString(); }
+
 QWidget* create(const Control& row, QWidget* parent)
 {
-    const QString& caption = row.caption;
+    const QString caption = row.kind == Kind::Box ? row.caption : shown(row.caption.toUtf8().constData());
     switch (row.kind) {
     case Kind::Label:
     case Kind::Stepper: return new ClickLabel(parent, caption, row.kind == Kind::Stepper);
@@ -70,9 +77,9 @@ void applyLook(const Control& row, QWidget* w)
         bar->setValue(look.bar.value);
     }
     if (look.tip)
-        w->setToolTip(QString::fromUtf8(look.tip));
+        w->setToolTip(shown(look.tip));
     if (look.name)
-        w->setAccessibleName(QString::fromUtf8(look.name));
+        w->setAccessibleName(shown(look.name));
 }
 
 void wire(const Control& row, QWidget* w)
@@ -119,8 +126,11 @@ void buildForm(QWidget* parent, const std::vector<Control>& table)
         if (!row.name.assign(w))
             tableMistake(row.caption, "the member cannot hold this kind of control");
         w->setObjectName(row.name.name());
+        w->setProperty(kSourceCaption, row.caption);
         placeTwips(w, row.place.left, row.place.top, row.place.width, row.place.height);
         applyLook(row, w);
+        if (row.kind != Kind::Box && !caption::of(w).isEmpty())
+            caption::watch(w);
         wire(row, w);
         if (!row.contents.empty()) {
             if (row.kind != Kind::Frame)

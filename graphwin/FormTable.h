@@ -8,8 +8,9 @@
 //   const auto on = form::bind(this);
 //   form::buildForm(surface, {
 //       // name          kind           caption           place (twips)          handlers
-//       {FORM_NAME(lblX), Kind::Stepper, "Tangent at x =", {60, 600, 1380, 300},   {.MouseDown = on(&frmX::lblX_MouseDown)}},
-//       {FORM_NAME(txtX), Kind::Box,     "1",              {1500, 600, 1020, 300}, {.Change = on(&frmX::txtX_Change)}},
+//       {FORM_NAME(lblX), Kind::Stepper, "Tangent at x =", {60, 600, 1380, 300},   {.MouseDown =
+//       on(&frmX::lblX_MouseDown)}}, {FORM_NAME(txtX), Kind::Box,     "1",              {1500, 600, 1020, 300},
+//       {.Change = on(&frmX::txtX_Change)}},
 //   });
 //
 // FORM_NAME(member) gives the control its member's name as its object name: the key by which lessons
@@ -114,6 +115,10 @@ struct Control {
     Look look = {};
     std::vector<Control> contents = {};  // a frame's rows, placed within the frame
 };
+
+// The property in which buildForm keeps a control's caption as the table wrote it, in English,
+// whatever language the control shows.
+inline constexpr char kSourceCaption[] = "sourceCaption";
 
 // Creates the rows on `parent` in order (a frame's contents right after the frame), places them,
 // gives them their look and then their handlers, so that nothing set while building runs a handler.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Export of the graph (see GraphExport.h).
 #include "graphwin/GraphExport.h"
+#include "graphwin/Language.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,7 +35,7 @@ double captionHeight(const Graph& graph, const Options& options)
 
 QString couldNotWrite(const QString& path, const QString& why)
 {
-    return QStringLiteral("Could not write %1: %2.").arg(QDir::toNativeSeparators(path), why);
+    return Plotto::tr("Could not write %1: %2.").arg(QDir::toNativeSeparators(path), why);
 }
 
 }  // namespace
@@ -155,8 +156,8 @@ QString write(const QString& path, const Graph& graph, const Options& options)
 {
     const std::optional<Format> format = formatOf(path);
     if (!format)
-        return QStringLiteral("The file name %1 does not say which kind of file to write: end it with .svg, .pdf or "
-                              ".png.")
+        return Plotto::tr("The file name %1 does not say which kind of file to write: end it with .svg, .pdf or "
+                          ".png.")
             .arg(QFileInfo(path).fileName().isEmpty() ? QStringLiteral("(none)") : QFileInfo(path).fileName());
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
@@ -197,7 +198,7 @@ QString write(const QString& path, const Graph& graph, const Options& options)
         QImage image(pixelSize(graph, options), QImage::Format_RGB32);
         if (image.isNull()) {
             file.cancelWriting();
-            return couldNotWrite(path, QStringLiteral("the picture is too large for the memory"));
+            return couldNotWrite(path, Plotto::tr("the picture is too large for the memory"));
         }
         image.fill(Qt::white);
         const int dotsPerMetre = static_cast<int>(std::lround(dpi / 0.0254));
@@ -214,7 +215,7 @@ QString write(const QString& path, const Graph& graph, const Options& options)
     }
     if (!painted) {
         file.cancelWriting();
-        return couldNotWrite(path, file.errorString().isEmpty() ? QStringLiteral("the file could not be made")
+        return couldNotWrite(path, file.errorString().isEmpty() ? Plotto::tr("the file could not be made")
                                                                 : file.errorString());
     }
     if (!file.commit())

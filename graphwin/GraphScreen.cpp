@@ -30,6 +30,7 @@
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormArea.h"
 #include "graphwin/FormStyle.h"
+#include "graphwin/Language.h"
 #include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
@@ -133,7 +134,7 @@ void GraphScreen::buildCoefficients()
     // stepper label on its left.
     // clang-format off
     std::vector<form::Control> table{
-        {FORM_NAME(lblVariables), Kind::Label, "Variables", {120, 600, 1455, 300}, {}, {.align = Qt::AlignCenter}}};
+        {FORM_NAME(lblVariables), Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Variables"), {120, 600, 1455, 300}, {}, {.align = Qt::AlignCenter}}};
     TextBox** boxes[6] = {&txtA, &txtB, &txtC, &txtD, &txtE, &txtF};
     ClickLabel** labels[6] = {&lblA, &lblB, &lblC, &lblD, &lblE, &lblF};
     for (int i = 0; i < config_.coefficientCount; ++i) {
@@ -167,7 +168,7 @@ void GraphScreen::buildButtons()
         {FORM_NAME(cmdClean),      Kind::Button, config_.cleanCaption,     {C, 1200, W, H}, {.Click = on(&GraphScreen::cmdClean_Click)}},
         {FORM_NAME(cmdZoomIn),     Kind::Button, config_.zoomCaption,      {C, 1800, W, H}, {.Click = on(&GraphScreen::cmdZoomIn_Click)}},
         {FORM_NAME(cmdSetDefault), Kind::Button, config_.defaultsCaption,  {C, 2400, W, H}, {.Click = on(&GraphScreen::cmdSetDefault_Click)}},
-        {FORM_NAME(cmdExit),       Kind::Button, QStringLiteral("E&xit"),  {C, 6000, W, H}, {.Click = on(&GraphScreen::cmdExit_Click)}},
+        {FORM_NAME(cmdExit),       Kind::Button, QT_TRANSLATE_NOOP("Plotto", "E&xit"),  {C, 6000, W, H}, {.Click = on(&GraphScreen::cmdExit_Click)}},
     });
     // clang-format on
 }
@@ -292,8 +293,8 @@ void GraphScreen::cmdClean_Click() { CleanGraph(); }
 void GraphScreen::limitChanged(TextBox* minBox, TextBox* maxBox)
 {
     if (config_.validatingLimits && minBox->value() >= maxBox->value()) {
-        MsgBox(QStringLiteral("You graphing window is compromised.  It will be reset to the defaults."),
-               QStringLiteral("Error"));
+        MsgBox(Plotto::tr("You graphing window is compromised.  It will be reset to the defaults."),
+               Plotto::tr("Error"));
         cmdSetDefault_Click();
         return;
     }
@@ -454,7 +455,7 @@ void GraphScreen::mnuFunc_Click(int Index)
 void GraphScreen::showHelp(std::initializer_list<std::pair<const char*, const char*>> boxes)
 {
     for (const auto& [title, text] : boxes)
-        MsgBox(QString::fromUtf8(text), QString::fromUtf8(title));
+        MsgBox(Plotto::tr(text), Plotto::tr(title));  // the texts are marked QT_TRANSLATE_NOOP("Plotto", ...)
 }
 
 void GraphScreen::cmdExit_Click() { mnuExit_Click(); }

@@ -54,12 +54,12 @@ public:
         int coefficientCount = 5;  // 5 (A to E) or 6 (A to F)
         std::array<const char*, 6> coefficientDefaults{"1", "1", "0", "0", "0", "0"};
         bool functionMenu = true;  // the explicit families' menu and function label
-        QString functionMenuCaption = QStringLiteral("&Select Function");
+        QString functionMenuCaption = QT_TRANSLATE_NOOP("Plotto", "&Select Function");
         QString functionLabelCaption = QStringLiteral("y = A(Bx - C)^2 + D");
-        QString plotCaption = QStringLiteral("&Plotto!");
-        QString cleanCaption = QStringLiteral("&Erase Graph");
-        QString zoomCaption = QStringLiteral("&Zoom In");
-        QString defaultsCaption = QStringLiteral("&Reset to Default");
+        QString plotCaption = QT_TRANSLATE_NOOP("Plotto", "&Plotto!");
+        QString cleanCaption = QT_TRANSLATE_NOOP("Plotto", "&Erase Graph");
+        QString zoomCaption = QT_TRANSLATE_NOOP("Plotto", "&Zoom In");
+        QString defaultsCaption = QT_TRANSLATE_NOOP("Plotto", "&Reset to Default");
         // A screen added to the classic eight: a person's action on it that meets one of the classic
         // run-time errors (equal window limits, a number too large) is told in words, and the
         // program carries on.

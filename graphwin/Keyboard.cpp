@@ -9,12 +9,15 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QTableWidget>
 
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingSurface.h"
+#include "graphwin/FormStyle.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 
 void ClickLabel::announceStep()
 {
@@ -64,7 +67,17 @@ void paintFocusRing(QWidget* widget)
 
 void ClickLabel::paintEvent(QPaintEvent* event)
 {
-    QLabel::paintEvent(event);
+    if (caption::fits(this)) {
+        QLabel::paintEvent(event);
+    } else {
+        // A one-line caption longer than the label: shortened with an ellipsis (its tooltip shows it).
+        QPainter painter(this);
+        drawFrame(&painter);
+        const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+        const QString shortened = fontMetrics().elidedText(text(), Qt::ElideRight, caption::room(this));
+        style()->drawItemText(&painter, room, QStyle::visualAlignment(layoutDirection(), alignment()), palette(),
+                              isEnabled(), shortened, foregroundRole());
+    }
     paintFocusRing(this);
 }
 
@@ -90,7 +103,7 @@ void GraphScreen::arrangeForKeyboard()
     for (const auto& [label, verb, limit] : arrows)
         label->setAccessibleName(
             QStringLiteral("%1 %2 by one").arg(QString::fromLatin1(verb), QString::fromLatin1(limit)));
-    surface->setAccessibleName(QStringLiteral("Graph"));
+    surface->setAccessibleName(Plotto::tr("Graph"));
     refreshDescription();
 
     // A stepper label steps the box beside it, and is named for what it does.
@@ -98,7 +111,7 @@ void GraphScreen::arrangeForKeyboard()
         auto* label = qobject_cast<ClickLabel*>(labelFor(box));
         if (label && label->MouseDown && label->accessibleName().isEmpty()) {
             label->steps = box;
-            label->setAccessibleName(QStringLiteral("raise or lower ") + spoken(label->text()));
+            label->setAccessibleName(Plotto::tr("raise or lower ") + spoken(label->text()));
         }
     }
 

@@ -9,6 +9,7 @@
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 
 namespace {
 
@@ -57,13 +58,13 @@ QString GraphScreen::describe() const
     // What the walk along a curve said last comes first, as the point a student is at.
     if (const QString said = announcement(); !said.isEmpty())
         lines << said;
-    lines << QStringLiteral("Window: x from %1 to %2, y from %3 to %4.")
+    lines << Plotto::tr("Window: x from %1 to %2, y from %3 to %4.")
                  .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
     if (drawnAfterClear_ == surface->clears() && !drawn_.isEmpty()) {
         for (const QString& what : drawn_)
             lines << QStringLiteral("Drawn: ") + what + QLatin1Char('.');
         if (drawnBeyond_ > 0)
-            lines << QStringLiteral("And %1 more drawings.").arg(drawnBeyond_);
+            lines << Plotto::tr("And %1 more drawings.").arg(drawnBeyond_);
     }
     describeResults(lines);
     return lines.join(QLatin1Char('\n'));
@@ -81,10 +82,10 @@ QStringList GraphScreen::results() const
 QString GraphScreen::describeFamily() const
 {
     using namespace FuncGlobals;
-    QString text = typed_ ? QStringLiteral("the typed function y = ") + QString::fromStdString(typed_->f->text())
+    QString text = typed_ ? Plotto::tr("the typed function y = ") + QString::fromStdString(typed_->f->text())
                    : FunctionId >= 1 && FunctionId <= ExplicitFamilyCount
                        ? QString::fromStdString(FuncCaption[FunctionId])
-                       : QStringLiteral("y = 0 (no function chosen)");
+                       : Plotto::tr("y = 0 (no function chosen)");
     const TextBox* boxes[6] = {txtA, txtB, txtC, txtD, txtE, txtF};
     QStringList values;
     for (int i = 0; i < config_.coefficientCount; ++i)

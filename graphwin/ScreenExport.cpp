@@ -22,6 +22,7 @@
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 
 namespace {
 
@@ -61,9 +62,9 @@ std::optional<graphexport::Options> askOptions(QWidget* parent, const QString& t
     QDialog dialog(parent);
     dialog.setWindowTitle(title);
     auto* form = new QFormLayout(&dialog);
-    auto* caption = new QCheckBox(QStringLiteral("&Caption under the graph"), &dialog);
+    auto* caption = new QCheckBox(Plotto::tr("&Caption under the graph"), &dialog);
     caption->setChecked(o.caption);
-    auto* blackAndWhite = new QCheckBox(QStringLiteral("&Black and white (line styles instead of colours)"), &dialog);
+    auto* blackAndWhite = new QCheckBox(Plotto::tr("&Black and white (line styles instead of colours)"), &dialog);
     blackAndWhite->setChecked(!o.colour);
     auto* width = new QDoubleSpinBox(&dialog);
     width->setRange(0.5, 5.0);
@@ -77,9 +78,9 @@ std::optional<graphexport::Options> askOptions(QWidget* parent, const QString& t
     dpi->setValue(o.dpi);
     form->addRow(caption);
     form->addRow(blackAndWhite);
-    form->addRow(QStringLiteral("&Line width:"), width);
+    form->addRow(Plotto::tr("&Line width:"), width);
     if (resolution)
-        form->addRow(QStringLiteral("&Resolution:"), dpi);
+        form->addRow(Plotto::tr("&Resolution:"), dpi);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
@@ -124,33 +125,33 @@ void GraphScreen::mnuExportGraph_Click()
     QString name = windowTitle().toLower();
     name.replace(QRegularExpression(QStringLiteral("[^a-z0-9]+")), QStringLiteral("-"));
     name = name.section(QLatin1Char('-'), 0, -1, QString::SectionSkipEmpty);
-    const QString path = FileBox(true, QStringLiteral("Export Graph"),
+    const QString path = FileBox(true, Plotto::tr("Export Graph"),
                                  QDir(folder).filePath((name.isEmpty() ? QStringLiteral("graph") : name) + ".svg"),
-                                 QStringLiteral("SVG drawing (*.svg);;PDF document (*.pdf);;PNG picture (*.png)"), {});
+                                 Plotto::tr("SVG drawing (*.svg);;PDF document (*.pdf);;PNG picture (*.png)"), {});
     if (path.isEmpty())
         return;
     s.setValue(QStringLiteral("export/folder"), QFileInfo(path).absolutePath());
     const std::optional<graphexport::Format> format = graphexport::formatOf(path);
     const std::optional<graphexport::Options> options =
-        format ? askOptions(this, QStringLiteral("Export Graph"), *format == graphexport::Format::Png)
+        format ? askOptions(this, Plotto::tr("Export Graph"), *format == graphexport::Format::Png)
                : graphexport::Options{};
     if (!options)
         return;
     if (const QString error = exportGraph(path, *options); !error.isEmpty())
-        MsgBox(error, QStringLiteral("Export Graph"));
+        MsgBox(error, Plotto::tr("Export Graph"));
 }
 
 void GraphScreen::mnuPrint_Click()
 {
     if (DialogScript* script = dialogScript()) {  // no printer in tests: the page is painted on a picture
-        script->shown.emplace_back(QStringLiteral("Print"), QStringLiteral("printer"));
+        script->shown.emplace_back(Plotto::tr("Print"), QStringLiteral("printer"));
         QPicture picture;
         printGraph(picture, QRectF(0, 0, 595, 842), rememberedOptions());
         return;
     }
     QPrinter printer(QPrinter::HighResolution);
     QPrintDialog dialog(&printer, this);
-    dialog.setWindowTitle(QStringLiteral("Print"));
+    dialog.setWindowTitle(Plotto::tr("Print"));
     if (dialog.exec() != QDialog::Accepted)
         return;
     printGraph(printer, QRectF(QPointF(0, 0), printer.pageLayout().paintRectPixels(printer.resolution()).size()),
@@ -160,14 +161,14 @@ void GraphScreen::mnuPrint_Click()
 void GraphScreen::mnuPrintPreview_Click()
 {
     if (DialogScript* script = dialogScript()) {
-        script->shown.emplace_back(QStringLiteral("Print Preview"), QStringLiteral("printer"));
+        script->shown.emplace_back(Plotto::tr("Print Preview"), QStringLiteral("printer"));
         QPicture picture;
         printGraph(picture, QRectF(0, 0, 595, 842), rememberedOptions());
         return;
     }
     QPrinter printer(QPrinter::HighResolution);
     QPrintPreviewDialog preview(&printer, this);
-    preview.setWindowTitle(QStringLiteral("Print Preview"));
+    preview.setWindowTitle(Plotto::tr("Print Preview"));
     connect(&preview, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* p) {
         printGraph(*p, QRectF(QPointF(0, 0), p->pageLayout().paintRectPixels(p->resolution()).size()),
                    rememberedOptions());

@@ -11,6 +11,7 @@
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 
 namespace {
 
@@ -41,13 +42,13 @@ QMenu* GraphScreen::addMenu(const QString& caption)
 void GraphScreen::buildMenus()
 {
     const FileMenu file = addFileMenu(
-        menuBar, QStringLiteral("E&xit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
+        menuBar, Plotto::tr("E&xit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
     mnuFile = file.menu;
     mnuAbout = file.about;
     sep1 = file.separator;
     mnuExit = file.exit;
     if (config_.functionMenu) {
-        QMenu* select = addMenu(config_.functionMenuCaption);
+        QMenu* select = addMenu(Plotto::tr(config_.functionMenuCaption.toUtf8().constData()));
         mnuSelect = select->menuAction();
         startMenuArray(select, mnuFunc);
     }
@@ -65,22 +66,21 @@ QAction* GraphScreen::addToolsEntry(const QString& caption, QKeySequence key, st
 
 void GraphScreen::buildToolsMenu()
 {
-    toolsMenu_ = menuBar->addMenu(QStringLiteral("&Tools"));
+    toolsMenu_ = menuBar->addMenu(Plotto::tr("&Tools"));
     mnuTools = toolsMenu_->menuAction();
-    mnuTypeFunction =
-        addToolsEntry(config_.functionMenu ? QStringLiteral("&Type a Function...") : QStringLiteral("&Type..."),
-                      QKeySequence(Qt::CTRL | Qt::Key_E), [this] { mnuTypeFunction_Click(); });
-    mnuProjector = addToolsEntry(QStringLiteral("&Projector Mode"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+    mnuTypeFunction = addToolsEntry(config_.functionMenu ? Plotto::tr("&Type a Function...") : Plotto::tr("&Type..."),
+                                    QKeySequence(Qt::CTRL | Qt::Key_E), [this] { mnuTypeFunction_Click(); });
+    mnuProjector = addToolsEntry(Plotto::tr("&Projector Mode"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
                                  [this] { mnuProjector_Click(); });
     mnuProjector->setCheckable(true);
-    mnuHearCurve = addToolsEntry(QStringLiteral("&Hear the Curve"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H),
+    mnuHearCurve = addToolsEntry(Plotto::tr("&Hear the Curve"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H),
                                  [this] { mnuHearCurve_Click(); });
     surface->KeyDown = [this](int key, Qt::KeyboardModifiers modifiers) { return exploreKey(key, modifiers); };
     toolsMenu_->addSeparator();
-    mnuExportGraph = addToolsEntry(QStringLiteral("&Export Graph..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+    mnuExportGraph = addToolsEntry(Plotto::tr("&Export Graph..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
                                    [this] { mnuExportGraph_Click(); });
-    mnuPrint = addToolsEntry(QStringLiteral("P&rint..."), QKeySequence(Qt::CTRL | Qt::Key_P), [this] { mnuPrint_Click(); });
-    mnuPrintPreview = addToolsEntry(QStringLiteral("Pr&int Preview..."), {}, [this] { mnuPrintPreview_Click(); });
+    mnuPrint = addToolsEntry(Plotto::tr("P&rint..."), QKeySequence(Qt::CTRL | Qt::Key_P), [this] { mnuPrint_Click(); });
+    mnuPrintPreview = addToolsEntry(Plotto::tr("Pr&int Preview..."), {}, [this] { mnuPrintPreview_Click(); });
     NAME_AS_MEMBER(mnuExportGraph);
     NAME_AS_MEMBER(mnuPrint);
     NAME_AS_MEMBER(mnuPrintPreview);
@@ -121,30 +121,30 @@ void GraphScreen::refreshLessonPlace()
 void GraphScreen::buildLessonCommands()
 {
     toolsMenu_->addSeparator();
-    mnuAddStep = addToolsEntry(QStringLiteral("&Add This Screen to the Lesson"),
+    mnuAddStep = addToolsEntry(Plotto::tr("&Add This Screen to the Lesson"),
                                QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
                                    if (lessonCommands().add)
                                        lessonCommands().add(*this);
                                });
-    mnuOpenLesson = addToolsEntry(QStringLiteral("&Open Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_O), [] {
+    mnuOpenLesson = addToolsEntry(Plotto::tr("&Open Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_O), [] {
         if (lessonCommands().open)
             lessonCommands().open();
     });
-    mnuSaveLesson = addToolsEntry(QStringLiteral("&Save Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_S), [] {
+    mnuSaveLesson = addToolsEntry(Plotto::tr("&Save Lesson..."), QKeySequence(Qt::CTRL | Qt::Key_S), [] {
         if (lessonCommands().save)
             lessonCommands().save();
     });
-    mnuExportWorksheet = addToolsEntry(QStringLiteral("Export Lesson as &Worksheet..."), {}, [] {
+    mnuExportWorksheet = addToolsEntry(Plotto::tr("Export Lesson as &Worksheet..."), {}, [] {
         if (lessonCommands().worksheet)
             lessonCommands().worksheet();
     });
     NAME_AS_MEMBER(mnuExportWorksheet);
     // Page Down and Page Up, which every presentation clicker sends; only while a lesson is open.
-    mnuNextStep = addToolsEntry(QStringLiteral("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
+    mnuNextStep = addToolsEntry(Plotto::tr("&Next Step"), QKeySequence(Qt::Key_PageDown), [] {
         if (lessonCommands().next)
             lessonCommands().next();
     });
-    mnuPreviousStep = addToolsEntry(QStringLiteral("Pre&vious Step"), QKeySequence(Qt::Key_PageUp), [] {
+    mnuPreviousStep = addToolsEntry(Plotto::tr("Pre&vious Step"), QKeySequence(Qt::Key_PageUp), [] {
         if (lessonCommands().previous)
             lessonCommands().previous();
     });

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 #include "graphwin/TracePlayer.h"
 
 namespace {
@@ -124,18 +125,17 @@ void GraphScreen::mnuHearCurve_Click()
 {
     const TracedCurve* curve = chosenCurve();
     if (!curve) {
-        announce(QStringLiteral("Nothing is drawn to hear yet."));
+        announce(Plotto::tr("Nothing is drawn to hear yet."));
         return;
     }
     if (audio::play(traceSamples(), kTraceRate)) {
-        announce(QStringLiteral("Playing ") + curve->name + QLatin1Char('.'));
+        announce(Plotto::tr("Playing ") + curve->name + QLatin1Char('.'));
         return;
     }
     // Said once in a run; the walk goes on without sound.
     if (!silenceSaid_) {
         silenceSaid_ = true;
-        announce(
-            QStringLiteral("No sound device: the curve cannot be heard here. Left and Right still walk along it."));
+        announce(Plotto::tr("No sound device: the curve cannot be heard here. Left and Right still walk along it."));
     }
 }
 
@@ -182,8 +182,8 @@ QString GraphScreen::spokenPoint(double x, double y, double finer) const
     if (!std::isfinite(y))
         return text + QStringLiteral("undefined");
     return text + said(y, ry) +
-           (y > r.ymax   ? QStringLiteral(", above the window")
-            : y < r.ymin ? QStringLiteral(", below the window")
+           (y > r.ymax   ? Plotto::tr(", above the window")
+            : y < r.ymin ? Plotto::tr(", below the window")
                          : QString());
 }
 
@@ -203,7 +203,7 @@ bool GraphScreen::exploreKey(int key, Qt::KeyboardModifiers modifiers)
     if (arrow && surface->MouseDown && !(modifiers & Qt::ShiftModifier))
         return false;
     if (!walkReady()) {
-        announce(QStringLiteral("Nothing is drawn to walk along yet."));
+        announce(Plotto::tr("Nothing is drawn to walk along yet."));
         return true;
     }
     const std::size_t n = walk_.size();
@@ -220,17 +220,17 @@ bool GraphScreen::exploreKey(int key, Qt::KeyboardModifiers modifiers)
         chosen_ = (now + (key == Qt::Key_Down ? 1 : count - 1)) % count;
         const double x = walk_[walkAt_].x;
         if (!walkReady()) {
-            announce(QStringLiteral("Curve %1 of %2 has no points to walk along.").arg(chosen_ + 1).arg(count));
+            announce(Plotto::tr("Curve %1 of %2 has no points to walk along.").arg(chosen_ + 1).arg(count));
             break;
         }
         walkTo(nearestTo(walk_, x),
-               QStringLiteral("Curve %1 of %2: %3. ").arg(chosen_ + 1).arg(count).arg(chosenCurve()->name));
+               Plotto::tr("Curve %1 of %2: %3. ").arg(chosen_ + 1).arg(count).arg(chosenCurve()->name));
         break;
     }
     default: {  // N: the nearest root, turn or crossing of the y-axis
         const auto feature = audio::nearestFeature(walk_, walkAt_, chosenCurve()->f);
         if (!feature) {
-            announce(QStringLiteral("No root, turn or axis crossing on this curve."));
+            announce(Plotto::tr("No root, turn or axis crossing on this curve."));
             break;
         }
         static const char* const kinds[] = {"Root", "Minimum", "Maximum", "Crosses the y-axis"};

@@ -12,13 +12,15 @@
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 
 std::vector<GraphScreen::FunctionPart> GraphScreen::functionParts()
 {
     if (!config_.functionMenu)
         return {};
-    return {{"family", "typed", FuncGlobals::ExplicitFamilyCount, {"x"}, shownFamily_,
-             [this](int family) { mnuFunc_Click(family); }}};
+    return {{"family", "typed", FuncGlobals::ExplicitFamilyCount, {"x"}, shownFamily_, [this](int family) {
+                 mnuFunc_Click(family);
+             }}};
 }
 
 QStringList GraphScreen::typedTexts() const
@@ -54,22 +56,22 @@ QString GraphScreen::checkFunctionState(const QJsonObject& state) const
     }
     for (auto it = state.begin(); it != state.end(); ++it)
         if (!known.contains(it.key()))
-            return QStringLiteral("the screen has no function '%1'").arg(it.key());
+            return Plotto::tr("the screen has no function '%1'").arg(it.key());
     if (typedGiven != 0 && typedGiven != static_cast<int>(parts.size()))
-        return QStringLiteral("a typed function names every part: %1").arg(typedKeys.join(QStringLiteral(" and ")));
+        return Plotto::tr("a typed function names every part: %1").arg(typedKeys.join(QStringLiteral(" and ")));
     for (const FunctionPart& part : parts) {
         const QJsonValue family = state.value(QString::fromLatin1(part.family));
         const QJsonValue typed = state.value(QString::fromLatin1(part.typed));
         if (!family.isUndefined() && (!family.isDouble() || family.toDouble() != std::floor(family.toDouble()) ||
                                       family.toDouble() < 1 || family.toDouble() > part.count))
-            return QStringLiteral("'%1' is a family number from 1 to %2")
+            return Plotto::tr("'%1' is a family number from 1 to %2")
                 .arg(QString::fromLatin1(part.family))
                 .arg(part.count);
         if (!typed.isUndefined()) {
             std::string error;
             if (!typed.isString() ||
                 !FuncGlobals::TypedExpression::compile(typed.toString().toStdString(), part.variables, error))
-                return QStringLiteral("the function '%1' cannot be taken: %2")
+                return Plotto::tr("the function '%1' cannot be taken: %2")
                     .arg(typed.toString(), QString::fromStdString(error));
         }
     }
@@ -125,7 +127,7 @@ void GraphScreen::runTypedEntry(TypedEntryLayout entry, const std::function<QStr
         return;
     const QString refusal = take(*texts);
     if (!refusal.isEmpty())
-        MsgBox(refusal, QStringLiteral("Typed function"));
+        MsgBox(refusal, Plotto::tr("Typed function"));
     refreshDescription();
 }
 
@@ -134,7 +136,7 @@ void GraphScreen::mnuTypeFunction_Click()
     if (!config_.functionMenu)
         return;
     TypedEntryLayout entry;
-    entry.title = QStringLiteral("Type a function y = f(x)");
+    entry.title = Plotto::tr("Type a function y = f(x)");
     entry.fields = {QStringLiteral("y =")};
     entry.initial = {typed_ ? QString::fromStdString(typed_->f->text()) : QString()};
     entry.examples = {{QStringLiteral("A*sin(B*x + C) + D*x + E")},
@@ -151,8 +153,8 @@ void GraphScreen::mnuTypeFunction_Click()
         const auto f = FuncGlobals::TypedFunction::make(texts.value(0).toStdString(), error);
         if (!f)
             return QString::fromStdString(error);
-        preview = QStringLiteral("Understood: y = ") + QString::fromStdString(f->f->understood()) +
-                  QStringLiteral("\nDerivative: y' = ") + QString::fromStdString(f->f->derivativeText());
+        preview = Plotto::tr("Understood: y = ") + QString::fromStdString(f->f->understood()) +
+                  Plotto::tr("\nDerivative: y' = ") + QString::fromStdString(f->f->derivativeText());
         return QString();
     };
     runTypedEntry(entry, [this](const QStringList& texts) { return setTypedFunction(texts.value(0)); });
@@ -161,7 +163,7 @@ void GraphScreen::mnuTypeFunction_Click()
 QString GraphScreen::setTypedFunction(const QString& text)
 {
     if (!config_.functionMenu)
-        return QStringLiteral("This screen does not graph a function y = f(x).");
+        return Plotto::tr("This screen does not graph a function y = f(x).");
     std::string error;
     auto made = FuncGlobals::TypedFunction::make(text.toStdString(), error);
     if (!made)
@@ -180,7 +182,7 @@ bool GraphScreen::typedDefinedAt(std::initializer_list<double> xs, QLabel* label
         return true;
     for (double x : xs)
         if (std::isnan(typed_->value(x))) {
-            label->setText(before + QStringLiteral("undefined: no f(x) at x = ") + qTrimStr(x));
+            label->setText(before + Plotto::tr("undefined: no f(x) at x = ") + shownTrimStr(x));
             return false;
         }
     return true;
@@ -190,11 +192,11 @@ bool GraphScreen::typedSlopeAt(double slope, double x, QLabel* label) const
 {
     if (!typed_ || !std::isnan(slope))
         return true;
-    label->setText(QStringLiteral("no slope: f'(x) is undefined at x = ") + qTrimStr(x));
+    label->setText(Plotto::tr("no slope: f'(x) is undefined at x = ") + shownTrimStr(x));
     return false;
 }
 
-QString GraphScreen::typedTooLarge() { return QStringLiteral("cannot be computed: the numbers are too large"); }
+QString GraphScreen::typedTooLarge() { return Plotto::tr("cannot be computed: the numbers are too large"); }
 
 void GraphScreen::installTyped()
 {

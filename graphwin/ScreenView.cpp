@@ -10,6 +10,7 @@
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
 #include "graphwin/GraphViewer.h"
+#include "graphwin/Language.h"
 #include "graphwin/TracePlayer.h"
 
 namespace {
@@ -27,7 +28,7 @@ void showLimit(TextBox* box, double value)
 
 void GraphScreen::buildViewMenu()
 {
-    auto* menu = new QMenu(QStringLiteral("Vie&w"), menuBar);
+    auto* menu = new QMenu(Plotto::tr("Vie&w"), menuBar);
     menuBar->insertMenu(mnuTools, menu);
     mnuView = menu->menuAction();
     auto entry = [this, menu](const QString& caption, QList<QKeySequence> keys, std::function<bool()> run) {
@@ -37,18 +38,17 @@ void GraphScreen::buildViewMenu()
         connect(a, &QAction::triggered, this, [run = std::move(run)] { guarded([&run] { run(); }); });
         return a;
     };
-    mnuViewZoomIn = entry(QStringLiteral("Zoom &In"),
-                          {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
-                          [this] { return zoomView(2); });
+    mnuViewZoomIn =
+        entry(Plotto::tr("Zoom &In"), {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+              [this] { return zoomView(2); });
     mnuViewZoomOut =
-        entry(QStringLiteral("Zoom &Out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, [this] { return zoomView(0.5); });
-    mnuViewOriginal = entry(QStringLiteral("&Original Window"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
+        entry(Plotto::tr("Zoom &Out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, [this] { return zoomView(0.5); });
+    mnuViewOriginal = entry(Plotto::tr("&Original Window"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
                             [this] { return originalWindow(); });
     menu->addSeparator();
-    mnuViewBack =
-        entry(QStringLiteral("&Back"), {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { return backWindow(); });
+    mnuViewBack = entry(Plotto::tr("&Back"), {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { return backWindow(); });
     mnuViewForward =
-        entry(QStringLiteral("&Forward"), {QKeySequence(Qt::ALT | Qt::Key_Right)}, [this] { return forwardWindow(); });
+        entry(Plotto::tr("&Forward"), {QKeySequence(Qt::ALT | Qt::Key_Right)}, [this] { return forwardWindow(); });
     NAME_AS_MEMBER(mnuViewZoomIn);
     NAME_AS_MEMBER(mnuViewZoomOut);
     NAME_AS_MEMBER(mnuViewOriginal);
@@ -108,13 +108,13 @@ bool GraphScreen::moveView(const view::Limits& wanted, bool remember)
     if (remember)
         viewHistory_.moveTo(limits);
     const QStringList failed = redrawKept(std::move(steps));
-    QString said = QStringLiteral("Window: x from %1 to %2, y from %3 to %4.")
+    QString said = Plotto::tr("Window: x from %1 to %2, y from %3 to %4.")
                        .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
     if (!failed.isEmpty())
-        said += QStringLiteral(" Not drawn at this window: ") + failed.join(QStringLiteral("; ")) + QLatin1Char('.');
+        said += Plotto::tr(" Not drawn at this window: ") + failed.join(QStringLiteral("; ")) + QLatin1Char('.');
     if (!whole)
-        said += QStringLiteral(" Some drawings made before cannot be drawn again at a new window: press the "
-                               "screen's buttons to draw them here.");
+        said += Plotto::tr(" Some drawings made before cannot be drawn again at a new window: press the "
+                           "screen's buttons to draw them here.");
     announce(said);
     if (viewer_)
         viewer_->viewChanged();
@@ -155,7 +155,7 @@ void GraphScreen::runForDrag(const std::function<void()>& action)
     try {
         action();
     } catch (const rt::RuntimeError& error) {
-        announce(QStringLiteral("Cannot be drawn from here: ") + QString::fromUtf8(error.what()) + QLatin1Char('.'));
+        announce(Plotto::tr("Cannot be drawn from here: ") + QString::fromUtf8(error.what()) + QLatin1Char('.'));
     }
     refreshDescription();
 }
@@ -164,7 +164,7 @@ bool GraphScreen::zoomViewAt(double x, double y, double factor)
 {
     const std::optional<view::Limits> now = shownWindow();
     if (!now) {
-        announce(QStringLiteral("The window's limits are not numbers: type them first."));
+        announce(Plotto::tr("The window's limits are not numbers: type them first."));
         return false;
     }
     followTypedLimits();
@@ -197,13 +197,13 @@ bool GraphScreen::originalWindow()
 bool GraphScreen::backWindow()
 {
     followTypedLimits();
-    return stepView(viewHistory_.back(), QStringLiteral("No window before this one."));
+    return stepView(viewHistory_.back(), Plotto::tr("No window before this one."));
 }
 
 bool GraphScreen::forwardWindow()
 {
     followTypedLimits();
-    return stepView(viewHistory_.forward(), QStringLiteral("No window after this one."));
+    return stepView(viewHistory_.forward(), Plotto::tr("No window after this one."));
 }
 
 bool GraphScreen::stepView(const std::optional<view::Limits>& limits, const QString& none)

@@ -14,12 +14,13 @@
 #include "funclib/TypedFunctions.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormStyle.h"
+#include "graphwin/Language.h"
 
 QString typedNamesHelp(const QString& variables, const QString& coefficients)
 {
-    return QStringLiteral("Use %1, the coefficients %2, the numbers e and pi, + - * / and ^ (a power, "
-                          "taken before a minus sign: -x^2 is -(x^2)). Write every product with *, as 2*x. "
-                          "Functions: %3.")
+    return Plotto::tr("Use %1, the coefficients %2, the numbers e and pi, + - * / and ^ (a power, "
+                      "taken before a minus sign: -x^2 is -(x^2)). Write every product with *, as 2*x. "
+                      "Functions: %3.")
         .arg(variables, coefficients, QString::fromStdString(FuncGlobals::typedFunctionsHelp()));
 }
 
@@ -51,16 +52,16 @@ std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayou
     layout->addLayout(form);
 
     auto* examples = new QComboBox(&dialog);
-    examples->addItem(QStringLiteral("Examples..."));
+    examples->addItem(Plotto::tr("Examples..."));
     for (const QStringList& example : entry.examples)
         examples->addItem(example.join(QStringLiteral(",   ")), example);
-    examples->setAccessibleName(QStringLiteral("Examples"));
+    examples->setAccessibleName(Plotto::tr("Examples"));
     layout->addWidget(examples);
 
     auto* preview = new QLabel(&dialog);
     preview->setWordWrap(true);
     preview->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    preview->setAccessibleName(QStringLiteral("Preview"));
+    preview->setAccessibleName(Plotto::tr("Preview"));
     layout->addWidget(preview);
     auto* names = new QLabel(entry.names, &dialog);
     names->setWordWrap(true);
@@ -81,7 +82,7 @@ std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayou
         QString shown;
         const QString refusal = entry.check(texts(), shown);
         buttons->button(QDialogButtonBox::Ok)->setEnabled(refusal.isEmpty());
-        preview->setText(refusal.isEmpty() ? shown : QStringLiteral("Cannot be taken: ") + refusal);
+        preview->setText(refusal.isEmpty() ? shown : Plotto::tr("Cannot be taken: ") + refusal);
         preview->setAccessibleDescription(preview->text());
     };
     for (QLineEdit* line : lines)

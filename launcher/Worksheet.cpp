@@ -22,6 +22,7 @@
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 #include "screens/ScreenRegistry.h"
 
 namespace worksheet {
@@ -158,7 +159,7 @@ StepContent take(const lesson::Step& step, int number, int count, GraphScreen& s
 {
     StepContent c;
     const screens::Entry* entry = screens::find(step.screen);
-    c.heading = QStringLiteral("Step %1 of %2: %3")
+    c.heading = Plotto::tr("Step %1 of %2: %3")
                     .arg(number)
                     .arg(count)
                     .arg(entry ? QString::fromUtf8(entry->button).remove(QLatin1Char('&')) : step.screen);
@@ -168,25 +169,25 @@ StepContent take(const lesson::Step& step, int number, int count, GraphScreen& s
     setDialogScript(&script);
     const QString refusal = lesson::check(step, screen);
     if (!refusal.isEmpty()) {
-        c.problems << QStringLiteral("This step cannot be shown: %1.").arg(refusal);
+        c.problems << Plotto::tr("This step cannot be shown: %1.").arg(refusal);
     } else {
         try {
             screen.activate();
             lesson::apply(step, screen);
         } catch (const rt::RuntimeError& error) {
-            c.problems << QStringLiteral("This step cannot be shown whole: %1 (run-time error %2).")
+            c.problems << Plotto::tr("This step cannot be shown whole: %1 (run-time error %2).")
                               .arg(QString::fromUtf8(error.what()))
                               .arg(error.number());
         }
     }
     setDialogScript(before);
     for (int n : script.errors)
-        c.problems << QStringLiteral("A button of this step could not finish (run-time error %1).").arg(n);
+        c.problems << Plotto::tr("A button of this step could not finish (run-time error %1).").arg(n);
     for (const auto& [title, prompt] : script.shown)
         if (prompt != QLatin1String("file") && prompt != QLatin1String("options") && prompt != QLatin1String("printer"))
             c.problems << prompt;
     if (c.note.isEmpty() && entry)
-        c.note = QStringLiteral("The screen shows %1.").arg(QString::fromUtf8(entry->describes));
+        c.note = Plotto::tr("The screen shows %1.").arg(Plotto::tr(entry->describes));
     QStringList description = screen.describe().split(QLatin1Char('\n'));
     const QStringList results = screen.results();
     description = description.mid(1, description.size() - 1 - results.size());  // the title line goes
@@ -261,7 +262,7 @@ QString writePages(const QString& path, const QString& title, const std::vector<
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return QStringLiteral("Could not write %1: %2.").arg(path, file.errorString());
+        return Plotto::tr("Could not write %1: %2.").arg(path, file.errorString());
     {
         QPdfWriter pdf(&file);
         pdf.setCreator(QStringLiteral("Plotto"));
@@ -271,7 +272,7 @@ QString writePages(const QString& path, const QString& title, const std::vector<
         QPainter p;
         if (!p.begin(&pdf)) {
             file.cancelWriting();
-            return QStringLiteral("Could not write %1: the PDF could not be started.").arg(path);
+            return Plotto::tr("Could not write %1: the PDF could not be started.").arg(path);
         }
         p.scale(pdf.resolution() / 1440.0, pdf.resolution() / 1440.0);
         const int pages = static_cast<int>(starts.size());
@@ -296,11 +297,11 @@ QString writePages(const QString& path, const QString& title, const std::vector<
             p.setFont(font(kSmall));
             p.setPen(Qt::black);
             p.drawText(QRectF(kMargin, kPageHeight - kMargin, kWidth, 300), Qt::AlignHCenter,
-                       QStringLiteral("Page %1 of %2").arg(page + 1).arg(pages));
+                       Plotto::tr("Page %1 of %2").arg(page + 1).arg(pages));
         }
     }
     if (!file.commit())
-        return QStringLiteral("Could not write %1: %2.").arg(path, file.errorString());
+        return Plotto::tr("Could not write %1: %2.").arg(path, file.errorString());
     return {};
 }
 
@@ -339,7 +340,7 @@ QString write(const lesson::Lesson& lesson, const QString& title, const QString&
               const std::function<GraphScreen&(const QString& key)>& screenFor)
 {
     if (lesson.steps.empty())
-        return QStringLiteral("The lesson has no steps.");
+        return Plotto::tr("The lesson has no steps.");
     std::vector<Block> sheet, answers;
     const int count = static_cast<int>(lesson.steps.size());
     for (int i = 0; i < count; ++i) {
@@ -356,7 +357,7 @@ QString write(const lesson::Lesson& lesson, const QString& title, const QString&
     if (QString error = writePages(path, title, sheet); !error.isEmpty())
         return error;
     if (blank)
-        return writePages(answersPath(path), title + QStringLiteral(": answers"), answers);
+        return writePages(answersPath(path), title + Plotto::tr(": answers"), answers);
     return {};
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenu>
@@ -19,12 +20,13 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/Language.h"
 #include "screens/frmClasses.h"
 #include "screens/frmRiemann.h"
 
 frmGraphingCalc::frmGraphingCalc()
 {
-    setWindowTitle(QStringLiteral("Plotto!   Calculus Calculator"));
+    setWindowTitle(Plotto::tr("Plotto!   Calculus Calculator"));
     setFont(QFont(QStringLiteral("Times New Roman"), 11));
 
     auto* layout = new QVBoxLayout(this);
@@ -32,19 +34,19 @@ frmGraphingCalc::frmGraphingCalc()
     layout->setMenuBar(menuBar);
 
     const FileMenu file = addFileMenu(
-        menuBar, QStringLiteral("&Quit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
+        menuBar, Plotto::tr("&Quit"), [this] { mnuAbout_Click(); }, [this] { mnuExit_Click(); });
     mnuFile = file.menu;
     mnuAbout = file.about;
     Sep1 = file.separator;
     mnuExit = file.exit;
 
-    selections_ = menuBar->addMenu(QStringLiteral("&Selections"));
+    selections_ = menuBar->addMenu(Plotto::tr("&Selections"));
     mnuSelect = selections_->menuAction();
     // The screens added to the seed's eight, each an entry here and not a button.
-    more_ = menuBar->addMenu(QStringLiteral("More &Demonstrations"));
+    more_ = menuBar->addMenu(Plotto::tr("More &Demonstrations"));
     mnuMore = more_->menuAction();
 
-    auto* heading = new QLabel(QStringLiteral("Choose a demonstration"), this);
+    auto* heading = new QLabel(Plotto::tr("Choose a demonstration"), this);
     heading->setAlignment(Qt::AlignCenter);
     layout->addWidget(heading);
 
@@ -54,17 +56,20 @@ frmGraphingCalc::frmGraphingCalc()
     // One button and one Selections entry per screen of the registry; the seed's names for them follow.
     for (const screens::Entry& entry : screens::all())
         addScreen(entry);
-    const std::tuple<const char*, QPushButton**, QAction**> named[] = {
-        {"sums", &cmdSums, &mnuRiemann},          {"grapher", &cmdFuncClasses, &mnuGrapher},
-        {"animation", &cmdAnimate, &mnuAnimate},  {"slope-field", &cmdSlopeField, &mnuSlopeField},
-        {"newton", &cmdNewton, &mnuNewton},        {"tangent", &cmdTangent, &mnuTangent},
-        {"mvt", &cmdMVT, &mnuMVT},                 {"parametric", &cmdParam, &mnuParam}};
+    const std::tuple<const char*, QPushButton**, QAction**> named[] = {{"sums", &cmdSums, &mnuRiemann},
+                                                                       {"grapher", &cmdFuncClasses, &mnuGrapher},
+                                                                       {"animation", &cmdAnimate, &mnuAnimate},
+                                                                       {"slope-field", &cmdSlopeField, &mnuSlopeField},
+                                                                       {"newton", &cmdNewton, &mnuNewton},
+                                                                       {"tangent", &cmdTangent, &mnuTangent},
+                                                                       {"mvt", &cmdMVT, &mnuMVT},
+                                                                       {"parametric", &cmdParam, &mnuParam}};
     for (const auto& [key, button, action] : named) {
         const auto at = static_cast<std::size_t>(screens::find(QString::fromLatin1(key)) - screens::all().data());
         *button = buttons_[at];
         *action = entries_[at];
     }
-    cmdExit = makeButton(this, QStringLiteral("&Quit"), [this] { cmdExit_Click(); });
+    cmdExit = makeButton(this, Plotto::tr("&Quit"), [this] { cmdExit_Click(); });
     layout->addWidget(cmdExit, 0, Qt::AlignHCenter);
 
     // Enter presses the focused button, as Space does (outside a dialog a button answers only Space
@@ -94,6 +99,48 @@ frmGraphingCalc::frmGraphingCalc()
     addFullScreenKey(this);
     installFormStyle();
     buildLessonMenu();
+    buildLanguageMenu();
+}
+
+void frmGraphingCalc::buildLanguageMenu()
+{
+    QMenu* tools = menuBar->addMenu(Plotto::tr("&Tools"));
+    mnuTools = tools->menuAction();
+    QMenu* language = tools->addMenu(Plotto::tr("&Language"));
+    mnuLanguage = language->menuAction();
+    auto* group = new QActionGroup(language);
+    const auto& all = i18n::languages();
+    QString taken;
+    for (int i = 0; i < static_cast<int>(all.size()); ++i) {
+        // Each language's name in itself, with the first letter of its name that no entry above took as
+        // its Alt letter (English E, Español s, ...).
+        QString name = QString::fromUtf8(all[i].name);
+        for (qsizetype k = 0; k < name.size(); ++k)
+            if (name.at(k).isLetter() && !taken.contains(name.at(k).toLower())) {
+                taken += name.at(k).toLower();
+                name.insert(k, QLatin1Char('&'));
+                break;
+            }
+        QAction* entry = language->addAction(name);
+        entry->setObjectName(QStringLiteral("mnuLanguage_") + QString::fromLatin1(all[i].code));
+        entry->setCheckable(true);
+        entry->setChecked(i18n::current() == QLatin1String(all[i].code));
+        group->addAction(entry);
+        connect(entry, &QAction::triggered, this, [this, i] { guarded([&] { mnuLanguage_Click(i); }); });
+        mnuLanguages.push_back(entry);
+    }
+}
+
+void frmGraphingCalc::mnuLanguage_Click(int Index)
+{
+    const QString code = QString::fromLatin1(i18n::languages().at(static_cast<std::size_t>(Index)).code);
+    if (code == i18n::current())
+        return;
+    i18n::remember(code);
+    i18n::install(code);
+    MsgBox(Plotto::tr("The screens you open from now on speak this language; the launcher does from the next "
+                      "start of Plotto."),
+           Plotto::tr("Language"));
 }
 
 void frmGraphingCalc::resizeEvent(QResizeEvent* event)
@@ -121,13 +168,13 @@ void frmGraphingCalc::addScreen(const screens::Entry& entry)
 {
     auto open = [this, &entry] { openScreen(entry); };
     if (entry.kind == screens::Entry::Kind::Addition) {
-        QAction* action = more_->addAction(QString::fromUtf8(entry.entry));
+        QAction* action = more_->addAction(Plotto::tr(entry.entry));
         onTriggered(action, open);
         buttons_.push_back(nullptr);
         entries_.push_back(action);
         return;
     }
-    QPushButton* b = makeButton(this, QString::fromUtf8(entry.button), open);
+    QPushButton* b = makeButton(this, Plotto::tr(entry.button), open);
     // Keep the buttons in teaching order, two to a row, whichever screens exist.
     b->setProperty("place", entry.place);
     QList<QPushButton*> buttons;
@@ -141,7 +188,7 @@ void frmGraphingCalc::addScreen(const screens::Entry& entry)
         grid_->removeWidget(existing);
     for (int i = 0; i < buttons.size(); ++i)
         grid_->addWidget(buttons[i], i / 2, i % 2);
-    QAction* action = selections_->addAction(QString::fromUtf8(entry.entry));
+    QAction* action = selections_->addAction(Plotto::tr(entry.entry));
     onTriggered(action, open);
     buttons_.push_back(b);
     entries_.push_back(action);
@@ -155,10 +202,7 @@ GraphScreen& frmGraphingCalc::screen(const screens::Entry& entry)
     return *slot;
 }
 
-GraphScreen& frmGraphingCalc::screen(const char* key)
-{
-    return screen(*screens::find(QString::fromLatin1(key)));
-}
+GraphScreen& frmGraphingCalc::screen(const char* key) { return screen(*screens::find(QString::fromLatin1(key))); }
 
 void frmGraphingCalc::showScreen(GraphScreen& first)
 {
@@ -201,15 +245,14 @@ void frmGraphingCalc::mnuExit_Click() { endProgram(0); }
 
 void frmGraphingCalc::mnuAbout_Click()
 {
-    MsgBox(QStringLiteral("This program was made to graphically illustrate a few Calculus concepts.  They are shown on "
-                          "the buttons and the pull down menu.  The 'About' menu option for each screen will explain "
-                          "the use of that screen."),
-           QStringLiteral("Calculus Demonstrations"));
-    MsgBox(QStringLiteral("This program is free.  Give it to your Calculus students or whoever could benefit from its "
-                          "use.  Send your questions and suggestions to the Plotto issue tracker."),
-           QStringLiteral("Distribute Freely"));
-    MsgBox(
-        QStringLiteral("Read the ABOUTs on each screen.  There are handy things to know about clicking labels on the "
-                       "screens....."),
-        QStringLiteral("More ABOUTs"));
+    MsgBox(Plotto::tr("This program was made to graphically illustrate a few Calculus concepts.  They are shown on "
+                      "the buttons and the pull down menu.  The 'About' menu option for each screen will explain "
+                      "the use of that screen."),
+           Plotto::tr("Calculus Demonstrations"));
+    MsgBox(Plotto::tr("This program is free.  Give it to your Calculus students or whoever could benefit from its "
+                      "use.  Send your questions and suggestions to the Plotto issue tracker."),
+           Plotto::tr("Distribute Freely"));
+    MsgBox(Plotto::tr("Read the ABOUTs on each screen.  There are handy things to know about clicking labels on the "
+                      "screens....."),
+           Plotto::tr("More ABOUTs"));
 }

@@ -74,6 +74,12 @@ public:
     void mnuExit_Click();
     void mnuAbout_Click();
 
+    // Tools, Language: one checkable entry per shipped language, named in that language. A choice is
+    // remembered and used by every window opened after it (the launcher's own texts at the next start).
+    QAction *mnuTools = nullptr, *mnuLanguage = nullptr;
+    std::vector<QAction*> mnuLanguages;
+    void mnuLanguage_Click(int Index);
+
     // Lessons: the menu "&Lessons" here and the lesson commands of every screen's Tools menu.
     QAction *mnuLessons = nullptr, *mnuOpenLesson = nullptr, *mnuSaveLesson = nullptr, *mnuStartLesson = nullptr;
     // Reads the lesson at `path`, checks every step against its screen, and shows the first step;
@@ -115,6 +121,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void buildLanguageMenu();
     QSize normalSize_;
     void showScreen(GraphScreen& screen);
     void buildLessonMenu();

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include "graphwin/Dialogs.h"
+#include "graphwin/Language.h"
 #include "launcher/Worksheet.h"
 #include "launcher/frmGraphingCalc.h"
 
@@ -62,22 +63,22 @@ QStringList frmGraphingCalc::exampleLessons()
 
 void frmGraphingCalc::buildLessonMenu()
 {
-    QMenu* menu = menuBar->addMenu(QStringLiteral("&Lessons"));
+    QMenu* menu = menuBar->addMenu(Plotto::tr("&Lessons"));
     mnuLessons = menu->menuAction();
-    mnuOpenLesson = menu->addAction(QStringLiteral("&Open Lesson..."));
+    mnuOpenLesson = menu->addAction(Plotto::tr("&Open Lesson..."));
     mnuOpenLesson->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
     onTriggered(mnuOpenLesson, [this] { chooseLesson(); });
-    mnuStartLesson = menu->addAction(QStringLiteral("S&tart the Lesson"));
+    mnuStartLesson = menu->addAction(Plotto::tr("S&tart the Lesson"));
     onTriggered(mnuStartLesson, [this] { goToStep(0); });
-    mnuSaveLesson = menu->addAction(QStringLiteral("&Save Lesson..."));
+    mnuSaveLesson = menu->addAction(Plotto::tr("&Save Lesson..."));
     mnuSaveLesson->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     onTriggered(mnuSaveLesson, [this] { saveLesson(); });
-    mnuExportWorksheet = menu->addAction(QStringLiteral("Export Lesson as &Worksheet..."));
+    mnuExportWorksheet = menu->addAction(Plotto::tr("Export Lesson as &Worksheet..."));
     NAME_AS_MEMBER(mnuExportWorksheet);
     onTriggered(mnuExportWorksheet, [this] { mnuExportWorksheet_Click(); });
     const QStringList examples = exampleLessons();
     if (!examples.isEmpty()) {
-        QMenu* shipped = menu->addMenu(QStringLiteral("&Examples"));
+        QMenu* shipped = menu->addMenu(Plotto::tr("&Examples"));
         for (const QString& path : examples) {
             QAction* a =
                 shipped->addAction(QFileInfo(path).completeBaseName().replace(QLatin1Char('-'), QLatin1Char(' ')));
@@ -94,7 +95,7 @@ void frmGraphingCalc::buildLessonMenu()
         .place =
             [this] {
                 return step_ >= 0 && !lesson_.steps.empty()
-                           ? QStringLiteral("Step %1 of %2").arg(step_ + 1).arg(lesson_.steps.size())
+                           ? Plotto::tr("Step %1 of %2").arg(step_ + 1).arg(lesson_.steps.size())
                            : QString();
             },
     });
@@ -104,7 +105,7 @@ void frmGraphingCalc::openLesson(const QString& path)
 {
     lesson::Read read = lesson::load(path);
     if (!read.lesson) {
-        MsgBox(read.error, QStringLiteral("Open Lesson"));
+        MsgBox(read.error, Plotto::tr("Open Lesson"));
         return;
     }
     if (read.lesson->version < lesson::kVersion) {  // an older lesson names what it sets in the older way
@@ -117,8 +118,8 @@ void frmGraphingCalc::openLesson(const QString& path)
         const lesson::Step& step = read.lesson->steps[i];
         const QString refusal = lesson::check(step, screen(*screens::find(step.screen)));
         if (!refusal.isEmpty()) {
-            MsgBox(QStringLiteral("%1: step %2 (%3): %4.").arg(path).arg(i + 1).arg(step.screen, refusal),
-                   QStringLiteral("Open Lesson"));
+            MsgBox(Plotto::tr("%1: step %2 (%3): %4.").arg(path).arg(i + 1).arg(step.screen, refusal),
+                   Plotto::tr("Open Lesson"));
             return;
         }
     }
@@ -152,16 +153,15 @@ void frmGraphingCalc::addStep(GraphScreen& screen)
 {
     lesson::Step step = lesson::capture(screen);
     const QString text =
-        InputBox(QStringLiteral("Buttons to press when this step opens, by their captions, separated by commas "
-                                "(a button pressed more than once: Apply Newton's*4). Leave empty for none."),
-                 QStringLiteral("Add to the Lesson"), QStringLiteral("Plotto!"));
+        InputBox(Plotto::tr("Buttons to press when this step opens, by their captions, separated by commas "
+                            "(a button pressed more than once: Apply Newton's*4). Leave empty for none."),
+                 Plotto::tr("Add to the Lesson"), Plotto::tr("Plotto!"));
     step.actions = parseActions(text);
     for (lesson::Action& a : step.actions)  // the captions typed become the buttons' keys
         if (const QString key = lesson::buttonKey(screen, a.click); !key.isEmpty())
             a.click = key;
     if (const QString refusal = lesson::check(step, screen); !refusal.isEmpty()) {
-        MsgBox(QStringLiteral("The step was not added: ") + refusal + QLatin1Char('.'),
-               QStringLiteral("Add to the Lesson"));
+        MsgBox(Plotto::tr("The step was not added: ") + refusal + QLatin1Char('.'), Plotto::tr("Add to the Lesson"));
         return;
     }
     lesson_.steps.push_back(std::move(step));
@@ -172,7 +172,7 @@ void frmGraphingCalc::addStep(GraphScreen& screen)
 void frmGraphingCalc::chooseLesson()
 {
     const QStringList examples = exampleLessons();
-    const QString path = FileBox(false, QStringLiteral("Open Lesson"),
+    const QString path = FileBox(false, Plotto::tr("Open Lesson"),
                                  examples.isEmpty() ? QDir::homePath() : QFileInfo(examples.front()).absolutePath());
     if (!path.isEmpty())
         openLesson(path);
@@ -181,22 +181,22 @@ void frmGraphingCalc::chooseLesson()
 void frmGraphingCalc::saveLesson()
 {
     if (lesson_.steps.empty()) {
-        MsgBox(QStringLiteral("The lesson has no steps yet: add a screen with Tools, Add This Screen to the Lesson."),
-               QStringLiteral("Save Lesson"));
+        MsgBox(Plotto::tr("The lesson has no steps yet: add a screen with Tools, Add This Screen to the Lesson."),
+               Plotto::tr("Save Lesson"));
         return;
     }
-    const QString path = FileBox(true, QStringLiteral("Save Lesson"), QDir::homePath());
+    const QString path = FileBox(true, Plotto::tr("Save Lesson"), QDir::homePath());
     if (path.isEmpty())
         return;
     if (const QString error = lesson::save(lesson_, path); !error.isEmpty())
-        MsgBox(error, QStringLiteral("Save Lesson"));
+        MsgBox(error, Plotto::tr("Save Lesson"));
 }
 
 QString frmGraphingCalc::writeWorksheet(const QString& lessonPath, const QString& out, bool blank)
 {
     lesson::Read read = lesson::load(lessonPath);
     if (!read.lesson)
-        return QStringLiteral("Cannot read the lesson %1: %2").arg(lessonPath, read.error);
+        return Plotto::tr("Cannot read the lesson %1: %2").arg(lessonPath, read.error);
     if (read.lesson->version < lesson::kVersion)
         for (lesson::Step& step : read.lesson->steps)
             lesson::upgrade(step, screen(*screens::find(step.screen)));
@@ -209,10 +209,10 @@ QString frmGraphingCalc::writeWorksheet(const QString& lessonPath, const QString
 
 void frmGraphingCalc::mnuExportWorksheet_Click()
 {
-    const QString title = QStringLiteral("Export Lesson as Worksheet");
+    const QString title = Plotto::tr("Export Lesson as Worksheet");
     if (lesson_.steps.empty()) {
-        MsgBox(QStringLiteral("There is no lesson to export: open one with Lessons, Open Lesson, or add a screen with "
-                              "Tools, Add This Screen to the Lesson."),
+        MsgBox(Plotto::tr("There is no lesson to export: open one with Lessons, Open Lesson, or add a screen with "
+                          "Tools, Add This Screen to the Lesson."),
                title);
         return;
     }
@@ -221,20 +221,21 @@ void frmGraphingCalc::mnuExportWorksheet_Click()
         return;
     }
     QSettings settings(QStringLiteral("Plotto"), QStringLiteral("Plotto"));
-    const QString out = FileBox(true, title, settings.value(QStringLiteral("export/folder"), QDir::homePath()).toString(),
-                                QStringLiteral("PDF document (*.pdf)"), QStringLiteral("pdf"));
+    const QString out =
+        FileBox(true, title, settings.value(QStringLiteral("export/folder"), QDir::homePath()).toString(),
+                Plotto::tr("PDF document (*.pdf)"), QStringLiteral("pdf"));
     if (out.isEmpty())
         return;
     settings.setValue(QStringLiteral("export/folder"), QFileInfo(out).absolutePath());
-    const bool blank = YesNoBox(QStringLiteral("Leave the results blank, as boxes for the students to fill in? The "
-                                               "answers then go to a second file, %1.")
+    const bool blank = YesNoBox(Plotto::tr("Leave the results blank, as boxes for the students to fill in? The "
+                                           "answers then go to a second file, %1.")
                                     .arg(QFileInfo(worksheet::answersPath(out)).fileName()),
                                 title);
     // The lesson as it stands, saved where the separate run reads it.
     QTemporaryDir dir;
     const QString lessonPath = dir.filePath(QStringLiteral("lesson.plotto"));
     if (const QString error = lesson::save(lesson_, lessonPath); !dir.isValid() || !error.isEmpty()) {
-        MsgBox(QStringLiteral("The lesson could not be handed over: %1").arg(error), title);
+        MsgBox(Plotto::tr("The lesson could not be handed over: %1").arg(error), title);
         return;
     }
     QStringList arguments{lessonPath, QStringLiteral("--worksheet"), out};
@@ -247,7 +248,7 @@ void frmGraphingCalc::mnuExportWorksheet_Click()
     QApplication::restoreOverrideCursor();
     if (!finished || run.exitStatus() != QProcess::NormalExit || run.exitCode() != 0) {
         const QString said = QString::fromLocal8Bit(run.readAllStandardError()).trimmed();
-        MsgBox(QStringLiteral("The worksheet was not written: %1")
+        MsgBox(Plotto::tr("The worksheet was not written: %1")
                    .arg(said.isEmpty() ? run.errorString() : said.section(QLatin1Char('\n'), 0, 0)),
                title);
     }

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "graphwin/Dialogs.h"
+#include "graphwin/Language.h"
 #include "launcher/frmGraphingCalc.h"
 #include "screens/ScreenRegistry.h"
 
@@ -48,6 +49,7 @@ struct Opening {
     const screens::Entry* screen = nullptr;  // a screen to show, or none
     QString worksheet;  // the lesson written as a worksheet to this PDF, with no window shown, or ""
     bool blank = false;  // the worksheet's results left blank, the answers beside it
+    QString language;  // --lang's code, or "" to follow the remembered choice and the desktop
 };
 
 // Answers --help, --version and --screens, or an unknown option or screen, before any window exists
@@ -56,26 +58,27 @@ struct Opening {
 int answerCommandLine(int argc, char* argv[], Opening& opening)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Calculus demonstrations for the classroom. %1\n"
-                       "Qt's standard options (-platform, -style, ...) are accepted.")
-            .arg(screens::summary()));
+    parser.setApplicationDescription(QStringLiteral("Calculus demonstrations for the classroom. %1\n"
+                                                    "Qt's standard options (-platform, -style, ...) are accepted.")
+                                         .arg(screens::summary()));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.addPositionalArgument(QStringLiteral("lesson"), QStringLiteral("A lesson to open (a .plotto file)."),
                                  QStringLiteral("[lesson]"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption list(QStringLiteral("screens"),
-                                  QStringLiteral("Lists the demonstration screens, one a line in teaching order, "
-                                                 "separated by tabs: key, button, menu entry, classic or addition "
-                                                 "(an addition opens from More Demonstrations), the entry's Alt letter."));
+    const QCommandLineOption list(
+        QStringLiteral("screens"),
+        QStringLiteral("Lists the demonstration screens, one a line in teaching order, "
+                       "separated by tabs: key, button, menu entry, classic or addition "
+                       "(an addition opens from More Demonstrations), the entry's Alt letter."));
     parser.addOption(list);
     QStringList keys;
     for (const screens::Entry* e : screens::inTeachingOrder())
         keys << QString::fromLatin1(e->key);
-    const QCommandLineOption screen(QStringLiteral("screen"),
-                                    QStringLiteral("Opens a screen at the start: %1.").arg(keys.join(QStringLiteral(", "))),
-                                    QStringLiteral("name"));
+    const QCommandLineOption screen(
+        QStringLiteral("screen"),
+        QStringLiteral("Opens a screen at the start: %1.").arg(keys.join(QStringLiteral(", "))),
+        QStringLiteral("name"));
     parser.addOption(screen);
     const QCommandLineOption worksheet(QStringLiteral("worksheet"),
                                        QStringLiteral("Writes the lesson as a worksheet to a PDF file, one step a "
@@ -86,6 +89,16 @@ int answerCommandLine(int argc, char* argv[], Opening& opening)
                                    QStringLiteral("With --worksheet: leaves the results as boxes to fill in, and "
                                                   "writes the answers to a second file (NAME-answers.pdf)."));
     parser.addOption(blank);
+    QStringList codes;
+    for (const i18n::Language& l : i18n::languages())
+        codes << QString::fromLatin1(l.code);
+    const QCommandLineOption lang(QStringLiteral("lang"),
+                                  QStringLiteral("Shows the program in a language: %1 (English is the default; "
+                                                 "without this, the language chosen in Tools, Language, else "
+                                                 "the desktop's).")
+                                      .arg(codes.join(QStringLiteral(", "))),
+                                  QStringLiteral("code"));
+    parser.addOption(lang);
     for (const auto& [name, value] : kQtOptions) {
         QCommandLineOption qt(QString::fromLatin1(name), QString(), value ? QString::fromLatin1(value) : QString());
         qt.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -134,6 +147,14 @@ int answerCommandLine(int argc, char* argv[], Opening& opening)
             return 2;
         }
     }
+    if (parser.isSet(lang)) {
+        opening.language = i18n::shippedFor(parser.value(lang));
+        if (opening.language.isEmpty()) {
+            std::fprintf(stderr, "plotto: no language '%s' (the languages are %s)\n", qPrintable(parser.value(lang)),
+                         qPrintable(codes.join(QStringLiteral(", "))));
+            return 2;
+        }
+    }
     opening.lesson = parser.positionalArguments().value(0);
     if (parser.isSet(blank) && !parser.isSet(worksheet)) {
         std::fprintf(stderr, "plotto: --blank goes with --worksheet\n\n%s", qPrintable(usage));
@@ -168,6 +189,7 @@ int main(int argc, char* argv[])
     // metric-compatible Liberation Serif stands in where Times New Roman is not installed).
     QApplication::setFont(QFont(QStringLiteral("Times New Roman"), 10));
     frmGraphingCalc::worksheetProgram = QCoreApplication::applicationFilePath();
+    i18n::install(i18n::choose(opening.language, i18n::remembered(), i18n::desktopLanguages()));
     frmGraphingCalc launcher;
     if (!opening.worksheet.isEmpty()) {
         const QString error = launcher.writeWorksheet(opening.lesson, opening.worksheet, opening.blank);
@@ -181,12 +203,10 @@ int main(int argc, char* argv[])
     // A lesson named on the command line (or opened from the file manager), or a screen asked for by
     // --screen, opens once the launcher is up.
     if (!opening.lesson.isEmpty())
-        QTimer::singleShot(0, &launcher, [&launcher, path = opening.lesson] {
-            guarded([&] { launcher.openLesson(path); });
-        });
+        QTimer::singleShot(0, &launcher,
+                           [&launcher, path = opening.lesson] { guarded([&] { launcher.openLesson(path); }); });
     else if (opening.screen)
-        QTimer::singleShot(0, &launcher, [&launcher, entry = opening.screen] {
-            guarded([&] { launcher.openScreen(*entry); });
-        });
+        QTimer::singleShot(0, &launcher,
+                           [&launcher, entry = opening.screen] { guarded([&] { launcher.openScreen(*entry); }); });
     return QApplication::exec();
 }

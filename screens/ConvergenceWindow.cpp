@@ -30,6 +30,7 @@
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/FormStyle.h"
+#include "graphwin/Language.h"
 
 ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::function<Convergence::Table()> compute)
     : QDialog(owner), compute_(std::move(compute))
@@ -56,17 +57,17 @@ ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::
     plot_ = new QChartView(this);
     plot_->setRenderHint(QPainter::Antialiasing);
     plot_->setFocusPolicy(Qt::StrongFocus);
-    plot_->setAccessibleName(QStringLiteral("Error against the number of steps, log-log"));
+    plot_->setAccessibleName(Plotto::tr("Error against the number of steps, log-log"));
     plot_->setMinimumWidth(320);
     body->addWidget(plot_, 1);
     layout->addLayout(body, 1);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
-    auto* exporting = new QPushButton(QStringLiteral("&Export Table..."), this);
+    auto* exporting = new QPushButton(Plotto::tr("&Export Table..."), this);
     exporting->setObjectName(QStringLiteral("cmdExportTable"));
     connect(exporting, &QPushButton::clicked, this, [this] { guarded([this] { exportTableClicked(); }); });
     buttons->addWidget(exporting);
-    auto* again = new QPushButton(QStringLiteral("Re&compute"), this);
+    auto* again = new QPushButton(Plotto::tr("Re&compute"), this);
     connect(again, &QPushButton::clicked, this, [this] { guarded([this] { recompute(); }); });
     buttons->addWidget(again);
     layout->addLayout(buttons);
@@ -138,7 +139,7 @@ void ConvergenceWindow::fillPlot()
 {
     auto* chart = new QChart;
     const bool partitions = table_.kind == Convergence::Table::Kind::Sums;
-    const QString title = QStringLiteral("Error against the number of %1, log-log")
+    const QString title = Plotto::tr("Error against the number of %1, log-log")
                               .arg(partitions ? QStringLiteral("partitions") : QStringLiteral("steps"));
     chart->setTitle(title);
     plot_->setAccessibleName(title);
@@ -187,7 +188,7 @@ void ConvergenceWindow::fillPlot()
         if (start.first == 0 || table_.rowCounts.empty())
             continue;
         auto* line = new QLineSeries;
-        line->setName(QStringLiteral("slope -%1").arg(order));
+        line->setName(Plotto::tr("slope -%1").arg(order));
         line->setPen(QPen(QColor(0x60, 0x60, 0x60), 1.5,
                           o == 0   ? Qt::DashLine
                           : o == 1 ? Qt::DashDotLine
@@ -215,7 +216,7 @@ QString ConvergenceWindow::plotDescription() const
     QStringList lines;
     lines << plot_->accessibleName() + QLatin1Char('.');
     if (!table_.exact) {
-        lines << QStringLiteral("No errors to plot: ") + QString::fromStdString(table_.exactSource);
+        lines << Plotto::tr("No errors to plot: ") + QString::fromStdString(table_.exactSource);
         return lines.join(QLatin1Char('\n'));
     }
     // A method's measured slope: the median of the slopes between its successive rows with a
@@ -231,14 +232,13 @@ QString ConvergenceWindow::plotDescription() const
             e0 = error;
         }
         const QString expected =
-            m < table_.orders.size() ? QStringLiteral(" (expected -%1)").arg(table_.orders[m]) : QString();
+            m < table_.orders.size() ? Plotto::tr(" (expected -%1)").arg(table_.orders[m]) : QString();
         if (slopes.empty()) {
-            lines << QString::fromStdString(table_.methods[m]) +
-                         QStringLiteral(": too few measurable errors for a slope");
+            lines << QString::fromStdString(table_.methods[m]) + Plotto::tr(": too few measurable errors for a slope");
             continue;
         }
         std::nth_element(slopes.begin(), slopes.begin() + static_cast<long>(slopes.size() / 2), slopes.end());
-        lines << QString::fromStdString(table_.methods[m]) + QStringLiteral(": slope ") +
+        lines << QString::fromStdString(table_.methods[m]) + Plotto::tr(": slope ") +
                      QString::fromStdString(Convergence::format("%.2f", slopes[slopes.size() / 2])) + expected;
     }
     return lines.join(QLatin1Char('\n'));
@@ -284,9 +284,9 @@ ConvergenceWindow* addConvergenceMenu(QWidget* screen, QMenuBar* bar, const QStr
 {
     auto* window = new ConvergenceWindow(screen, title, std::move(compute));
     // Before the last menu (Tools), which every screen keeps at the end.
-    auto* menu = new QMenu(QStringLiteral("Con&vergence"), bar);
+    auto* menu = new QMenu(Plotto::tr("Con&vergence"), bar);
     bar->insertMenu(bar->actions().isEmpty() ? nullptr : bar->actions().last(), menu);
-    QAction* open = menu->addAction(QStringLiteral("Convergence &Table..."));
+    QAction* open = menu->addAction(Plotto::tr("Convergence &Table..."));
     open->setObjectName(QStringLiteral("mnuConvergenceTable"));  // its key in lessons
     open->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
     QObject::connect(open, &QAction::triggered, window, [window] {

@@ -13,7 +13,9 @@
 #include <QSaveFile>
 
 #include "graphwin/Controls.h"
+#include "graphwin/FormTable.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/Language.h"
 #include "screens/ScreenRegistry.h"
 
 namespace lesson {
@@ -107,7 +109,9 @@ Step capture(GraphScreen& screen)
     for (QWidget* w : settable(screen)) {
         const QString name = w->objectName();
         if (auto* box = qobject_cast<TextBox*>(w))
-            step.controls.insert(name, box->text());
+            // A number typed with the language's decimal comma is kept with a point, so that the
+            // lesson reads the same in every language.
+            step.controls.insert(name, i18n::lessonNumber(box->text()));
         else if (auto* tick = qobject_cast<QAbstractButton*>(w))
             step.controls.insert(name, tick->isChecked());
         else if (auto* bar = qobject_cast<ScrollBar*>(w))
@@ -188,8 +192,8 @@ void upgrade(Step& step, GraphScreen& screen)
     const std::vector<QWidget*> controls = settable(screen);
     QJsonObject keyed;
     for (auto it = step.controls.begin(); it != step.controls.end(); ++it) {
-        const auto w = std::find_if(controls.begin(), controls.end(),
-                                    [&](QWidget* c) { return c->accessibleName() == it.key(); });
+        const auto w =
+            std::find_if(controls.begin(), controls.end(), [&](QWidget* c) { return c->accessibleName() == it.key(); });
         keyed.insert(w == controls.end() ? it.key() : (*w)->objectName(), it.value());
     }
     step.controls = keyed;
@@ -211,8 +215,11 @@ void upgrade(Step& step, GraphScreen& screen)
 
 QString buttonKey(GraphScreen& screen, const QString& caption)
 {
+    // The caption as shown (in the language in use) or as written in English (a lesson of a previous
+    // release, or a teacher typing the English captions in another language).
     for (QPushButton* b : screen.surface->findChildren<QPushButton*>())
-        if (QString(b->text()).remove(QLatin1Char('&')) == caption)
+        if (QString(b->text()).remove(QLatin1Char('&')) == caption ||
+            b->property(form::kSourceCaption).toString().remove(QLatin1Char('&')) == caption)
             return b->objectName();
     return {};
 }

@@ -2,6 +2,7 @@
 #include "screens/frmAnimate.h"
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/Language.h"
 #include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 
@@ -10,7 +11,7 @@ namespace {
 GraphScreen::Config animateConfig()
 {
     GraphScreen::Config c;
-    c.caption = QStringLiteral("Animate Classes of Functions");
+    c.caption = Plotto::tr("Animate Classes of Functions");
     c.surfaceWidth = 13920;
     c.zoom = GraphScreen::Zoom::TowardsOrigin;
     return c;
@@ -28,22 +29,22 @@ frmAnimate::frmAnimate() : GraphScreen(animateConfig())
     // clang-format off
     form::buildForm(surface, {
         // name             kind           caption                place                  handlers / look
-        {FORM_NAME(lblChoice),        Kind::Label,   "Animation",           {P, 60, W, 300},       {}, {.align = Qt::AlignCenter}},
-        {FORM_NAME(fraHow),           Kind::Frame,   "Continuous/Steps",    {P, 360, W, 1560}, {}, {}, {
-            {FORM_NAME(optSteps),     Kind::Option,  "Steps",               {120,  300, I, 300},   {.Click = on(&frmAnimate::optSteps_Click)}},
-            {FORM_NAME(optStepErase), Kind::Option,  "Steps+Erase",         {120,  600, I, 300},   {.Click = on(&frmAnimate::optStepErase_Click)}},
-            {FORM_NAME(optCont),      Kind::Option,  "Continuous",          {120,  900, I, 300},   {.Click = on(&frmAnimate::optCont_Click)}, {.checked = true}},
-            {FORM_NAME(optContErase), Kind::Option,  "Continuous+Erase",    {120, 1200, I, 300},   {.Click = on(&frmAnimate::optContErase_Click)}},
+        {FORM_NAME(lblChoice),        Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Animation"),           {P, 60, W, 300},       {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(fraHow),           Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Continuous/Steps"),    {P, 360, W, 1560}, {}, {}, {
+            {FORM_NAME(optSteps),     Kind::Option, QT_TRANSLATE_NOOP("Plotto", "Steps"),               {120,  300, I, 300},   {.Click = on(&frmAnimate::optSteps_Click)}},
+            {FORM_NAME(optStepErase), Kind::Option, QT_TRANSLATE_NOOP("Plotto", "Steps+Erase"),         {120,  600, I, 300},   {.Click = on(&frmAnimate::optStepErase_Click)}},
+            {FORM_NAME(optCont),      Kind::Option, QT_TRANSLATE_NOOP("Plotto", "Continuous"),          {120,  900, I, 300},   {.Click = on(&frmAnimate::optCont_Click)}, {.checked = true}},
+            {FORM_NAME(optContErase), Kind::Option, QT_TRANSLATE_NOOP("Plotto", "Continuous+Erase"),    {120, 1200, I, 300},   {.Click = on(&frmAnimate::optContErase_Click)}},
         }},
-        {FORM_NAME(fraRange),         Kind::Frame,   "Variable Range",      {P, 2040, W, 1380}, {}, {}, {
-            {FORM_NAME(lblStart),     Kind::Label,   "Start:",              {120,   300, 900, 300}},
+        {FORM_NAME(fraRange),         Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Variable Range"),      {P, 2040, W, 1380}, {}, {}, {
+            {FORM_NAME(lblStart),     Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Start:"),              {120,   300, 900, 300}},
             {FORM_NAME(txtStart),     Kind::Box,     "-2",                  {1080,  300, 1380, 300}},
-            {FORM_NAME(lblEnd),       Kind::Label,   "End:",                {120,   660, 900, 300}},
+            {FORM_NAME(lblEnd),       Kind::Label, QT_TRANSLATE_NOOP("Plotto", "End:"),                {120,   660, 900, 300}},
             {FORM_NAME(txtEnd),       Kind::Box,     "2",                   {1080,  660, 1380, 300}},
-            {FORM_NAME(lblSteps),     Kind::Label,   "Steps:",              {120,  1020, 900, 300}},
+            {FORM_NAME(lblSteps),     Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Steps:"),              {120,  1020, 900, 300}},
             {FORM_NAME(txtSteps),     Kind::Box,     "41",                  {1080, 1020, 1380, 300}, {.Change = on(&frmAnimate::txtSteps_Change)}},
         }},
-        {FORM_NAME(fraVariable),      Kind::Frame,   "Which Variable?",     {P, 3540, 1500, 1980}, {}, {}, {
+        {FORM_NAME(fraVariable),      Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Which Variable?"),     {P, 3540, 1500, 1980}, {}, {}, {
             {FORM_NAME(chkA),         Kind::Check,   "A",                   {240,  300, 1000, 300}, {.Click = on(&frmAnimate::chkA_Click)}, {.checked = true}},
             {FORM_NAME(chkB),         Kind::Check,   "B",                   {240,  630, 1000, 300}, {.Click = on(&frmAnimate::chkB_Click)}},
             {FORM_NAME(chkC),         Kind::Check,   "C",                   {240,  960, 1000, 300}, {.Click = on(&frmAnimate::chkC_Click)}},
@@ -53,12 +54,12 @@ frmAnimate::frmAnimate() : GraphScreen(animateConfig())
         {FORM_NAME(vscStep),          Kind::VScroll, "",                    {P + 1620, 3600, 255, 1920},
             {.Change = on(&frmAnimate::vscStep_Change), .Scroll = on(&frmAnimate::vscStep_Scroll),
              .Spoken = [this] { return tickedLetters() + QStringLiteral(" = ") + lblSlide->text(); }},
-            {.name = "Animation frame", .bar = {.min = 0, .max = 41, .small = 1, .large = 1}}},
+            {.name = QT_TRANSLATE_NOOP("Plotto", "Animation frame"), .bar = {.min = 0, .max = 41, .small = 1, .large = 1}}},
         {FORM_NAME(lblSlide),         Kind::Label,   "-2",                  {P + 1920, 4380, 660, 300}},
-        {FORM_NAME(lblClickAnimate),  Kind::Label,   "Select Variable(s)",  {P, 5580, W, 300},     {}, {.align = Qt::AlignCenter}},
-        {FORM_NAME(cmdAnimate),       Kind::Button,  "&Animate It!",        {P, 5940, W, 420},     {.Click = on(&frmAnimate::cmdAnimate_Click)}},
-        {FORM_NAME(cmdClearIt),       Kind::Button,  "Erase Graph",         {P, 6480, W, 420},     {.Click = on(&frmAnimate::cmdClearIt_Click)},
-                                                                                         {.name = "Erase Graph, animation panel"}},
+        {FORM_NAME(lblClickAnimate),  Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Select Variable(s)"),  {P, 5580, W, 300},     {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(cmdAnimate),       Kind::Button, QT_TRANSLATE_NOOP("Plotto", "&Animate It!"),        {P, 5940, W, 420},     {.Click = on(&frmAnimate::cmdAnimate_Click)}},
+        {FORM_NAME(cmdClearIt),       Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Erase Graph"),         {P, 6480, W, 420},     {.Click = on(&frmAnimate::cmdClearIt_Click)},
+                                                                                         {.name = QT_TRANSLATE_NOOP("Plotto", "Erase Graph, animation panel")}},
     });
     // clang-format on
     Form_Load();
@@ -70,7 +71,7 @@ std::int16_t frmAnimate::steps() const
     return n == 0 ? 1 : n;
 }
 
-void frmAnimate::showValue(double value) { lblSlide->setText(qTrimStr(rt::Int(rt::Chk(value * 1000)) / 1000)); }
+void frmAnimate::showValue(double value) { lblSlide->setText(shownTrimStr(rt::Int(rt::Chk(value * 1000)) / 1000)); }
 
 void frmAnimate::setTickedCoefficients(double value)
 {
@@ -133,11 +134,11 @@ void frmAnimate::UpdateStatus()
     const bool any =
         chkA->isChecked() || chkB->isChecked() || chkC->isChecked() || chkD->isChecked() || chkE->isChecked();
     if (!any)
-        lblClickAnimate->setText(QStringLiteral("Select Variable(s)"));
+        lblClickAnimate->setText(Plotto::tr("Select Variable(s)"));
     else if (continuous())
-        lblClickAnimate->setText(QStringLiteral("OK to Click Animate"));
+        lblClickAnimate->setText(Plotto::tr("OK to Click Animate"));
     else
-        lblClickAnimate->setText(QStringLiteral("Use Scroll Bar Above"));
+        lblClickAnimate->setText(Plotto::tr("Use Scroll Bar Above"));
 }
 
 void frmAnimate::chkA_Click() { UpdateStatus(); }
@@ -155,27 +156,41 @@ void frmAnimate::cmdClearIt_Click() { CleanGraph(); }
 void frmAnimate::mnuAbout_Click()
 {
     showHelp({
-        {"Graph a Function",
-         "Select a function from the pull down menu.  You may change the value of any of the variables, A to E.  "
-         "Clicking [Plotto!] will graph the function.  You may change any value and graph again to see the change.  "
-         "You may also animate the change."},
-        {"Animate It!",
-         "Animate the function selected by checking one or more variables at the right, selecting the range of the "
-         "variable, and clicking [Animate It!]"},
-        {"Make conjectures about coefficients",
-         "You may observe the changes each coefficient makes on the graph.  Make some conjectures about what each "
-         "coefficient changes the graph."},
-        {"Left and Right Clicking Labels",
-         "Clicking on the coefficient labels will increase or decrease the coefficients.  Try left clicking to "
-         "increase and right clicking to decrease."},
-        {"Change the Graphing Window",
-         "Clicking on the < or > labels next to the graphing window ranges will increase or decrease them by one "
-         "also."},
-        {"Clicking Labels",
-         "Try clicking other labels.  Most of them will increase or decrease by one with left or right clicks."},
-        {"Window limit changes < , >",
-         "Notice the < and > green labels next to the window limits.  Clicking on the Arrows will increase or decrease "
-         "the window limit by one.  Double clicking will increase or decrease it by 5."},
+        {QT_TRANSLATE_NOOP("Plotto", "Graph a Function"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Select a function from the pull down menu.  You may change the value of any of the variables, A to E.  "
+             "Clicking [Plotto!] will graph the function.  You may change any value and graph again to see the change. "
+             " "
+             "You may also animate the change.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Animate It!"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Animate the function selected by checking one or more variables at the right, selecting the range of the "
+             "variable, and clicking [Animate It!]")},
+        {QT_TRANSLATE_NOOP("Plotto", "Make conjectures about coefficients"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "You may observe the changes each coefficient makes on the graph.  Make some conjectures about what each "
+             "coefficient changes the graph.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Left and Right Clicking Labels"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Clicking on the coefficient labels will increase or decrease the coefficients.  Try left clicking to "
+             "increase and right clicking to decrease.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Change the Graphing Window"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Clicking on the < or > labels next to the graphing window ranges will increase or decrease them by one "
+             "also.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Clicking Labels"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Try clicking other labels.  Most of them will increase or decrease by one with left or right clicks.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Window limit changes < , >"),
+         QT_TRANSLATE_NOOP("Plotto", "Notice the < and > green labels next to the window limits.  Clicking on the "
+                                     "Arrows will increase or decrease "
+                                     "the window limit by one.  Double clicking will increase or decrease it by 5.")},
     });
 }
 
@@ -196,8 +211,8 @@ void frmAnimate::describeResults(QStringList& lines) const
     for (const OptionButton* option : options)
         if (option->isChecked())
             mode = option->text();
-    lines << QStringLiteral("Animating %1 of %2 from %3 to %4 in %5 steps, %6.")
-                 .arg(tickedLetters().isEmpty() ? QStringLiteral("no coefficient") : tickedLetters(), describeFamily(),
+    lines << Plotto::tr("Animating %1 of %2 from %3 to %4 in %5 steps, %6.")
+                 .arg(tickedLetters().isEmpty() ? Plotto::tr("no coefficient") : tickedLetters(), describeFamily(),
                       txtStart->text(), txtEnd->text(), txtSteps->text(), mode);
-    lines << QStringLiteral("Frame value %1; %2.").arg(lblSlide->text(), lblClickAnimate->text());
+    lines << Plotto::tr("Frame value %1; %2.").arg(lblSlide->text(), lblClickAnimate->text());
 }

@@ -9,6 +9,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 #include "screens/Convergence.h"
 #include "screens/ConvergenceWindow.h"
 #include "screens/StripRules.h"
@@ -21,7 +22,7 @@ GraphScreen::Config areaConfig()
 {
     GraphScreen::Config c;
     c.errorsInWords = true;
-    c.caption = QStringLiteral("Area Between Two Curves");
+    c.caption = Plotto::tr("Area Between Two Curves");
     c.surfaceWidth = 17200;
     return c;
 }
@@ -36,7 +37,7 @@ QString shown(const std::optional<double>& v, double scale = 0)
 {
     if (!v || !std::isfinite(*v))
         return QStringLiteral("--");
-    return QString::number(std::fabs(*v) <= 1e-13 * scale ? 0.0 : *v, 'g', 10);
+    return i18n::decimals(QString::number(std::fabs(*v) <= 1e-13 * scale ? 0.0 : *v, 'g', 10));
 }
 
 AreaBetween::Values valuesOf(const ExplicitSnapshot& s)
@@ -54,26 +55,26 @@ frmArea::frmArea() : GraphScreen(areaConfig())
     // clang-format off
     form::buildForm(surface, {
         // name                  kind           caption                    place                          handlers / look
-        {FORM_NAME(lblArea),      Kind::Label,   "Two Curves",              {C, 3060, W, 300},             {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblArea),      Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Two Curves"),              {C, 3060, W, 300},             {}, {.align = Qt::AlignCenter}},
         {FORM_NAME(lblG),         Kind::Label,   "g(x) =",                  {C, 3420, 600, 300}},
         {FORM_NAME(txtG),         Kind::Box,     "x + 2",                   {C + 600, 3420, W - 600, 300}},
-        {FORM_NAME(lblLeft),      Kind::Stepper, "Left a",                  {C, 3780, 1000, 300},          {.MouseDown = on(&frmArea::lblLeft_MouseDown)}},
+        {FORM_NAME(lblLeft),      Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Left a"),                  {C, 3780, 1000, 300},          {.MouseDown = on(&frmArea::lblLeft_MouseDown)}},
         {FORM_NAME(txtLeft),      Kind::Box,     "-2",                      {C + 1000, 3780, W - 1000, 300}},
-        {FORM_NAME(lblRight),     Kind::Stepper, "Right b",                 {C, 4140, 1000, 300},          {.MouseDown = on(&frmArea::lblRight_MouseDown)}},
+        {FORM_NAME(lblRight),     Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Right b"),                 {C, 4140, 1000, 300},          {.MouseDown = on(&frmArea::lblRight_MouseDown)}},
         {FORM_NAME(txtRight),     Kind::Box,     "3",                       {C + 1000, 4140, W - 1000, 300}},
-        {FORM_NAME(lblStrips),    Kind::Stepper, "Strips n",                {C, 4500, 1000, 300},          {.MouseDown = on(&frmArea::lblStrips_MouseDown)}},
+        {FORM_NAME(lblStrips),    Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Strips n"),                {C, 4500, 1000, 300},          {.MouseDown = on(&frmArea::lblStrips_MouseDown)}},
         {FORM_NAME(txtStrips),    Kind::Box,     "8",                       {C + 1000, 4500, W - 1000, 300}},
-        {FORM_NAME(cmdDouble),    Kind::Button,  "&Double Strips",          {C, 4920, W, 420},             {.Click = on(&frmArea::cmdDouble_Click)}},
-        {FORM_NAME(cmdCrossings), Kind::Button,  "Find &Crossings",         {C, 5460, W, 420},             {.Click = on(&frmArea::cmdCrossings_Click)},
-                                                                                                            {.tip = "Find where f and g cross in [a, b], shade the region and sum the strips"}},
+        {FORM_NAME(cmdDouble),    Kind::Button, QT_TRANSLATE_NOOP("Plotto", "&Double Strips"),          {C, 4920, W, 420},             {.Click = on(&frmArea::cmdDouble_Click)}},
+        {FORM_NAME(cmdCrossings), Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Find &Crossings"),         {C, 5460, W, 420},             {.Click = on(&frmArea::cmdCrossings_Click)},
+                                                                                                            {.tip = QT_TRANSLATE_NOOP("Plotto", "Find where f and g cross in [a, b], shade the region and sum the strips")}},
         {FORM_NAME(lblLegend),    Kind::Label,   "",                        {R, 240, kRightWidth, 300},    {}, {.wrap = true}},
-        {FORM_NAME(grdAreas),     Kind::Grid,    "",                        {R, 600, kRightWidth, 1950},   {}, {.name = "Areas by the strip rules", .rows = kGridRows, .columns = 3}},
+        {FORM_NAME(grdAreas),     Kind::Grid,    "",                        {R, 600, kRightWidth, 1950},   {}, {.name = QT_TRANSLATE_NOOP("Plotto", "Areas by the strip rules"), .rows = kGridRows, .columns = 3}},
         {FORM_NAME(lblCrossings), Kind::Label,   "",                        {R, 3000, kRightWidth, 2000},  {}, {.wrap = true}},
         {FORM_NAME(lblStatus),    Kind::Label,   "",                        {R, 5100, kRightWidth, 1700},  {}, {.wrap = true}},
     });
     // clang-format on
     Form_Load();
-    convergence = addConvergenceMenu(this, menuBar, QStringLiteral("Convergence of the signed area"), [this] {
+    convergence = addConvergenceMenu(this, menuBar, Plotto::tr("Convergence of the signed area"), [this] {
         QString why;
         const std::optional<Inputs> in = readInputs(why);
         if (!in)
@@ -100,8 +101,8 @@ void frmArea::Form_Load()
     }
     for (std::size_t m = 0; m < StripRules::kRules.size(); ++m)
         grdAreas->setCell(static_cast<int>(m) + 1, 0, QString::fromLatin1(StripRules::kRules[m].name));
-    grdAreas->setCell(kGridRows - 1, 0, QStringLiteral("Limit (integral)"));
-    lblLegend->setText(QStringLiteral("Shaded light cyan where f is above g, yellow where g is above f."));
+    grdAreas->setCell(kGridRows - 1, 0, Plotto::tr("Limit (integral)"));
+    lblLegend->setText(Plotto::tr("Shaded light cyan where f is above g, yellow where g is above f."));
 }
 
 void frmArea::Form_Activate()
@@ -166,24 +167,23 @@ std::optional<frmArea::Inputs> frmArea::readInputs(QString& why) const
     Inputs in;
     const std::optional<double> a = txtLeft->number(), b = txtRight->number(), n = txtStrips->number();
     if (!a || !b || !std::isfinite(*a) || !std::isfinite(*b)) {
-        why = QStringLiteral("Type a number in each of the boxes Left a and Right b.");
+        why = Plotto::tr("Type a number in each of the boxes Left a and Right b.");
         return std::nullopt;
     }
     if (!(*a < *b) || !std::isfinite(*b - *a)) {
-        why = *a < *b ? QStringLiteral("The interval from a to b is too wide for the computer's numbers.")
-                      : QStringLiteral("Left a must be less than Right b.");
+        why = *a < *b ? Plotto::tr("The interval from a to b is too wide for the computer's numbers.")
+                      : Plotto::tr("Left a must be less than Right b.");
         return std::nullopt;
     }
     if (!n || *n != std::floor(*n) || *n < 1 || *n > AreaBetween::kMaxStrips) {
-        why =
-            QStringLiteral("The number of strips n must be a whole number from 1 to %1.").arg(AreaBetween::kMaxStrips);
+        why = Plotto::tr("The number of strips n must be a whole number from 1 to %1.").arg(AreaBetween::kMaxStrips);
         return std::nullopt;
     }
     const QString text = txtG->text().trimmed();
     std::string error;
     in.g = text.isEmpty() ? nullptr : FuncGlobals::TypedFunction::make(text.toStdString(), error);
     if (!in.g) {
-        why = text.isEmpty() ? QStringLiteral("Type g(x) in its box (for example x + 2).")
+        why = text.isEmpty() ? Plotto::tr("Type g(x) in its box (for example x + 2).")
                              : QStringLiteral("g(x) = %1 cannot be read: %2.").arg(text, QString::fromStdString(error));
         return std::nullopt;
     }
@@ -224,8 +224,8 @@ void frmArea::draw(const Inputs& in)
             p->crossings.push_back(c.x);
     const QString gName = QStringLiteral("g(x) = ") + QString::fromStdString(in.g->f->text());
     eraseKept(QStringLiteral("area"));
-    const QString what = p->region ? QStringLiteral("the region between %1 and %2 from x = %3 to %4")
-                                         .arg(describeFamily(), gName, qTrimStr(in.a), qTrimStr(in.b))
+    const QString what = p->region ? Plotto::tr("the region between %1 and %2 from x = %3 to %4")
+                                         .arg(describeFamily(), gName, shownTrimStr(in.a), shownTrimStr(in.b))
                                    : gName;
     keepDrawing(
         what,
@@ -308,24 +308,22 @@ void frmArea::fillResults()
         if (list.size() < kListed)
             list << QString::fromStdString(c.text());
     if (r.crossings.size() > kListed)
-        list << QStringLiteral("and %1 more (Ctrl+C copies them all)").arg(r.crossings.size() - kListed);
-    lblCrossings->setText(r.crossings.empty()
-                              ? QStringLiteral("f and g do not cross in [a, b].")
-                              : QStringLiteral("Crossings in [a, b]:\n") + list.join(QLatin1Char('\n')));
+        list << Plotto::tr("and %1 more (Ctrl+C copies them all)").arg(r.crossings.size() - kListed);
+    lblCrossings->setText(r.crossings.empty() ? Plotto::tr("f and g do not cross in [a, b].")
+                                              : Plotto::tr("Crossings in [a, b]:\n") + list.join(QLatin1Char('\n')));
     for (std::size_t m = 0; m < r.sums.size(); ++m) {
         const bool odd = StripRules::kRules[m].evenOnly && r.strips % 2;
         grdAreas->setCell(static_cast<int>(m) + 1, 1,
-                          odd ? QStringLiteral("n odd")
-                              : shown(r.sums[m].signedSum, r.sums[m].unsignedSum.value_or(0)));
-        grdAreas->setCell(static_cast<int>(m) + 1, 2, odd ? QStringLiteral("n odd") : shown(r.sums[m].unsignedSum));
+                          odd ? Plotto::tr("n odd") : shown(r.sums[m].signedSum, r.sums[m].unsignedSum.value_or(0)));
+        grdAreas->setCell(static_cast<int>(m) + 1, 2, odd ? Plotto::tr("n odd") : shown(r.sums[m].unsignedSum));
     }
     grdAreas->setCell(kGridRows - 1, 1, shown(r.signedArea, r.unsignedArea.value_or(0)));
     grdAreas->setCell(kGridRows - 1, 2, shown(r.unsignedArea));
-    grdAreas->setCell(0, 0, QStringLiteral("Rule (n = %1)").arg(r.strips));
+    grdAreas->setCell(0, 0, Plotto::tr("Rule (n = %1)").arg(r.strips));
     if (r.signedArea) {
         lblStatus->setText(
-            QStringLiteral("Signed area %1, unsigned area %2 from x = %3 to %4 (adaptive Gauss-Kronrod, split at "
-                           "the crossings; error below %5).")
+            Plotto::tr("Signed area %1, unsigned area %2 from x = %3 to %4 (adaptive Gauss-Kronrod, split at "
+                       "the crossings; error below %5).")
                 .arg(shown(r.signedArea, r.unsignedArea.value_or(0)), shown(r.unsignedArea),
                      QString::fromStdString(AreaBetween::shownX(inputs_->a)),
                      QString::fromStdString(AreaBetween::shownX(inputs_->b)),
@@ -337,7 +335,7 @@ void frmArea::fillResults()
         if (gaps.size() < 3)
             gaps << gapWords(gap);
     const QString where = gaps.isEmpty() ? QString::fromStdString(r.why) : gaps.join(QStringLiteral("; "));
-    lblStatus->setText(QStringLiteral("No area: %1, so the area between the curves does not exist on [a, b].")
+    lblStatus->setText(Plotto::tr("No area: %1, so the area between the curves does not exist on [a, b].")
                            .arg(where)
                            .replace(QStringLiteral("  "), QStringLiteral(" ")));
 }
@@ -349,8 +347,8 @@ std::vector<GraphScreen::DragHandle> frmArea::dragHandles()
     std::vector<DragHandle> handles;
     for (TextBox* box : {txtLeft, txtRight}) {
         const double x = box == txtLeft ? inputs_->a : inputs_->b;
-        handles.push_back({box == txtLeft ? QStringLiteral("the left end a") : QStringLiteral("the right end b"), x, 0,
-                           true, [this, box](double to, double) {
+        handles.push_back({box == txtLeft ? Plotto::tr("the left end a") : Plotto::tr("the right end b"), x, 0, true,
+                           [this, box](double to, double) {
                                runForDrag([&] {
                                    box->assign(draggedValue(to));
                                    findAll();
@@ -362,7 +360,7 @@ std::vector<GraphScreen::DragHandle> frmArea::dragHandles()
 
 void frmArea::describeResults(QStringList& lines) const
 {
-    lines << QStringLiteral("Area between f, %1, and g(x) = %2 from a = %3 to b = %4 with n = %5 strips.")
+    lines << Plotto::tr("Area between f, %1, and g(x) = %2 from a = %3 to b = %4 with n = %5 strips.")
                  .arg(describeFamily(), txtG->text(), txtLeft->text(), txtRight->text(), txtStrips->text());
     if (!result_) {
         if (!lblStatus->text().isEmpty())
@@ -373,10 +371,10 @@ void frmArea::describeResults(QStringList& lines) const
     for (const AreaBetween::Crossing& c : result_->crossings)
         crossings << QString::fromStdString(c.text());
     lines << (crossings.isEmpty()
-                  ? QStringLiteral("No crossings.")
+                  ? Plotto::tr("No crossings.")
                   : QStringLiteral("Crossings: ") + crossings.join(QStringLiteral("; ")) + QLatin1Char('.'));
     for (int r = 1; r < kGridRows; ++r)
-        lines << QStringLiteral("%1: signed %2, unsigned %3.")
+        lines << Plotto::tr("%1: signed %2, unsigned %3.")
                      .arg(grdAreas->cell(r, 0), grdAreas->cell(r, 1), grdAreas->cell(r, 2));
     lines << lblStatus->text();
 }
@@ -384,20 +382,28 @@ void frmArea::describeResults(QStringList& lines) const
 void frmArea::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This screen finds the area between two curves f and g from x = a to x = b: where they cross, the region "
-         "between them, and how sums of thin strips close in on the area."},
-        {"Setting up",
-         "f is the screen's function: select it from the menu and choose A to E, or type one with Tools, Type a "
-         "Function.  Type g(x) in its box (it may use A to E too).  Type a and b, or click their green labels to "
-         "move them by one (left button up, right button down)."},
-        {"[Find Crossings]",
-         "Lists each x in [a, b] where f = g, found to the computer's full precision, and shades the region: light "
-         "cyan where f is above g, yellow where g is above f.  Where a curve is not defined somewhere in [a, b] "
-         "the screen says where, and gives no area."},
-        {"The strips",
-         "The grid sums n strips by five rules: the signed area of f - g (parts where g is above count as "
-         "negative) and the unsigned area of |f - g|, with the limit from adaptive integration in the last row.  "
-         "[Double Strips] doubles n; Convergence, Convergence Table shows each rule's error as n doubles."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "This screen finds the area between two curves f and g from x = a to x = b: where they cross, the region "
+             "between them, and how sums of thin strips close in on the area.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Setting up"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "f is the screen's function: select it from the menu and choose A to E, or type one with Tools, Type a "
+             "Function.  Type g(x) in its box (it may use A to E too).  Type a and b, or click their green labels to "
+             "move them by one (left button up, right button down).")},
+        {QT_TRANSLATE_NOOP("Plotto", "[Find Crossings]"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Lists each x in [a, b] where f = g, found to the computer's full precision, and shades the region: light "
+             "cyan where f is above g, yellow where g is above f.  Where a curve is not defined somewhere in [a, b] "
+             "the screen says where, and gives no area.")},
+        {QT_TRANSLATE_NOOP("Plotto", "The strips"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "The grid sums n strips by five rules: the signed area of f - g (parts where g is above count as "
+             "negative) and the unsigned area of |f - g|, with the limit from adaptive integration in the last row.  "
+             "[Double Strips] doubles n; Convergence, Convergence Table shows each rule's error as n doubles.")},
     });
 }

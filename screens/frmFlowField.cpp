@@ -9,13 +9,14 @@
 #include "graphwin/Access.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
 
 namespace {
 
-const QString kNoStart = QStringLiteral("Start( _____, _____ )");
+QString noStart() { return Plotto::tr("Start( _____, _____ )"); }
 
 // Writes a number into a box by the plain conversion.
 void write(TextBox* box, double v) { box->assign(rt::CStr(v)); }
@@ -170,8 +171,9 @@ frmFlowField::~frmFlowField()
 
 std::vector<GraphScreen::FunctionPart> frmFlowField::functionParts()
 {
-    return {{"dy", "dyTyped", FuncGlobals::RateFamilyCount, {"x", "y"}, shownRates_[0], [this](int i) { mnuDy_Click(i); }},
-            {"dx", "dxTyped", FuncGlobals::RateFamilyCount, {"x", "y"}, shownRates_[1], [this](int i) { mnuDx_Click(i); }}};
+    return {
+        {"dy", "dyTyped", FuncGlobals::RateFamilyCount, {"x", "y"}, shownRates_[0], [this](int i) { mnuDy_Click(i); }},
+        {"dx", "dxTyped", FuncGlobals::RateFamilyCount, {"x", "y"}, shownRates_[1], [this](int i) { mnuDx_Click(i); }}};
 }
 
 QStringList frmFlowField::typedTexts() const
@@ -203,7 +205,7 @@ QString frmFlowField::setTypedRates(const QString& dy, const QString& dx)
 void frmFlowField::mnuTypeFunction_Click()
 {
     TypedEntryLayout entry;
-    entry.title = QStringLiteral("Type the rates dy and dx");
+    entry.title = Plotto::tr("Type the rates dy and dx");
     entry.fields = {QStringLiteral("dy ="), QStringLiteral("dx =")};
     entry.initial = {typedRates_ ? QString::fromStdString(typedRates_->dy->text()) : QString(),
                      typedRates_ ? QString::fromStdString(typedRates_->dx->text()) : QStringLiteral("1")};
@@ -212,15 +214,15 @@ void frmFlowField::mnuTypeFunction_Click()
                       {QStringLiteral("A*y*(1 - y/B)"), QStringLiteral("1")},
                       {QStringLiteral("sin(x*y)"), QStringLiteral("1")},
                       {QStringLiteral("x + y"), QStringLiteral("x - y")}};
-    entry.names = typedNamesHelp(QStringLiteral("x and y"), QStringLiteral("A to F")) +
-                  QStringLiteral(" With dx = 1 the field is the slope field of dy/dx = dy.");
+    entry.names = typedNamesHelp(Plotto::tr("x and y"), QStringLiteral("A to F")) +
+                  Plotto::tr(" With dx = 1 the field is the slope field of dy/dx = dy.");
     entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const QString dx = texts.value(1).trimmed().isEmpty() ? QStringLiteral("1") : texts.value(1);
         const auto rates = FuncGlobals::TypedRates::make(texts.value(0).toStdString(), dx.toStdString(), error);
         if (!rates)
             return QString::fromStdString(error);
-        preview = QStringLiteral("Understood: dy = ") + QString::fromStdString(rates->dy->understood()) +
+        preview = Plotto::tr("Understood: dy = ") + QString::fromStdString(rates->dy->understood()) +
                   QStringLiteral(",  dx = ") + QString::fromStdString(rates->dx->understood());
         return QString();
     };
@@ -231,25 +233,25 @@ void frmFlowField::Form_MouseMove(int, int, double X, double Y)
 {
     using rt::Chk;
     if (!insideGraph(X, Y)) {
-        lblPos->setText(kNoStart);
+        lblPos->setText(noStart());
         return;
     }
     const double W = Chk(txtXmax->value() - txtXmin->value()), H = Chk(txtYmax->value() - txtYmin->value());
     CurrentX = rt::Int(Chk(Chk(X - graph.XOrigin) * W) / 64) / 100;
     CurrentY = rt::Int(Chk(Chk(graph.YOrigin - Y) * H) / 64) / 100;
-    lblPos->setText(QStringLiteral("Start( ") + qTrimStr(CurrentX) + QStringLiteral(" , ") + qTrimStr(CurrentY) +
+    lblPos->setText(Plotto::tr("Start( ") + shownTrimStr(CurrentX) + QStringLiteral(" , ") + shownTrimStr(CurrentY) +
                     QStringLiteral(" ) "));
 }
 
 void frmFlowField::lblPos_Click()
 {
     double x =
-        rt::Val(InputBox(QStringLiteral("Enter x coordinate:"), QStringLiteral("X ="), QStringLiteral("3"), 4000, 4000)
+        rt::Val(InputBox(Plotto::tr("Enter x coordinate:"), QStringLiteral("X ="), QStringLiteral("3"), 4000, 4000)
                     .toStdString());
     double y =
-        rt::Val(InputBox(QStringLiteral("Enter y coordinate:"), QStringLiteral("Y ="), QStringLiteral("4"), 4000, 4000)
+        rt::Val(InputBox(Plotto::tr("Enter y coordinate:"), QStringLiteral("Y ="), QStringLiteral("4"), 4000, 4000)
                     .toStdString());
-    lblPos->setText(QStringLiteral("Start( ") + qTrimStr(x) + QStringLiteral(" , ") + qTrimStr(y) +
+    lblPos->setText(Plotto::tr("Start( ") + shownTrimStr(x) + QStringLiteral(" , ") + shownTrimStr(y) +
                     QStringLiteral(" ) "));
     PointCounter = 0;
     FollowCurveForward(x, y);
@@ -293,14 +295,14 @@ void frmFlowField::cmdZoomIn_Click()
 
 void frmFlowField::optApprox_Click()
 {
-    lblDeltaX->setText(QStringLiteral("Delta x="));
+    lblDeltaX->setText(Plotto::tr("Delta x="));
     txtCurvePoints->assign(QStringLiteral("4"));
     txtDelta->assign(QStringLiteral(".5"));
 }
 
 void frmFlowField::optCurve_Click()
 {
-    lblDeltaX->setText(QStringLiteral("Delta Vmag="));
+    lblDeltaX->setText(Plotto::tr("Delta Vmag="));
     txtCurvePoints->assign(QStringLiteral("1000"));
     txtDelta->assign(QStringLiteral(".02"));
     optEuler->select();
@@ -312,8 +314,7 @@ void frmFlowField::refuseMethod()
 {
     if (!optCurve->isChecked())
         return;
-    MsgBox(QStringLiteral("In the curve option, Euler is the only method for calculating points."),
-           QStringLiteral("Sorry"));
+    MsgBox(Plotto::tr("In the curve option, Euler is the only method for calculating points."), Plotto::tr("Sorry"));
     optEuler->select();
 }
 
@@ -332,7 +333,7 @@ void frmFlowField::optRunga4_Click()
 void frmFlowField::txtCurvePoints_Change()
 {
     if (txtCurvePoints->value() >= 10000) {
-        MsgBox(QStringLiteral("The maximum for the points graphed is 10000"), QStringLiteral("Max Points Met-Plus"));
+        MsgBox(Plotto::tr("The maximum for the points graphed is 10000"), Plotto::tr("Max Points Met-Plus"));
         txtCurvePoints->assign(QStringLiteral("10000"));
     }
 }
@@ -340,39 +341,61 @@ void frmFlowField::txtCurvePoints_Change()
 void frmFlowField::mnuAbout_Click()
 {
     showHelp({
-        {"Slope Fields, Integral Curves, or Approximations",
-         "This screen allows you to see Slope Fields, see integral curves, or to use various methods to find "
-         "approximations."},
-        {"Graph Slope Fields",
-         "Select dx and dy functions from the menus.  Select the values of the coefficients.  Click on [Graph Slope "
-         "Fields] to see the slopes at all the integral values of the -10 by 10 screen.  You may resize the screen.  "
-         "The vectors start at the integers so you can determine the direction from where it is supposed to start."},
-        {"Left or Right Click in the Graphing screen",
-         "Clicking on the graphing part of the screen will start the plot of an integral curve or can be used to find "
-         "the endpoint approximation from that initial point.  The graph will follow the slope field smoothly or "
-         "acording to the Delta x from left to right.  If the curve leaves the area, the curve will not come back "
-         "onto the screen.  If you right click the slope field will go in the opposite direction.  You may select the "
-         "number of points to plot and the change in x(Delta x) for the Method used in the computation of "
-         "approximation.  The number of points and Delta x are used by the Plotto button also."},
-        {"Purpose? - Find an endpoint or See the curve",
-         "The purpose may be confusing to some.  The best way to deal with this is a circle dy/dx = -x/y.  If you "
-         "started at (4,3) and wanted a y value at x=6 using 3 steps, you would get a value.  If you followed the "
-         "slope field you shouldn't get there since the radius is 5.  The circle would not have an x=6.  Finding the "
-         "approximation is achieved since you do not hit a vertical slope and delta x stays positive making the slope "
-         "change orientation(it goes up-right instead of down-left).  This should graph a 'V' or non-differential "
-         "point.  The smooth curve is achieved by using dy and dx separately in a vector plot.  The delta x is no "
-         "longer the change in x.  Delta x is the length of each the vector used in plotting the curve."},
-        {"I want an exact point to Start?",
-         "You may not be able to move the cursor to the point you want.  You may click on the Start(___,___) label box "
-         "to enter your points.  As soon as you enter the y coordinate the graph will show your plot and the endpoint "
-         "will show the final value.  If your plot goes off the graph window the program at that point for your "
-         "endpoint.  Change the window so it will fit."},
-        {"Plotto!",
-         "Clicking on [Plotto] will set in motion the plotting of the integral curves from 20 points on the x-axis and "
-         "20 points on the y-axis.  These would be at the integer points for the default -10 by 10 screen.  You may "
-         "shift these points by entering a value in the Horizontal Shift or Vertical Shift boxes at the right.  You "
-         "may also make the plotting Bi-Directional by checking that box.  You may have to wait for the screen to "
-         "change since it will graph all at once."},
+        {QT_TRANSLATE_NOOP("Plotto", "Slope Fields, Integral Curves, or Approximations"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "This screen allows you to see Slope Fields, see integral curves, or to use various methods to find "
+             "approximations.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Graph Slope Fields"),
+         QT_TRANSLATE_NOOP("Plotto", "Select dx and dy functions from the menus.  Select the values of the "
+                                     "coefficients.  Click on [Graph Slope "
+                                     "Fields] to see the slopes at all the integral values of the -10 by 10 screen.  "
+                                     "You may resize the screen.  "
+                                     "The vectors start at the integers so you can determine the direction from where "
+                                     "it is supposed to start.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Left or Right Click in the Graphing screen"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Clicking on the graphing part of the screen will start the plot of an integral curve or can be used to "
+             "find "
+             "the endpoint approximation from that initial point.  The graph will follow the slope field smoothly or "
+             "acording to the Delta x from left to right.  If the curve leaves the area, the curve will not come back "
+             "onto the screen.  If you right click the slope field will go in the opposite direction.  You may select "
+             "the "
+             "number of points to plot and the change in x(Delta x) for the Method used in the computation of "
+             "approximation.  The number of points and Delta x are used by the Plotto button also.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Purpose? - Find an endpoint or See the curve"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "The purpose may be confusing to some.  The best way to deal with this is a circle dy/dx = -x/y.  If you "
+             "started at (4,3) and wanted a y value at x=6 using 3 steps, you would get a value.  If you followed the "
+             "slope field you shouldn't get there since the radius is 5.  The circle would not have an x=6.  Finding "
+             "the "
+             "approximation is achieved since you do not hit a vertical slope and delta x stays positive making the "
+             "slope "
+             "change orientation(it goes up-right instead of down-left).  This should graph a 'V' or non-differential "
+             "point.  The smooth curve is achieved by using dy and dx separately in a vector plot.  The delta x is no "
+             "longer the change in x.  Delta x is the length of each the vector used in plotting the curve.")},
+        {QT_TRANSLATE_NOOP("Plotto", "I want an exact point to Start?"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "You may not be able to move the cursor to the point you want.  You may click on the Start(___,___) label "
+             "box "
+             "to enter your points.  As soon as you enter the y coordinate the graph will show your plot and the "
+             "endpoint "
+             "will show the final value.  If your plot goes off the graph window the program at that point for your "
+             "endpoint.  Change the window so it will fit.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Plotto!"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Clicking on [Plotto] will set in motion the plotting of the integral curves from 20 points on the x-axis "
+             "and "
+             "20 points on the y-axis.  These would be at the integer points for the default -10 by 10 screen.  You "
+             "may "
+             "shift these points by entering a value in the Horizontal Shift or Vertical Shift boxes at the right.  "
+             "You "
+             "may also make the plotting Bi-Directional by checking that box.  You may have to wait for the screen to "
+             "change since it will graph all at once.")},
     });
 }
 
@@ -390,13 +413,13 @@ void frmFlowField::describeResults(QStringList& lines) const
             .trimmed();
     };
     if (typedRates_)
-        lines << QStringLiteral("Typed rates: %1; %2.").arg(lbldy->text(), lbldx->text());
+        lines << Plotto::tr("Typed rates: %1; %2.").arg(lbldy->text(), lbldx->text());
     else
-        lines << QStringLiteral("Rates: %1, that is dy = %2; %3, that is dx = %4.")
+        lines << Plotto::tr("Rates: %1, that is dy = %2; %3, that is dx = %4.")
                      .arg(lbldy->text(), withValues(dyCaption, "ABC", {k.A, k.B, k.C}), lbldx->text(),
                           withValues(dxCaption, "DEF", {k.D, k.E, k.F}));
-    lines << (optApprox->isChecked() ? QStringLiteral("Purpose: approximation by %1, %2 %3.")
+    lines << (optApprox->isChecked() ? Plotto::tr("Purpose: approximation by %1, %2 %3.")
                                            .arg(spoken(method->text()), spoken(lblDeltaX->text()), txtDelta->text())
-                                     : QStringLiteral("Purpose: smooth curves."));
+                                     : Plotto::tr("Purpose: smooth curves."));
     lines << lblPos->text().trimmed() << lblEndpt->text().trimmed();
 }

@@ -8,6 +8,7 @@
 #include "funclib/FunctionSource.h"
 #include "funclib/StepMethods.h"
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
@@ -16,7 +17,7 @@
 namespace {
 
 // What the end point label says when typed rates stop a curve.
-const QString kCurveStopped = QStringLiteral("EndPt: the curve stops where dy/dx is undefined");
+QString curveStopped() { return Plotto::tr("EndPt: the curve stops where dy/dx is undefined"); }
 
 }  // namespace
 
@@ -26,7 +27,7 @@ void frmFlowField::cmdShowFlow_Click()
     typedGuard(
         [this] {
             keepDrawing(
-                QStringLiteral("the slope field"), [this] { fieldArrows(); }, typedRates_);
+                Plotto::tr("the slope field"), [this] { fieldArrows(); }, typedRates_);
         },
         [](const rt::RuntimeError&) {});
 }
@@ -100,7 +101,7 @@ void frmFlowField::Form_MouseDown(int Button, int, double X, double Y)
 {
     curvePoints_.clear();
     typedGuard([&] { startCurve(Button, X, Y); },
-               [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
+               [this](const rt::RuntimeError&) { lblEndpt->setText(curveStopped()); });
     curvePoints_.clear();
 }
 
@@ -112,10 +113,10 @@ void frmFlowField::noteCurve(int Button)
     const audio::Point from = curvePoints_.front();
     if (Button == RightButton)
         std::reverse(curvePoints_.begin(), curvePoints_.end());
-    const auto at = [](double v) { return qStr(rt::Int(v * 1000 + 0.5) / 1000); };
-    noteTraced(drawnCurve(QStringLiteral("the curve from (") + at(from.x) + QStringLiteral(",") + at(from.y) +
-                              QStringLiteral(")"),
-                          std::move(curvePoints_)));
+    const auto at = [](double v) { return shownStr(rt::Int(v * 1000 + 0.5) / 1000); };
+    noteTraced(
+        drawnCurve(Plotto::tr("the curve from (") + at(from.x) + QStringLiteral(",") + at(from.y) + QStringLiteral(")"),
+                   std::move(curvePoints_)));
     curvePoints_.clear();
 }
 
@@ -141,7 +142,7 @@ void frmFlowField::startCurve(int Button, double X, double Y)
     auto run = std::make_shared<CurveRun>(CurveRun{Button, inside, CurrentX, CurrentY, StepH, delta, MethodColour});
     auto press = std::make_shared<std::optional<QPointF>>(QPointF(X, Y));
     keepDrawing(
-        QStringLiteral("an integral curve"),
+        Plotto::tr("an integral curve"),
         [this, run, press] {
             curvePoints_.clear();
             try {
@@ -213,8 +214,8 @@ void frmFlowField::followCurve(double& x, double& y, bool backward, const Follow
     }
     if (!reachedEnd)
         return;
-    auto end = [](double v) { return qStr(rt::RoundHalfUp(v, 1000)); };
-    lblEndpt->setText(QStringLiteral("EndPt (") + end(x) + QStringLiteral(",") + end(y));
+    auto end = [](double v) { return shownStr(rt::RoundHalfUp(v, 1000)); };
+    lblEndpt->setText(Plotto::tr("EndPt (") + end(x) + QStringLiteral(",") + end(y));
 }
 
 void frmFlowField::followGuarded(double& x, double& y, bool backward)
@@ -224,7 +225,7 @@ void frmFlowField::followGuarded(double& x, double& y, bool backward)
             const double h = backward ? -txtDelta->value() : txtDelta->value();
             followCurve(x, y, backward, {h, MethodColour, settings()});
         },
-        [this](const rt::RuntimeError&) { lblEndpt->setText(kCurveStopped); });
+        [this](const rt::RuntimeError&) { lblEndpt->setText(curveStopped()); });
 }
 
 void frmFlowField::FollowCurveForward(double& x, double& y) { followGuarded(x, y, false); }

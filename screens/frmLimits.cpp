@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 
 using limits::DeltaSearch;
 
@@ -18,7 +19,7 @@ GraphScreen::Config limitsConfig()
 {
     GraphScreen::Config c;
     c.errorsInWords = true;
-    c.caption = QStringLiteral("Limits by Epsilon and Delta");
+    c.caption = Plotto::tr("Limits by Epsilon and Delta");
     c.surfaceWidth = 17200;
     return c;
 }
@@ -27,7 +28,7 @@ constexpr double kRight = 11220, kRightWidth = 5800;
 constexpr double kHatch = 45;  // twips between the lines that shade a band (three pixels)
 constexpr double kMarkRadius = 60;  // twips: the circles at a
 
-QString shown(double v) { return QString::fromStdString(limits::shown(v)); }
+QString shown(double v) { return i18n::decimals(QString::fromStdString(limits::shown(v))); }
 
 }  // namespace
 
@@ -39,18 +40,18 @@ frmLimits::frmLimits() : GraphScreen(limitsConfig())
     // clang-format off
     form::buildForm(surface, {
         // name                  kind           caption          place                          handlers / look
-        {FORM_NAME(lblLimits),    Kind::Label,   "ε and δ",       {C, 2940, W, 300},             {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblLimits),    Kind::Label, QT_TRANSLATE_NOOP("Plotto", "ε and δ"),       {C, 2940, W, 300},             {}, {.align = Qt::AlignCenter}},
         {FORM_NAME(lblPoint),     Kind::Stepper, "a =",           {C, 3300, 700, 300},           {.MouseDown = on(&frmLimits::lblPoint_MouseDown)}},
         {FORM_NAME(txtPoint),     Kind::Box,     "1",             {C + 720, 3300, W - 720, 300}},
         {FORM_NAME(lblLimit),     Kind::Label,   "L =",           {C, 3660, 700, 300}},
         {FORM_NAME(txtLimit),     Kind::Box,     "1",             {C + 720, 3660, W - 720, 300}},
-        {FORM_NAME(cmdFindL),     Kind::Button,  "Find &L",       {C, 4020, W, 420},             {.Click = on(&frmLimits::cmdFindL_Click)}},
+        {FORM_NAME(cmdFindL),     Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Find &L"),       {C, 4020, W, 420},             {.Click = on(&frmLimits::cmdFindL_Click)}},
         {FORM_NAME(lblEpsilon),   Kind::Stepper, "ε =",           {C, 4560, 700, 300},           {.MouseDown = on(&frmLimits::lblEpsilon_MouseDown)}},
         {FORM_NAME(txtEpsilon),   Kind::Box,     "0.5",           {C + 720, 4560, W - 720, 300}},
-        {FORM_NAME(cmdFindDelta), Kind::Button,  "Fin&d δ",       {C, 4920, W, 420},             {.Click = on(&frmLimits::cmdFindDelta_Click)}},
-        {FORM_NAME(cmdHalve),     Kind::Button,  "&Halve ε",      {C, 5460, W, 420},             {.Click = on(&frmLimits::cmdHalve_Click)}},
-        {FORM_NAME(lblResult),    Kind::Label,   "",              {R, 240, kRightWidth, 600},    {}, {.wrap = true, .boxed = true, .name = "Result"}},
-        {FORM_NAME(grdHalvings),  Kind::Grid,    "",              {R, 960, kRightWidth, 3900},   {}, {.name = "Epsilon and delta", .rows = kRows, .columns = 4}},
+        {FORM_NAME(cmdFindDelta), Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Fin&d δ"),       {C, 4920, W, 420},             {.Click = on(&frmLimits::cmdFindDelta_Click)}},
+        {FORM_NAME(cmdHalve),     Kind::Button, QT_TRANSLATE_NOOP("Plotto", "&Halve ε"),      {C, 5460, W, 420},             {.Click = on(&frmLimits::cmdHalve_Click)}},
+        {FORM_NAME(lblResult),    Kind::Label,   "",              {R, 240, kRightWidth, 600},    {}, {.wrap = true, .boxed = true, .name = QT_TRANSLATE_NOOP("Plotto", "Result")}},
+        {FORM_NAME(grdHalvings),  Kind::Grid,    "",              {R, 960, kRightWidth, 3900},   {}, {.name = QT_TRANSLATE_NOOP("Plotto", "Epsilon and delta"), .rows = kRows, .columns = 4}},
         {FORM_NAME(lblStatus),    Kind::Label,   "",              {R, 4980, kRightWidth, 1800},  {}, {.wrap = true}},
     });
     // clang-format on
@@ -102,7 +103,7 @@ void frmLimits::cmdFindL_Click()
 {
     const std::optional<double> a = txtPoint->number();
     if (!a || !std::isfinite(*a)) {
-        lblStatus->setText(QStringLiteral("Type a number for a."));
+        lblStatus->setText(Plotto::tr("Type a number for a."));
         return;
     }
     const limits::LimitEstimate e = limits::estimateLimit(values(), *a);
@@ -167,8 +168,8 @@ void frmLimits::showDelta()
     if (found.outcome == DeltaSearch::Outcome::Found)
         lblResult->setText(QStringLiteral("ε = %1   δ = %2%3")
                                .arg(shown(*eps), shown(found.delta),
-                                    found.reachesEdge ? QStringLiteral("   (the window's edge)")
-                                                      : QStringLiteral("   leaves at x = ") + shown(found.leaveX)));
+                                    found.reachesEdge ? Plotto::tr("   (the window's edge)")
+                                                      : Plotto::tr("   leaves at x = ") + shown(found.leaveX)));
     else if (found.outcome == DeltaSearch::Outcome::NoDelta)
         lblResult->setText(QStringLiteral("ε = %1   no δ").arg(shown(*eps)));
     else
@@ -190,8 +191,8 @@ void frmLimits::fillGrid()
             cells[0] = shown(row.eps);
             cells[1] = found ? shown(row.search.delta) : QStringLiteral("none");
             cells[2] = found ? QString::number(row.search.delta / row.eps, 'g', 6) : QStringLiteral("--");
-            cells[3] = !found                   ? QStringLiteral("near a")
-                       : row.search.reachesEdge ? QStringLiteral("(none in the window)")
+            cells[3] = !found                   ? Plotto::tr("near a")
+                       : row.search.reachesEdge ? Plotto::tr("(none in the window)")
                                                 : shown(row.search.leaveX);
         }
         for (int c = 0; c < 4; ++c)
@@ -215,7 +216,7 @@ void frmLimits::draw(const DeltaSearch* found)
         p->eps = *eps;
     }
     eraseKept(QStringLiteral("limits"));
-    const QString what = p->searched ? QStringLiteral("the band L = %1 ± ε = %2 about a = %3 for %4")
+    const QString what = p->searched ? Plotto::tr("the band L = %1 ± ε = %2 about a = %3 for %4")
                                            .arg(shown(p->L), shown(p->eps), shown(p->a), describeFamily())
                                      : QStringLiteral("%1 with a = %2 marked").arg(describeFamily(), txtPoint->text());
     // f is the curve that the readout names, the trace plays and the keyboard walks along.
@@ -299,7 +300,7 @@ std::vector<GraphScreen::DragHandle> frmLimits::dragHandles()
     const std::optional<double> a = txtPoint->number(), L = txtLimit->number();
     if (!a || !L || !std::isfinite(*a) || !std::isfinite(*L) || !shown_)
         return {};
-    return {{QStringLiteral("the point a"), *a, *L, true, [this](double x, double) {
+    return {{Plotto::tr("the point a"), *a, *L, true, [this](double x, double) {
                  runForDrag([&] {
                      txtPoint->assign(draggedValue(x));
                      showDelta();
@@ -309,7 +310,7 @@ std::vector<GraphScreen::DragHandle> frmLimits::dragHandles()
 
 void frmLimits::describeResults(QStringList& lines) const
 {
-    lines << QStringLiteral("Limits by ε and δ of ") + describeFamily() + QStringLiteral(", a = ") + txtPoint->text() +
+    lines << Plotto::tr("Limits by ε and δ of ") + describeFamily() + QStringLiteral(", a = ") + txtPoint->text() +
                  QStringLiteral(", L = ") + txtLimit->text() + QStringLiteral(", ε = ") + txtEpsilon->text() +
                  QLatin1Char('.');
     if (!lblResult->text().isEmpty())
@@ -328,31 +329,42 @@ void frmLimits::describeResults(QStringList& lines) const
 void frmLimits::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This screen shows what the limit of f(x) as x approaches a means: for every ε > 0 there is a δ > 0 such "
-         "that every x with 0 < |x - a| < δ has |f(x) - L| < ε.  You choose ε; the screen finds the largest δ."},
-        {"Setting up",
-         "Select a function from the menu and choose A to E, or type one with Tools, Type a Function (for instance "
-         "sin(x)/x, (x^2 - 1)/(x - 1), x/abs(x) or sin(1/x)).  Type the point a (or click the green label a =: left "
-         "button up by one, right button down) and the limit L, or press [Find L]: it looks at f(a - h) and "
-         "f(a + h) as h halves forty times, down to about 1e-12 times max(1, |a|), and says whether both sides "
-         "settle on one value (six values in a row agreeing to 1e-5), settle on different values, grow without "
-         "bound or do not settle."},
-        {"[Find δ] and [Halve ε]",
-         "[Find δ] shades the band L ± ε in green and the band a ± δ in cyan, with the largest δ for which "
-         "the graph stays in the green band, and marks in red where the graph first leaves it.  [Halve ε] halves ε "
-         "and looks again; clicking the green label ε = halves it with the left button and doubles it with the "
-         "right.  Each ε adds a row to the table: ε, δ, δ/ε and where the graph leaves the band, so that you can "
-         "watch δ shrink with ε.  Where points as close to a as the search looks leave the band, the screen says "
-         "that no δ works for that ε: f has no limit at a, or L is not it."},
-        {"How δ is found",
-         "This is a numerical search, not a proof.  On each side of a, f is checked at about 7000 points: a dense "
-         "cluster from 1e-13 times max(1, |a|), 64 points between each distance and its double, and 4096 evenly "
-         "spread to the window's edge.  Between the last point inside the band and the first outside, the search "
-         "checks sixteen pieces again and again until δ is known to 1e-12 of itself.  Points where f is undefined "
-         "are not in its domain and are left out.  A narrow spike between samples can be missed."},
-        {"Holes and dots",
-         "A filled dot marks (a, f(a)) where f is defined at a; an open circle marks (a, L) where f(a) is "
-         "undefined or differs from L."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "This screen shows what the limit of f(x) as x approaches a means: for every ε > 0 there is a δ > 0 such "
+             "that every x with 0 < |x - a| < δ has |f(x) - L| < ε.  You choose ε; the screen finds the largest δ.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Setting up"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Select a function from the menu and choose A to E, or type one with Tools, Type a Function (for instance "
+             "sin(x)/x, (x^2 - 1)/(x - 1), x/abs(x) or sin(1/x)).  Type the point a (or click the green label a =: "
+             "left "
+             "button up by one, right button down) and the limit L, or press [Find L]: it looks at f(a - h) and "
+             "f(a + h) as h halves forty times, down to about 1e-12 times max(1, |a|), and says whether both sides "
+             "settle on one value (six values in a row agreeing to 1e-5), settle on different values, grow without "
+             "bound or do not settle.")},
+        {QT_TRANSLATE_NOOP("Plotto", "[Find δ] and [Halve ε]"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "[Find δ] shades the band L ± ε in green and the band a ± δ in cyan, with the largest δ for which "
+             "the graph stays in the green band, and marks in red where the graph first leaves it.  [Halve ε] halves ε "
+             "and looks again; clicking the green label ε = halves it with the left button and doubles it with the "
+             "right.  Each ε adds a row to the table: ε, δ, δ/ε and where the graph leaves the band, so that you can "
+             "watch δ shrink with ε.  Where points as close to a as the search looks leave the band, the screen says "
+             "that no δ works for that ε: f has no limit at a, or L is not it.")},
+        {QT_TRANSLATE_NOOP("Plotto", "How δ is found"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "This is a numerical search, not a proof.  On each side of a, f is checked at about 7000 points: a dense "
+             "cluster from 1e-13 times max(1, |a|), 64 points between each distance and its double, and 4096 evenly "
+             "spread to the window's edge.  Between the last point inside the band and the first outside, the search "
+             "checks sixteen pieces again and again until δ is known to 1e-12 of itself.  Points where f is undefined "
+             "are not in its domain and are left out.  A narrow spike between samples can be missed.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Holes and dots"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "A filled dot marks (a, f(a)) where f is defined at a; an open circle marks (a, L) where f(a) is "
+             "undefined or differs from L.")},
     });
 }

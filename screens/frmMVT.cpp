@@ -9,6 +9,7 @@
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
@@ -18,7 +19,7 @@ namespace {
 GraphScreen::Config mvtConfig()
 {
     GraphScreen::Config c;
-    c.caption = QStringLiteral("The Mean Value Theorem");
+    c.caption = Plotto::tr("The Mean Value Theorem");
     c.surfaceWidth = 13920;
     c.surfaceHeight = 9000;
     c.coefficientCount = 6;
@@ -41,28 +42,28 @@ frmMVT::frmMVT() : GraphScreen(mvtConfig())
     // clang-format off
     form::buildForm(surface, {
         // name           kind          caption                  place                 handlers / look
-        {FORM_NAME(fraMVTSet),      Kind::Frame,  "MVT Set Up",            {kLeft, 120, kWidth, 3120}, {}, {}, {
-            {FORM_NAME(lblX1),      Kind::Label,  "Left endpt",            {120,   330, 1080, 300}},
+        {FORM_NAME(fraMVTSet),      Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "MVT Set Up"),            {kLeft, 120, kWidth, 3120}, {}, {}, {
+            {FORM_NAME(lblX1),      Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Left endpt"),            {120,   330, 1080, 300}},
             {FORM_NAME(txtX1),      Kind::Box,    "a",                     {1260,  330, 1200, 300}, {.Change = on(&frmMVT::txtX1_Change)}},
-            {FORM_NAME(lblX2),      Kind::Label,  "Right endpt",           {120,   690, 1080, 300}},
+            {FORM_NAME(lblX2),      Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Right endpt"),           {120,   690, 1080, 300}},
             {FORM_NAME(txtX2),      Kind::Box,    "b",                     {1260,  690, 1200, 300}, {.Change = on(&frmMVT::txtX2_Change)}},
-            {FORM_NAME(cmdApplyMVT), Kind::Button, "Apply to Graph",       {120,  1080, I, 420},    {.Click = on(&frmMVT::cmdApplyMVT_Click)}},
+            {FORM_NAME(cmdApplyMVT), Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Apply to Graph"),       {120,  1080, I, 420},    {.Click = on(&frmMVT::cmdApplyMVT_Click)}},
             {FORM_NAME(lblPt1),     Kind::Label,  "( _______ , _______)",  {120,  1590, I, 300}},
-            {FORM_NAME(lblto),      Kind::Label,  "to",                    {120,  1890, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {FORM_NAME(lblto),      Kind::Label, QT_TRANSLATE_NOOP("Plotto", "to"),                    {120,  1890, I, 300},    {}, {.align = Qt::AlignCenter}},
             {FORM_NAME(lblPt2),     Kind::Label,  "( _______ , _______)",  {120,  2190, I, 300}},
-            {FORM_NAME(lblSlope1),  Kind::Label,  "Slope",                 {120,  2580, I, 300}},
+            {FORM_NAME(lblSlope1),  Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Slope"),                 {120,  2580, I, 300}},
         }},
-        {FORM_NAME(fraFindPt),      Kind::Frame,  "Find c",                {kLeft, 3360, kWidth, 5520}, {}, {}, {
-            {FORM_NAME(lblSlideIt), Kind::Label,  "Use the Slider",        {120,   300, I, 300},    {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(fraFindPt),      Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Find c"),                {kLeft, 3360, kWidth, 5520}, {}, {}, {
+            {FORM_NAME(lblSlideIt), Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Use the Slider"),        {120,   300, I, 300},    {}, {.align = Qt::AlignCenter}},
             {FORM_NAME(HscMVT),     Kind::HScroll, "",                     {120,   600, I, 255},
                 {.Change = on(&frmMVT::HscMVT_Change), .Spoken = [this] { return lblFindc->text().trimmed(); }},
                 {.bar = {.min = 0, .max = 20000, .small = 1, .large = 100}}},
             {FORM_NAME(lbl1),       Kind::Label,  "a",                     {120,   900, 1100, 300}},
             {FORM_NAME(lbl2),       Kind::Label,  "b",                     {1360,  900, 1100, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
             {FORM_NAME(lblFindc),   Kind::Label,  "x =",                   {120,  1230, I, 300},    {.Click = on(&frmMVT::lblFindc_Click)}, {.raised = true}},
-            {FORM_NAME(lblSlope2),  Kind::Label,  "Slope = ",              {120,  1560, I, 300}},
-            {FORM_NAME(cmdAnimateIt), Kind::Button, "Find c",              {120,  1920, I, 420},    {.Click = on(&frmMVT::cmdAnimateIt_Click)}},
-            {FORM_NAME(gridC),      Kind::Grid,   "",                      {120,  2460, I, 2940},   {}, {.name = "Values of c", .rows = kGridRows, .columns = 3}},
+            {FORM_NAME(lblSlope2),  Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Slope = "),              {120,  1560, I, 300}},
+            {FORM_NAME(cmdAnimateIt), Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Find c"),              {120,  1920, I, 420},    {.Click = on(&frmMVT::cmdAnimateIt_Click)}},
+            {FORM_NAME(gridC),      Kind::Grid,   "",                      {120,  2460, I, 2940},   {}, {.name = QT_TRANSLATE_NOOP("Plotto", "Values of c"), .rows = kGridRows, .columns = 3}},
         }},
     });
     // clang-format on
@@ -101,17 +102,17 @@ void frmMVT::applyMVT()
     // The end points, their circles and the secant are one kept step: a new window draws them again.
     auto secant = std::make_shared<SecantAB>();
     keepDrawing(
-        QStringLiteral("the secant over [a, b]"), [this, secant] { drawSecantAB(*secant); }, typed_,
+        Plotto::tr("the secant over [a, b]"), [this, secant] { drawSecantAB(*secant); }, typed_,
         QStringLiteral("construction"));
     const SecantAB& r = *secant;
     if (r.b == r.a) {
-        lblSlope1->setText(QStringLiteral("ERROR!  0/0"));
+        lblSlope1->setText(Plotto::tr("ERROR!  0/0"));
         return;
     }
-    auto R4 = [](double v) { return qStr(RoundHalfUp(v, 10000)); };
+    auto R4 = [](double v) { return shownStr(RoundHalfUp(v, 10000)); };
     lblPt1->setText(QStringLiteral("(") + R4(r.a) + QStringLiteral(",") + R4(r.fa) + QStringLiteral(")"));
     lblPt2->setText(QStringLiteral("(") + R4(r.b) + QStringLiteral(",") + R4(r.fb) + QStringLiteral(")"));
-    lblSlope1->setText(QStringLiteral("slope = ") + qTrimStr(RoundHalfUp(SecantSlope, 100000)));
+    lblSlope1->setText(Plotto::tr("slope = ") + shownTrimStr(RoundHalfUp(SecantSlope, 100000)));
 }
 
 void frmMVT::drawSecantAB(SecantAB& s)
@@ -151,14 +152,14 @@ void frmMVT::slideTangent()
     using rt::Chk;
     const double a = txtX1->value(), b = txtX2->value();
     const double c = Chk(a + rt::Div(Chk(Chk(b - a) * HscMVT->value()), HscMVT->maximum()));
-    lblFindc->setText(QStringLiteral("x = ") + qStr(RoundHalfUp(c, 10000)));
+    lblFindc->setText(QStringLiteral("x = ") + shownStr(RoundHalfUp(c, 10000)));
     const double slope = FuncGlobals::ExplicitSlope(c);
     if (!typedDefinedAt({c}, lblSlope2) || !typedSlopeAt(slope, c, lblSlope2))
         return;
-    lblSlope2->setText(QStringLiteral("Slope =") + qStr(RoundHalfUp(slope, 10000)));
+    lblSlope2->setText(Plotto::tr("Slope =") + shownStr(RoundHalfUp(slope, 10000)));
     const double fc = FuncGlobals::ExplicitValue(c);
     keepDrawing(
-        QStringLiteral("the tangent at x = ") + qTrimStr(c),
+        Plotto::tr("the tangent at x = ") + shownTrimStr(c),
         [this, slope, c, fc] {
             // Not reduced: family 15 asks for colour 16, which does not exist.
             FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
@@ -210,7 +211,7 @@ void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
 
 void frmMVT::lblFindc_Click()
 {
-    const QString answer = InputBox(QStringLiteral("Enter an x value to check"), QStringLiteral("Enter X"));
+    const QString answer = InputBox(Plotto::tr("Enter an x value to check"), Plotto::tr("Enter X"));
     if (answer.isEmpty())
         return;
     const float x = rt::CSng(rt::Val(answer.toStdString()));
@@ -245,7 +246,7 @@ void frmMVT::findC()
     // written the first time only).
     auto first = std::make_shared<bool>(true);
     keepDrawing(
-        QStringLiteral("the points c"),
+        Plotto::tr("the points c"),
         [this, a, b, last, first, target = SecantSlope] { scanC(a, b, last, target, *first); }, typed_,
         QStringLiteral("construction"));
     *first = false;
@@ -271,9 +272,9 @@ void frmMVT::scanC(double a, double b, double last, double secantSlope, bool fil
                 if (count < kGridRows) {
                     last = x;
                     if (fillGrid) {
-                        gridC->setCell(count, 0, qTrimStr(RoundHalfUp(x, 1000)));
-                        gridC->setCell(count, 1, qTrimStr(RoundHalfUp(fx, 1000)));
-                        gridC->setCell(count, 2, qTrimStr(RoundHalfUp(slope, 1000)));
+                        gridC->setCell(count, 0, shownTrimStr(RoundHalfUp(x, 1000)));
+                        gridC->setCell(count, 1, shownTrimStr(RoundHalfUp(fx, 1000)));
+                        gridC->setCell(count, 2, shownTrimStr(RoundHalfUp(slope, 1000)));
                     }
                 }
             }
@@ -302,36 +303,51 @@ void frmMVT::txtX2_Change() { keepInWindow(txtX2, lbl2); }
 void frmMVT::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This screen is to demonstrate the Mean Value Theorem.  Most of the function selections are continuous so it "
-         "may be applied to most of them, at least you can define a continuous interval."},
-        {"Get Started",
-         "To get started, select a function from the pull down menu or click on the function to get another one.  "
-         "Select the values for A to E for the function and [Plotto].  The right side of the screen is to setup the "
-         "interval or a and b end points.  Once you have entered the end points, Click [Apply to Graph].  This will "
-         "plot the line and calculate the points and slope."},
-        {"Find c --- Three Ways",
-         "There are many ways to find c, the value guaranteed by the MVT.  1)Use the Slider to approximate where c "
-         "would be on the (a,b) interval.  Each time you move the slider or click on the arrow the tangent line will "
-         "be graphed and its slope determined at the point.  You can keep moving the slider until the slope from the "
-         "setup matches the slope at the point. 2) Click on the 'x =' label.  You will be asked to enter a value for "
-         "x.  The slider will automatically move to the point and show the tangent line and its slope.  3) Click on "
-         "[Find c].  This button will find all points(up to 20) on the graph having the same slope as the secant "
-         "line.  They are listed in a chart."},
-        {"Accuracy Problems",
-         "There are some accuracy considerations when using [Find c].  The slopes are compared to the nearest 0.001.  "
-         "The calculated slope from the end points may differ from the slope of the tangent line.  Some MVT points "
-         "may be missed due the accuracy when scannning through the function for the points.  This usually does not "
-         "happen unless your interval is wide and there are rapid fluctuations like sin(20x)."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP("Plotto", "This screen is to demonstrate the Mean Value Theorem.  Most of the function "
+                                     "selections are continuous so it "
+                                     "may be applied to most of them, at least you can define a continuous interval.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Get Started"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "To get started, select a function from the pull down menu or click on the function to get another one.  "
+             "Select the values for A to E for the function and [Plotto].  The right side of the screen is to setup "
+             "the "
+             "interval or a and b end points.  Once you have entered the end points, Click [Apply to Graph].  This "
+             "will "
+             "plot the line and calculate the points and slope.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Find c --- Three Ways"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "There are many ways to find c, the value guaranteed by the MVT.  1)Use the Slider to approximate where c "
+             "would be on the (a,b) interval.  Each time you move the slider or click on the arrow the tangent line "
+             "will "
+             "be graphed and its slope determined at the point.  You can keep moving the slider until the slope from "
+             "the "
+             "setup matches the slope at the point. 2) Click on the 'x =' label.  You will be asked to enter a value "
+             "for "
+             "x.  The slider will automatically move to the point and show the tangent line and its slope.  3) Click "
+             "on "
+             "[Find c].  This button will find all points(up to 20) on the graph having the same slope as the secant "
+             "line.  They are listed in a chart.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Accuracy Problems"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "There are some accuracy considerations when using [Find c].  The slopes are compared to the nearest "
+             "0.001.  "
+             "The calculated slope from the end points may differ from the slope of the tangent line.  Some MVT points "
+             "may be missed due the accuracy when scannning through the function for the points.  This usually does "
+             "not "
+             "happen unless your interval is wide and there are rapid fluctuations like sin(20x).")},
     });
 }
 
 void frmMVT::describeResults(QStringList& lines) const
 {
-    lines << QStringLiteral("Mean value theorem for ") + describeFamily() + QStringLiteral(" on [") + txtX1->text() +
+    lines << Plotto::tr("Mean value theorem for ") + describeFamily() + QStringLiteral(" on [") + txtX1->text() +
                  QStringLiteral(", ") + txtX2->text() + QStringLiteral("].");
-    lines << QStringLiteral("Secant from %1 to %2, %3.").arg(lblPt1->text(), lblPt2->text(), lblSlope1->text());
-    lines << QStringLiteral("Slider point %1, %2.").arg(lblFindc->text().trimmed(), lblSlope2->text());
+    lines << Plotto::tr("Secant from %1 to %2, %3.").arg(lblPt1->text(), lblPt2->text(), lblSlope1->text());
+    lines << Plotto::tr("Slider point %1, %2.").arg(lblFindc->text().trimmed(), lblSlope2->text());
     QStringList found;
     for (int r = 1; r < gridC->rowCount(); ++r)
         if (!gridC->cell(r, 0).isEmpty())

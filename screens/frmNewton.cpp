@@ -9,6 +9,7 @@
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 
 namespace {
@@ -16,7 +17,7 @@ namespace {
 GraphScreen::Config newtonConfig()
 {
     GraphScreen::Config c;
-    c.caption = QStringLiteral("Newton's Method and Derivatives");
+    c.caption = Plotto::tr("Newton's Method and Derivatives");
     c.surfaceWidth = 13800;
     return c;
 }
@@ -33,12 +34,12 @@ frmNewton::frmNewton() : GraphScreen(newtonConfig())
     // clang-format off
     form::buildForm(surface, {
         // name            kind          caption              place                   handlers / look
-        {FORM_NAME(lblNewtonMethod), Kind::Label,  "Newton's Method",   {C, 3060, W, 300},      {}, {.align = Qt::AlignCenter}},
-        {FORM_NAME(lblGuess),        Kind::Label,  "Guess:",            {C, 3420, W, 300}},
+        {FORM_NAME(lblNewtonMethod), Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Newton's Method"),   {C, 3060, W, 300},      {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblGuess),        Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Guess:"),            {C, 3420, W, 300}},
         {FORM_NAME(txtGuess),        Kind::Box,    "FirstGuess",        {C, 3720, W, 300},      {.Click = on(&frmNewton::txtGuess_Click)}},
-        {FORM_NAME(cmdApply),        Kind::Button, "Apply Newton's",    {C, 4140, W, 420},      {.Click = on(&frmNewton::cmdApply_Click)}},
-        {FORM_NAME(cmdDeriv),        Kind::Button, "Graph &Derivative", {C, 4680, W, 420},      {.Click = on(&frmNewton::cmdDeriv_Click)}},
-        {FORM_NAME(grdGuess),        Kind::Grid,   "",                  {11220, 600, 2460, 4500}, {}, {.name = "Guesses", .rows = kGridRows, .columns = 2}},
+        {FORM_NAME(cmdApply),        Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Apply Newton's"),    {C, 4140, W, 420},      {.Click = on(&frmNewton::cmdApply_Click)}},
+        {FORM_NAME(cmdDeriv),        Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Graph &Derivative"), {C, 4680, W, 420},      {.Click = on(&frmNewton::cmdDeriv_Click)}},
+        {FORM_NAME(grdGuess),        Kind::Grid,   "",                  {11220, 600, 2460, 4500}, {}, {.name = QT_TRANSLATE_NOOP("Plotto", "Guesses"), .rows = kGridRows, .columns = 2}},
     });
     // clang-format on
     Form_Load();
@@ -47,8 +48,8 @@ frmNewton::frmNewton() : GraphScreen(newtonConfig())
 void frmNewton::Form_Load()
 {
     GraphScreen::Form_Load();
-    grdGuess->setCell(0, 0, QStringLiteral("Guess #"));
-    grdGuess->setCell(0, 1, QStringLiteral("Value"));
+    grdGuess->setCell(0, 0, Plotto::tr("Guess #"));
+    grdGuess->setCell(0, 1, Plotto::tr("Value"));
     grdGuess->setColumnWidthTwips(0, 670);
     grdGuess->setColumnWidthTwips(1, 1500);
     for (int k = 1; k < kGridRows; ++k)
@@ -96,14 +97,13 @@ void frmNewton::cmdApply_Click()
         const bool noValue = std::isnan(FuncGlobals::ExplicitValue(x));
         QString stopped;
         if (noValue || std::isnan(FuncGlobals::ExplicitSlope(x)))
-            stopped = noValue ? QStringLiteral(" (no f(x) here)") : QStringLiteral(" (no f'(x) here)");
+            stopped = noValue ? Plotto::tr(" (no f(x) here)") : Plotto::tr(" (no f'(x) here)");
         else
-            typedGuard([&] { applyNewton(x); },
-                       [&](const rt::RuntimeError&) { stopped = QStringLiteral(" (too large)"); });
+            typedGuard([&] { applyNewton(x); }, [&](const rt::RuntimeError&) { stopped = Plotto::tr(" (too large)"); });
         if (!stopped.isEmpty()) {
             NewSequence = false;
             if (GuessNumber < kGridRows)
-                grdGuess->setCell(GuessNumber, 1, qTrimStr(x) + stopped);
+                grdGuess->setCell(GuessNumber, 1, shownTrimStr(x) + stopped);
             GuessNumber = rt::CInt(GuessNumber + 1.0);
         }
         return;
@@ -118,20 +118,20 @@ void frmNewton::applyNewton(double x)
     // curve (with "x1" at the start of a sequence), then the tangent down to the axis.
     const bool first = NewSequence;
     keepDrawing(
-        QStringLiteral("the guess x = ") + qTrimStr(x), [this, x, first] { drawGuess(x, first); }, typed_,
+        Plotto::tr("the guess x = ") + shownTrimStr(x), [this, x, first] { drawGuess(x, first); }, typed_,
         QStringLiteral("steps"));
     NewSequence = false;
     auto step = std::make_shared<std::pair<double, double>>();  // the slope and the next guess
     keepDrawing(
-        QStringLiteral("the tangent at x = ") + qTrimStr(x), [this, x, step] { *step = drawTangent(x); }, typed_,
+        Plotto::tr("the tangent at x = ") + shownTrimStr(x), [this, x, step] { *step = drawTangent(x); }, typed_,
         QStringLiteral("steps"));
     if (step->first != 0) {
         txtGuess->assign(qTrimStr(step->second));
     } else {
-        MsgBox(QStringLiteral("This guess failed due to zero for the slope"), QStringLiteral("Division by zero"));
+        MsgBox(Plotto::tr("This guess failed due to zero for the slope"), Plotto::tr("Division by zero"));
     }
     if (GuessNumber < kGridRows)
-        grdGuess->setCell(GuessNumber, 1, qTrimStr(x));
+        grdGuess->setCell(GuessNumber, 1, shownTrimStr(x));
     GuessNumber = rt::CInt(GuessNumber + 1.0);
 }
 
@@ -167,28 +167,38 @@ std::pair<double, double> frmNewton::drawTangent(double x)
 
 void frmNewton::cmdDeriv_Click()
 {
-    plotExplicit(FuncGlobals::ExplicitSnapshot::What::Slope, QStringLiteral("the derivative of ") + describeFamily());
+    plotExplicit(FuncGlobals::ExplicitSnapshot::What::Slope, Plotto::tr("the derivative of ") + describeFamily());
 }
 
 void frmNewton::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This screen is used to demonstrate Newton's method for finding roots(x-intercepts) of functions.  Along the "
-         "way you can graph the derivatives of functions too."},
-        {"Newton's Method",
-         "Newton's method simple takes a guess, uses the slope of the function at the (x={guess},y) point to plot "
-         "where this tangent line will intercept the x-axis.  This becomes the second guess and is used in the same "
-         "procedure to find the third and so on...  As your guesses get closer to the root, the function appears more "
-         "linear like so you get very close."},
-        {"Failures",
-         "There may be some cases where Newton's Method fails.   This may be due to the nature of the function or "
-         "the guess."},
-        {"[Apply Newton's]",
-         "To try Newton's method: select a function and the variables A to E.  Select a first guess at the right.  "
-         "Click [Apply Newton's].  You should see the line drawn from your (x-guess, y) to the x-axis.  The second "
-         "guess will appear in the guess box so you can [Apply Newton's] again."},
-        {"Change and Continue", "Zoom in or change the window and Apply again."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP("Plotto", "This screen is used to demonstrate Newton's method for finding "
+                                     "roots(x-intercepts) of functions.  Along the "
+                                     "way you can graph the derivatives of functions too.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Newton's Method"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Newton's method simple takes a guess, uses the slope of the function at the (x={guess},y) point to plot "
+             "where this tangent line will intercept the x-axis.  This becomes the second guess and is used in the "
+             "same "
+             "procedure to find the third and so on...  As your guesses get closer to the root, the function appears "
+             "more "
+             "linear like so you get very close.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Failures"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "There may be some cases where Newton's Method fails.   This may be due to the nature of the function or "
+             "the guess.")},
+        {QT_TRANSLATE_NOOP("Plotto", "[Apply Newton's]"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "To try Newton's method: select a function and the variables A to E.  Select a first guess at the right.  "
+             "Click [Apply Newton's].  You should see the line drawn from your (x-guess, y) to the x-axis.  The second "
+             "guess will appear in the guess box so you can [Apply Newton's] again.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Change and Continue"),
+         QT_TRANSLATE_NOOP("Plotto", "Zoom in or change the window and Apply again.")},
     });
 }
 
@@ -198,19 +208,18 @@ void frmNewton::describeResults(QStringList& lines) const
     for (int r = 1; r < grdGuess->rowCount(); ++r)
         if (!grdGuess->cell(r, 1).isEmpty())
             guesses << QStringLiteral("%1: %2").arg(grdGuess->cell(r, 0), grdGuess->cell(r, 1));
-    lines << QStringLiteral("Newton's method on ") + describeFamily() + QLatin1Char('.');
-    lines << (guesses.isEmpty()
-                  ? QStringLiteral("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
-                  : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
+    lines << Plotto::tr("Newton's method on ") + describeFamily() + QLatin1Char('.');
+    lines << (guesses.isEmpty() ? Plotto::tr("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
+                                : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
 }
 
 std::vector<GraphScreen::DragHandle> frmNewton::dragHandles()
 {
     const std::optional<double> first =
-        NewSequence ? txtGuess->number() : rt::TryVal(grdGuess->cell(1, 1).toStdString());
+        NewSequence ? txtGuess->number() : rt::TryVal(i18n::typedDecimals(grdGuess->cell(1, 1)).toStdString());
     if (!first)
         return {};
-    return {{QStringLiteral("the first guess"), *first, 0, true, [this](double x, double) { dragGuess(x); }}};
+    return {{Plotto::tr("the first guess"), *first, 0, true, [this](double x, double) { dragGuess(x); }}};
 }
 
 void frmNewton::dragGuess(double x)

@@ -13,6 +13,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
@@ -22,7 +23,7 @@ namespace {
 GraphScreen::Config paramConfig()
 {
     GraphScreen::Config c;
-    c.caption = QStringLiteral("Parametric Equation graphing");
+    c.caption = Plotto::tr("Parametric Equation graphing");
     c.surfaceWidth = 13920;
     c.coefficientCount = 6;
     c.coefficientDefaults = {"4", "3", "0", "3", "2", "0"};
@@ -47,24 +48,24 @@ frmParam::frmParam() : GraphScreen(paramConfig())
         // name          kind           caption                  place                    handlers / look
         {FORM_NAME(lblXPar),       Kind::Stepper, "x = A*Sin(Bt) + C",     {60, 3180, 1860, 300},   {.MouseDown = on(&frmParam::lblXPar_MouseDown)}},
         {FORM_NAME(lblYPar),       Kind::Stepper, "y = D*Cos(Et) + F",     {60, 3540, 1860, 300},   {.MouseDown = on(&frmParam::lblYPar_MouseDown)}},
-        {FORM_NAME(lblInstruct),   Kind::Label,   "Select x && y functions and enter their constants.",
+        {FORM_NAME(lblInstruct),   Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Select x && y functions and enter their constants."),
                                                                  {60, 3960, 2280, 600},   {}, {.wrap = true}},
-        {FORM_NAME(cmdZout),       Kind::Button,  "Zoom &Out",             {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmParam::cmdZout_Click)}},
-        {FORM_NAME(fraSetup),      Kind::Frame,   "Graphing Set up",       {kPanel, 120, kPanelWidth, 2280}, {}, {}, {
-            {FORM_NAME(lblT0),     Kind::Stepper, "Initial  t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lblT0_MouseDown)}},
+        {FORM_NAME(cmdZout),       Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Zoom &Out"),             {buttonColumn(), 3000, 1680, 420}, {.Click = on(&frmParam::cmdZout_Click)}},
+        {FORM_NAME(fraSetup),      Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Graphing Set up"),       {kPanel, 120, kPanelWidth, 2280}, {}, {}, {
+            {FORM_NAME(lblT0),     Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Initial  t ="),          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lblT0_MouseDown)}},
             {FORM_NAME(txtT0),     Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT0_Change)}},
-            {FORM_NAME(lblFinalT), Kind::Stepper, "Final  t =",            {120,   690, 1440, 300}, {.MouseDown = on(&frmParam::lblFinalT_MouseDown)}},
+            {FORM_NAME(lblFinalT), Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Final  t ="),            {120,   690, 1440, 300}, {.MouseDown = on(&frmParam::lblFinalT_MouseDown)}},
             {FORM_NAME(txtTn),     Kind::Box,     "6.3",                   {1620,  690, 840, 300},  {.Change = on(&frmParam::txtTn_Change)}},
-            {FORM_NAME(lblTstep),  Kind::Stepper, "Number of Steps",       {120,  1050, 1440, 300}, {.MouseDown = on(&frmParam::lblTstep_MouseDown)}},
+            {FORM_NAME(lblTstep),  Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Number of Steps"),       {120,  1050, 1440, 300}, {.MouseDown = on(&frmParam::lblTstep_MouseDown)}},
             {FORM_NAME(txtTstep),  Kind::Box,     "1000",                  {1620, 1050, 840, 300},  {.Change = on(&frmParam::txtTstep_Change)}},
-            {FORM_NAME(optCont),   Kind::Option,  "Connected Points",      {120,  1440, I, 300}},
-            {FORM_NAME(optPoints), Kind::Option,  "Separate Points",       {120,  1800, I, 300},    {}, {.checked = true}},
+            {FORM_NAME(optCont),   Kind::Option, QT_TRANSLATE_NOOP("Plotto", "Connected Points"),      {120,  1440, I, 300}},
+            {FORM_NAME(optPoints), Kind::Option, QT_TRANSLATE_NOOP("Plotto", "Separate Points"),       {120,  1800, I, 300},    {}, {.checked = true}},
         }},
-        {FORM_NAME(fraTrace),      Kind::Frame,   "Trace",                 {kPanel, 2520, kPanelWidth, 2400}, {}, {}, {
-            {FORM_NAME(lbltTrace), Kind::Stepper, "Trace at t =",          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lbltTrace_MouseDown)}},
+        {FORM_NAME(fraTrace),      Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Trace"),                 {kPanel, 2520, kPanelWidth, 2400}, {}, {}, {
+            {FORM_NAME(lbltTrace), Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Trace at t ="),          {120,   330, 1440, 300}, {.MouseDown = on(&frmParam::lbltTrace_MouseDown)}},
             {FORM_NAME(txtT),      Kind::Box,     "0",                     {1620,  330, 840, 300},  {.Change = on(&frmParam::txtT_Change)}},
             {FORM_NAME(lblXY),     Kind::Label,   "( ______ , _______ )",  {120,   720, I, 300}},
-            {FORM_NAME(lblTslide), Kind::Label,   "t - slider",            {120,  1140, I, 300},    {}, {.align = Qt::AlignCenter}},
+            {FORM_NAME(lblTslide), Kind::Label, QT_TRANSLATE_NOOP("Plotto", "t - slider"),            {120,  1140, I, 300},    {}, {.align = Qt::AlignCenter}},
             {FORM_NAME(HscT),      Kind::HScroll, "",                      {120,  1470, I, 255},
                 {.Change = on(&frmParam::HscT_Change), .Spoken = [this] { return QStringLiteral("t = ") + txtT->text(); }},
                 {.bar = {.min = 0, .max = 1000, .small = 1, .large = 20}}},
@@ -75,9 +76,9 @@ frmParam::frmParam() : GraphScreen(paramConfig())
     // clang-format on
     lblInstruct->setBuddy(lblXPar);  // so that "&&" shows as one ampersand
 
-    xMenu_ = addMenu(QStringLiteral("Select &x Function"));
+    xMenu_ = addMenu(Plotto::tr("Select &x Function"));
     mnuSelectX = xMenu_->menuAction();
-    yMenu_ = addMenu(QStringLiteral("Select &y Function"));
+    yMenu_ = addMenu(Plotto::tr("Select &y Function"));
     mnuSelectY = yMenu_->menuAction();
     startMenuArray(xMenu_, mnuXFunc);
     startMenuArray(yMenu_, mnuYFunc);
@@ -142,7 +143,7 @@ void frmParam::txtTn_Change() { lblTmax->setText(txtTn->text()); }
 void frmParam::txtTstep_Change()
 {
     if (txtTstep->value() > 32000) {
-        MsgBox(QStringLiteral("The maximum number of steps is 32000"), QStringLiteral("Exceeded Maximum"));
+        MsgBox(Plotto::tr("The maximum number of steps is 32000"), Plotto::tr("Exceeded Maximum"));
         txtTstep->assign(QStringLiteral("32000"));
     }
     const double steps = txtTstep->value();
@@ -169,15 +170,16 @@ void frmParam::txtT_Change()
     if (typedCurve_) {
         const double tx = CurveX(t), ty = CurveY(t);
         if (std::isnan(tx) || std::isnan(ty) || std::fabs(tx) > 3e38 || std::fabs(ty) > 3e38) {
-            lblXY->setText(QStringLiteral("(undefined at t = ") + qTrimStr(t) + QStringLiteral(")"));
+            lblXY->setText(Plotto::tr("(undefined at t = ") + shownTrimStr(t) + QStringLiteral(")"));
             return;
         }
     }
     const float x = rt::CSng(CurveX(t)), y = rt::CSng(CurveY(t));
-    lblXY->setText(QStringLiteral("(") + qStr(cut4(x)) + QStringLiteral(",") + qStr(cut4(y)) + QStringLiteral(")"));
+    lblXY->setText(QStringLiteral("(") + shownStr(cut4(x)) + QStringLiteral(",") + shownStr(cut4(y)) +
+                   QStringLiteral(")"));
     // The traced point is a kept step: a new window marks it again at its place there.
     keepDrawing(
-        QStringLiteral("the point at t = ") + qTrimStr(t),
+        Plotto::tr("the point at t = ") + shownTrimStr(t),
         [this, x, y] {
             const double column = graph.column(x), row = graph.row(y);
             if (!inside(column, row))
@@ -195,11 +197,11 @@ void frmParam::plotCurve(At at, From from)
     const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
     const bool points = optPoints->isChecked();
-    const QString name = QStringLiteral("the curve ") + lblXPar->text() + QStringLiteral(", ") + lblYPar->text() +
-                         QStringLiteral(" for t from ") + txtT0->text() + QStringLiteral(" to ") + txtTn->text();
+    const QString name = Plotto::tr("the curve ") + lblXPar->text() + QStringLiteral(", ") + lblYPar->text() +
+                         Plotto::tr(" for t from ") + txtT0->text() + QStringLiteral(" to ") + txtTn->text();
     // The figure is a kept step: a new window maps the same t values again.
     keepDrawing(
-        QStringLiteral("the parametric curve"),
+        Plotto::tr("the parametric curve"),
         [this, at, from, t0, n, dt, points, name] { drawCurve(at, from, t0, n, dt, points, name); }, typedCurve_);
 }
 
@@ -276,8 +278,15 @@ frmParam::~frmParam()
 
 std::vector<GraphScreen::FunctionPart> frmParam::functionParts()
 {
-    return {{"x", "xTyped", FuncGlobals::ParametricFamilyCount, {"t"}, shownCurve_[0], [this](int i) { mnuXFunc_Click(i); }},
-            {"y", "yTyped", FuncGlobals::ParametricFamilyCount, {"t"}, shownCurve_[1], [this](int i) { mnuYFunc_Click(i); }}};
+    return {{"x",
+             "xTyped",
+             FuncGlobals::ParametricFamilyCount,
+             {"t"},
+             shownCurve_[0],
+             [this](int i) { mnuXFunc_Click(i); }},
+            {"y", "yTyped", FuncGlobals::ParametricFamilyCount, {"t"}, shownCurve_[1], [this](int i) {
+                 mnuYFunc_Click(i);
+             }}};
 }
 
 QStringList frmParam::typedTexts() const
@@ -307,7 +316,7 @@ QString frmParam::setTypedCurve(const QString& xt, const QString& yt)
 void frmParam::mnuTypeFunction_Click()
 {
     TypedEntryLayout entry;
-    entry.title = QStringLiteral("Type a parametric curve");
+    entry.title = Plotto::tr("Type a parametric curve");
     entry.fields = {QStringLiteral("x(t) ="), QStringLiteral("y(t) =")};
     entry.initial = {typedCurve_ ? QString::fromStdString(typedCurve_->x->text()) : QString(),
                      typedCurve_ ? QString::fromStdString(typedCurve_->y->text()) : QString()};
@@ -323,7 +332,7 @@ void frmParam::mnuTypeFunction_Click()
             FuncGlobals::TypedCurve::make(texts.value(0).toStdString(), texts.value(1).toStdString(), error);
         if (!curve)
             return QString::fromStdString(error);
-        preview = QStringLiteral("Understood: x = ") + QString::fromStdString(curve->x->understood()) +
+        preview = Plotto::tr("Understood: x = ") + QString::fromStdString(curve->x->understood()) +
                   QStringLiteral(",  y = ") + QString::fromStdString(curve->y->understood());
         return QString();
     };
@@ -345,42 +354,54 @@ void frmParam::cmdZout_Click()
 void frmParam::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This screen allows you to graph parametric equations by defining the function for the x value and another "
-         "equation for the y value.  The x and y values are functions of the variable t."},
-        {"How do I graph things?",
-         "After selecting the functions by using the pull down menus for the x and y functions, enter the values you "
-         "want for A...F.  You may click [Plotto!] to see what it looks like."},
-        {"Graph Set Up",
-         "Graphing Set Up at the right allows you to change the range of t, the number of steps used, and whether you "
-         "want the points connected or not.  The initial set up is for a trig function and 1000 steps.  You may use "
-         "any range and up to 32000 steps"},
-        {"Trace?",
-         "Trace allows you to look at the point produced by any particular t value.  You may click in the box to "
-         "change the value. As soon as you do you will see the (x,y) value below and the point appear on the graph.  "
-         "You may also use the slider at the bottom to scroll to different values or even click on the slide or "
-         "arrows to move the trace point on the graph.  THe slider does not show the t= value or change the box above "
-         "it."},
-        {"Left or Right clicks",
-         "You may left click of right click on the labels for the entry boxes to raise of lower their values by 1."},
-        {"Change the size of the window?",
-         "The buttons below [Plotto!] are what they say.  Zoom in will reduce the size by a factor of 2.  Zoom Out "
-         "will "
-         "enlarge the size by a factor of 2.  You may change the window size by clicking on any of the boxes showing "
-         "teh ranges for x and y."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP("Plotto", "This screen allows you to graph parametric equations by defining the function "
+                                     "for the x value and another "
+                                     "equation for the y value.  The x and y values are functions of the variable t.")},
+        {QT_TRANSLATE_NOOP("Plotto", "How do I graph things?"),
+         QT_TRANSLATE_NOOP("Plotto", "After selecting the functions by using the pull down menus for the x and y "
+                                     "functions, enter the values you "
+                                     "want for A...F.  You may click [Plotto!] to see what it looks like.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Graph Set Up"),
+         QT_TRANSLATE_NOOP("Plotto", "Graphing Set Up at the right allows you to change the range of t, the number of "
+                                     "steps used, and whether you "
+                                     "want the points connected or not.  The initial set up is for a trig function and "
+                                     "1000 steps.  You may use "
+                                     "any range and up to 32000 steps")},
+        {QT_TRANSLATE_NOOP("Plotto", "Trace?"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Trace allows you to look at the point produced by any particular t value.  You may click in the box to "
+             "change the value. As soon as you do you will see the (x,y) value below and the point appear on the "
+             "graph.  "
+             "You may also use the slider at the bottom to scroll to different values or even click on the slide or "
+             "arrows to move the trace point on the graph.  THe slider does not show the t= value or change the box "
+             "above "
+             "it.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Left or Right clicks"),
+         QT_TRANSLATE_NOOP("Plotto", "You may left click of right click on the labels for the entry boxes to raise of "
+                                     "lower their values by 1.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Change the size of the window?"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "The buttons below [Plotto!] are what they say.  Zoom in will reduce the size by a factor of 2.  Zoom Out "
+             "will "
+             "enlarge the size by a factor of 2.  You may change the window size by clicking on any of the boxes "
+             "showing "
+             "teh ranges for x and y.")},
     });
 }
 
 void frmParam::describeResults(QStringList& lines) const
 {
     const auto& k = FuncGlobals::Coefficients;
-    lines << QStringLiteral("Parametric curve %1, %2 with A = %3, B = %4, C = %5, D = %6, E = %7, F = %8.")
-                 .arg(lblXPar->text(), lblYPar->text(), qTrimStr(k.A), qTrimStr(k.B), qTrimStr(k.C), qTrimStr(k.D),
-                      qTrimStr(k.E), qTrimStr(k.F));
-    lines << QStringLiteral("t from %1 to %2 in steps of %3, %4.")
+    lines << Plotto::tr("Parametric curve %1, %2 with A = %3, B = %4, C = %5, D = %6, E = %7, F = %8.")
+                 .arg(lblXPar->text(), lblYPar->text(), shownTrimStr(k.A), shownTrimStr(k.B), shownTrimStr(k.C),
+                      shownTrimStr(k.D), shownTrimStr(k.E), shownTrimStr(k.F));
+    lines << Plotto::tr("t from %1 to %2 in steps of %3, %4.")
                  .arg(txtT0->text(), txtTn->text(), txtTstep->text(),
-                      optCont->isChecked() ? QStringLiteral("connected points") : QStringLiteral("separate points"));
-    lines << QStringLiteral("Trace at t = %1: %2.").arg(txtT->text(), lblXY->text());
+                      optCont->isChecked() ? Plotto::tr("connected points") : Plotto::tr("separate points"));
+    lines << Plotto::tr("Trace at t = %1: %2.").arg(txtT->text(), lblXY->text());
 }
 
 std::vector<GraphScreen::DragHandle> frmParam::dragHandles()
@@ -397,7 +418,7 @@ std::vector<GraphScreen::DragHandle> frmParam::dragHandles()
     }
     if (!std::isfinite(x) || !std::isfinite(y))
         return {};
-    return {{QStringLiteral("the traced point"), x, y, false, [this](double toX, double toY) { dragTrace(toX, toY); }}};
+    return {{Plotto::tr("the traced point"), x, y, false, [this](double toX, double toY) { dragTrace(toX, toY); }}};
 }
 
 void frmParam::dragTrace(double toX, double toY)

@@ -10,6 +10,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
@@ -19,21 +20,22 @@ namespace {
 GraphScreen::Config riemannConfig()
 {
     GraphScreen::Config c;
-    c.caption = QStringLiteral("Riemann and Other Sums");
+    c.caption = Plotto::tr("Riemann and Other Sums");
     c.surfaceWidth = 14400;
     c.squareLeft = 1800;
     c.zoom = GraphScreen::Zoom::TowardsOrigin;
     c.validatingLimits = true;
     c.coefficientDefaults = {"1", "0", "0", "0", "0", "0"};
-    c.functionMenuCaption = QStringLiteral("&Select a Function");
+    c.functionMenuCaption = QT_TRANSLATE_NOOP("Plotto", "&Select a Function");
     c.functionLabelCaption = QStringLiteral("y=x^2 +1");
-    c.cleanCaption = QStringLiteral("&Clear Graph");
-    c.defaultsCaption = QStringLiteral("&Set to Defaults");
+    c.cleanCaption = QT_TRANSLATE_NOOP("Plotto", "&Clear Graph");
+    c.defaultsCaption = QT_TRANSLATE_NOOP("Plotto", "&Set to Defaults");
     return c;
 }
 
 constexpr double kPanel = 8940, kPanelWidth = 1800, kSums = 10920, kSumsWidth = 3360;
-const QString kAreaText = QStringLiteral("Area=");
+// An area label before its sum is worked out (a table caption: buildForm translates it).
+const char* const kAreaText = QT_TRANSLATE_NOOP("Plotto", "Area=");
 // The sums' rows within their frame: the first's top, and the step from one to the next.
 constexpr double kFirstSumRow = 360, kSumRow = 420;
 
@@ -49,7 +51,9 @@ std::vector<form::Control> sumRows(frmRiemann& screen)
                         {120, top, 1620, 360},
                         {},
                         {.tip = m.tip}});
-        rows.push_back({form::Slot(&(screen.*m.result), QString::fromLatin1(m.resultName)), form::Kind::Label, kAreaText,
+        rows.push_back({form::Slot(&(screen.*m.result), QString::fromLatin1(m.resultName)),
+                        form::Kind::Label,
+                        kAreaText,
                         {1800, top, 1500, 360}});
         top += kSumRow;
     }
@@ -154,13 +158,13 @@ Result simpsonSum(Parts& p, DrawingSurface::Batch& outline)
 #define SUM_MEMBERS(check, area) &frmRiemann::check, &frmRiemann::area, #check, #area
 const std::vector<frmRiemann::Method> frmRiemann::kMethods = {
     // caption          tip                                                        check and area                    colour sum      cleared by a new function
-    {"Left Endpoint",  nullptr,                                                  SUM_MEMBERS(chkLeft, lblLeftE),       2, leftSum,      true},
-    {"Right Endpoint", nullptr,                                                  SUM_MEMBERS(chkRight, lblRightE),     1, rightSum,     true},
-    {"Midpoint",       nullptr,                                                  SUM_MEMBERS(chkMid, lblMid),          4, midSum,       true},
-    {"Trapezoidal",    nullptr,                                                  SUM_MEMBERS(chkTrap, lblTrap),        5, trapezoidSum, true},
-    {"Random point",   "A random point is picked on the equal width intervals ", SUM_MEMBERS(chkRandom, lblRnd),       6, randomSum,    true},
-    {"Simpson's",      nullptr,                                                  SUM_MEMBERS(chkSimpson, lblSimpson),  3, simpsonSum,   false},
-    {"Riemann",        "Random width Interval and point on it",                  SUM_MEMBERS(chkRiemann, lblRiemann),  7, riemannSum,   true},
+    {QT_TRANSLATE_NOOP("Plotto", "Left Endpoint"),  nullptr,                                                  SUM_MEMBERS(chkLeft, lblLeftE),       2, leftSum,      true},
+    {QT_TRANSLATE_NOOP("Plotto", "Right Endpoint"), nullptr,                                                  SUM_MEMBERS(chkRight, lblRightE),     1, rightSum,     true},
+    {QT_TRANSLATE_NOOP("Plotto", "Midpoint"),       nullptr,                                                  SUM_MEMBERS(chkMid, lblMid),          4, midSum,       true},
+    {QT_TRANSLATE_NOOP("Plotto", "Trapezoidal"),    nullptr,                                                  SUM_MEMBERS(chkTrap, lblTrap),        5, trapezoidSum, true},
+    {QT_TRANSLATE_NOOP("Plotto", "Random point"),   QT_TRANSLATE_NOOP("Plotto", "A random point is picked on the equal width intervals "), SUM_MEMBERS(chkRandom, lblRnd),       6, randomSum,    true},
+    {QT_TRANSLATE_NOOP("Plotto", "Simpson's"),      nullptr,                                                  SUM_MEMBERS(chkSimpson, lblSimpson),  3, simpsonSum,   false},
+    {QT_TRANSLATE_NOOP("Plotto", "Riemann"),        QT_TRANSLATE_NOOP("Plotto", "Random width Interval and point on it"),                  SUM_MEMBERS(chkRiemann, lblRiemann),  7, riemannSum,   true},
 };
 #undef SUM_MEMBERS
 // clang-format on
@@ -183,10 +187,10 @@ frmRiemann::frmRiemann() : GraphScreen(riemannConfig())
     const double tops[] = {600, 1680, 2220, 2760};
     for (int i = 0; i < 4; ++i)
         placeTwips(column[i], kPanel, tops[i], kPanelWidth, 420);
-    cmdZoomIn->setToolTip(QStringLiteral("Cut the scale in half"));
+    cmdZoomIn->setToolTip(Plotto::tr("Cut the scale in half"));
     buildSumsPanel();
     Form_Load();
-    convergence = addConvergenceMenu(this, menuBar, QStringLiteral("Convergence of the sums"), [this] {
+    convergence = addConvergenceMenu(this, menuBar, Plotto::tr("Convergence of the sums"), [this] {
         const QString unusable = notNumbers({{lblLBound->text(), txtLBound}, {lblRBound->text(), txtRBound}});
         if (!unusable.isEmpty())
             return Convergence::sumsWithout(unusable.toStdString());
@@ -202,20 +206,20 @@ void frmRiemann::buildSumsPanel()
     // clang-format off
     form::buildForm(surface, {
         // name           kind           caption                  place               handlers / look
-        {FORM_NAME(cmdCleanParts),  Kind::Button,  "&Erase Partitions",     {P, 1140, W, 420},  {.Click = on(&frmRiemann::cmdCleanParts_Click)}},
-        {FORM_NAME(lblPartitions),  Kind::Stepper, "Number of Partitions",  {P, 3420, W, 300},  {.MouseDown = on(&frmRiemann::lblPartitions_MouseDown)}},
+        {FORM_NAME(cmdCleanParts),  Kind::Button, QT_TRANSLATE_NOOP("Plotto", "&Erase Partitions"),     {P, 1140, W, 420},  {.Click = on(&frmRiemann::cmdCleanParts_Click)}},
+        {FORM_NAME(lblPartitions),  Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Number of Partitions"),  {P, 3420, W, 300},  {.MouseDown = on(&frmRiemann::lblPartitions_MouseDown)}},
         {FORM_NAME(txtParts),       Kind::Box,     "1",                     {P, 3720, W, 300},  {.Change = on(&frmRiemann::txtParts_Change)}},
-        {FORM_NAME(cmdDouble),      Kind::Button,  "&Double Partitions",    {P, 4140, W, 420},  {.Click = on(&frmRiemann::cmdDouble_Click)},
-                                                                                     {.tip = "Automatically double Number of Partitions"}},
-        {FORM_NAME(cmdParts),       Kind::Button,  "Graph &Partitions",     {P, 4680, W, 420},  {.Click = on(&frmRiemann::cmdParts_Click)},
-                                                                                     {.tip = "See the partitions from the Riemann Sums"}},
-        {FORM_NAME(lblLBound),      Kind::Stepper, "Left Boundary",         {P, 5340, W, 300},  {.MouseDown = on(&frmRiemann::lblLBound_MouseDown)}},
+        {FORM_NAME(cmdDouble),      Kind::Button, QT_TRANSLATE_NOOP("Plotto", "&Double Partitions"),    {P, 4140, W, 420},  {.Click = on(&frmRiemann::cmdDouble_Click)},
+                                                                                     {.tip = QT_TRANSLATE_NOOP("Plotto", "Automatically double Number of Partitions")}},
+        {FORM_NAME(cmdParts),       Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Graph &Partitions"),     {P, 4680, W, 420},  {.Click = on(&frmRiemann::cmdParts_Click)},
+                                                                                     {.tip = QT_TRANSLATE_NOOP("Plotto", "See the partitions from the Riemann Sums")}},
+        {FORM_NAME(lblLBound),      Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Left Boundary"),         {P, 5340, W, 300},  {.MouseDown = on(&frmRiemann::lblLBound_MouseDown)}},
         {FORM_NAME(txtLBound),      Kind::Box,     "-2",                    {P, 5640, W, 300},  {.Change = on(&frmRiemann::txtLBound_Change)}},
-        {FORM_NAME(lblRBound),      Kind::Stepper, "Right Boundary",        {P, 6060, W, 300},  {.MouseDown = on(&frmRiemann::lblRBound_MouseDown)}},
+        {FORM_NAME(lblRBound),      Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Right Boundary"),        {P, 6060, W, 300},  {.MouseDown = on(&frmRiemann::lblRBound_MouseDown)}},
         {FORM_NAME(txtRBound),      Kind::Box,     "2",                     {P, 6360, W, 300},  {.Change = on(&frmRiemann::txtRBound_Change)}},
-        {FORM_NAME(lblAreas),       Kind::Label,   "AREA",                  {kSums, 240, kSumsWidth, 300}, {}, {.align = Qt::AlignCenter}},
-        {FORM_NAME(fraSums),        Kind::Frame,   "Area Sums",             {kSums, 600, kSumsWidth, kFirstSumRow + kSumRow * double(kMethods.size())}, {},
-                                                                  {.tip = "Check one to see partitions when clicking Graph Partitions"}, sumRows(*this)},
+        {FORM_NAME(lblAreas),       Kind::Label, QT_TRANSLATE_NOOP("Plotto", "AREA"),                  {kSums, 240, kSumsWidth, 300}, {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(fraSums),        Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Area Sums"),             {kSums, 600, kSumsWidth, kFirstSumRow + kSumRow * double(kMethods.size())}, {},
+                                                                  {.tip = QT_TRANSLATE_NOOP("Plotto", "Check one to see partitions when clicking Graph Partitions")}, sumRows(*this)},
     });
     // clang-format on
 }
@@ -264,14 +268,14 @@ void frmRiemann::mnuFunc_Click(int Index)
 void frmRiemann::showResult(ClickLabel* label, const RiemannSums::Result& result)
 {
     if (result.odd) {
-        label->setText(QStringLiteral("Parts not even #"));
+        label->setText(Plotto::tr("Parts not even #"));
         return;
     }
     if (result.gap) {
-        label->setText(QStringLiteral("undefined at x = ") + qTrimStr(result.gapAt));
+        label->setText(Plotto::tr("undefined at x = ") + shownTrimStr(result.gapAt));
         return;
     }
-    label->setText(result.error ? QStringLiteral("= error!") : QStringLiteral("= ") + qStr(result.area));
+    label->setText(result.error ? Plotto::tr("= error!") : QStringLiteral("= ") + shownStr(result.area));
 }
 
 void frmRiemann::functionReplaced() { resetAreas(); }
@@ -280,12 +284,12 @@ void frmRiemann::resetAreas()
 {
     for (const Method& m : kMethods)
         if (m.clearedByNewFunction)
-            (this->*m.result)->setText(kAreaText);
+            (this->*m.result)->setText(Plotto::tr(kAreaText));
 }
 
 void frmRiemann::cmdParts_Click()
 {
-    lblAreas->setText(QStringLiteral("Working"));
+    lblAreas->setText(Plotto::tr("Working"));
     lblAreas->repaint();
     rt::cleanVectorStateForHotLoop();
 
@@ -305,7 +309,7 @@ void frmRiemann::cmdParts_Click()
                 // random sums with the same draws), standing on that window's axis.
                 auto done = std::make_shared<std::pair<RiemannSums::Result, std::vector<audio::Point>>>();
                 keepDrawing(
-                    QString::fromLatin1(m.caption) + QStringLiteral(" bars"),
+                    Plotto::tr(m.caption) + Plotto::tr(" bars"),
                     [this, &m, L = parts.L, R = parts.R, dx = parts.dx, n, done] {
                         Parts drawn{*this, L, R, dx, n, static_cast<double>(graph.YOrigin), {}};
                         DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(m.colour)));
@@ -313,13 +317,13 @@ void frmRiemann::cmdParts_Click()
                         done->second = std::move(drawn.heights);
                     },
                     typed_);
-                noteTraced(drawnCurve(QString::fromLatin1(m.caption) + QStringLiteral(" bars of ") + describeFamily(),
+                noteTraced(drawnCurve(Plotto::tr(m.caption) + Plotto::tr(" bars of ") + describeFamily(),
                                       std::move(done->second)));
                 showResult(label, done->first);
             },
-            [label](const rt::RuntimeError&) { label->setText(QStringLiteral("= too large")); });
+            [label](const rt::RuntimeError&) { label->setText(Plotto::tr("= too large")); });
     }
-    lblAreas->setText(QStringLiteral("Area"));
+    lblAreas->setText(Plotto::tr("Area"));
 }
 
 void frmRiemann::txtParts_Change()
@@ -327,12 +331,12 @@ void frmRiemann::txtParts_Change()
     const double v = txtParts->value();
     if (v <= 32000) {
         if (!(v >= 1)) {
-            MsgBox(QStringLiteral("Partitions must be a positive number"), QStringLiteral("Positive only"));
+            MsgBox(Plotto::tr("Partitions must be a positive number"), Plotto::tr("Positive only"));
             txtParts->assign(QStringLiteral("1"));
         }
         PartitionCount = rt::CLng(rt::Int(txtParts->value()));
     } else {
-        MsgBox(QStringLiteral("The limit to the number of partitions is 32000"), QStringLiteral("Limit Reached"));
+        MsgBox(Plotto::tr("The limit to the number of partitions is 32000"), Plotto::tr("Limit Reached"));
         PartitionCount = 32000;
         txtParts->assign(QStringLiteral("32000"));
     }
@@ -373,40 +377,55 @@ void frmRiemann::txtRBound_Change()
 void frmRiemann::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This form was written to demonstrate various Riemann and other Sums used to find areas under functions."},
-        {"Plotting a function and Sizing",
-         "Select a Function from the functions menu.  Click [Plotto!] to see it in the window.  Set the window size "
-         "by entering values for Xmin, Xmax, Ymin, and Ymax or in the boxes around the window."},
-        {"Plotto! , Zoom In and Set to Defaults",
-         "You must [Plotto!] after selecting a function to see it.  This also clears the window.  The [Zoom In] button "
-         "reduces each edge in half and re-graphs the function. The [Set to Defaults] are -10 by 10."},
-        {"Riemann choices and [Graph Partitions]",
-         "Check the box for a Riemann Sum method at the right.  The rectangles and the computed areas will appear "
-         "after clicking the [Graph Partitions] Button.  You may click one, many or all the check boxes to see the "
-         "various area values."},
-        {"Partitions for the Riemann Sums",
-         "You may type in up to 32000 for the number of partitions.  You may also automatically double the number of "
-         "partitions with the [Double Partitions] button.  The number of partitions determines the width of each "
-         "interval except for the Riemann method.  The Riemann method breaks the total interval into random width "
-         "sub-intervals and selects random points in each sub-interval.  The Riemann method only uses a maximum of "
-         "2000 partitions."},
-        {"Left and Right Boundaries",
-         "The Left boundary and Right boundary determine the width of the interval for the area.  The Boundaries must "
-         "be in the window.  If the y value is outside the window the partition will not show up on the graph but the "
-         "area will be computed correctly."},
-        {"Clicking light green labels",
-         "As for most of the light green labels in this program, you may left click to increase the box by one or "
-         "right click to decreased it by one."},
-        {"Window limit changes < , >",
-         "Notice the < and > green labels next to the window limits.  Clicking on the Arrows will increase or decrease "
-         "the window limit by one.  Double clicking will increase or decrease it by 5."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP("Plotto", "This form was written to demonstrate various Riemann and other Sums used to find "
+                                     "areas under functions.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Plotting a function and Sizing"),
+         QT_TRANSLATE_NOOP("Plotto",
+                           "Select a Function from the functions menu.  Click [Plotto!] to see it in the window.  Set "
+                           "the window size "
+                           "by entering values for Xmin, Xmax, Ymin, and Ymax or in the boxes around the window.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Plotto! , Zoom In and Set to Defaults"),
+         QT_TRANSLATE_NOOP(
+             "Plotto", "You must [Plotto!] after selecting a function to see it.  This also clears the window.  The "
+                       "[Zoom In] button "
+                       "reduces each edge in half and re-graphs the function. The [Set to Defaults] are -10 by 10.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Riemann choices and [Graph Partitions]"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Check the box for a Riemann Sum method at the right.  The rectangles and the computed areas will appear "
+             "after clicking the [Graph Partitions] Button.  You may click one, many or all the check boxes to see the "
+             "various area values.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Partitions for the Riemann Sums"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "You may type in up to 32000 for the number of partitions.  You may also automatically double the number "
+             "of "
+             "partitions with the [Double Partitions] button.  The number of partitions determines the width of each "
+             "interval except for the Riemann method.  The Riemann method breaks the total interval into random width "
+             "sub-intervals and selects random points in each sub-interval.  The Riemann method only uses a maximum of "
+             "2000 partitions.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Left and Right Boundaries"),
+         QT_TRANSLATE_NOOP("Plotto", "The Left boundary and Right boundary determine the width of the interval for the "
+                                     "area.  The Boundaries must "
+                                     "be in the window.  If the y value is outside the window the partition will not "
+                                     "show up on the graph but the "
+                                     "area will be computed correctly.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Clicking light green labels"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "As for most of the light green labels in this program, you may left click to increase the box by one or "
+             "right click to decreased it by one.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Window limit changes < , >"),
+         QT_TRANSLATE_NOOP("Plotto", "Notice the < and > green labels next to the window limits.  Clicking on the "
+                                     "Arrows will increase or decrease "
+                                     "the window limit by one.  Double clicking will increase or decrease it by 5.")},
     });
 }
 
 void frmRiemann::describeResults(QStringList& lines) const
 {
-    lines << QStringLiteral("Area under %1 from %2 to %3 with %4 partitions: %5.")
+    lines << Plotto::tr("Area under %1 from %2 to %3 with %4 partitions: %5.")
                  .arg(describeFamily(), txtLBound->text(), txtRBound->text(), txtParts->text(), lblAreas->text());
     for (const Method& m : kMethods) {
         const CheckBox* check = this->*m.check;

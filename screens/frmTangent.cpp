@@ -7,6 +7,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 
@@ -15,7 +16,7 @@ namespace {
 GraphScreen::Config tangentConfig()
 {
     GraphScreen::Config c;
-    c.caption = QStringLiteral("The Tangent Line Problem");
+    c.caption = Plotto::tr("The Tangent Line Problem");
     c.surfaceWidth = 13800;
     return c;
 }
@@ -35,23 +36,23 @@ frmTangent::frmTangent() : GraphScreen(tangentConfig())
     // clang-format off
     form::buildForm(surface, {
         // name       kind           caption                          place                       handlers / look
-        {FORM_NAME(lblTan),     Kind::Label,   "Tangent Problem Set up",        {L, 240, W, 300},            {}, {.align = Qt::AlignCenter}},
-        {FORM_NAME(lblXat),     Kind::Stepper, "Tangent at x =",                {L, 600, 1380, 300},         {.MouseDown = on(&frmTangent::lblXat_MouseDown)}},
+        {FORM_NAME(lblTan),     Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Tangent Problem Set up"),        {L, 240, W, 300},            {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblXat),     Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Tangent at x ="),                {L, 600, 1380, 300},         {.MouseDown = on(&frmTangent::lblXat_MouseDown)}},
         {FORM_NAME(txtX),       Kind::Box,     "1",                             {box, 600, W - 1440, 300},   {.Change = on(&frmTangent::txtX_Change)}},
-        {FORM_NAME(lblDeltaX),  Kind::Stepper, "Delta x",                       {L, 960, 1380, 300},         {.MouseDown = on(&frmTangent::lblDeltaX_MouseDown)}},
+        {FORM_NAME(lblDeltaX),  Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Delta x"),                       {L, 960, 1380, 300},         {.MouseDown = on(&frmTangent::lblDeltaX_MouseDown)}},
         {FORM_NAME(txtDeltaX),  Kind::Box,     "1",                             {box, 960, W - 1440, 300}},
-        {FORM_NAME(cmdApply),   Kind::Button,  "&Apply to graph",               {L, 1380, W, 420},           {.Click = on(&frmTangent::cmdApply_Click)}},
-        {FORM_NAME(cmdHalfDx),  Kind::Button,  "Half Delta x",                  {L, 1860, W, 420},           {.Click = on(&frmTangent::cmdHalfDx_Click)}},
-        {FORM_NAME(lblSlide),   Kind::Label,   "Delta X slider",                {L, 2460, W, 300},           {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(cmdApply),   Kind::Button, QT_TRANSLATE_NOOP("Plotto", "&Apply to graph"),               {L, 1380, W, 420},           {.Click = on(&frmTangent::cmdApply_Click)}},
+        {FORM_NAME(cmdHalfDx),  Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Half Delta x"),                  {L, 1860, W, 420},           {.Click = on(&frmTangent::cmdHalfDx_Click)}},
+        {FORM_NAME(lblSlide),   Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Delta X slider"),                {L, 2460, W, 300},           {}, {.align = Qt::AlignCenter}},
         {FORM_NAME(hscDx),      Kind::HScroll, "",                              {L, 2760, W, 255},           {.Change = on(&frmTangent::hscDx_Change), .Spoken = [this] { return spokenDeltaX(); }},
                                                                                                    {.bar = {.min = 0, .max = 2000, .small = 1, .large = 100, .value = 2000}}},
-        {FORM_NAME(lblxminuDx), Kind::Label,   "x-dx",                          {L, 3060, 600, 300}},
+        {FORM_NAME(lblxminuDx), Kind::Label, QT_TRANSLATE_NOOP("Plotto", "x-dx"),                          {L, 3060, 600, 300}},
         {FORM_NAME(lblHsc),     Kind::Label,   "x=1",                           {L + 630, 3060, 1200, 300},  {}, {.align = Qt::AlignHCenter | Qt::AlignTop}},
-        {FORM_NAME(lblXaddDx),  Kind::Label,   "x+dx",                          {L + W - 600, 3060, 600, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
+        {FORM_NAME(lblXaddDx),  Kind::Label, QT_TRANSLATE_NOOP("Plotto", "x+dx"),                          {L + W - 600, 3060, 600, 300}, {}, {.align = Qt::AlignRight | Qt::AlignTop}},
         // Stands out to the left of the column, clear of the window's right edge.
-        {FORM_NAME(fraApply),   Kind::Frame,   "Secant Line Results",           {L - 120, 3540, W + 120, 1500}, {}, {}, {
-            {FORM_NAME(lblPoints), Kind::Label, "( ___, ___ ) to ( ___ , ___ )", {120, 360, W, 420},        {}, {.wrap = true}},
-            {FORM_NAME(lblTLine),  Kind::Label, "Line Equation",                 {120, 900, W, 420},        {}, {.wrap = true}},
+        {FORM_NAME(fraApply),   Kind::Frame, QT_TRANSLATE_NOOP("Plotto", "Secant Line Results"),           {L - 120, 3540, W + 120, 1500}, {}, {}, {
+            {FORM_NAME(lblPoints), Kind::Label, QT_TRANSLATE_NOOP("Plotto", "( ___, ___ ) to ( ___ , ___ )"), {120, 360, W, 420},        {}, {.wrap = true}},
+            {FORM_NAME(lblTLine),  Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Line Equation"),                 {120, 900, W, 420},        {}, {.wrap = true}},
         }},
     });
     // clang-format on
@@ -61,8 +62,8 @@ frmTangent::frmTangent() : GraphScreen(tangentConfig())
 QString frmTangent::spokenDeltaX() const
 {
     const std::optional<double> dx = txtDeltaX->number();
-    return QStringLiteral("Delta x = ") +
-           (dx ? qTrimStr((hscDx->value() - 1000) * *dx / 1000) : txtDeltaX->text() + QStringLiteral(", not a number"));
+    return Plotto::tr("Delta x = ") +
+           (dx ? shownTrimStr((hscDx->value() - 1000) * *dx / 1000) : txtDeltaX->text() + Plotto::tr(", not a number"));
 }
 
 void frmTangent::DrawSecant(double dx)
@@ -80,18 +81,18 @@ void frmTangent::drawSecant(double dx)
     // through the same computation, clipped to that window.
     auto result = std::make_shared<Secant>();
     keepDrawing(
-        QStringLiteral("the secant from x = ") + qTrimStr(x1),
+        Plotto::tr("the secant from x = ") + shownTrimStr(x1),
         [this, x1, dx, result] { *result = secantLines(x1, dx); }, typed_, QStringLiteral("secants"));
     const Secant& r = *result;
     if (r.x2 == r.x1) {
-        lblTLine->setText(QStringLiteral("ERROR!  0/0"));
+        lblTLine->setText(Plotto::tr("ERROR!  0/0"));
         return;
     }
-    auto P = [](double v) { return qStr(cut(v, 10000)); };
+    auto P = [](double v) { return shownStr(cut(v, 10000)); };
     lblPoints->setText(QStringLiteral("(") + P(r.x1) + QStringLiteral(",") + P(r.y1) + QStringLiteral(") to (") +
                        P(r.x2) + QStringLiteral(",") + P(r.y2) + QStringLiteral(")"));
-    lblTLine->setText(QStringLiteral("y = ") + qTrimStr(cut(r.m, 100000)) + QStringLiteral("x + ") +
-                      qTrimStr(cut(r.b, 1000)));
+    lblTLine->setText(QStringLiteral("y = ") + shownTrimStr(cut(r.m, 100000)) + QStringLiteral("x + ") +
+                      shownTrimStr(cut(r.b, 1000)));
 }
 
 frmTangent::Secant frmTangent::secantLines(double x1, double dx)
@@ -155,44 +156,55 @@ void frmTangent::lblDeltaX_MouseDown(int Button, int, double, double) { stepBox(
 void frmTangent::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This screen is to demonstrate the classic slope of the tangent line problem.  You may select any function "
-         "from the menu.  Choose values for the A,B,...,E variables for your function and Plotto."},
-        {"Tangent Set up Selections",
-         "The secant lines will be graphed using the buttons, text boxes and glider at the right.  Select the initial "
-         "point for the secant line by placing a value in the 'Tangent at x =' box.  Choose the Delta x.  This the "
-         "distance from your choice of x and is the longest distance for the slider.  The delta x may be negative.  "
-         "The slider may be scrolled to either side of your initial x."},
-        {"Show the secants and the results",
-         "Clicking on [Apply It] will draw the secant line and show the points on the graph and the equation of the "
-         "line.  If you click on [Half Delta x], your delta x will be cut in half.  You may click [Apply It] to see "
-         "the new line."},
-        {"Slider",
-         "Clicking or scrolling the slider will change delta x and graph the secant line when releasing the mouse "
-         "button.  You may see the points and the equation for each new change of the slider.  Notice the x-dx, x=  , "
-         "and x+dx at the bottom of the slider.  This should help to know which way your secant line is going."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP("Plotto",
+                           "This screen is to demonstrate the classic slope of the tangent line problem.  You may "
+                           "select any function "
+                           "from the menu.  Choose values for the A,B,...,E variables for your function and Plotto.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Tangent Set up Selections"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "The secant lines will be graphed using the buttons, text boxes and glider at the right.  Select the "
+             "initial "
+             "point for the secant line by placing a value in the 'Tangent at x =' box.  Choose the Delta x.  This the "
+             "distance from your choice of x and is the longest distance for the slider.  The delta x may be negative. "
+             " "
+             "The slider may be scrolled to either side of your initial x.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Show the secants and the results"),
+         QT_TRANSLATE_NOOP("Plotto", "Clicking on [Apply It] will draw the secant line and show the points on the "
+                                     "graph and the equation of the "
+                                     "line.  If you click on [Half Delta x], your delta x will be cut in half.  You "
+                                     "may click [Apply It] to see "
+                                     "the new line.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Slider"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Clicking or scrolling the slider will change delta x and graph the secant line when releasing the mouse "
+             "button.  You may see the points and the equation for each new change of the slider.  Notice the x-dx, x= "
+             " , "
+             "and x+dx at the bottom of the slider.  This should help to know which way your secant line is going.")},
     });
 }
 
 void frmTangent::describeResults(QStringList& lines) const
 {
-    lines << QStringLiteral("Tangent problem for ") + describeFamily() + QStringLiteral(" at x = ") + txtX->text() +
-                 QStringLiteral(", Delta x = ") + txtDeltaX->text() + QLatin1Char('.');
-    lines << QStringLiteral("Secant through ") + lblPoints->text() + QStringLiteral(": ") + lblTLine->text() +
+    lines << Plotto::tr("Tangent problem for ") + describeFamily() + QStringLiteral(" at x = ") + txtX->text() +
+                 Plotto::tr(", Delta x = ") + txtDeltaX->text() + QLatin1Char('.');
+    lines << Plotto::tr("Secant through ") + lblPoints->text() + QStringLiteral(": ") + lblTLine->text() +
                  QLatin1Char('.');
     if (typedInUse()) {
         // The exact tangent the secants turn into, from the symbolic derivative.
         const std::optional<double> at = txtX->number();
         if (!at) {
-            lines << QStringLiteral("No exact tangent: x = %1 is not a number.").arg(txtX->text());
+            lines << Plotto::tr("No exact tangent: x = %1 is not a number.").arg(txtX->text());
             return;
         }
         const double x = *at, y = FuncGlobals::ExplicitValue(x), m = FuncGlobals::ExplicitSlope(x);
         const double b = y - m * x;
         lines << (std::isnan(m) || !std::isfinite(b)
-                      ? QStringLiteral("The tangent at x = %1 has no slope there.").arg(qTrimStr(x))
-                      : QStringLiteral("The exact tangent at x = %1: y = %2x + %3.")
-                            .arg(qTrimStr(x), qTrimStr(m), qTrimStr(b)));
+                      ? Plotto::tr("The tangent at x = %1 has no slope there.").arg(shownTrimStr(x))
+                      : Plotto::tr("The exact tangent at x = %1: y = %2x + %3.")
+                            .arg(shownTrimStr(x), shownTrimStr(m), shownTrimStr(b)));
     }
 }
 
@@ -204,7 +216,7 @@ std::vector<GraphScreen::DragHandle> frmTangent::dragHandles()
     const double y = FuncGlobals::ExplicitSnapshot(FuncGlobals::ExplicitSnapshot::What::Value, typed_).at(*x);
     if (!std::isfinite(y))
         return {};
-    std::vector<DragHandle> handles{{QStringLiteral("the point of tangency"), *x, y, true, [this](double to, double) {
+    std::vector<DragHandle> handles{{Plotto::tr("the point of tangency"), *x, y, true, [this](double to, double) {
                                          eraseKept(QStringLiteral("secants"));
                                          runForDrag([&] {
                                              txtX->assign(draggedValue(to));
@@ -218,7 +230,7 @@ std::vector<GraphScreen::DragHandle> frmTangent::dragHandles()
            : std::nan("");
     if (std::isfinite(y2) && *dx != 0)
         handles.push_back(
-            {QStringLiteral("the point at x + Delta x"), *x + *dx, y2, true, [this, at = *x](double to, double) {
+            {Plotto::tr("the point at x + Delta x"), *x + *dx, y2, true, [this, at = *x](double to, double) {
                  eraseKept(QStringLiteral("secants"));
                  runForDrag([&] {
                      txtDeltaX->assign(draggedValue(to - at));

@@ -10,6 +10,7 @@
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/DrawingStyle.h"
+#include "graphwin/Language.h"
 #include "runtime/Numbers.h"
 
 using FuncGlobals::TaylorSeries;
@@ -21,7 +22,7 @@ GraphScreen::Config taylorConfig()
 {
     GraphScreen::Config c;
     c.errorsInWords = true;
-    c.caption = QStringLiteral("Taylor Polynomials");
+    c.caption = Plotto::tr("Taylor Polynomials");
     c.surfaceWidth = 17200;
     return c;
 }
@@ -40,7 +41,7 @@ double horner(const std::vector<double>& c, double h)
     return p;
 }
 
-QString shown(double v) { return std::isfinite(v) ? QString::number(v, 'g', 9) : QStringLiteral("--"); }
+QString shown(double v) { return std::isfinite(v) ? i18n::decimals(QString::number(v, 'g', 9)) : QStringLiteral("--"); }
 
 }  // namespace
 
@@ -52,18 +53,18 @@ frmTaylor::frmTaylor() : GraphScreen(taylorConfig())
     // clang-format off
     form::buildForm(surface, {
         // name                   kind           caption             place                          handlers / look
-        {FORM_NAME(lblTaylor),     Kind::Label,   "Taylor Polynomials", {C, 3060, W, 300},             {}, {.align = Qt::AlignCenter}},
-        {FORM_NAME(lblCentre),     Kind::Stepper, "Centre a =",         {C, 3420, 1000, 300},          {.MouseDown = on(&frmTaylor::lblCentre_MouseDown)}},
+        {FORM_NAME(lblTaylor),     Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Taylor Polynomials"), {C, 3060, W, 300},             {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblCentre),     Kind::Stepper, QT_TRANSLATE_NOOP("Plotto", "Centre a ="),         {C, 3420, 1000, 300},          {.MouseDown = on(&frmTaylor::lblCentre_MouseDown)}},
         {FORM_NAME(txtCentre),     Kind::Box,     "0",                  {C + 1000, 3420, W - 1000, 300}},
-        {FORM_NAME(cmdAddTerm),    Kind::Button,  "&Add a Term",        {C, 3840, W, 420},             {.Click = on(&frmTaylor::cmdAddTerm_Click)}},
-        {FORM_NAME(cmdRemoveTerm), Kind::Button,  "Remo&ve a Term",     {C, 4320, W, 420},             {.Click = on(&frmTaylor::cmdRemoveTerm_Click)}},
-        {FORM_NAME(lblTolerance),  Kind::Label,   "Tolerance",          {C, 4860, 1000, 300}},
+        {FORM_NAME(cmdAddTerm),    Kind::Button, QT_TRANSLATE_NOOP("Plotto", "&Add a Term"),        {C, 3840, W, 420},             {.Click = on(&frmTaylor::cmdAddTerm_Click)}},
+        {FORM_NAME(cmdRemoveTerm), Kind::Button, QT_TRANSLATE_NOOP("Plotto", "Remo&ve a Term"),     {C, 4320, W, 420},             {.Click = on(&frmTaylor::cmdRemoveTerm_Click)}},
+        {FORM_NAME(lblTolerance),  Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Tolerance"),          {C, 4860, 1000, 300}},
         {FORM_NAME(txtTolerance),  Kind::Box,     "0.1",                {C + 1000, 4860, W - 1000, 300}},
-        {FORM_NAME(lblDegree),     Kind::Label,   "Degree: none",       {C, 5280, W, 300},             {}, {.align = Qt::AlignCenter}},
-        {FORM_NAME(lblAtX),        Kind::Label,   "at x =",             {R, 240, 700, 300}},
+        {FORM_NAME(lblDegree),     Kind::Label, QT_TRANSLATE_NOOP("Plotto", "Degree: none"),       {C, 5280, W, 300},             {}, {.align = Qt::AlignCenter}},
+        {FORM_NAME(lblAtX),        Kind::Label, QT_TRANSLATE_NOOP("Plotto", "at x ="),             {R, 240, 700, 300}},
         {FORM_NAME(txtAtX),        Kind::Box,     "1",                  {R + 720, 240, 1000, 300},     {.Change = on(&frmTaylor::txtAtX_Change)}},
-        {FORM_NAME(chkLagrange),   Kind::Check,   "&Lagrange bound",    {R + 1980, 240, 2200, 300},    {.Click = on(&frmTaylor::chkLagrange_Click)}},
-        {FORM_NAME(grdTerms),      Kind::Grid,    "",                   {R, 600, kRightWidth, 4800},   {}, {.name = "Taylor terms", .rows = kGridRows, .columns = 5}},
+        {FORM_NAME(chkLagrange),   Kind::Check, QT_TRANSLATE_NOOP("Plotto", "&Lagrange bound"),    {R + 1980, 240, 2200, 300},    {.Click = on(&frmTaylor::chkLagrange_Click)}},
+        {FORM_NAME(grdTerms),      Kind::Grid,    "",                   {R, 600, kRightWidth, 4800},   {}, {.name = QT_TRANSLATE_NOOP("Plotto", "Taylor terms"), .rows = kGridRows, .columns = 5}},
         {FORM_NAME(lblStatus),     Kind::Label,   "",                   {R, 5520, kRightWidth, 1300},  {}, {.wrap = true}},
     });
     // clang-format on
@@ -128,7 +129,7 @@ TaylorSeries* frmTaylor::series()
     const auto& k = FuncGlobals::Coefficients;
     // Every digit of the centre and the coefficients: a change in the last one is another series.
     QString key = typed_ ? QStringLiteral("typed ") + QString::fromStdString(typed_->f->text())
-                         : QStringLiteral("family %1").arg(FuncGlobals::FunctionId);
+                         : Plotto::tr("family %1").arg(FuncGlobals::FunctionId);
     for (double v : {a, k.A, k.B, k.C, k.D, k.E})
         key += QLatin1Char(' ') + QString::number(v, 'g', 17);
     if (!series_ || key != seriesKey_) {
@@ -145,19 +146,19 @@ void frmTaylor::showDegree(int n)
     TaylorSeries& s = *series();
     const TaylorTerm& last = s.term(degree_);
     if (!s.refusal().empty())
-        status_ = QStringLiteral("No Taylor polynomial: ") + QString::fromStdString(s.refusal()) + QLatin1Char('.');
+        status_ = Plotto::tr("No Taylor polynomial: ") + QString::fromStdString(s.refusal()) + QLatin1Char('.');
     else if (last.state != TaylorTerm::State::Found)
-        status_ = QStringLiteral("No Taylor polynomial of degree %1 about a = %2: %3.")
+        status_ = Plotto::tr("No Taylor polynomial of degree %1 about a = %2: %3.")
                       .arg(degree_)
-                      .arg(qTrimStr(s.centre()), QString::fromStdString(last.why));
+                      .arg(shownTrimStr(s.centre()), QString::fromStdString(last.why));
     else
         status_ =
-            QStringLiteral("P_%1 about a = %2 in red%3; the green band on the x axis is where |f - P_%1| < %4.")
+            Plotto::tr("P_%1 about a = %2 in red%3; the green band on the x axis is where |f - P_%1| < %4.")
                 .arg(degree_)
-                .arg(qTrimStr(s.centre()), degree_ > 0 ? QStringLiteral(", P_%1 faint").arg(degree_ - 1) : QString(),
+                .arg(shownTrimStr(s.centre()), degree_ > 0 ? Plotto::tr(", P_%1 faint").arg(degree_ - 1) : QString(),
                      txtTolerance->text().trimmed());
     if (degree_ == TaylorSeries::kMaxDegree && n > degree_)
-        status_ += QStringLiteral(" Degree %1 is the last this screen works out.").arg(degree_);
+        status_ += Plotto::tr(" Degree %1 is the last this screen works out.").arg(degree_);
     draw();
     fillGrid();
 }
@@ -177,9 +178,9 @@ void frmTaylor::draw()
     const FuncGlobals::ExplicitSnapshot f(FuncGlobals::ExplicitSnapshot::What::Value, typed_);
     eraseKept(QStringLiteral("taylor"));
     keepDrawing(
-        QStringLiteral("the Taylor polynomial of degree %1 about %2 of %3")
+        Plotto::tr("the Taylor polynomial of degree %1 about %2 of %3")
             .arg(degree_)
-            .arg(qTrimStr(picture->centre), describeFamily()),
+            .arg(shownTrimStr(picture->centre), describeFamily()),
         [this, picture, f] { drawPicture(*picture, f); }, typed_, QStringLiteral("taylor"));
 }
 
@@ -238,7 +239,7 @@ void frmTaylor::fillGrid()
     for (int r = 1; r < kGridRows; ++r)
         for (int c = 1; c < 5; ++c)
             grdTerms->setCell(r, c, QString());
-    lblDegree->setText(degree_ < 0 ? QStringLiteral("Degree: none") : QStringLiteral("Degree: %1").arg(degree_));
+    lblDegree->setText(degree_ < 0 ? Plotto::tr("Degree: none") : Plotto::tr("Degree: %1").arg(degree_));
     lblStatus->setText(status_);
     if (degree_ < 0 || !series_)
         return;
@@ -256,12 +257,12 @@ void frmTaylor::fillGrid()
         grdTerms->setCell(k + 1, 2, shown(p));
         const bool past = term != 0 && std::fabs(term) < kPrecision * std::fabs(p);
         if (past && k == degree_)
-            lblStatus->setText(status_ + QStringLiteral(" At x = %1 the new term is past double precision: it "
-                                                        "changes no digit of P_%2 a double can hold.")
-                                             .arg(qTrimStr(*x))
+            lblStatus->setText(status_ + Plotto::tr(" At x = %1 the new term is past double precision: it "
+                                                    "changes no digit of P_%2 a double can hold.")
+                                             .arg(shownTrimStr(*x))
                                              .arg(k));
         grdTerms->setCell(k + 1, 3,
-                          past             ? QStringLiteral("past double precision")
+                          past             ? Plotto::tr("past double precision")
                           : std::isnan(fx) ? QStringLiteral("no f(x)")
                                            : shown(fx - p));
         if (chkLagrange->isChecked())
@@ -274,7 +275,7 @@ std::vector<GraphScreen::DragHandle> frmTaylor::dragHandles()
     const std::optional<double> a = txtCentre->number();
     if (!a || degree_ < 0)
         return {};
-    return {{QStringLiteral("the centre a"), *a, 0, true, [this](double x, double) {
+    return {{Plotto::tr("the centre a"), *a, 0, true, [this](double x, double) {
                  runForDrag([&] {
                      txtCentre->assign(draggedValue(x));
                      showDegree(degree_);
@@ -284,15 +285,15 @@ std::vector<GraphScreen::DragHandle> frmTaylor::dragHandles()
 
 void frmTaylor::describeResults(QStringList& lines) const
 {
-    lines << QStringLiteral("Taylor polynomials of ") + describeFamily() + QLatin1Char('.');
+    lines << Plotto::tr("Taylor polynomials of ") + describeFamily() + QLatin1Char('.');
     if (degree_ < 0) {
-        lines << QStringLiteral("No terms yet; centre box: ") + txtCentre->text() + QLatin1Char('.');
+        lines << Plotto::tr("No terms yet; centre box: ") + txtCentre->text() + QLatin1Char('.');
         return;
     }
     QStringList terms;
     for (int k = 0; k <= degree_; ++k)
         terms << QStringLiteral("%1: %2").arg(grdTerms->cell(k + 1, 0), grdTerms->cell(k + 1, 1));
-    lines << QStringLiteral("Degree %1. Terms: ").arg(degree_) + terms.join(QStringLiteral("; ")) + QLatin1Char('.');
+    lines << Plotto::tr("Degree %1. Terms: ").arg(degree_) + terms.join(QStringLiteral("; ")) + QLatin1Char('.');
     if (!lblStatus->text().isEmpty())
         lines << lblStatus->text();
 }
@@ -300,22 +301,33 @@ void frmTaylor::describeResults(QStringList& lines) const
 void frmTaylor::mnuAbout_Click()
 {
     showHelp({
-        {"What is this?",
-         "This screen builds the Taylor polynomial of a function about a centre a one term at a time, so that you "
-         "can see the polynomial hug the curve over a wider and wider stretch as the degree grows."},
-        {"Setting up",
-         "Select a function from the menu and choose A to E, or type one with Tools, Type a Function.  Type the "
-         "centre a in its box, or click the green label to move it by one (left button up, right button down)."},
-        {"[Add a Term] and [Remove a Term]",
-         "Each click of [Add a Term] adds the next term, f^(n)(a)(x - a)^n / n!.  The function is drawn in blue, "
-         "the polynomial of the degree shown in red and the one before it in light red.  [Remove a Term] goes back "
-         "a degree."},
-        {"Tolerance", "The light green band along the x axis marks where the polynomial is within the tolerance of the "
-                      "function.  Watch it widen as terms are added."},
-        {"The grid",
-         "Each row is a degree: its new term with exact coefficients where they are fractions, the polynomial's "
-         "value at the x you choose above the grid, and the error f(x) - P(x).  Tick Lagrange bound to see how "
-         "large the error can be at most.  Where a derivative does not exist at a, or the numbers outgrow the "
-         "computer's precision, the grid says so in words."},
+        {QT_TRANSLATE_NOOP("Plotto", "What is this?"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "This screen builds the Taylor polynomial of a function about a centre a one term at a time, so that you "
+             "can see the polynomial hug the curve over a wider and wider stretch as the degree grows.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Setting up"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Select a function from the menu and choose A to E, or type one with Tools, Type a Function.  Type the "
+             "centre a in its box, or click the green label to move it by one (left button up, right button down).")},
+        {QT_TRANSLATE_NOOP("Plotto", "[Add a Term] and [Remove a Term]"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Each click of [Add a Term] adds the next term, f^(n)(a)(x - a)^n / n!.  The function is drawn in blue, "
+             "the polynomial of the degree shown in red and the one before it in light red.  [Remove a Term] goes back "
+             "a degree.")},
+        {QT_TRANSLATE_NOOP("Plotto", "Tolerance"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "The light green band along the x axis marks where the polynomial is within the tolerance of the "
+             "function.  Watch it widen as terms are added.")},
+        {QT_TRANSLATE_NOOP("Plotto", "The grid"),
+         QT_TRANSLATE_NOOP(
+             "Plotto",
+             "Each row is a degree: its new term with exact coefficients where they are fractions, the polynomial's "
+             "value at the x you choose above the grid, and the error f(x) - P(x).  Tick Lagrange bound to see how "
+             "large the error can be at most.  Where a derivative does not exist at a, or the numbers outgrow the "
+             "computer's precision, the grid says so in words.")},
     });
 }

@@ -7,6 +7,7 @@ set -euo pipefail
 PACKAGES=(
   cmake ninja-build g++ clang
   qt6-base-dev qt6-svg-dev libgl-dev libboost-dev
+  qt6-tools-dev qt6-l10n-tools
   libginac-dev libmuparser-dev pkg-config qt6-charts-dev libqt6opengl6-dev qt6-multimedia-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-liberation fonts-dejavu-core

@@ -12,6 +12,7 @@
 #include <map>
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/Language.h"
 #include "launcher/frmGraphingCalc.h"
 #include "screens/ConvergenceWindow.h"
 #include "screens/ScreenRegistry.h"
@@ -43,6 +44,8 @@ int main(int argc, char* argv[])
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    // PLOTTO_LANG=de takes the pictures in that language (English without it).
+    i18n::install(i18n::choose(qEnvironmentVariable("PLOTTO_LANG"), {}, {}));
     const QDir dir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("."));
     dir.mkpath(QStringLiteral("."));
 
@@ -51,7 +54,8 @@ int main(int argc, char* argv[])
 
     // More pictures of a screen, taken right after its own picture, from the state it shows.
     const std::map<QString, std::function<void()>> more{
-        {QStringLiteral("grapher"), [&] { saveMaximized(launcher.classesScreen(), dir, QStringLiteral("grapher-maximized.png")); }},
+        {QStringLiteral("grapher"),
+         [&] { saveMaximized(launcher.classesScreen(), dir, QStringLiteral("grapher-maximized.png")); }},
         {QStringLiteral("sums"),
          [&] {
              frmRiemann& sums = launcher.riemannScreen();

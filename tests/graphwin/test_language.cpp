@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The language rules: which shipped language a locale stands for, which one the program starts in,
+// the decimal separator of shown numbers and of typed ones, and a caption too long for its control.
+#include <QCoreApplication>
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+#include "graphwin/Controls.h"
+#include "graphwin/FormStyle.h"
+#include "graphwin/Language.h"
+
+namespace {
+
+// Installs a language for one test and goes back to English after it.
+struct InLanguage {
+    explicit InLanguage(const char* code) { EXPECT_TRUE(i18n::install(QString::fromLatin1(code))) << code; }
+    ~InLanguage() { i18n::install(QStringLiteral("en")); }
+};
+
+TEST(Language, LocaleNamesStandForTheShippedLanguages)
+{
+    struct Row {
+        const char* locale;
+        const char* shipped;
+    };
+    const Row rows[] = {
+        {"de_DE.UTF-8", "de"},
+        {"de_AT", "de"},
+        {"es", "es"},
+        {"es_MX.UTF-8", "es"},
+        {"fr_CA@euro", "fr"},
+        {"pt_BR.UTF-8", "pt_BR"},
+        {"pt", "pt_BR"},
+        {"pt-BR", "pt_BR"},
+        {"en_GB.UTF-8", "en"},
+        {"C", ""},
+        {"POSIX", ""},
+        {"ja_JP.UTF-8", ""},
+        {"", ""},
+    };
+    for (const Row& r : rows)
+        EXPECT_EQ(i18n::shippedFor(QString::fromLatin1(r.locale)), QString::fromLatin1(r.shipped)) << r.locale;
+}
+
+TEST(Language, TheAskedLanguageThenTheRememberedOneThenTheDesktopsThenEnglish)
+{
+    struct Row {
+        const char* name;
+        const char* asked;
+        const char* remembered;
+        QStringList desktop;
+        const char* chosen;
+    };
+    const Row rows[] = {
+        {"--lang wins", "fr", "de", {QStringLiteral("es_ES.UTF-8")}, "fr"},
+        {"an unknown --lang falls through", "xx", "de", {}, "de"},
+        {"the remembered choice beats the desktop", "", "pt_BR", {QStringLiteral("de_DE.UTF-8")}, "pt_BR"},
+        {"the first shipped desktop language", "", "", {QStringLiteral("ja"), QStringLiteral("es")}, "es"},
+        {"nothing shipped: English", "", "", {QStringLiteral("ja_JP.UTF-8")}, "en"},
+        {"nothing at all: English", "", "", {}, "en"},
+    };
+    for (const Row& r : rows)
+        EXPECT_EQ(i18n::choose(QString::fromLatin1(r.asked), QString::fromLatin1(r.remembered), r.desktop),
+                  QString::fromLatin1(r.chosen))
+            << r.name;
+}
+
+TEST(Language, ShownNumbersTakeTheLanguagesSeparatorAndTypedCommasReadAsPoints)
+{
+    struct Row {
+        const char* classic;
+        const char* german;  // as shown in German (English shows the classic text unchanged)
+    };
+    const Row rows[] = {
+        {"1.5", "1,5"},
+        {" .25", " ,25"},
+        {"-3.5E+20", "-3,5E+20"},
+        {"12", "12"},
+        {"x = 2.", "x = 2."},
+        {"Newton's Method. Go", "Newton's Method. Go"},
+        {"(1.5,-2.25)", "(1,5,-2,25)"},
+    };
+    for (const Row& r : rows)
+        EXPECT_EQ(i18n::decimals(QString::fromLatin1(r.classic)), QString::fromLatin1(r.classic)) << r.classic;
+    InLanguage german("de");
+    for (const Row& r : rows)
+        EXPECT_EQ(i18n::decimals(QString::fromLatin1(r.classic)), QString::fromLatin1(r.german)) << r.classic;
+    EXPECT_EQ(i18n::typedDecimals(QStringLiteral("1,5")), QStringLiteral("1.5"));
+    EXPECT_EQ(i18n::typedDecimals(QStringLiteral("1.5")), QStringLiteral("1.5"));
+}
+
+TEST(Language, ABoxReadsADecimalCommaOnlyWhereTheLanguageWritesOne)
+{
+    QWidget form;
+    TextBox box(&form, QStringLiteral("2,75"));
+    // English reads by the classic rules: the number ends at the comma.
+    EXPECT_EQ(box.number(), std::optional<double>(2));
+    for (const char* code : {"de", "es", "fr", "pt_BR"}) {
+        InLanguage language(code);
+        EXPECT_EQ(box.number(), std::optional<double>(2.75)) << code;
+        EXPECT_DOUBLE_EQ(box.value(), 2.75) << code;
+    }
+}
+
+TEST(Language, ACaptionTooLongForItsButtonShowsWholeInTheTooltip)
+{
+    QWidget form;
+    QPushButton button(QStringLiteral("&Short"), &form);
+    form.show();  // a hidden widget hears of its resizing only when it is shown
+    button.resize(400, 30);
+    caption::watch(&button);
+    EXPECT_TRUE(caption::fits(&button));
+    EXPECT_EQ(button.toolTip(), QString());
+    button.setText(QStringLiteral("A caption far too long for a button forty pixels wide"));
+    button.resize(40, 30);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(caption::fits(&button));
+    EXPECT_EQ(button.toolTip(), QStringLiteral("A caption far too long for a button forty pixels wide"));
+    // The text itself stays whole, for the screen reader.
+    EXPECT_EQ(button.text(), QStringLiteral("A caption far too long for a button forty pixels wide"));
+    button.resize(2000, 30);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(button.toolTip(), QString());
+}
+
+}  // namespace
