@@ -19,6 +19,7 @@
 #include <QSvgGenerator>
 #include <QSvgRenderer>
 
+#include "funclib/FuncGlobals.h"
 #include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
@@ -41,11 +42,12 @@ constexpr double kBlankWidth = 1100;
 
 QFont font(double size, bool bold = false) { return graphexport::pageFont(size, bold); }
 
-// A number as the program writes one, not preceded by a letter, a digit or '_' (the 7 of P_7).
+// A number as the program writes one (with a decimal point, or the language's decimal comma), not
+// preceded by a letter, a digit or '_' (the 7 of P_7).
 const QRegularExpression& numberPattern()
 {
     static const QRegularExpression re(
-        QStringLiteral("(?<![\\w.])[-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][-+]?\\d+)?(?![\\w])"));
+        QStringLiteral("(?<![\\w.,])[-+]?(?:\\d+(?:[.,]\\d+)?|[.,]\\d+)(?:[eE][-+]?\\d+)?(?![\\w])"));
     return re;
 }
 
@@ -187,7 +189,10 @@ StepContent take(const lesson::Step& step, int number, int count, GraphScreen& s
         if (prompt != QLatin1String("file") && prompt != QLatin1String("options") && prompt != QLatin1String("printer"))
             c.problems << prompt;
     if (c.note.isEmpty() && entry)
-        c.note = Plotto::tr("The screen shows %1.").arg(Plotto::tr(entry->describes));
+        c.note = Plotto::tr("The screen shows %1.")
+                     .arg(Plotto::tr(entry->describes)
+                              .replace(QStringLiteral("{families}"),
+                                       QString::number(FuncGlobals::ExplicitFamilyCount)));
     QStringList description = screen.describe().split(QLatin1Char('\n'));
     const QStringList results = screen.results();
     description = description.mid(1, description.size() - 1 - results.size());  // the title line goes

@@ -217,7 +217,7 @@ void frmGraphingCalc::mnuExportWorksheet_Click()
         return;
     }
     if (worksheetProgram.isEmpty()) {
-        MsgBox(QStringLiteral("Worksheets are written by the plotto program, which this run cannot start."), title);
+        MsgBox(Plotto::tr("Worksheets are written by the plotto program, which this run cannot start."), title);
         return;
     }
     QSettings settings(QStringLiteral("Plotto"), QStringLiteral("Plotto"));

@@ -12,6 +12,7 @@
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphExport.h"
+#include "graphwin/Language.h"
 #include "screens/ConvergenceWindow.h"
 
 namespace {
@@ -22,7 +23,7 @@ constexpr double kTitle = 320, kText = 200, kTable = 180;
 
 QString couldNotWrite(const QString& path, const QString& why)
 {
-    return QStringLiteral("Could not write %1: %2.").arg(QDir::toNativeSeparators(path), why);
+    return Plotto::tr("Could not write %1: %2.").arg(QDir::toNativeSeparators(path), why);
 }
 
 }  // namespace
@@ -31,7 +32,7 @@ QString ConvergenceWindow::exportTable(const QString& path) const
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
     if (suffix != QLatin1String("csv") && suffix != QLatin1String("pdf"))
-        return QStringLiteral("The file name %1 does not say which kind of file to write: end it with .csv or .pdf.")
+        return Plotto::tr("The file name %1 does not say which kind of file to write: end it with .csv or .pdf.")
             .arg(QFileInfo(path).fileName().isEmpty() ? QStringLiteral("(none)") : QFileInfo(path).fileName());
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
@@ -55,7 +56,7 @@ QString ConvergenceWindow::exportTable(const QString& path) const
         QPainter p;
         if (!p.begin(&pdf)) {
             file.cancelWriting();
-            return couldNotWrite(path, QStringLiteral("the PDF could not be started"));
+            return couldNotWrite(path, Plotto::tr("the PDF could not be started"));
         }
         p.scale(pdf.resolution() / 1440.0, pdf.resolution() / 1440.0);
         const double width = kPageWidth - 2 * kMargin;
@@ -87,12 +88,12 @@ QString ConvergenceWindow::exportTable(const QString& path) const
 void ConvergenceWindow::exportTableClicked()
 {
     QSettings settings(QStringLiteral("Plotto"), QStringLiteral("Plotto"));
-    const QString path = FileBox(true, QStringLiteral("Export Table"),
+    const QString path = FileBox(true, Plotto::tr("Export Table"),
                                  settings.value(QStringLiteral("export/folder"), QDir::homePath()).toString(),
-                                 QStringLiteral("Comma-separated values (*.csv);;PDF page (*.pdf)"), {});
+                                 Plotto::tr("Comma-separated values (*.csv);;PDF page (*.pdf)"), {});
     if (path.isEmpty())
         return;
     settings.setValue(QStringLiteral("export/folder"), QFileInfo(path).absolutePath());
     if (const QString error = exportTable(path); !error.isEmpty())
-        MsgBox(error, QStringLiteral("Export Table"));
+        MsgBox(error, Plotto::tr("Export Table"));
 }

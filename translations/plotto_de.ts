@@ -542,10 +542,6 @@ Ableitung: y&apos; = </translation>
         <translation>Fläche zwischen zwei Kurven</translation>
     </message>
     <message>
-        <source>Area Between Curves</source>
-        <translation>Fläche zwischen Kurven</translation>
-    </message>
-    <message>
         <source>Left a</source>
         <translation>Links a</translation>
     </message>
@@ -2190,6 +2186,34 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>Area=</source>
         <translation>Fläche=</translation>
+    </message>
+    <message>
+        <source>The file name %1 does not say which kind of file to write: end it with .csv or .pdf.</source>
+        <translation>Der Dateiname %1 sagt nicht, welche Art von Datei geschrieben werden soll: Er muss auf .csv oder .pdf enden.</translation>
+    </message>
+    <message>
+        <source>the PDF could not be started</source>
+        <translation>die PDF-Datei konnte nicht begonnen werden</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Tabelle exportieren</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv);;PDF page (*.pdf)</source>
+        <translation>Kommagetrennte Werte (*.csv);;PDF-Seite (*.pdf)</translation>
+    </message>
+    <message>
+        <source>&amp;Export Table...</source>
+        <translation>Tabelle &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>Two Curves</source>
+        <translation>Zwei Kurven</translation>
+    </message>
+    <message>
+        <source>Worksheets are written by the plotto program, which this run cannot start.</source>
+        <translation>Arbeitsblätter schreibt das Programm plotto, das dieser Lauf nicht starten kann.</translation>
     </message>
 </context>
 </TS>

@@ -542,10 +542,6 @@ Derivada: y&apos; = </translation>
         <translation>Área entre dos curvas</translation>
     </message>
     <message>
-        <source>Area Between Curves</source>
-        <translation>Área entre curvas</translation>
-    </message>
-    <message>
         <source>Left a</source>
         <translation>Izquierda a</translation>
     </message>
@@ -2190,6 +2186,34 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Area=</source>
         <translation>Área=</translation>
+    </message>
+    <message>
+        <source>The file name %1 does not say which kind of file to write: end it with .csv or .pdf.</source>
+        <translation>El nombre de archivo %1 no indica qué tipo de archivo escribir: termínelo en .csv o .pdf.</translation>
+    </message>
+    <message>
+        <source>the PDF could not be started</source>
+        <translation>no se pudo iniciar el PDF</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Exportar tabla</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv);;PDF page (*.pdf)</source>
+        <translation>Valores separados por comas (*.csv);;Página PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>&amp;Export Table...</source>
+        <translation>&amp;Exportar tabla...</translation>
+    </message>
+    <message>
+        <source>Two Curves</source>
+        <translation>Dos curvas</translation>
+    </message>
+    <message>
+        <source>Worksheets are written by the plotto program, which this run cannot start.</source>
+        <translation>Las hojas de trabajo las escribe el programa plotto, que esta ejecución no puede iniciar.</translation>
     </message>
 </context>
 </TS>

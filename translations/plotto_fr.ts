@@ -542,10 +542,6 @@ Dérivée : y&apos; = </translation>
         <translation>Aire entre deux courbes</translation>
     </message>
     <message>
-        <source>Area Between Curves</source>
-        <translation>Aire entre courbes</translation>
-    </message>
-    <message>
         <source>Left a</source>
         <translation>Gauche a</translation>
     </message>
@@ -2190,6 +2186,34 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>Area=</source>
         <translation>Aire=</translation>
+    </message>
+    <message>
+        <source>The file name %1 does not say which kind of file to write: end it with .csv or .pdf.</source>
+        <translation>Le nom de fichier %1 n'indique pas quel type de fichier écrire : terminez-le par .csv ou .pdf.</translation>
+    </message>
+    <message>
+        <source>the PDF could not be started</source>
+        <translation>le PDF n'a pas pu être commencé</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Exporter le tableau</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv);;PDF page (*.pdf)</source>
+        <translation>Valeurs séparées par des virgules (*.csv);;Page PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>&amp;Export Table...</source>
+        <translation>&amp;Exporter le tableau...</translation>
+    </message>
+    <message>
+        <source>Two Curves</source>
+        <translation>Deux courbes</translation>
+    </message>
+    <message>
+        <source>Worksheets are written by the plotto program, which this run cannot start.</source>
+        <translation>Les fiches d'exercices sont écrites par le programme plotto, que cette exécution ne peut pas lancer.</translation>
     </message>
 </context>
 </TS>

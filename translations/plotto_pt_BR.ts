@@ -542,10 +542,6 @@ Derivada: y&apos; = </translation>
         <translation>Área entre duas curvas</translation>
     </message>
     <message>
-        <source>Area Between Curves</source>
-        <translation>Área entre curvas</translation>
-    </message>
-    <message>
         <source>Left a</source>
         <translation>Esquerda a</translation>
     </message>
@@ -2190,6 +2186,34 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Area=</source>
         <translation>Área=</translation>
+    </message>
+    <message>
+        <source>The file name %1 does not say which kind of file to write: end it with .csv or .pdf.</source>
+        <translation>O nome de arquivo %1 não diz que tipo de arquivo escrever: termine-o com .csv ou .pdf.</translation>
+    </message>
+    <message>
+        <source>the PDF could not be started</source>
+        <translation>não foi possível iniciar o PDF</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Exportar tabela</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv);;PDF page (*.pdf)</source>
+        <translation>Valores separados por vírgulas (*.csv);;Página PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>&amp;Export Table...</source>
+        <translation>&amp;Exportar tabela...</translation>
+    </message>
+    <message>
+        <source>Two Curves</source>
+        <translation>Duas curvas</translation>
+    </message>
+    <message>
+        <source>Worksheets are written by the plotto program, which this run cannot start.</source>
+        <translation>As folhas de exercícios são escritas pelo programa plotto, que esta execução não pode iniciar.</translation>
     </message>
 </context>
 </TS>
