@@ -164,7 +164,7 @@ StepContent take(const lesson::Step& step, int number, int count, GraphScreen& s
     c.heading = Plotto::tr("Step %1 of %2: %3")
                     .arg(number)
                     .arg(count)
-                    .arg(entry ? QString::fromUtf8(entry->button).remove(QLatin1Char('&')) : step.screen);
+                    .arg(entry ? Plotto::tr(entry->button).remove(QLatin1Char('&')) : step.screen);
     c.note = step.note;
     DialogScript script;  // nothing modal opens: a box the step would show is written on the page instead
     DialogScript* before = dialogScript();

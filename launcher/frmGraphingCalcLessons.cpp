@@ -238,7 +238,8 @@ void frmGraphingCalc::mnuExportWorksheet_Click()
         MsgBox(Plotto::tr("The lesson could not be handed over: %1").arg(error), title);
         return;
     }
-    QStringList arguments{lessonPath, QStringLiteral("--worksheet"), out};
+    // In the language on show (which --lang may have chosen for this run only).
+    QStringList arguments{lessonPath, QStringLiteral("--worksheet"), out, QStringLiteral("--lang"), i18n::current()};
     if (blank)
         arguments << QStringLiteral("--blank");
     QProcess run;
