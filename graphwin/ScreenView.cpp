@@ -43,7 +43,7 @@ void GraphScreen::buildViewMenu()
               [this] { return zoomView(2); });
     mnuViewZoomOut =
         entry(Plotto::tr("Zoom &Out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, [this] { return zoomView(0.5); });
-    mnuViewOriginal = entry(Plotto::tr("&Original Window"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
+    mnuViewOriginal = entry(Plotto::tr("O&riginal Window"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
                             [this] { return originalWindow(); });
     menu->addSeparator();
     mnuViewBack = entry(Plotto::tr("&Back"), {QKeySequence(Qt::ALT | Qt::Key_Left)}, [this] { return backWindow(); });

@@ -298,7 +298,7 @@ Ableitung: y&apos; = </translation>
         <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
-        <source>&amp;Original Window</source>
+        <source>O&amp;riginal Window</source>
         <translation>&amp;Ursprüngliches Fenster</translation>
     </message>
     <message>

@@ -298,7 +298,7 @@ Derivada: y&apos; = </translation>
         <translation>A&amp;lejar</translation>
     </message>
     <message>
-        <source>&amp;Original Window</source>
+        <source>O&amp;riginal Window</source>
         <translation>Ventana &amp;original</translation>
     </message>
     <message>

@@ -298,7 +298,7 @@ Dérivée : y&apos; = </translation>
         <translation>Zoom a&amp;rrière</translation>
     </message>
     <message>
-        <source>&amp;Original Window</source>
+        <source>O&amp;riginal Window</source>
         <translation>Fenêtre d&apos;&amp;origine</translation>
     </message>
     <message>
@@ -2189,11 +2189,11 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>The file name %1 does not say which kind of file to write: end it with .csv or .pdf.</source>
-        <translation>Le nom de fichier %1 n'indique pas quel type de fichier écrire : terminez-le par .csv ou .pdf.</translation>
+        <translation>Le nom de fichier %1 n&apos;indique pas quel type de fichier écrire : terminez-le par .csv ou .pdf.</translation>
     </message>
     <message>
         <source>the PDF could not be started</source>
-        <translation>le PDF n'a pas pu être commencé</translation>
+        <translation>le PDF n&apos;a pas pu être commencé</translation>
     </message>
     <message>
         <source>Export Table</source>
@@ -2213,7 +2213,7 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>Worksheets are written by the plotto program, which this run cannot start.</source>
-        <translation>Les fiches d'exercices sont écrites par le programme plotto, que cette exécution ne peut pas lancer.</translation>
+        <translation>Les fiches d&apos;exercices sont écrites par le programme plotto, que cette exécution ne peut pas lancer.</translation>
     </message>
 </context>
 </TS>

@@ -298,7 +298,7 @@ Derivada: y&apos; = </translation>
         <translation>&amp;Reduzir</translation>
     </message>
     <message>
-        <source>&amp;Original Window</source>
+        <source>O&amp;riginal Window</source>
         <translation>Janela &amp;original</translation>
     </message>
     <message>

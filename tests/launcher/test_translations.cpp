@@ -40,14 +40,6 @@ QChar altLetter(const QString& caption)
     return {};
 }
 
-// The English menus keep their texts as they are; this pair of the View menu shared a letter before
-// any translation and is left for a decision of its own (each translation gives the two their own).
-bool knownEnglishPair(const QString& a, const QString& b)
-{
-    const QStringList pair{QStringLiteral("&Original Window"), QStringLiteral("Zoom &Out")};
-    return i18n::current() == QLatin1String("en") && pair.contains(a) && pair.contains(b);
-}
-
 // Every entry of `actions` that a person sees has its own Alt letter; the menus under them too.
 void expectDistinctLetters(const QList<QAction*>& actions, const std::string& where)
 {
@@ -58,7 +50,7 @@ void expectDistinctLetters(const QList<QAction*>& actions, const std::string& wh
         const QChar letter = altLetter(a->text());
         if (!letter.isNull()) {
             const auto [at, fresh] = taken.emplace(letter, a->text());
-            EXPECT_TRUE(fresh || knownEnglishPair(a->text(), at->second))
+            EXPECT_TRUE(fresh)
                 << where << ": '" << a->text().toStdString() << "' and '" << at->second.toStdString() << "' share Alt+"
                 << QString(letter).toStdString();
         }
