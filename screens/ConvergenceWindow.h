@@ -33,6 +33,7 @@ public:
     const Convergence::Table& table() const { return table_; }
     QTableWidget* grid() const { return grid_; }
     QLabel* summary() const { return summary_; }
+    QLabel* roundOffNote() const { return roundOff_; }
     QChartView* plot() const { return plot_; }
     // What the plot shows, in words: each method's measured slope against its expected one.
     QString plotDescription() const;
@@ -49,6 +50,7 @@ private:
     std::function<Convergence::Table()> compute_;
     Convergence::Table table_;
     QLabel* summary_ = nullptr;
+    QLabel* roundOff_ = nullptr;
     QTableWidget* grid_ = nullptr;
     QChartView* plot_ = nullptr;
     class QFormLayout* inputs_ = nullptr;
