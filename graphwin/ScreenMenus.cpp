@@ -4,7 +4,9 @@
 // place of the lesson shown at the bar's right. (The View menu: ScreenView.cpp.)
 #include <vector>
 
+#include <QAccessible>
 #include <QAction>
+#include <QEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -20,6 +22,28 @@ GraphScreen::LessonCommands& lessonCommands()
     static GraphScreen::LessonCommands commands;
     return commands;
 }
+
+// Keeps the lesson's place over its room at the menu bar's right. The place is a label of the window
+// itself, not of the bar: a menu bar shows a screen reader its menus only, and the place must be found
+// in the window's tree and read when a step opens.
+class PlaceFollower : public QObject {
+public:
+    PlaceFollower(QWidget* room, QLabel* place) : QObject(room), room_(room), place_(place) { }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show) {
+            place_->setFont(room_->parentWidget()->font());
+            place_->setGeometry(QRect(room_->mapTo(place_->parentWidget(), QPoint(0, 0)), room_->size()));
+            place_->raise();
+        }
+        return false;
+    }
+
+private:
+    QWidget* room_;
+    QLabel* place_;
+};
 
 // Every screen, each of whose menu bars shows where the lesson stands.
 std::vector<GraphScreen*>& allScreens()
@@ -108,6 +132,8 @@ void GraphScreen::refreshLessonPlace()
     const QString place = lessonCommands().place ? lessonCommands().place() : QString();
     lblLessonPlace->setText(place);
     lblLessonPlace->setVisible(!place.isEmpty());
+    lessonPlaceRoom_->setFixedSize(lblLessonPlace->sizeHint());
+    lessonPlaceRoom_->setVisible(!place.isEmpty());
     const bool open = !place.isEmpty();
     mnuNextStep->setEnabled(open);
     mnuPreviousStep->setEnabled(open);
@@ -148,11 +174,24 @@ void GraphScreen::buildLessonCommands()
         if (lessonCommands().previous)
             lessonCommands().previous();
     });
-    lblLessonPlace = new QLabel(menuBar);
+    lessonPlaceRoom_ = new QWidget(menuBar);
+    menuBar->setCornerWidget(lessonPlaceRoom_, Qt::TopRightCorner);
+    lblLessonPlace = new QLabel(this);
+    lblLessonPlace->setObjectName(QStringLiteral("lblLessonPlace"));
     lblLessonPlace->setContentsMargins(8, 0, 12, 0);
-    menuBar->setCornerWidget(lblLessonPlace, Qt::TopRightCorner);
+    lblLessonPlace->setAccessibleDescription(QStringLiteral("The step of the lesson shown"));
+    lessonPlaceRoom_->installEventFilter(new PlaceFollower(lessonPlaceRoom_, lblLessonPlace));
     allScreens().push_back(this);
     refreshLessonPlace();
+}
+
+void GraphScreen::announceLessonPlace()
+{
+    if (lblLessonPlace->text().isEmpty())
+        return;
+    QAccessibleEvent named(lblLessonPlace, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&named);
+    announce(lblLessonPlace->text() + QLatin1Char('.'));
 }
 
 void GraphScreen::leaveLessonPlaces() { std::erase(allScreens(), this); }
