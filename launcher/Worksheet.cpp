@@ -172,18 +172,10 @@ StepContent take(const lesson::Step& step, int number, int count, GraphScreen& s
     if (!refusal.isEmpty()) {
         c.problems << QStringLiteral("This step cannot be shown: %1.").arg(refusal);
     } else {
-        try {
-            screen.activate();
-            lesson::apply(step, screen);
-        } catch (const rt::RuntimeError& error) {
-            c.problems << QStringLiteral("This step cannot be shown whole: %1 (run-time error %2).")
-                              .arg(QString::fromUtf8(error.what()))
-                              .arg(error.number());
-        }
+        if (const int error = lesson::open(step, screen))
+            c.problems << lesson::refusal(number, error);
     }
     setDialogScript(before);
-    for (int n : script.errors)
-        c.problems << QStringLiteral("A button of this step could not finish (run-time error %1).").arg(n);
     for (const auto& [title, prompt] : script.shown)
         if (prompt != QLatin1String("file") && prompt != QLatin1String("options") && prompt != QLatin1String("printer"))
             c.problems << prompt;

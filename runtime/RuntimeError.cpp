@@ -16,6 +16,19 @@ const char* errorMessage(int number)
     }
 }
 
+const char* valuesInWords(int number)
+{
+    switch (number) {
+    case InvalidProcedureCall: return "are outside what a function accepts";
+    case Overflow: return "overflow";
+    case SubscriptOutOfRange: return "go past the end of a table";
+    case DivisionByZero: return "divide by zero";
+    case TypeMismatch: return "are not numbers";
+    case InvalidPropertyValue: return "are more than a control can take";
+    default: return "cannot be worked out";
+    }
+}
+
 RuntimeError::RuntimeError(int number) : number_(number) { }
 
 const char* RuntimeError::what() const noexcept { return errorMessage(number_); }
