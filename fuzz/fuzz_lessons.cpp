@@ -11,15 +11,16 @@
 
 namespace {
 std::vector<QByteArray>* examples = nullptr;
-fuzzing::LessonScreens* screens = nullptr;
+fuzzing::LessonScreens* everyScreen = nullptr;
 }  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(*argc, *argv);
+    // Never destroyed: the toolkit must outlive the screens, which live to the end of the process.
+    new QApplication(*argc, *argv);
     examples = new std::vector<QByteArray>(fuzzing::exampleLessons(QStringLiteral(PLOTTO_SOURCE_DIR)));
-    screens = new fuzzing::LessonScreens;
+    everyScreen = new fuzzing::LessonScreens;
     setProgramEndHandler([](int code) {
         std::fprintf(stderr, "property failed: the program ended (%d)\n", code);
         std::abort();
@@ -30,7 +31,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string failure =
-        fuzzing::checkLessonText(fuzzing::damagedLesson(*examples, data, size), std::ref(*screens));
+        fuzzing::checkLessonText(fuzzing::damagedLesson(*examples, data, size), std::ref(*everyScreen));
     if (!failure.empty()) {
         std::fprintf(stderr, "property failed: %s\n", failure.c_str());
         std::abort();

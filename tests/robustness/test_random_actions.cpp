@@ -81,6 +81,7 @@ struct Walk {
     std::map<int, long> errorsByNumber;  // the allowed errors met, for the closing line
     long actions = 0, restarts = 0;
     long typedActions = 0;  // actions taken while a typed function, rate or curve was in use
+    long damagedLessons = 0, refusedSteps = 0;  // damaged examples opened, and their steps refused in words
     QTemporaryDir lessonDir;  // where the walk saves and opens its lessons
 
     explicit Walk(std::uint64_t seed) : rng(seed)
@@ -275,6 +276,8 @@ struct Walk {
                         return *screens[static_cast<std::size_t>(screens::find(key) - screens::all().data())];
                     },
                     &refused);
+                ++damagedLessons;
+                refusedSteps += refused;
                 what += "opens a damaged example (" + std::to_string(refused) + " steps refused)";
                 if (!broken.empty())
                     ADD_FAILURE() << "a damaged lesson: " << broken;
@@ -411,7 +414,9 @@ TEST(RandomWalk, EveryActionEndsNormallyOrWithAnAllowedError)
     std::string summary;
     for (const auto& [number, count] : walk.errorsByNumber)
         summary += " error " + std::to_string(number) + ": " + std::to_string(count) + ";";
-    std::printf("random walk: seed %llu, %ld actions (%ld with a typed function in use), %ld restarts;%s\n",
-                static_cast<unsigned long long>(seed), walk.actions, walk.typedActions, walk.restarts, summary.c_str());
+    std::printf("random walk: seed %llu, %ld actions (%ld with a typed function in use), %ld restarts;%s %ld damaged "
+                "lessons opened, %ld steps refused in words\n",
+                static_cast<unsigned long long>(seed), walk.actions, walk.typedActions, walk.restarts, summary.c_str(),
+                walk.damagedLessons, walk.refusedSteps);
     EXPECT_EQ(walk.actions, total);
 }
