@@ -119,9 +119,10 @@ std::vector<Table::ReferenceLine> Table::referenceLines() const
         for (const auto& point : points)
             lowest = std::min(lowest, point.second);
         const double top = e0 * kReferenceApart;
-        // To the method's last count, or sooner where the line would fall below its smallest error.
+        // To the method's last count, or sooner where the line would come nearer than kReferenceApart
+        // to the smallest error (where rounding has flattened the data).
         const double n1 =
-            std::min(points.back().first > n0 ? points.back().first : n0 * 2, n0 * std::pow(top / lowest, 1.0 / order));
+            std::min(points.back().first > n0 ? points.back().first : n0 * 2, n0 * std::pow(e0 / lowest, 1.0 / order));
         out.push_back({order, {n0, top}, {n1, top * std::pow(n1 / n0, -order)}, "slope " + std::to_string(order)});
     }
     return out;

@@ -173,6 +173,16 @@ TEST(ConvergenceOfSteps, RatiosSpoiledByRoundOffSaySoAndTheReferenceLinesLieApar
     EXPECT_DOUBLE_EQ(lines[1].from.second, 4e-8);
     EXPECT_DOUBLE_EQ(lines[1].to.second, 4e-8 / 65536);
 
+    // Errors that rounding flattens at 1e-10 from the third row end the fourth's line where it comes
+    // within 4 of them: at 10 * (1e-8 / 1e-10)^(1/4) = 31.6 steps, at 4e-10.
+    Table flat = handMade(Table::Kind::Steps);
+    for (std::size_t r = 2; r < 5; ++r)
+        flat.values[r][1].value = -1e-10;
+    const auto flatLines = flat.referenceLines();
+    ASSERT_EQ(flatLines.size(), 2u);
+    EXPECT_NEAR(flatLines[1].to.first, 10 * std::sqrt(10.0), 1e-9);
+    EXPECT_NEAR(flatLines[1].to.second, 4e-10, 1e-22);
+
     // The window: the ratio cell and the sentence under the table, and a label at each line's end.
     ConvergenceWindow window(nullptr, QStringLiteral("Steps"), [] { return handMade(Table::Kind::Steps); });
     window.recompute();
