@@ -444,6 +444,7 @@ private:
     void leaveLessonPlaces();
     void refreshLessonPlace();
     QWidget* lessonPlaceRoom_ = nullptr;  // the menu bar's corner, as large as the place
+    void placeLessonPlace();
     // Grows the menu bar and its menus with the form, and tells the style the form's zoom.
     void applyFormZoom(double zoom);
     QFont menuFont_;

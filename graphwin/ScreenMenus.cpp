@@ -2,6 +2,7 @@
 // A screen's menu bar: the File menu, the function menu's place, the Tools menu (typed functions,
 // projector mode, hearing the curve, export and printing) with the lesson commands, which every screen shares, and the
 // place of the lesson shown at the bar's right. (The View menu: ScreenView.cpp.)
+#include <functional>
 #include <vector>
 
 #include <QAccessible>
@@ -23,26 +24,20 @@ GraphScreen::LessonCommands& lessonCommands()
     return commands;
 }
 
-// Keeps the lesson's place over its room at the menu bar's right. The place is a label of the window
-// itself, not of the bar: a menu bar shows a screen reader its menus only, and the place must be found
-// in the window's tree and read when a step opens.
+// Runs `place` whenever the menu bar it watches is shown, moved or resized.
 class PlaceFollower : public QObject {
 public:
-    PlaceFollower(QWidget* room, QLabel* place) : QObject(room), room_(room), place_(place) { }
+    PlaceFollower(QWidget* bar, std::function<void()> place) : QObject(bar), place_(std::move(place)) { }
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show) {
-            place_->setFont(room_->parentWidget()->font());
-            place_->setGeometry(QRect(room_->mapTo(place_->parentWidget(), QPoint(0, 0)), room_->size()));
-            place_->raise();
-        }
+        if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show)
+            place_();
         return false;
     }
 
 private:
-    QWidget* room_;
-    QLabel* place_;
+    std::function<void()> place_;
 };
 
 // Every screen, each of whose menu bars shows where the lesson stands.
@@ -103,7 +98,8 @@ void GraphScreen::buildToolsMenu()
     toolsMenu_->addSeparator();
     mnuExportGraph = addToolsEntry(QStringLiteral("&Export Graph..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
                                    [this] { mnuExportGraph_Click(); });
-    mnuPrint = addToolsEntry(QStringLiteral("P&rint..."), QKeySequence(Qt::CTRL | Qt::Key_P), [this] { mnuPrint_Click(); });
+    mnuPrint =
+        addToolsEntry(QStringLiteral("P&rint..."), QKeySequence(Qt::CTRL | Qt::Key_P), [this] { mnuPrint_Click(); });
     mnuPrintPreview = addToolsEntry(QStringLiteral("Pr&int Preview..."), {}, [this] { mnuPrintPreview_Click(); });
     NAME_AS_MEMBER(mnuExportGraph);
     NAME_AS_MEMBER(mnuPrint);
@@ -132,8 +128,8 @@ void GraphScreen::refreshLessonPlace()
     const QString place = lessonCommands().place ? lessonCommands().place() : QString();
     lblLessonPlace->setText(place);
     lblLessonPlace->setVisible(!place.isEmpty());
-    lessonPlaceRoom_->setFixedSize(lblLessonPlace->sizeHint());
     lessonPlaceRoom_->setVisible(!place.isEmpty());
+    placeLessonPlace();
     const bool open = !place.isEmpty();
     mnuNextStep->setEnabled(open);
     mnuPreviousStep->setEnabled(open);
@@ -180,9 +176,22 @@ void GraphScreen::buildLessonCommands()
     lblLessonPlace->setObjectName(QStringLiteral("lblLessonPlace"));
     lblLessonPlace->setContentsMargins(8, 0, 12, 0);
     lblLessonPlace->setAccessibleDescription(QStringLiteral("The step of the lesson shown"));
-    lessonPlaceRoom_->installEventFilter(new PlaceFollower(lessonPlaceRoom_, lblLessonPlace));
+    menuBar->installEventFilter(new PlaceFollower(menuBar, [this] { placeLessonPlace(); }));
     allScreens().push_back(this);
     refreshLessonPlace();
+}
+
+void GraphScreen::placeLessonPlace()
+{
+    // The place is a label of the window itself, not of the bar: a menu bar shows a screen reader its
+    // menus only, and the place must be found in the window's tree. It lies at the bar's right end,
+    // over the bar's corner, which keeps the menus clear of it.
+    lblLessonPlace->setFont(menuBar->font());
+    const QSize size = lblLessonPlace->sizeHint();
+    lessonPlaceRoom_->setFixedSize(size);
+    lblLessonPlace->setGeometry(QRect(menuBar->mapTo(this, QPoint(menuBar->width() - size.width(), 0)),
+                                      QSize(size.width(), menuBar->height())));
+    lblLessonPlace->raise();
 }
 
 void GraphScreen::announceLessonPlace()
