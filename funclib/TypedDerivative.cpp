@@ -209,21 +209,88 @@ bool fromGinac(const GiNaC::ex& e, std::string& out)
     return false;
 }
 
-// GiNaC's own printing, with each function written as the table names it (the natural logarithm
-// GiNaC calls log is ln).
-std::string shownDerivative(const GiNaC::ex& e)
+// A term that a textbook writes after a minus sign: a negative number, or a product whose number is.
+bool negativeTerm(const GiNaC::ex& t)
 {
+    using namespace GiNaC;
+    if (is_a<numeric>(t))
+        return ex_to<numeric>(t).is_real() && ex_to<numeric>(t) < 0;
+    if (is_a<mul>(t))
+        for (std::size_t i = 0; i < t.nops(); ++i)
+            if (is_a<numeric>(t.op(i)) && ex_to<numeric>(t.op(i)).is_real() && ex_to<numeric>(t.op(i)) < 0)
+                return true;
+    return false;
+}
+
+// The power of `x` a term carries (x^2 and 3*x^2: 2; x^(-1): -1); 0 for a term of no whole power
+// (sin(x), sqrt(x)).
+int powerOf(const GiNaC::ex& t, const GiNaC::ex& x)
+{
+    try {
+        return t.degree(x);
+    } catch (const std::exception&) {  // GiNaC has no degree for a non-whole power of x
+        return 0;
+    }
+}
+
+// The derivative as a textbook writes it: a sum's terms by falling power of `x`, the terms without
+// `x` last, joined by " + " and " - " (GiNaC keeps its terms in an order of its own, which would show
+// 3*x^2 - 2 as -2+3*x^2); products, powers and functions as GiNaC writes them, with the table's
+// names (the natural logarithm GiNaC calls log is ln).
+std::string textbook(const GiNaC::ex& e, const GiNaC::ex& x)
+{
+    using namespace GiNaC;
+    if (is_a<add>(e)) {
+        std::vector<ex> terms(e.begin(), e.end());
+        std::stable_sort(terms.begin(), terms.end(), [&](const ex& a, const ex& b) {
+            return std::pair(!a.has(x), -powerOf(a, x)) < std::pair(!b.has(x), -powerOf(b, x));
+        });
+        std::string out;
+        for (const ex& t : terms) {
+            const bool minus = negativeTerm(t);
+            out += out.empty() ? (minus ? "-" : "") : (minus ? " - " : " + ");
+            out += textbook(minus ? ex(-t) : t, x);
+        }
+        return out;
+    }
+    if (is_a<mul>(e)) {
+        if (negativeTerm(e))
+            return "-" + textbook(-e, x);
+        std::string number, factors;
+        for (const ex& f : e) {
+            if (is_a<numeric>(f)) {
+                number = textbook(f, x);
+                continue;
+            }
+            factors += factors.empty() ? "" : "*";
+            factors += is_a<add>(f) ? "(" + textbook(f, x) + ")" : textbook(f, x);
+        }
+        return number.empty() || number == "1" ? factors : number + "*" + factors;
+    }
+    if (is_a<power>(e)) {
+        const ex& base = e.op(0);
+        const ex& exponent = e.op(1);
+        if (exponent.is_equal(numeric(1, 2)))
+            return "sqrt(" + textbook(base, x) + ")";
+        const bool plainBase = is_a<symbol>(base) || is_a<function>(base) || is_a<constant>(base) ||
+                               (is_a<numeric>(base) && ex_to<numeric>(base).is_nonneg_integer());
+        const bool plainExponent = is_a<numeric>(exponent) && ex_to<numeric>(exponent).is_nonneg_integer();
+        return (plainBase ? textbook(base, x) : "(" + textbook(base, x) + ")") + "^" +
+               (plainExponent ? textbook(exponent, x) : "(" + textbook(exponent, x) + ")");
+    }
+    if (is_a<function>(e)) {
+        std::string name = ex_to<function>(e).get_name();
+        for (const auto& [symbolic, row] : symbolicNames())
+            if (symbolic == name)
+                name = row->name;
+        std::string out = name + "(";
+        for (std::size_t i = 0; i < e.nops(); ++i)
+            out += (i ? ", " : "") + textbook(e.op(i), x);
+        return out + ")";
+    }
     std::ostringstream s;
     s << e;
-    std::string text = s.str();
-    for (const auto& [symbolic, row] : symbolicNames()) {
-        if (symbolic == row->name)
-            continue;
-        const std::string from = symbolic + '(', to = std::string(row->name) + '(';
-        for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-            text.replace(at, from.size(), to);
-    }
-    return text;
+    return s.str();
 }
 
 }  // namespace
@@ -256,7 +323,7 @@ ExactDerivative exactDerivative(const Node& tree, const std::vector<std::string>
     // function without such an operation is defined wherever it is finite.
     if (mayBeUndefined(tree))
         made.bracketed = "(" + made.bracketed + ")+0*(" + bracketed + ")";
-    made.shown = shownDerivative(d);
+    made.shown = textbook(d, symbols.at(variables[0]));
     return made;
 }
 

@@ -15,6 +15,7 @@
 namespace {
 
 DialogScript* activeScript = nullptr;
+RuntimeErrorHold* activeHold = nullptr;
 std::function<void(int)> endHandler;
 
 QWidget* dialogParent()
@@ -101,8 +102,22 @@ QString InputBox(const QString& prompt, const QString& title, const QString& def
     return dialog.textValue();
 }
 
+RuntimeErrorHold::RuntimeErrorHold() : outer_(std::exchange(activeHold, this)) { }
+
+RuntimeErrorHold::~RuntimeErrorHold() { activeHold = outer_; }
+
+void RuntimeErrorHold::hold(int number)
+{
+    if (first_ == 0)
+        first_ = number;
+}
+
 void reportRuntimeError(const rt::RuntimeError& error)
 {
+    if (activeHold) {
+        activeHold->hold(error.number());
+        return;
+    }
     const QString text =
         QStringLiteral("Run-time error '%1':\n\n%2").arg(error.number()).arg(QString::fromUtf8(error.what()));
     if (activeScript) {
@@ -117,6 +132,10 @@ void reportRuntimeError(const rt::RuntimeError& error)
 
 void reportRuntimeErrorFrom(const QObject* source, const rt::RuntimeError& error)
 {
+    if (activeHold) {
+        activeHold->hold(error.number());
+        return;
+    }
     const QObject* o = source;
     while (o && !o->isWidgetType())
         o = o->parent();  // a menu entry belongs to its menu, which belongs to its window

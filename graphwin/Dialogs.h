@@ -52,6 +52,25 @@ QString FileBox(bool saving, const QString& title, const QString& directory, con
 // set, records the box and the number and returns).
 void reportRuntimeError(const rt::RuntimeError& error);
 
+// While one is alive, a run-time error that would reach the report (or be said in words by an added
+// screen) is held instead: the first one's number is kept, nothing is shown and the program carries
+// on. Applying a lesson's step uses it, so that a step a colleague's file got wrong is refused in
+// words; a person's own clicks outside it keep their classic report. Holds nest: the innermost holds.
+class RuntimeErrorHold {
+public:
+    RuntimeErrorHold();
+    ~RuntimeErrorHold();
+    RuntimeErrorHold(const RuntimeErrorHold&) = delete;
+    RuntimeErrorHold& operator=(const RuntimeErrorHold&) = delete;
+    // The number of the first error held, 0 while none was.
+    int first() const { return first_; }
+    void hold(int number);
+
+private:
+    RuntimeErrorHold* outer_;
+    int first_ = 0;
+};
+
 // The window property by which a screen that is an addition to the classic eight asks that a
 // run-time error of a person's action on it be said in words, the program carrying on.
 inline constexpr const char* kErrorsInWords = "plottoErrorsInWords";

@@ -212,9 +212,11 @@ public:
     };
     static void setLessonCommands(LessonCommands commands);
     static void refreshLessonPlaces();
+    // Says where the lesson stands ("Step 2 of 4."), as a step has opened on this screen.
+    void announceLessonPlace();
     QAction *mnuAddStep = nullptr, *mnuSaveLesson = nullptr, *mnuOpenLesson = nullptr;
     QAction *mnuNextStep = nullptr, *mnuPreviousStep = nullptr, *mnuExportWorksheet = nullptr;
-    QLabel* lblLessonPlace = nullptr;
+    QLabel* lblLessonPlace = nullptr;  // a label of the window, kept over its room at the menu bar's right
 
     // Makes the screen usable from the keyboard and by a screen reader: every control gets an
     // accessible name (its caption, or for a box the label beside or above it), the labels that answer
@@ -274,6 +276,9 @@ public:
     bool everyDrawingKept() const { return scene_->complete(); }
 
 protected:
+    // Tells a screen reader `text` (read with the description until the next clear), with a marker
+    // on the square at `marker` when given.
+    void announce(const QString& text, std::optional<QPointF> marker = std::nullopt);
     void showEvent(QShowEvent* event) override;
     explicit GraphScreen(Config config);
     // Draws with `draw` now and keeps it as a step of the picture (GraphScene), to be drawn again by
@@ -438,6 +443,8 @@ private:
     // Leaves the screens whose menu bar shows where the lesson stands (as the screen goes).
     void leaveLessonPlaces();
     void refreshLessonPlace();
+    QWidget* lessonPlaceRoom_ = nullptr;  // the menu bar's corner, as large as the place
+    void placeLessonPlace();
     // Grows the menu bar and its menus with the form, and tells the style the form's zoom.
     void applyFormZoom(double zoom);
     QFont menuFont_;
@@ -456,7 +463,6 @@ private:
     void walkTo(std::size_t index, const QString& before = {});
     std::optional<QPointF> markerAt(double x, double y) const;
     QString spokenPoint(double x, double y, double finer = 1) const;
-    void announce(const QString& text, std::optional<QPointF> marker = std::nullopt);
     std::vector<TracedCurve> traced_;
     std::uint64_t tracedAfterClear_ = 0;
     int chosen_ = -1;

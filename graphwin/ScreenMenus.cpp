@@ -2,9 +2,12 @@
 // A screen's menu bar: the File menu, the function menu's place, the Tools menu (typed functions,
 // projector mode, hearing the curve, export and printing) with the lesson commands, which every screen shares, and the
 // place of the lesson shown at the bar's right. (The View menu: ScreenView.cpp.)
+#include <functional>
 #include <vector>
 
+#include <QAccessible>
 #include <QAction>
+#include <QEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -21,6 +24,22 @@ GraphScreen::LessonCommands& lessonCommands()
     static GraphScreen::LessonCommands commands;
     return commands;
 }
+
+// Runs `place` whenever the menu bar it watches is shown, moved or resized.
+class PlaceFollower : public QObject {
+public:
+    PlaceFollower(QWidget* bar, std::function<void()> place) : QObject(bar), place_(std::move(place)) { }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show)
+            place_();
+        return false;
+    }
+
+private:
+    std::function<void()> place_;
+};
 
 // Every screen, each of whose menu bars shows where the lesson stands.
 std::vector<GraphScreen*>& allScreens()
@@ -108,6 +127,8 @@ void GraphScreen::refreshLessonPlace()
     const QString place = lessonCommands().place ? lessonCommands().place() : QString();
     lblLessonPlace->setText(place);
     lblLessonPlace->setVisible(!place.isEmpty());
+    lessonPlaceRoom_->setVisible(!place.isEmpty());
+    placeLessonPlace();
     const bool open = !place.isEmpty();
     mnuNextStep->setEnabled(open);
     mnuPreviousStep->setEnabled(open);
@@ -148,11 +169,37 @@ void GraphScreen::buildLessonCommands()
         if (lessonCommands().previous)
             lessonCommands().previous();
     });
-    lblLessonPlace = new QLabel(menuBar);
+    lessonPlaceRoom_ = new QWidget(menuBar);
+    menuBar->setCornerWidget(lessonPlaceRoom_, Qt::TopRightCorner);
+    lblLessonPlace = new QLabel(this);
+    lblLessonPlace->setObjectName(QStringLiteral("lblLessonPlace"));
     lblLessonPlace->setContentsMargins(8, 0, 12, 0);
-    menuBar->setCornerWidget(lblLessonPlace, Qt::TopRightCorner);
+    lblLessonPlace->setAccessibleDescription(Plotto::tr("The step of the lesson shown"));
+    menuBar->installEventFilter(new PlaceFollower(menuBar, [this] { placeLessonPlace(); }));
     allScreens().push_back(this);
     refreshLessonPlace();
+}
+
+void GraphScreen::placeLessonPlace()
+{
+    // The place is a label of the window itself, not of the bar: a menu bar shows a screen reader its
+    // menus only, and the place must be found in the window's tree. It lies at the bar's right end,
+    // over the bar's corner, which keeps the menus clear of it.
+    lblLessonPlace->setFont(menuBar->font());
+    const QSize size = lblLessonPlace->sizeHint();
+    lessonPlaceRoom_->setFixedSize(size);
+    lblLessonPlace->setGeometry(QRect(menuBar->mapTo(this, QPoint(menuBar->width() - size.width(), 0)),
+                                      QSize(size.width(), menuBar->height())));
+    lblLessonPlace->raise();
+}
+
+void GraphScreen::announceLessonPlace()
+{
+    if (lblLessonPlace->text().isEmpty())
+        return;
+    QAccessibleEvent named(lblLessonPlace, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&named);
+    announce(lblLessonPlace->text() + QLatin1Char('.'));
 }
 
 void GraphScreen::leaveLessonPlaces() { std::erase(allScreens(), this); }

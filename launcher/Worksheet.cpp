@@ -173,14 +173,8 @@ StepContent take(const lesson::Step& step, int number, int count, GraphScreen& s
     if (!refusal.isEmpty()) {
         c.problems << Plotto::tr("This step cannot be shown: %1.").arg(refusal);
     } else {
-        try {
-            screen.activate();
-            lesson::apply(step, screen);
-        } catch (const rt::RuntimeError& error) {
-            c.problems << Plotto::tr("This step cannot be shown whole: %1 (run-time error %2).")
-                              .arg(QString::fromUtf8(error.what()))
-                              .arg(error.number());
-        }
+        if (const int error = lesson::open(step, screen))
+            c.problems << lesson::refusal(number, error);
     }
     setDialogScript(before);
     for (int n : script.errors)

@@ -210,11 +210,12 @@ void frmGraphingCalc::showScreen(GraphScreen& first)
     for (GraphScreen* next = &first; next;) {
         GraphScreen& screen = *next;
         pending_ = nullptr;
-        screen.activate();
-        if (pendingStep_ >= 0) {
+        if (pendingStep_ >= 0) {  // a lesson's step: the screen activated and the step applied, or refused
             step_ = std::exchange(pendingStep_, -1);
             GraphScreen::refreshLessonPlaces();
-            lesson::apply(lesson_.steps[static_cast<std::size_t>(step_)], screen);
+            applyStep(screen);
+        } else {
+            screen.activate();
         }
         shown_ = &screen;
         screen.exec();

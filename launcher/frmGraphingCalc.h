@@ -124,6 +124,9 @@ private:
     void buildLanguageMenu();
     QSize normalSize_;
     void showScreen(GraphScreen& screen);
+    // Activates `screen` and applies the current step there; a step whose values make a handler raise
+    // a run-time error is refused in words, the screen staying open for the next step.
+    void applyStep(GraphScreen& screen);
     void buildLessonMenu();
     void addStep(GraphScreen& screen);
     void chooseLesson();

@@ -136,8 +136,7 @@ void frmGraphingCalc::goToStep(int index)
     if (shown_ == &target) {
         step_ = index;
         GraphScreen::refreshLessonPlaces();
-        target.activate();
-        lesson::apply(lesson_.steps[static_cast<std::size_t>(index)], target);
+        applyStep(target);
         return;
     }
     pendingStep_ = index;
@@ -147,6 +146,14 @@ void frmGraphingCalc::goToStep(int index)
         return;
     }
     showScreen(target);
+}
+
+void frmGraphingCalc::applyStep(GraphScreen& screen)
+{
+    if (const int error = lesson::open(lesson_.steps[static_cast<std::size_t>(step_)], screen))
+        MsgBox(lesson::refusal(step_ + 1, error), screen.windowTitle());
+    else
+        screen.announceLessonPlace();
 }
 
 void frmGraphingCalc::addStep(GraphScreen& screen)

@@ -16,6 +16,25 @@ const char* errorMessage(int number)
     }
 }
 
+// Marks a text for the translators (the program's Qt layer translates it where it is shown); this
+// layer has no Qt, so the mark leaves the text as it is.
+#ifndef QT_TRANSLATE_NOOP
+#define QT_TRANSLATE_NOOP(context, text) text
+#endif
+
+const char* valuesInWords(int number)
+{
+    switch (number) {
+    case InvalidProcedureCall: return QT_TRANSLATE_NOOP("Plotto", "are outside what a function accepts");
+    case Overflow: return QT_TRANSLATE_NOOP("Plotto", "overflow");
+    case SubscriptOutOfRange: return QT_TRANSLATE_NOOP("Plotto", "go past the end of a table");
+    case DivisionByZero: return QT_TRANSLATE_NOOP("Plotto", "divide by zero");
+    case TypeMismatch: return QT_TRANSLATE_NOOP("Plotto", "are not numbers");
+    case InvalidPropertyValue: return QT_TRANSLATE_NOOP("Plotto", "are more than a control can take");
+    default: return QT_TRANSLATE_NOOP("Plotto", "cannot be worked out");
+    }
+}
+
 RuntimeError::RuntimeError(int number) : number_(number) { }
 
 const char* RuntimeError::what() const noexcept { return errorMessage(number_); }

@@ -20,6 +20,10 @@ enum ErrorNumber : int {
 // The classic message for an error number ("Overflow", "Division by zero", ...).
 const char* errorMessage(int number);
 
+// What an error says of the values that raised it, in plain words that complete "its values ..."
+// ("overflow", "divide by zero"): for refusing a lesson's step without the classic report.
+const char* valuesInWords(int number);
+
 class RuntimeError : public std::exception {
 public:
     explicit RuntimeError(int number);

@@ -73,12 +73,57 @@ std::vector<std::vector<std::string>> Table::cells() const
             }
             line.push_back(format("%.3e", error));
             const Cell* before = r > 0 ? &values[r - 1][m] : nullptr;
-            if (before && before->value && error > 0)
-                line.push_back(format("%.2f", std::fabs(*before->value - *exact) / error));
+            const double previous = before && before->value ? std::fabs(*before->value - *exact) : 0;
+            if (before && before->value && error > 0 && kind == Kind::Steps && std::min(error, previous) < kRoundOff)
+                line.push_back("round-off");
+            else if (before && before->value && error > 0)
+                line.push_back(format("%.2f", previous / error));
             else
                 line.push_back("");
         }
         out.push_back(line);
+    }
+    return out;
+}
+
+bool Table::hasRoundOff() const
+{
+    for (const auto& line : cells())
+        if (std::find(line.begin(), line.end(), "round-off") != line.end())
+            return true;
+    return false;
+}
+
+std::string Table::roundOffNote()
+{
+    return "round-off: an error below " + format("%.0e", kRoundOff) +
+           " is mostly the rounding of double-precision arithmetic over the steps, not the method's own "
+           "error, so its ratio is not shown.";
+}
+
+std::vector<Table::ReferenceLine> Table::referenceLines() const
+{
+    std::vector<int> sorted = orders;
+    std::sort(sorted.begin(), sorted.end());
+    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
+    std::vector<ReferenceLine> out;
+    for (const int order : sorted) {
+        std::vector<std::pair<double, double>> points;
+        for (std::size_t m = 0; m < orders.size() && m < methods.size() && points.empty(); ++m)
+            if (orders[m] == order)
+                points = measuredErrors(m);
+        if (points.empty())
+            continue;
+        const auto [n0, e0] = points.front();
+        double lowest = e0;
+        for (const auto& point : points)
+            lowest = std::min(lowest, point.second);
+        const double top = e0 * kReferenceApart;
+        // To the method's last count, or sooner where the line would come nearer than kReferenceApart
+        // to the smallest error (where rounding has flattened the data).
+        const double n1 =
+            std::min(points.back().first > n0 ? points.back().first : n0 * 2, n0 * std::pow(e0 / lowest, 1.0 / order));
+        out.push_back({order, {n0, top}, {n1, top * std::pow(n1 / n0, -order)}, "slope " + std::to_string(order)});
     }
     return out;
 }

@@ -51,6 +51,23 @@ struct Table {
     std::string tabSeparated() const;
     // The same as comma-separated values (RFC 4180: quoted where needed, lines ended by CR LF).
     std::string csv() const;
+    // The ratios of a step table spoiled by round-off: a row whose error, or the previous row's, is
+    // below this shows "round-off" instead of its ratio: an endpoint after hundreds of steps in double
+    // precision carries rounding of about 1e-14 (from (4, 3) to 4.5 with h = 0.02/64 the fourth order's
+    // error is 9e-15 and its ratio 0.14), which then decides the ratio.
+    static constexpr double kRoundOff = 1e-13;
+    // Whether some ratio of the table says "round-off", and the sentence under the table that says why.
+    bool hasRoundOff() const;
+    static std::string roundOffNote();
+    // A reference line of slope -order on the log-log plot, drawn apart from the data: `apart` times
+    // above the first measured error of the first method of that order, across that method's counts.
+    struct ReferenceLine {
+        int order;
+        std::pair<double, double> from, to;  // (count, error) at either end
+        std::string label;  // at its end: "slope 2"
+    };
+    static constexpr double kReferenceApart = 4;
+    std::vector<ReferenceLine> referenceLines() const;
     // Method m's measurable errors, in row order: (the row's count, the error) for every row whose
     // value exists and whose error is finite and beyond the exact value's own accuracy.
     std::vector<std::pair<double, double>> measuredErrors(std::size_t m) const;

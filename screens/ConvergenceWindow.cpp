@@ -22,6 +22,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScatterSeries>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTableWidget>
@@ -61,6 +62,10 @@ ConvergenceWindow::ConvergenceWindow(QWidget* owner, const QString& title, std::
     plot_->setMinimumWidth(320);
     body->addWidget(plot_, 1);
     layout->addLayout(body, 1);
+    roundOff_ = new QLabel(this);  // under the table: why some ratios say "round-off"
+    roundOff_->setWordWrap(true);
+    roundOff_->setObjectName(QStringLiteral("lblRoundOff"));
+    layout->addWidget(roundOff_);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     auto* exporting = new QPushButton(Plotto::tr("&Export Table..."), this);
@@ -98,6 +103,8 @@ void ConvergenceWindow::recompute()
     table_ = compute_();
     summary_->setText(QString::fromStdString(table_.exactSource));
     fillGrid();
+    roundOff_->setText(table_.hasRoundOff() ? QString::fromStdString(Convergence::Table::roundOffNote()) : QString());
+    roundOff_->setVisible(!roundOff_->text().isEmpty());
     fillPlot();
     applyFont();
 }
@@ -154,8 +161,6 @@ void ConvergenceWindow::fillPlot()
     chart->addAxis(x, Qt::AlignBottom);
     chart->addAxis(y, Qt::AlignLeft);
     double lowest = 0, highest = 0;
-    // Each method's first measured point, where its order's reference slope starts.
-    std::vector<std::pair<double, double>> first(table_.methods.size(), {0.0, 0.0});
     for (std::size_t m = 0; m < table_.methods.size() && table_.exact; ++m) {
         auto* series = new QLineSeries;
         series->setName(QString::fromStdString(table_.methods[m]));
@@ -166,39 +171,43 @@ void ConvergenceWindow::fillPlot()
             series->append(count, error);
             lowest = lowest == 0 ? error : std::min(lowest, error);
             highest = std::max(highest, error);
-            if (first[m].first == 0)
-                first[m] = {count, error};
         }
         chart->addSeries(series);
         series->attachAxis(x);
         series->attachAxis(y);
     }
-    // The reference slopes of the table's orders (-1, -2 and -4), each from the first point of the
-    // first method of that order, across the table's range or down to the smallest error shown;
-    // the lowest order dashed, the next dash-dotted, the others dotted.
-    std::vector<int> orders = table_.orders;
-    std::sort(orders.begin(), orders.end());
-    orders.erase(std::unique(orders.begin(), orders.end()), orders.end());
-    for (std::size_t o = 0; o < orders.size(); ++o) {
-        const int order = orders[o];
-        std::pair<double, double> start{0.0, 0.0};
-        for (std::size_t m = 0; m < table_.orders.size() && m < first.size() && start.first == 0; ++m)
-            if (table_.orders[m] == order)
-                start = first[m];
-        if (start.first == 0 || table_.rowCounts.empty())
-            continue;
+    // The reference slopes of the table's orders, apart from the data (above its first point), each
+    // labelled at its end; the lowest order dashed, the next dash-dotted, the others dotted.
+    const std::vector<Convergence::Table::ReferenceLine> references = table_.referenceLines();
+    for (std::size_t o = 0; o < references.size(); ++o) {
+        const auto& reference = references[o];
         auto* line = new QLineSeries;
-        line->setName(Plotto::tr("slope -%1").arg(order));
+        line->setName(Plotto::tr("slope -%1").arg(reference.order));
         line->setPen(QPen(QColor(0x60, 0x60, 0x60), 1.5,
                           o == 0   ? Qt::DashLine
                           : o == 1 ? Qt::DashDotLine
                                    : Qt::DotLine));
-        const double end = std::max(lowest, start.second * std::pow(table_.rowCounts.back() / start.first, -order));
-        line->append(start.first, start.second);
-        line->append(start.first * std::pow(start.second / end, 1.0 / order), end);
+        line->append(reference.from.first, reference.from.second);
+        line->append(reference.to.first, reference.to.second);
+        highest = std::max(highest, reference.from.second);
+        // The label: one unmarked point at the line's end that carries the text.
+        auto* end = new QScatterSeries;
+        end->append(reference.to.first, reference.to.second);
+        end->setMarkerSize(1);
+        end->setColor(Qt::transparent);
+        end->setBorderColor(Qt::transparent);
+        end->setPointLabelsFormat(QString::fromStdString(reference.label));
+        end->setPointLabelsColor(QColor(0x40, 0x40, 0x40));
+        end->setPointLabelsVisible(true);
+        end->setPointLabelsClipping(false);
         chart->addSeries(line);
-        line->attachAxis(x);
-        line->attachAxis(y);
+        chart->addSeries(end);
+        for (QAbstractSeries* series : {static_cast<QAbstractSeries*>(line), static_cast<QAbstractSeries*>(end)}) {
+            series->attachAxis(x);
+            series->attachAxis(y);
+        }
+        for (QLegendMarker* marker : chart->legend()->markers(end))
+            marker->setVisible(false);
     }
     if (highest > 0) {
         y->setRange(lowest / 2, highest * 2);

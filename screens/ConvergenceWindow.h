@@ -33,6 +33,7 @@ public:
     const Convergence::Table& table() const { return table_; }
     QTableWidget* grid() const { return grid_; }
     QLabel* summary() const { return summary_; }
+    QLabel* roundOffNote() const { return roundOff_; }
     QChartView* plot() const { return plot_; }
     // The table as it is shown, written to `path`: comma-separated values (.csv) or a PDF page with the
     // window's title and summary (.pdf), through a temporary file renamed at the end: "" or what went
@@ -54,6 +55,7 @@ private:
     std::function<Convergence::Table()> compute_;
     Convergence::Table table_;
     QLabel* summary_ = nullptr;
+    QLabel* roundOff_ = nullptr;
     QTableWidget* grid_ = nullptr;
     QChartView* plot_ = nullptr;
     class QFormLayout* inputs_ = nullptr;

@@ -14,6 +14,7 @@
 
 #include "graphwin/Controls.h"
 #include "graphwin/FormTable.h"
+#include "graphwin/Dialogs.h"
 #include "graphwin/GraphScreen.h"
 #include "graphwin/Language.h"
 #include "screens/ScreenRegistry.h"
@@ -154,12 +155,15 @@ QString check(const Step& step, GraphScreen& screen)
     return {};
 }
 
-void apply(const Step& step, GraphScreen& screen)
+namespace {
+
+// Sets the step's function and controls, then presses its buttons, until a handler raises.
+void setAndPress(const Step& step, GraphScreen& screen, const RuntimeErrorHold& hold)
 {
     screen.setFunctionState(step.function);
     // Ticks and options first (an option's handler may write boxes, as choosing Euler's method sets
     // Delta x), then the boxes as they were saved, then the scroll bars.
-    for (int pass = 0; pass < 3; ++pass)
+    for (int pass = 0; pass < 3 && !hold.first(); ++pass)
         for (QWidget* w : settable(screen)) {
             const QJsonValue value = step.controls.value(w->objectName());
             if (value.isUndefined())
@@ -174,14 +178,55 @@ void apply(const Step& step, GraphScreen& screen)
             } else if (auto* bar = qobject_cast<ScrollBar*>(w); bar && pass == 2) {
                 bar->setValue(value.toInt());
             }
+            if (hold.first())
+                return;
         }
     for (const Action& a : step.actions)
-        for (int i = 0; i < a.times; ++i) {
+        for (int i = 0; i < a.times && !hold.first(); ++i) {
             if (QAction* entry = a.menu.isEmpty() ? nullptr : menuEntry(screen, a.menu))
                 entry->trigger();
             else if (QAbstractButton* b = button(screen, a.click))
                 b->click();
         }
+}
+
+// Runs `body` with every run-time error held: the first one's number, 0 for none.
+template <class Body>
+int held(Body&& body)
+{
+    RuntimeErrorHold hold;  // every handler reached reports here, not to the classic report
+    try {
+        body(hold);
+    } catch (const rt::RuntimeError& error) {  // raised outside any handler's own guard
+        hold.hold(error.number());
+    }
+    return hold.first();
+}
+
+}  // namespace
+
+int apply(const Step& step, GraphScreen& screen)
+{
+    const Step before = capture(screen);
+    const int error = held([&](const RuntimeErrorHold& hold) { setAndPress(step, screen, hold); });
+    if (error)  // the controls as they were, so that nothing the step set is left to fail again
+        (void)held([&](const RuntimeErrorHold& hold) { setAndPress(before, screen, hold); });
+    return error;
+}
+
+int open(const Step& step, GraphScreen& screen)
+{
+    if (const int error = held([&](const RuntimeErrorHold&) { screen.activate(); }))
+        return error;
+    return apply(step, screen);
+}
+
+QString refusal(int number, int error)
+{
+    return Plotto::tr("Step %1 cannot be shown: its values %2 (run-time error %3).")
+        .arg(number)
+        .arg(Plotto::tr(rt::valuesInWords(error)))
+        .arg(error);
 }
 
 void upgrade(Step& step, GraphScreen& screen)

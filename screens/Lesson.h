@@ -63,8 +63,17 @@ Step capture(GraphScreen& screen);
 // every button it presses exists, the function can be taken): "" or the reason, in words.
 QString check(const Step& step, GraphScreen& screen);
 // Opens `step` on `screen`, which is shown (activated) already: the function, the ticks and
-// options, the boxes in the form's order, the scroll bars, then the buttons.
-void apply(const Step& step, GraphScreen& screen);
+// options, the boxes in the form's order, the scroll bars, then the buttons. A step comes from a
+// file and may hold values for which a screen's handler raises a classic run-time error: the first
+// such error stops the step, the controls it set go back to what they were, and its number is
+// returned, with no report and the program carrying on; 0 when the step was applied whole.
+[[nodiscard]] int apply(const Step& step, GraphScreen& screen);
+// Activates `screen` (as showing it does) and applies `step` there, an error of either refused as
+// apply() refuses it: how a lesson moves to a step.
+[[nodiscard]] int open(const Step& step, GraphScreen& screen);
+// The words that refuse step `number` (counted from 1) for the run-time error `error`:
+// "Step 4 cannot be shown: its values overflow (run-time error 6)."
+QString refusal(int number, int error);
 
 // The lesson as its JSON text, and back: a lesson, or the reason the text is not one (with the
 // step it concerns).

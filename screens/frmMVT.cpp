@@ -369,7 +369,7 @@ std::vector<GraphScreen::DragHandle> frmMVT::dragHandles()
             continue;
         // Dragging an end draws the secant again from there, as Apply does; the slider's tangent and
         // the points c belonged to the old interval.
-        handles.push_back({QString::fromLatin1(name), *x, y, true, [this, box](double to, double) {
+        handles.push_back({QString::fromLatin1(name), *x, y, true, [this, box = box](double to, double) {
                                eraseKept(QStringLiteral("construction"));
                                runForDrag([&] {
                                    box->assign(draggedValue(to));

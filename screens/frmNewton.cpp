@@ -6,11 +6,15 @@
 
 #include <cmath>
 
+#include <QMenu>
+
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingStyle.h"
 #include "graphwin/Language.h"
 #include "runtime/Numbers.h"
+#include "screens/NewtonSteps.h"
 
 namespace {
 
@@ -42,6 +46,10 @@ frmNewton::frmNewton() : GraphScreen(newtonConfig())
         {FORM_NAME(grdGuess),        Kind::Grid,   "",                  {11220, 600, 2460, 4500}, {}, {.name = QT_TRANSLATE_NOOP("Plotto", "Guesses"), .rows = kGridRows, .columns = 2}},
     });
     // clang-format on
+    mnuZoomSteps = mnuView->menu()->addAction(Plotto::tr("Zoom to the &Steps"));
+    NAME_AS_MEMBER(mnuZoomSteps);
+    connect(mnuZoomSteps, &QAction::triggered, this,
+            [this] { guarded(mnuZoomSteps, [this] { mnuZoomSteps_Click(); }); });
     Form_Load();
 }
 
@@ -209,8 +217,36 @@ void frmNewton::describeResults(QStringList& lines) const
         if (!grdGuess->cell(r, 1).isEmpty())
             guesses << QStringLiteral("%1: %2").arg(grdGuess->cell(r, 0), grdGuess->cell(r, 1));
     lines << Plotto::tr("Newton's method on ") + describeFamily() + QLatin1Char('.');
-    lines << (guesses.isEmpty() ? Plotto::tr("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
-                                : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
+    lines << (guesses.isEmpty()
+                  ? Plotto::tr("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
+                  : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
+    if (const auto gap = newton::lastGap(this->guesses()))
+        lines << Plotto::tr("The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.")
+                     .arg(QString::number(*gap, 'g', 3));
+}
+
+std::vector<double> frmNewton::guesses() const
+{
+    std::vector<double> out;
+    for (int r = 1; r < grdGuess->rowCount() && !grdGuess->cell(r, 1).isEmpty(); ++r)
+        if (const auto x = rt::TryVal(grdGuess->cell(r, 1).toStdString()))
+            out.push_back(*x);
+    if (!NewSequence && !out.empty())
+        if (const auto next = txtGuess->number())
+            out.push_back(*next);
+    return out;
+}
+
+void frmNewton::mnuZoomSteps_Click()
+{
+    // The curve's values through the path that never raises: a value that cannot be had is left out.
+    const FuncGlobals::ExplicitSnapshot f(FuncGlobals::ExplicitSnapshot::What::Value, typed_);
+    const auto window = newton::stepsWindow(guesses(), [&f](double x) { return f.at(x); });
+    if (!window) {
+        announce(Plotto::tr("No steps to zoom to yet: press Apply Newton's at least once."));
+        return;
+    }
+    showWindow(*window);
 }
 
 std::vector<GraphScreen::DragHandle> frmNewton::dragHandles()

@@ -29,6 +29,12 @@ public:
     void Form_Activate() override;
     void mnuFunc_Click(int Index) override;
     void mnuAbout_Click() override;
+    // View, Zoom to the Steps: a window around the last steps, where the default window shows them all
+    // on top of the root (an addition of this program's own menu; the seed's controls are unchanged).
+    QAction* mnuZoomSteps = nullptr;
+    void mnuZoomSteps_Click();
+    // The guesses of the sequence shown, in order: the grid's numbers, then the next guess in the box.
+    std::vector<double> guesses() const;
 
     // The first guess of the sequence shown (the guess box before any), dragged along the x-axis:
     // the sequence is drawn again from there with as many steps.

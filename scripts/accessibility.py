@@ -261,6 +261,26 @@ def walk_along(win):
     check(said(win) == "Root at x = 2, y = 0", "from near 3 the nearest root of x^2 - 4 is announced: %r" % said(win))
 
 
+def lesson_place():
+    """Opens the first example lesson from the launcher by the keyboard: the place of its step is a label
+    of the window's tree, and moving to the next step is said."""
+    launcher = window(LAUNCHER)
+    launcher.queryComponent().grabFocus()
+    time.sleep(0.2)
+    key("alt+l")
+    key("e")
+    key("Return", pause=1.0)
+    win = window(None)
+    print("%s (a lesson):" % win.name)
+    places = [n.name for n, _ in walk(win) if n.getRole() == pyatspi.ROLE_LABEL and n.name.startswith("Step ")]
+    check(len(places) == 1 and places[0].startswith("Step 1 of "), "the lesson's place is in the tree: %s" % places)
+    key("Next", pause=1.0)
+    places = [n.name for n, _ in walk(win) if n.getRole() == pyatspi.ROLE_LABEL and n.name.startswith("Step ")]
+    check(len(places) == 1 and places[0].startswith("Step 2 of "), "the next step's place is read: %s" % places)
+    check("Step 2 of " in graph(win).description, "the step's place is said when it opens")
+    key("Escape")
+
+
 def main():
     app()
     screen("Graph Classes of Functions", "Graphing Classes of Functions", grapher,
@@ -284,6 +304,7 @@ def main():
             screen(button, None, lambda w: None, lambda w: [], menu_letter=letter if kind == "addition" else None)
     check(len(checked) == len(listed), "every screen of `plotto --screens` was checked (%d of %d)"
           % (len(checked), len(listed)))
+    lesson_place()
     if failures:
         print("%d accessibility check(s) failed" % len(failures))
         sys.exit(1)

@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Fuzzes with libFuzzer (clang) for a bounded time: the reading and writing of numbers, or with
-# TARGET=typed the typed functions (reading, derivative, evaluation).
-# Usage: [TARGET=typed] scripts/fuzz.sh [SECONDS]   (default 600). Inputs that break a property are
-# kept in fuzz/regressions/ (fuzz/typed-regressions/), which the test suite replays.
+# Fuzzes with libFuzzer (clang) for a bounded time: the reading and writing of numbers, with
+# TARGET=typed the typed functions (reading, derivative, evaluation), or with TARGET=lessons lessons
+# of arbitrary bytes and damaged examples opened and applied on every screen (the whole program is
+# built with clang under the sanitizers into build/fuzz: one heavy build).
+# Usage: [TARGET=typed|lessons] scripts/fuzz.sh [SECONDS]   (default 600). Inputs that break a
+# property are kept in fuzz/regressions/ (fuzz/typed-regressions/, fuzz/lesson-regressions/), which
+# the test suite replays.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh
@@ -19,6 +22,16 @@ if [ "${TARGET:-numbers}" = typed ]; then
   # CLN keeps a few bytes from its loading that the leak checker cannot follow (see tests/lsan.supp).
   LSAN_OPTIONS="suppressions=tests/lsan.supp" exec "$out/fuzz_typed" -max_total_time="$seconds" -max_len=300 -timeout=10 -rss_limit_mb=2048 \
     -artifact_prefix=fuzz/typed-regressions/ fuzz/typed-corpus fuzz/typed-seeds
+fi
+if [ "${TARGET:-numbers}" = lessons ]; then
+  mkdir -p fuzz/lesson-corpus fuzz/lesson-regressions
+  CXX=clang++ cmake -S . -B build/fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O1 -g" \
+    -DPLOTTO_SANITIZE=ON -DPLOTTO_FUZZ=ON -DPLOTTO_BUILD_TESTS=OFF -DPLOTTO_BUILD_BENCH=OFF \
+    -DCMAKE_CXX_COMPILER_LAUNCHER="$(command -v ccache || true)" >/dev/null
+  cmake --build build/fuzz -j2 --target fuzz_lessons
+  QT_QPA_PLATFORM=offscreen LSAN_OPTIONS="suppressions=tests/lsan.supp" \
+    exec build/fuzz/fuzz_lessons -max_total_time="$seconds" -max_len=4096 -timeout=30 -rss_limit_mb=4096 \
+    -artifact_prefix=fuzz/lesson-regressions/ fuzz/lesson-corpus fuzz/lesson-seeds
 fi
 clang++ "${flags[@]}" \
   fuzz/fuzz_numbers.cpp runtime/Numbers.cpp runtime/RuntimeError.cpp -o "$out/fuzz_numbers"

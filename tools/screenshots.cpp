@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Renders the program's windows to PNG files in a state that shows what each teaches, for the README.
 // Usage: plotto_shots OUTPUT_DIR
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
@@ -166,6 +167,9 @@ int main(int argc, char* argv[])
         entry->close();
     });
     newton.mnuTypeFunction_Click();
+    // The same steps after View, Zoom to the Steps: the last two tangents apart from the root.
+    newton.mnuZoomSteps->trigger();
+    save(newton, dir, QStringLiteral("typed-newton-steps-zoomed.png"));
     newton.hide();
 
     // The midpoint sums of the Gaussian on [0, 1], typed.

@@ -2156,10 +2156,6 @@ Ableitung: y&apos; = </translation>
         <translation>Dieser Schritt kann nicht gezeigt werden: %1.</translation>
     </message>
     <message>
-        <source>This step cannot be shown whole: %1 (run-time error %2).</source>
-        <translation>Dieser Schritt kann nicht vollständig gezeigt werden: %1 (Laufzeitfehler %2).</translation>
-    </message>
-    <message>
         <source>A button of this step could not finish (run-time error %1).</source>
         <translation>Eine Schaltfläche dieses Schritts konnte nicht beendet werden (Laufzeitfehler %1).</translation>
     </message>
@@ -2214,6 +2210,54 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>Worksheets are written by the plotto program, which this run cannot start.</source>
         <translation>Arbeitsblätter schreibt das Programm plotto, das dieser Lauf nicht starten kann.</translation>
+    </message>
+    <message>
+        <source>are outside what a function accepts</source>
+        <translation>liegen außerhalb dessen, was eine Funktion annimmt</translation>
+    </message>
+    <message>
+        <source>overflow</source>
+        <translation>laufen über</translation>
+    </message>
+    <message>
+        <source>go past the end of a table</source>
+        <translation>reichen über das Ende einer Tabelle hinaus</translation>
+    </message>
+    <message>
+        <source>divide by zero</source>
+        <translation>teilen durch null</translation>
+    </message>
+    <message>
+        <source>are not numbers</source>
+        <translation>sind keine Zahlen</translation>
+    </message>
+    <message>
+        <source>are more than a control can take</source>
+        <translation>sind mehr, als ein Steuerelement aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>cannot be worked out</source>
+        <translation>lassen sich nicht berechnen</translation>
+    </message>
+    <message>
+        <source>The step of the lesson shown</source>
+        <translation>Der gezeigte Schritt der Lektion</translation>
+    </message>
+    <message>
+        <source>Zoom to the &amp;Steps</source>
+        <translation>Auf die &amp;Schritte zoomen</translation>
+    </message>
+    <message>
+        <source>The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.</source>
+        <translation>Die letzten beiden Schätzwerte liegen %1 auseinander; Ansicht, Auf die Schritte zoomen zeigt die letzten Schritte.</translation>
+    </message>
+    <message>
+        <source>No steps to zoom to yet: press Apply Newton&apos;s at least once.</source>
+        <translation>Noch keine Schritte zum Zoomen: Drücken Sie mindestens einmal Newton anwenden.</translation>
+    </message>
+    <message>
+        <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
+        <translation>Schritt %1 kann nicht gezeigt werden: seine Werte %2 (Laufzeitfehler %3).</translation>
     </message>
 </context>
 </TS>

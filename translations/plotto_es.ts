@@ -2156,10 +2156,6 @@ Derivada: y&apos; = </translation>
         <translation>Este paso no se puede mostrar: %1.</translation>
     </message>
     <message>
-        <source>This step cannot be shown whole: %1 (run-time error %2).</source>
-        <translation>Este paso no se puede mostrar completo: %1 (error en tiempo de ejecución %2).</translation>
-    </message>
-    <message>
         <source>A button of this step could not finish (run-time error %1).</source>
         <translation>Un botón de este paso no pudo terminar (error en tiempo de ejecución %1).</translation>
     </message>
@@ -2214,6 +2210,54 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Worksheets are written by the plotto program, which this run cannot start.</source>
         <translation>Las hojas de trabajo las escribe el programa plotto, que esta ejecución no puede iniciar.</translation>
+    </message>
+    <message>
+        <source>are outside what a function accepts</source>
+        <translation>están fuera de lo que acepta una función</translation>
+    </message>
+    <message>
+        <source>overflow</source>
+        <translation>desbordan</translation>
+    </message>
+    <message>
+        <source>go past the end of a table</source>
+        <translation>pasan del final de una tabla</translation>
+    </message>
+    <message>
+        <source>divide by zero</source>
+        <translation>dividen por cero</translation>
+    </message>
+    <message>
+        <source>are not numbers</source>
+        <translation>no son números</translation>
+    </message>
+    <message>
+        <source>are more than a control can take</source>
+        <translation>son más de lo que admite un control</translation>
+    </message>
+    <message>
+        <source>cannot be worked out</source>
+        <translation>no se pueden calcular</translation>
+    </message>
+    <message>
+        <source>The step of the lesson shown</source>
+        <translation>El paso de la lección que se muestra</translation>
+    </message>
+    <message>
+        <source>Zoom to the &amp;Steps</source>
+        <translation>Encuadrar los &amp;pasos</translation>
+    </message>
+    <message>
+        <source>The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.</source>
+        <translation>Las dos últimas aproximaciones distan %1; Ver, Encuadrar los pasos muestra los últimos pasos.</translation>
+    </message>
+    <message>
+        <source>No steps to zoom to yet: press Apply Newton&apos;s at least once.</source>
+        <translation>Aún no hay pasos que encuadrar: pulse Aplicar Newton al menos una vez.</translation>
+    </message>
+    <message>
+        <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
+        <translation>El paso %1 no se puede mostrar: sus valores %2 (error en tiempo de ejecución %3).</translation>
     </message>
 </context>
 </TS>

@@ -2156,10 +2156,6 @@ Dérivée : y&apos; = </translation>
         <translation>Cette étape ne peut pas être affichée : %1.</translation>
     </message>
     <message>
-        <source>This step cannot be shown whole: %1 (run-time error %2).</source>
-        <translation>Cette étape ne peut pas être affichée en entier : %1 (erreur d&apos;exécution %2).</translation>
-    </message>
-    <message>
         <source>A button of this step could not finish (run-time error %1).</source>
         <translation>Un bouton de cette étape n&apos;a pas pu se terminer (erreur d&apos;exécution %1).</translation>
     </message>
@@ -2214,6 +2210,54 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>Worksheets are written by the plotto program, which this run cannot start.</source>
         <translation>Les fiches d&apos;exercices sont écrites par le programme plotto, que cette exécution ne peut pas lancer.</translation>
+    </message>
+    <message>
+        <source>are outside what a function accepts</source>
+        <translation>sont hors de ce qu'une fonction accepte</translation>
+    </message>
+    <message>
+        <source>overflow</source>
+        <translation>débordent</translation>
+    </message>
+    <message>
+        <source>go past the end of a table</source>
+        <translation>dépassent la fin d'un tableau</translation>
+    </message>
+    <message>
+        <source>divide by zero</source>
+        <translation>divisent par zéro</translation>
+    </message>
+    <message>
+        <source>are not numbers</source>
+        <translation>ne sont pas des nombres</translation>
+    </message>
+    <message>
+        <source>are more than a control can take</source>
+        <translation>dépassent ce qu'un contrôle peut recevoir</translation>
+    </message>
+    <message>
+        <source>cannot be worked out</source>
+        <translation>ne peuvent pas être calculées</translation>
+    </message>
+    <message>
+        <source>The step of the lesson shown</source>
+        <translation>L'étape de la leçon affichée</translation>
+    </message>
+    <message>
+        <source>Zoom to the &amp;Steps</source>
+        <translation>Zoom sur les é&amp;tapes</translation>
+    </message>
+    <message>
+        <source>The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.</source>
+        <translation>Les deux dernières approximations sont à %1 l'une de l'autre ; Affichage, Zoom sur les étapes montre les dernières étapes.</translation>
+    </message>
+    <message>
+        <source>No steps to zoom to yet: press Apply Newton&apos;s at least once.</source>
+        <translation>Pas encore d&apos;étapes à cadrer : appuyez au moins une fois sur Appliquer Newton.</translation>
+    </message>
+    <message>
+        <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
+        <translation>L'étape %1 ne peut pas être affichée : ses valeurs %2 (erreur d'exécution %3).</translation>
     </message>
 </context>
 </TS>

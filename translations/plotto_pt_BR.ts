@@ -2156,10 +2156,6 @@ Derivada: y&apos; = </translation>
         <translation>Este passo não pode ser mostrado: %1.</translation>
     </message>
     <message>
-        <source>This step cannot be shown whole: %1 (run-time error %2).</source>
-        <translation>Este passo não pode ser mostrado inteiro: %1 (erro em tempo de execução %2).</translation>
-    </message>
-    <message>
         <source>A button of this step could not finish (run-time error %1).</source>
         <translation>Um botão deste passo não pôde terminar (erro em tempo de execução %1).</translation>
     </message>
@@ -2214,6 +2210,54 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Worksheets are written by the plotto program, which this run cannot start.</source>
         <translation>As folhas de exercícios são escritas pelo programa plotto, que esta execução não pode iniciar.</translation>
+    </message>
+    <message>
+        <source>are outside what a function accepts</source>
+        <translation>estão fora do que uma função aceita</translation>
+    </message>
+    <message>
+        <source>overflow</source>
+        <translation>transbordam</translation>
+    </message>
+    <message>
+        <source>go past the end of a table</source>
+        <translation>passam do fim de uma tabela</translation>
+    </message>
+    <message>
+        <source>divide by zero</source>
+        <translation>dividem por zero</translation>
+    </message>
+    <message>
+        <source>are not numbers</source>
+        <translation>não são números</translation>
+    </message>
+    <message>
+        <source>are more than a control can take</source>
+        <translation>são mais do que um controle comporta</translation>
+    </message>
+    <message>
+        <source>cannot be worked out</source>
+        <translation>não podem ser calculados</translation>
+    </message>
+    <message>
+        <source>The step of the lesson shown</source>
+        <translation>O passo da lição mostrado</translation>
+    </message>
+    <message>
+        <source>Zoom to the &amp;Steps</source>
+        <translation>Enquadrar os &amp;passos</translation>
+    </message>
+    <message>
+        <source>The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.</source>
+        <translation>As duas últimas aproximações estão a %1 uma da outra; Exibir, Enquadrar os passos mostra os últimos passos.</translation>
+    </message>
+    <message>
+        <source>No steps to zoom to yet: press Apply Newton&apos;s at least once.</source>
+        <translation>Ainda não há passos para enquadrar: pressione Aplicar Newton pelo menos uma vez.</translation>
+    </message>
+    <message>
+        <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
+        <translation>O passo %1 não pode ser mostrado: seus valores %2 (erro em tempo de execução %3).</translation>
     </message>
 </context>
 </TS>

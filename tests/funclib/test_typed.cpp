@@ -151,12 +151,35 @@ TEST(TypedExpression, UnderstoodTextShowsTheOrderOfOperations)
         ASSERT_TRUE(f);
         EXPECT_EQ(f->understood(), understood) << typed;
     }
-    auto cubic = read("x^3 - 2*x - 5");
-    ASSERT_TRUE(cubic && cubic->derivative());
-    EXPECT_EQ(cubic->derivativeText(), "-2+3*x^2");
-    auto logarithm = read("ln(x^2)");
-    ASSERT_TRUE(logarithm && logarithm->derivative());
-    EXPECT_EQ(logarithm->derivativeText(), "2*x^(-1)");
+}
+
+// The derivative as a textbook writes it: falling powers, terms without x last, " - " for a negative
+// term, and the same order inside brackets; and the text shown reads back as the same function.
+TEST(TypedExpression, DerivativesAreShownInTextbookOrder)
+{
+    const struct {
+        const char* typed;
+        const char* shown;
+    } cases[] = {
+        {"x^3 - 2*x - 5", "3*x^2 - 2"},
+        {"5 - x^4 + 3*x", "-4*x^3 + 3"},
+        {"x^2 - x", "2*x - 1"},
+        {"sin(x) + x^2", "2*x + cos(x)"},
+        {"(x - 1)^3", "3*(x - 1)^2"},
+        {"exp(-x)", "-exp(-x)"},
+        {"1/x", "-x^(-2)"},
+        {"ln(x^2)", "2*x^(-1)"},
+        {"7", "0"},
+    };
+    for (const auto& c : cases) {
+        auto f = read(c.typed);
+        ASSERT_TRUE(f && f->derivative()) << c.typed;
+        EXPECT_EQ(f->derivativeText(), c.shown) << c.typed;
+        auto shown = read(f->derivativeText());
+        ASSERT_TRUE(shown) << c.shown;
+        for (double x : {0.5, 1.5, 3.0})
+            EXPECT_NEAR((*shown)(x), (*f->derivative())(x), 1e-12 * (1 + std::fabs((*shown)(x)))) << c.typed;
+    }
 }
 
 // Every row of the table of functions, by each name it may be typed by: the byte code computes the

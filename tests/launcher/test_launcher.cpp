@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QResizeEvent>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -163,4 +164,66 @@ TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
     ASSERT_GE(more.indexOf(QLatin1Char('&')), 0);
     EXPECT_EQ(letters[more.at(more.indexOf(QLatin1Char('&')) + 1).toLower()], QStringList{more});
     EXPECT_TRUE(script.errors.empty());
+}
+
+// A lesson from a colleague whose step makes a classic handler raise a run-time error: the step is
+// refused in words that name it and the error, the screen stays open with the lesson, no report ends
+// the program, and Next Step goes on. A person's own click keeps the classic report.
+TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
+{
+    ScriptedDialogs script;
+    std::vector<int> ends;
+    setProgramEndHandler([&](int code) { ends.push_back(code); });
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("colleague.plotto"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    // Step 2: equal x-limits, so that Plotto! divides by the window's width of 0 (error 11); step 3:
+    // A = 1e308 on A(Bx - C)^2 + D, whose values at |x| near 10 pass the largest double (error 6).
+    file.write(R"({"format": "plotto-lesson", "version": 2, "steps": [
+        {"screen": "grapher", "controls": {"txtXmax": "20"}, "actions": [{"click": "cmdPlotto"}]},
+        {"screen": "grapher", "controls": {"txtXmin": "5", "txtXmax": "5"}, "actions": [{"click": "cmdPlotto"}]},
+        {"screen": "grapher", "controls": {"txtXmin": "-10", "txtXmax": "10", "txtA": "1e308"}, "actions": [{"click": "cmdPlotto"}]},
+        {"screen": "grapher", "controls": {"txtXmin": "-3", "txtXmax": "3"}, "actions": [{"click": "cmdPlotto"}]}]})");
+    file.close();
+    {
+        frmGraphingCalc l;
+        frmClasses& grapher = l.classesScreen();
+        std::vector<std::pair<QString, bool>> seen;  // the lesson's place and whether the screen was shown
+        QString said;
+        QTimer::singleShot(0, &grapher, [&] {
+            for (int step = 2; step <= 4; ++step) {
+                grapher.mnuNextStep->trigger();
+                seen.emplace_back(grapher.lblLessonPlace->text(), grapher.isVisible());
+            }
+            said = grapher.announcement();  // the step shown whole is said
+            grapher.cmdExit->click();
+        });
+        l.openLesson(path);
+        const std::vector<std::pair<QString, bool>> expected = {{QStringLiteral("Step 2 of 4"), true},
+                                                                {QStringLiteral("Step 3 of 4"), true},
+                                                                {QStringLiteral("Step 4 of 4"), true}};
+        EXPECT_EQ(seen, expected);
+        EXPECT_EQ(said, QStringLiteral("Step 4 of 4."));
+        std::vector<QString> boxes;
+        for (const auto& [title, prompt] : script.shown)
+            boxes.push_back(prompt);
+        EXPECT_EQ(boxes, (std::vector<QString>{
+                             QStringLiteral("Step 2 cannot be shown: its values divide by zero (run-time error 11)."),
+                             QStringLiteral("Step 3 cannot be shown: its values overflow (run-time error 6).")}));
+        EXPECT_TRUE(script.errors.empty());
+        EXPECT_TRUE(ends.empty());
+        // The refused step's A went back to what it was; the last step's window is shown.
+        EXPECT_EQ(std::tuple(grapher.txtXmin->text(), grapher.txtXmax->text(), grapher.txtA->text()),
+                  std::tuple(QStringLiteral("-3"), QStringLiteral("3"), QStringLiteral("1")));
+        // Outside the lesson the same values clicked by a person still meet the classic report.
+        whileShown(grapher, [&] {
+            grapher.txtXmin->setText(QStringLiteral("5"));
+            grapher.txtXmax->setText(QStringLiteral("5"));
+            grapher.cmdPlotto->click();
+        });
+        l.cmdFuncClasses->click();
+        EXPECT_EQ(script.errors, std::vector<int>{11});
+    }
+    setProgramEndHandler(nullptr);
 }

@@ -163,7 +163,7 @@ TEST(Translations, ALessonSavedInOneLanguageOpensInAnother)
             ASSERT_TRUE(read.error.isEmpty()) << from << " -> " << to;
             frmNewton newton;
             newton.Form_Activate();
-            lesson::apply(read.lesson->steps.front(), newton);
+            EXPECT_EQ(lesson::apply(read.lesson->steps.front(), newton), 0);
             EXPECT_EQ(newton.txtGuess->number(), std::optional<double>(2.5)) << from << " -> " << to;
         }
     }

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScatterSeries>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTest>
@@ -116,6 +117,87 @@ TEST(ConvergenceOfSteps, TheReferenceOutlastsTheFourthOrderErrorsToTheLastRow)
     tiny.exactAccuracy = 1e-9;
     EXPECT_EQ(tiny.cells()[7][8], "below 1e-09");
     EXPECT_EQ(tiny.cells()[7][9], "(reference)");
+}
+
+namespace {
+
+// A table by hand, against an exact 0 so that each value is its error: a second-order method whose error quarters at
+// each halving, and a fourth-order one whose error falls by 16 until round-off takes over (5e-12, then 3e-11).
+Table handMade(Table::Kind kind)
+{
+    Table t;
+    t.kind = kind;
+    t.exact = 0;
+    t.exactAccuracy = 1e-15;
+    t.rowHeadings = {"steps", "10", "20", "40", "80", "160"};
+    t.methods = {"Second", "Fourth"};
+    t.orders = {2, 4};
+    t.colours = {0xff0000, 0x0000ff};
+    t.rowCounts = {10, 20, 40, 80, 160};
+    const double second[] = {1e-2, 2.5e-3, 6.25e-4, 1.5625e-4, 3.90625e-5};
+    const double fourth[] = {1e-8, 6.25e-10, 3.90625e-11, 5e-14, 3e-13};
+    for (std::size_t r = 0; r < 5; ++r)
+        t.values.push_back({{second[r], ""}, {-fourth[r], ""}});
+    return t;
+}
+
+}  // namespace
+
+TEST(ConvergenceOfSteps, RatiosSpoiledByRoundOffSaySoAndTheReferenceLinesLieApart)
+{
+    const struct {
+        const char* name;
+        Table::Kind kind;
+        std::vector<std::string> fourthRatios;  // rows 2 to 5
+        bool roundOff;
+    } cases[] = {
+        {"steps: below 1e-13 a ratio measures rounding",
+         Table::Kind::Steps,
+         {"16.00", "16.00", "round-off", "round-off"},
+         true},
+        {"sums keep their ratios", Table::Kind::Sums, {"16.00", "16.00", "781.25", "0.17"}, false},
+    };
+    for (const auto& c : cases) {
+        const Table t = handMade(c.kind);
+        const auto cells = t.cells();
+        for (std::size_t r = 2; r <= 5; ++r) {
+            EXPECT_EQ(cells[r][3], "4.00") << c.name << " row " << r;
+            EXPECT_EQ(cells[r][6], c.fourthRatios[r - 2]) << c.name << " row " << r;
+        }
+        EXPECT_EQ(t.hasRoundOff(), c.roundOff) << c.name;
+    }
+    // The reference lines start four times above each order's first error and keep its slope, so that
+    // the second-order data lie a factor 4 under theirs all along; the fourth's ends at 160 steps.
+    const auto lines = handMade(Table::Kind::Steps).referenceLines();
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(std::tuple(lines[0].order, lines[0].label, lines[1].label), std::tuple(2, "slope 2", "slope 4"));
+    EXPECT_EQ(std::tuple(lines[0].from.first, lines[0].to.first, lines[1].to.first), std::tuple(10.0, 160.0, 160.0));
+    EXPECT_DOUBLE_EQ(lines[0].from.second, 4e-2);
+    EXPECT_DOUBLE_EQ(lines[0].to.second, 1.5625e-4);
+    EXPECT_DOUBLE_EQ(lines[1].from.second, 4e-8);
+    EXPECT_DOUBLE_EQ(lines[1].to.second, 4e-8 / 65536);
+
+    // Errors that rounding flattens at 1e-10 from the third row end the fourth's line where it comes
+    // within 4 of them: at 10 * (1e-8 / 1e-10)^(1/4) = 31.6 steps, at 4e-10.
+    Table flat = handMade(Table::Kind::Steps);
+    for (std::size_t r = 2; r < 5; ++r)
+        flat.values[r][1].value = -1e-10;
+    const auto flatLines = flat.referenceLines();
+    ASSERT_EQ(flatLines.size(), 2u);
+    EXPECT_NEAR(flatLines[1].to.first, 10 * std::sqrt(10.0), 1e-9);
+    EXPECT_NEAR(flatLines[1].to.second, 4e-10, 1e-22);
+
+    // The window: the ratio cell and the sentence under the table, and a label at each line's end.
+    ConvergenceWindow window(nullptr, QStringLiteral("Steps"), [] { return handMade(Table::Kind::Steps); });
+    window.recompute();
+    EXPECT_TRUE(window.grid()->item(3, 2)->text().endsWith(QStringLiteral("ratio round-off")));
+    EXPECT_EQ(window.roundOffNote()->text().toStdString(), Table::roundOffNote());
+    EXPECT_FALSE(window.roundOffNote()->isHidden());
+    QStringList labels;
+    for (QAbstractSeries* series : window.plot()->chart()->series())
+        if (auto* end = qobject_cast<QScatterSeries*>(series); end && end->pointLabelsVisible())
+            labels << end->pointLabelsFormat();
+    EXPECT_EQ(labels, (QStringList{QStringLiteral("slope 2"), QStringLiteral("slope 4")}));
 }
 
 TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)

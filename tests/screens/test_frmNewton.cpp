@@ -102,3 +102,28 @@ TEST_F(Newton, AGuessOutsideTheBoxTheDerivativeAndSelectingTheGuess)
     QTest::mouseClick(screen->txtGuess, Qt::LeftButton);
     EXPECT_EQ(screen->txtGuess->selectedText(), QStringLiteral("FirstGuess"));
 }
+
+// After three steps from 1 on x^2 - 4 (guesses 1, 2.5, 2.05 and 2.000610 in the box): the description
+// says the last two guesses lie 2.05 - 2.00061 = 0.0494 apart, and View, Zoom to the Steps frames the
+// last three guesses with the curve's values there (2.25, 0.2025, 0.0024) and the axis, a tenth to spare.
+TEST_F(Newton, ZoomToTheStepsFramesTheLastGuessesAndTheGapIsDescribed)
+{
+    const auto window = [&] {
+        return std::vector<double>{screen->txtXmin->value(), screen->txtXmax->value(), screen->txtYmin->value(),
+                                   screen->txtYmax->value()};
+    };
+    screen->mnuZoomSteps->trigger();  // before any step: nothing to frame, said so
+    EXPECT_EQ(window(), (std::vector<double>{-10, 10, -10, 10}));
+    EXPECT_TRUE(screen->announcement().startsWith(QStringLiteral("No steps to zoom to yet")));
+    screen->txtGuess->setText(QStringLiteral("1"));
+    for (int i = 0; i < 3; ++i)
+        screen->cmdApply->click();
+    EXPECT_TRUE(screen->describe().contains(QStringLiteral("The last two guesses are 0.0494 apart")))
+        << screen->describe().toStdString();
+    screen->mnuZoomSteps->trigger();
+    const std::vector<double> expected{2.00061 - 0.049939, 2.5 + 0.049939, -0.225, 2.475};
+    const std::vector<double> shown = window();
+    for (std::size_t i = 0; i < 4; ++i)
+        EXPECT_NEAR(shown[i], expected[i], 0.005) << i;
+    EXPECT_TRUE(script.errors.empty());
+}

@@ -2,11 +2,13 @@
 // Lessons: every screen's state saved and opened again in a fresh run of the screens, files that are
 // not lessons (or not ones this program can show) refused with a message that says what and where,
 // and a save that never leaves half a file.
+#include <QAccessible>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
+#include "fuzz/LessonProperties.h"
 #include "screens/Lesson.h"
 #include "screens/ScreenRegistry.h"
 #include "screens/frmAnimate.h"
@@ -135,7 +137,7 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
         screen->Form_Activate();
         const lesson::Step& step = read.lesson->steps[i];
         ASSERT_EQ(lesson::check(step, *screen), QString()) << cases[i].name;
-        lesson::apply(step, *screen);
+        EXPECT_EQ(lesson::apply(step, *screen), 0);
         const lesson::Step again = lesson::capture(*screen);
         EXPECT_EQ(QJsonDocument(QJsonObject{{QStringLiteral("function"), again.function},
                                             {QStringLiteral("controls"), again.controls}})
@@ -161,6 +163,16 @@ TEST_F(Lessons, EachToolsEntryRunsTheCommandOfTheLessonsOwner)
         a->trigger();
     EXPECT_EQ(ran, "asonpw");
     EXPECT_EQ(screen.lblLessonPlace->text(), QStringLiteral("Step 2 of 3"));
+    // A screen reader finds the place in the window's tree (a menu bar's tree holds only its menus).
+    std::function<bool(QAccessibleInterface*)> found = [&](QAccessibleInterface* node) {
+        if (node->role() == QAccessible::StaticText && node->text(QAccessible::Name) == QStringLiteral("Step 2 of 3"))
+            return true;
+        for (int i = 0; i < node->childCount(); ++i)
+            if (QAccessibleInterface* child = node->child(i); child && found(child))
+                return true;
+        return false;
+    };
+    EXPECT_TRUE(found(QAccessible::queryAccessibleInterface(&screen)));
     GraphScreen::setLessonCommands({});
     screen.mnuOpenLesson->trigger();  // without an owner, nothing runs
     EXPECT_EQ(ran, "asonpw");
@@ -263,7 +275,7 @@ TEST_F(Lessons, AFirstVersionLessonOpensWithItsNamesTurnedIntoKeys)
               std::pair(QStringLiteral("mnuConvergenceTable"), QStringLiteral("Fly")));
     EXPECT_EQ(lesson::check(second, sums), QStringLiteral("the screen has no control named 'Speed'"));
     ASSERT_EQ(lesson::check(first, newton), QString());
-    lesson::apply(first, newton);
+    EXPECT_EQ(lesson::apply(first, newton), 0);
     EXPECT_EQ(std::tuple(newton.txtXmin->text(), newton.grdGuess->cell(1, 1), newton.GuessNumber),
               std::tuple(QStringLiteral("-4"), QStringLiteral("2"), 3));
     EXPECT_TRUE(script.errors.empty());
@@ -313,11 +325,36 @@ TEST_F(Lessons, TheExamplesOpenAndRunStepByStep)
             screen->surface->setRecording(true);
             screen->Form_Activate();
             ASSERT_EQ(lesson::check(step, *screen), QString()) << name.toStdString() << " step " << number;
-            lesson::apply(step, *screen);
+            EXPECT_EQ(lesson::apply(step, *screen), 0);
             EXPECT_FALSE(screen->surface->ops().empty()) << name.toStdString() << " step " << number << " drew nothing";
         }
     }
     EXPECT_TRUE(script.errors.empty());
     EXPECT_TRUE(std::none_of(script.shown.begin(), script.shown.end(),
                              [](const auto& box) { return box.first == QStringLiteral("Limit Reached"); }));
+}
+
+// The lesson fuzzer's seeds and every input it once found, opened and applied on every screen: no
+// step reaches the classic report, and the seed whose step divides by zero is refused in words.
+TEST_F(Lessons, TheFuzzersLessonsNeverEndTheProgram)
+{
+    const std::vector<QByteArray> examples = fuzzing::exampleLessons(QStringLiteral(PLOTTO_SOURCE_DIR));
+    ASSERT_EQ(examples.size(), 6u);
+    fuzzing::LessonScreens screens;
+    int replayed = 0, refused = 0;
+    for (const char* folder : {"/fuzz/lesson-seeds", "/fuzz/lesson-regressions"}) {
+        const QDir dir(QStringLiteral(PLOTTO_SOURCE_DIR) + QString::fromLatin1(folder));
+        for (const QString& name : dir.entryList(QDir::Files, QDir::Name)) {
+            QFile file(dir.filePath(name));
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            const QByteArray bytes = file.readAll();
+            const QByteArray text = fuzzing::damagedLesson(
+                examples, reinterpret_cast<const std::uint8_t*>(bytes.data()), static_cast<std::size_t>(bytes.size()));
+            EXPECT_EQ(fuzzing::checkLessonText(text, std::ref(screens), &refused), "") << name.toStdString();
+            ++replayed;
+        }
+    }
+    EXPECT_GE(replayed, 31);
+    EXPECT_GE(refused, 1);
+    EXPECT_TRUE(script.errors.empty());
 }

@@ -449,7 +449,7 @@ TEST(View, ALessonStepKeepsTheWindowTheViewShows)
         EXPECT_EQ(step.controls.value(QString::fromLatin1(name)).toString(), box->text()) << name;
     EXPECT_EQ(s.txtXmin->text(), QStringLiteral("-1.75"));  // a quarter of the width, about x = 1
     Opened other(make<frmClasses>, [](GraphScreen&) {});
-    lesson::apply(step, *other.screen);
+    EXPECT_EQ(lesson::apply(step, *other.screen), 0);
     EXPECT_EQ(texts({other.screen->txtXmin, other.screen->txtXmax, other.screen->txtYmin, other.screen->txtYmax}),
               texts({s.txtXmin, s.txtXmax, s.txtYmin, s.txtYmax}));
     EXPECT_TRUE(o.script.errors.empty() && other.script.errors.empty());
