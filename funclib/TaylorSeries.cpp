@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
+#include <optional>
 #include <sstream>
 
 #include <ginac/ginac.h>
@@ -25,6 +26,9 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 // A derivative with more parts than this is not worked out: it would take longer than a click.
 constexpr std::size_t kMaxParts = 20000;
 constexpr int kBoundSamples = 32;
+// An exponent larger than this, as a number, is not worked out exactly: a power of the centre's exact
+// value (3^123456789, say) would take gigabytes before the first term.
+constexpr double kMaxExactExponent = 10000;
 
 // A double as its shortest decimal text that reads back the same ("0.1", "-2"), so that GiNaC keeps
 // it as the exact decimal fraction a person typed.
@@ -93,6 +97,49 @@ void withValues(typed::Node& n, const CoefficientSet& k)
         withValues(*a, k);
 }
 
+// The value of a part in doubles with x at `x`; none for another name.
+std::optional<double> valueAt(const typed::Node& n, double x)
+{
+    using typed::Op;
+    switch (n.op) {
+    case Op::Number:
+    case Op::Constant: return n.value;
+    case Op::Variable: return n.name == "x" ? std::optional<double>(x) : std::nullopt;
+    case Op::Negate: {
+        const auto a = valueAt(*n.args[0], x);
+        return a ? std::optional<double>(-*a) : std::nullopt;
+    }
+    case Op::Call: {
+        const auto a = valueAt(*n.args[0], x);
+        return a && n.args.size() == 1 ? std::optional<double>(n.function->value(*a)) : std::nullopt;
+    }
+    default: break;
+    }
+    const auto a = valueAt(*n.args[0], x), b = valueAt(*n.args[1], x);
+    if (!a || !b)
+        return std::nullopt;
+    switch (n.op) {
+    case Op::Add: return *a + *b;
+    case Op::Subtract: return *a - *b;
+    case Op::Multiply: return *a * *b;
+    case Op::Divide: return *a / *b;
+    default: return std::pow(*a, *b);
+    }
+}
+
+// The first exponent of the tree that is beyond kMaxExactExponent at the centre, if any (the
+// derivatives' powers keep their exponents, or lower them by the degree).
+std::optional<double> hugeExponent(const typed::Node& n, double centre)
+{
+    if (n.op == typed::Op::Power)
+        if (const auto e = valueAt(*n.args[1], centre); e && !std::isnan(*e) && std::fabs(*e) > kMaxExactExponent)
+            return e;
+    for (const typed::NodePtr& a : n.args)
+        if (const auto e = hugeExponent(*a, centre))
+            return e;
+    return std::nullopt;
+}
+
 }  // namespace
 
 // The function and its derivatives so far, in GiNaC's terms.
@@ -125,6 +172,12 @@ TaylorSeries TaylorSeries::ofText(const std::string& text, double centre, const 
     try {
         const typed::NodePtr tree = typed::read(text, {"x"}, TypedExpression::MaxDepth);
         withValues(*tree, k);
+        if (const auto e = hugeExponent(*tree, centre)) {
+            std::ostringstream why;
+            why << "an exponent of " << *e << " is too large to work out exactly";
+            s.refusal_ = why.str();
+            return s;
+        }
         if (typed::dividesByZero(*tree, {"x"})) {
             s.refusal_ = "part of the expression is 0 where it divides or is a base";
             return s;

@@ -98,6 +98,19 @@ TEST(Taylor, WhereTheFunctionOrADerivativeDoesNotExist)
     }
     EXPECT_EQ(TaylorSeries::ofText("sinn(x)", 0, {}).refusal(), "unknown name 'sinn' at 1");
     EXPECT_EQ(TaylorSeries::ofFamily(0, 0, {}).refusal(), "no function chosen");
+    // An exponent far past what exact arithmetic can carry is refused before GiNaC works out 3^123456789
+    // (gigabytes); one at the limit is worked out (x^10000 at 1: the first term 1, the second 10000).
+    FuncGlobals::CoefficientSet k{};
+    k.B = 123456789;
+    EXPECT_EQ(TaylorSeries::ofText("x^B", 3, k).refusal(),
+              "an exponent of 1.23457e+08 is too large to work out exactly");
+    EXPECT_EQ(TaylorSeries::ofText("2^(B*x)", 3, k).refusal(),
+              "an exponent of 3.7037e+08 is too large to work out exactly");
+    // At 0 the same exponent is 0: the slope B ln 2 is worked out.
+    EXPECT_NEAR(TaylorSeries::ofText("2^(B*x)", 0, k).term(1).value, 123456789 * std::log(2.0), 1e-6);
+    TaylorSeries atLimit = TaylorSeries::ofText("x^(100*100)", 1, {});
+    EXPECT_EQ(atLimit.refusal(), "");
+    EXPECT_EQ(atLimit.term(1).exact, "10000");
 }
 
 TEST(Taylor, DegreeTwentyAndPastDoublePrecision)
