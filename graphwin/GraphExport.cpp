@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QSettings>
 #include <QSvgGenerator>
 
 namespace graphexport {
@@ -33,12 +34,25 @@ double captionHeight(const Graph& graph, const Options& options)
     return kMargin + r.height() + kCaptionSize * 1.5;
 }
 
+}  // namespace
+
 QString couldNotWrite(const QString& path, const QString& why)
 {
     return Plotto::tr("Could not write %1: %2.").arg(QDir::toNativeSeparators(path), why);
 }
 
-}  // namespace
+QString lastFolder()
+{
+    return QSettings(QStringLiteral("Plotto"), QStringLiteral("Plotto"))
+        .value(QStringLiteral("export/folder"), QDir::homePath())
+        .toString();
+}
+
+void rememberFolder(const QString& chosenPath)
+{
+    QSettings(QStringLiteral("Plotto"), QStringLiteral("Plotto"))
+        .setValue(QStringLiteral("export/folder"), QFileInfo(chosenPath).absolutePath());
+}
 
 QFont pageFont(double size, bool bold)
 {

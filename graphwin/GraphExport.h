@@ -64,6 +64,13 @@ void paintTableRow(QPainter& painter, const TableLayout& layout, const QStringLi
 // The type of the pages, at `size` twips (20 to a point).
 QFont pageFont(double size, bool bold = false);
 
+// "Could not write PATH: WHY." for every file the program exports.
+QString couldNotWrite(const QString& path, const QString& why);
+// The folder the last export went to (the home folder at first), and remembering a new one from the
+// path just chosen: the graphs, tables and worksheets share it.
+QString lastFolder();
+void rememberFolder(const QString& chosenPath);
+
 // Writes the page to `path` in the format of its extension, through a temporary file that takes the
 // final name only when everything was written (nothing half-written is ever left under it): "" or what
 // went wrong, in words.

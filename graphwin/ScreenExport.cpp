@@ -119,8 +119,7 @@ void GraphScreen::printGraph(QPaintDevice& device, const QRectF& page, const gra
 
 void GraphScreen::mnuExportGraph_Click()
 {
-    QSettings s = settings();
-    const QString folder = s.value(QStringLiteral("export/folder"), QDir::homePath()).toString();
+    const QString folder = graphexport::lastFolder();
     // A name from the window's title, offered in the last folder: "newtons-method-and-derivatives.svg".
     QString name = windowTitle().toLower();
     name.replace(QRegularExpression(QStringLiteral("[^a-z0-9]+")), QStringLiteral("-"));
@@ -130,7 +129,7 @@ void GraphScreen::mnuExportGraph_Click()
                                  Plotto::tr("SVG drawing (*.svg);;PDF document (*.pdf);;PNG picture (*.png)"), {});
     if (path.isEmpty())
         return;
-    s.setValue(QStringLiteral("export/folder"), QFileInfo(path).absolutePath());
+    graphexport::rememberFolder(path);
     const std::optional<graphexport::Format> format = graphexport::formatOf(path);
     const std::optional<graphexport::Options> options =
         format ? askOptions(this, Plotto::tr("Export Graph"), *format == graphexport::Format::Png)

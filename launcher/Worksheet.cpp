@@ -183,10 +183,10 @@ StepContent take(const lesson::Step& step, int number, int count, GraphScreen& s
         if (prompt != QLatin1String("file") && prompt != QLatin1String("options") && prompt != QLatin1String("printer"))
             c.problems << prompt;
     if (c.note.isEmpty() && entry)
-        c.note = Plotto::tr("The screen shows %1.")
-                     .arg(Plotto::tr(entry->describes)
-                              .replace(QStringLiteral("{families}"),
-                                       QString::number(FuncGlobals::ExplicitFamilyCount)));
+        c.note =
+            Plotto::tr("The screen shows %1.")
+                .arg(Plotto::tr(entry->describes)
+                         .replace(QStringLiteral("{families}"), QString::number(FuncGlobals::ExplicitFamilyCount)));
     QStringList description = screen.describe().split(QLatin1Char('\n'));
     const QStringList results = screen.results();
     description = description.mid(1, description.size() - 1 - results.size());  // the title line goes
@@ -261,7 +261,7 @@ QString writePages(const QString& path, const QString& title, const std::vector<
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return Plotto::tr("Could not write %1: %2.").arg(path, file.errorString());
+        return graphexport::couldNotWrite(path, file.errorString());
     {
         QPdfWriter pdf(&file);
         pdf.setCreator(QStringLiteral("Plotto"));
@@ -271,7 +271,7 @@ QString writePages(const QString& path, const QString& title, const std::vector<
         QPainter p;
         if (!p.begin(&pdf)) {
             file.cancelWriting();
-            return Plotto::tr("Could not write %1: the PDF could not be started.").arg(path);
+            return graphexport::couldNotWrite(path, Plotto::tr("the PDF could not be started"));
         }
         p.scale(pdf.resolution() / 1440.0, pdf.resolution() / 1440.0);
         const int pages = static_cast<int>(starts.size());
@@ -300,7 +300,7 @@ QString writePages(const QString& path, const QString& title, const std::vector<
         }
     }
     if (!file.commit())
-        return Plotto::tr("Could not write %1: %2.").arg(path, file.errorString());
+        return graphexport::couldNotWrite(path, file.errorString());
     return {};
 }
 

@@ -9,10 +9,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QProcess>
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include "graphwin/Dialogs.h"
+#include "graphwin/GraphExport.h"
 #include "graphwin/Language.h"
 #include "launcher/Worksheet.h"
 #include "launcher/frmGraphingCalc.h"
@@ -227,13 +227,11 @@ void frmGraphingCalc::mnuExportWorksheet_Click()
         MsgBox(Plotto::tr("Worksheets are written by the plotto program, which this run cannot start."), title);
         return;
     }
-    QSettings settings(QStringLiteral("Plotto"), QStringLiteral("Plotto"));
     const QString out =
-        FileBox(true, title, settings.value(QStringLiteral("export/folder"), QDir::homePath()).toString(),
-                Plotto::tr("PDF document (*.pdf)"), QStringLiteral("pdf"));
+        FileBox(true, title, graphexport::lastFolder(), Plotto::tr("PDF document (*.pdf)"), QStringLiteral("pdf"));
     if (out.isEmpty())
         return;
-    settings.setValue(QStringLiteral("export/folder"), QFileInfo(out).absolutePath());
+    graphexport::rememberFolder(out);
     const bool blank = YesNoBox(Plotto::tr("Leave the results blank, as boxes for the students to fill in? The "
                                            "answers then go to a second file, %1.")
                                     .arg(QFileInfo(worksheet::answersPath(out)).fileName()),

@@ -8,7 +8,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
-#include <QSettings>
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/GraphExport.h"
@@ -21,11 +20,6 @@ namespace {
 constexpr double kPageWidth = 16838, kPageHeight = 11906, kMargin = 900;
 constexpr double kTitle = 320, kText = 200, kTable = 180;
 
-QString couldNotWrite(const QString& path, const QString& why)
-{
-    return Plotto::tr("Could not write %1: %2.").arg(QDir::toNativeSeparators(path), why);
-}
-
 }  // namespace
 
 QString ConvergenceWindow::exportTable(const QString& path) const
@@ -36,7 +30,7 @@ QString ConvergenceWindow::exportTable(const QString& path) const
             .arg(QFileInfo(path).fileName().isEmpty() ? QStringLiteral("(none)") : QFileInfo(path).fileName());
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return couldNotWrite(path, file.errorString());
+        return graphexport::couldNotWrite(path, file.errorString());
     if (suffix == QLatin1String("csv")) {
         file.write(QByteArray::fromStdString(table_.csv()));
     } else {
@@ -56,7 +50,7 @@ QString ConvergenceWindow::exportTable(const QString& path) const
         QPainter p;
         if (!p.begin(&pdf)) {
             file.cancelWriting();
-            return couldNotWrite(path, Plotto::tr("the PDF could not be started"));
+            return graphexport::couldNotWrite(path, Plotto::tr("the PDF could not be started"));
         }
         p.scale(pdf.resolution() / 1440.0, pdf.resolution() / 1440.0);
         const double width = kPageWidth - 2 * kMargin;
@@ -81,19 +75,17 @@ QString ConvergenceWindow::exportTable(const QString& path) const
         }
     }
     if (!file.commit())
-        return couldNotWrite(path, file.errorString());
+        return graphexport::couldNotWrite(path, file.errorString());
     return {};
 }
 
 void ConvergenceWindow::exportTableClicked()
 {
-    QSettings settings(QStringLiteral("Plotto"), QStringLiteral("Plotto"));
-    const QString path = FileBox(true, Plotto::tr("Export Table"),
-                                 settings.value(QStringLiteral("export/folder"), QDir::homePath()).toString(),
+    const QString path = FileBox(true, Plotto::tr("Export Table"), graphexport::lastFolder(),
                                  Plotto::tr("Comma-separated values (*.csv);;PDF page (*.pdf)"), {});
     if (path.isEmpty())
         return;
-    settings.setValue(QStringLiteral("export/folder"), QFileInfo(path).absolutePath());
+    graphexport::rememberFolder(path);
     if (const QString error = exportTable(path); !error.isEmpty())
         MsgBox(error, Plotto::tr("Export Table"));
 }

@@ -2164,10 +2164,6 @@ Ableitung: y&apos; = </translation>
         <translation>Der Bildschirm zeigt %1.</translation>
     </message>
     <message>
-        <source>Could not write %1: the PDF could not be started.</source>
-        <translation>%1 konnte nicht geschrieben werden: das PDF konnte nicht begonnen werden.</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
     </message>

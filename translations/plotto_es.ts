@@ -2164,10 +2164,6 @@ Derivada: y&apos; = </translation>
         <translation>La pantalla muestra %1.</translation>
     </message>
     <message>
-        <source>Could not write %1: the PDF could not be started.</source>
-        <translation>No se pudo escribir %1: no se pudo iniciar el PDF.</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
     </message>

@@ -2164,10 +2164,6 @@ Dérivée : y&apos; = </translation>
         <translation>L&apos;écran montre %1.</translation>
     </message>
     <message>
-        <source>Could not write %1: the PDF could not be started.</source>
-        <translation>Impossible d&apos;écrire %1 : le PDF n&apos;a pas pu être commencé.</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
     </message>
@@ -2213,7 +2209,7 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>are outside what a function accepts</source>
-        <translation>sont hors de ce qu'une fonction accepte</translation>
+        <translation>sont hors de ce qu&apos;une fonction accepte</translation>
     </message>
     <message>
         <source>overflow</source>
@@ -2221,7 +2217,7 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>go past the end of a table</source>
-        <translation>dépassent la fin d'un tableau</translation>
+        <translation>dépassent la fin d&apos;un tableau</translation>
     </message>
     <message>
         <source>divide by zero</source>
@@ -2233,7 +2229,7 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>are more than a control can take</source>
-        <translation>dépassent ce qu'un contrôle peut recevoir</translation>
+        <translation>dépassent ce qu&apos;un contrôle peut recevoir</translation>
     </message>
     <message>
         <source>cannot be worked out</source>
@@ -2241,7 +2237,7 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>The step of the lesson shown</source>
-        <translation>L'étape de la leçon affichée</translation>
+        <translation>L&apos;étape de la leçon affichée</translation>
     </message>
     <message>
         <source>Zoom to the &amp;Steps</source>
@@ -2249,7 +2245,7 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.</source>
-        <translation>Les deux dernières approximations sont à %1 l'une de l'autre ; Affichage, Zoom sur les étapes montre les dernières étapes.</translation>
+        <translation>Les deux dernières approximations sont à %1 l&apos;une de l&apos;autre ; Affichage, Zoom sur les étapes montre les dernières étapes.</translation>
     </message>
     <message>
         <source>No steps to zoom to yet: press Apply Newton&apos;s at least once.</source>
@@ -2257,7 +2253,7 @@ Dérivée : y&apos; = </translation>
     </message>
     <message>
         <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
-        <translation>L'étape %1 ne peut pas être affichée : ses valeurs %2 (erreur d'exécution %3).</translation>
+        <translation>L&apos;étape %1 ne peut pas être affichée : ses valeurs %2 (erreur d&apos;exécution %3).</translation>
     </message>
 </context>
 </TS>

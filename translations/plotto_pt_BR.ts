@@ -2164,10 +2164,6 @@ Derivada: y&apos; = </translation>
         <translation>A tela mostra %1.</translation>
     </message>
     <message>
-        <source>Could not write %1: the PDF could not be started.</source>
-        <translation>Não foi possível gravar %1: o PDF não pôde ser iniciado.</translation>
-    </message>
-    <message>
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
     </message>
