@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The named handlers act on their own control and on nothing else: a coefficient box's change
+// handler copies that box, a stepper label moves its own box one way with the left button and back
+// with the right; a slip to a neighbour (C's handler copying D) or a handler that does nothing is
+// caught here, where the form's own wiring would hide it.
+#include <map>
+
+#include "graphwin/GraphScreen.h"
+#include "screens/frmArea.h"
+#include "screens/frmFlowField.h"
+#include "screens/frmLimits.h"
+#include "screens/frmParam.h"
+#include "screens/frmRiemann.h"
+#include "screens/frmTangent.h"
+#include "screens/frmTaylor.h"
+
+#include "ScreenFixture.h"
+
+namespace {
+
+// Every box of the screen by its object name, with its text.
+std::map<QString, QString> boxTexts(GraphScreen& s)
+{
+    std::map<QString, QString> out;
+    for (TextBox* box : s.surface->findChildren<TextBox*>())
+        out[box->objectName()] = box->text();
+    return out;
+}
+
+}  // namespace
+
+TEST(Handlers, EachCoefficientHandlerCopiesItsOwnBoxOnly)
+{
+    using Handler = void (GraphScreen::*)();
+    const Handler changes[6] = {&GraphScreen::txtA_Change, &GraphScreen::txtB_Change, &GraphScreen::txtC_Change,
+                                &GraphScreen::txtD_Change, &GraphScreen::txtE_Change, &GraphScreen::txtF_Change};
+    using Stepper = void (GraphScreen::*)(int, int, double, double);
+    const Stepper steppers[6] = {&GraphScreen::lblA_MouseDown, &GraphScreen::lblB_MouseDown,
+                                 &GraphScreen::lblC_MouseDown, &GraphScreen::lblD_MouseDown,
+                                 &GraphScreen::lblE_MouseDown, &GraphScreen::lblF_MouseDown};
+    ScriptedDialogs script;
+    frmFlowField screen;  // a screen with all six coefficients
+    screen.Form_Activate();
+    TextBox* boxes[6] = {screen.txtA, screen.txtB, screen.txtC, screen.txtD, screen.txtE, screen.txtF};
+    for (int i = 0; i < 6; ++i) {
+        const std::string letter(1, static_cast<char>('A' + i));
+        const double before[6] = {-11, -12, -13, -14, -15, -16};
+        FuncGlobals::Coefficients = {before[0], before[1], before[2], before[3], before[4], before[5]};
+        {
+            const QSignalBlocker quiet(boxes[i]);  // the handler alone, not the box's own wiring
+            boxes[i]->setText(QStringLiteral("2.5"));
+        }
+        (screen.*changes[i])();
+        const double* k = &FuncGlobals::Coefficients.A;
+        for (int j = 0; j < 6; ++j)
+            EXPECT_EQ(k[j], j == i ? 2.5 : before[j]) << "txt" << letter << "_Change, coefficient " << j;
+
+        const auto others = [&] {
+            auto all = boxTexts(screen);
+            all.erase(boxes[i]->objectName());
+            return all;
+        };
+        const auto untouched = others();
+        (screen.*steppers[i])(LeftButton, 0, 0, 0);
+        EXPECT_DOUBLE_EQ(boxes[i]->value(), 3.5) << "lbl" << letter << " left";
+        (screen.*steppers[i])(RightButton, 0, 0, 0);
+        (screen.*steppers[i])(RightButton, 0, 0, 0);
+        EXPECT_DOUBLE_EQ(boxes[i]->value(), 1.5) << "lbl" << letter << " right";
+        EXPECT_EQ(others(), untouched) << "lbl" << letter;
+    }
+}
+
+// Each stepper label of the screens: the left button moves its box by `left` (from whatever it
+// holds), the right button brings it back, and no other box changes.
+TEST(Handlers, EachStepperLabelMovesItsOwnBoxAndTheRightButtonBringsItBack)
+{
+    struct Row {
+        const char* name;
+        std::function<std::unique_ptr<GraphScreen>()> make;
+        std::function<void(GraphScreen&, int)> press;
+        std::function<TextBox*(GraphScreen&)> box;
+        std::function<double(double)> left;
+    };
+    const auto plusOne = [](double v) { return v + 1; };
+    const auto half = [](double v) { return v / 2; };
+#define PRESS(S, H) [](GraphScreen& s, int b) { as<S>(s).H(b, 0, 0, 0); }
+#define BOX(S, B) [](GraphScreen& s) -> TextBox* { return as<S>(s).B; }
+    const Row rows[] = {
+        {"sums: partitions", make<frmRiemann>, PRESS(frmRiemann, lblPartitions_MouseDown), BOX(frmRiemann, txtParts),
+         plusOne},
+        {"sums: left bound", make<frmRiemann>, PRESS(frmRiemann, lblLBound_MouseDown), BOX(frmRiemann, txtLBound),
+         plusOne},
+        {"sums: right bound", make<frmRiemann>, PRESS(frmRiemann, lblRBound_MouseDown), BOX(frmRiemann, txtRBound),
+         plusOne},
+        {"tangent: x", make<frmTangent>, PRESS(frmTangent, lblXat_MouseDown), BOX(frmTangent, txtX), plusOne},
+        {"tangent: dx", make<frmTangent>, PRESS(frmTangent, lblDeltaX_MouseDown), BOX(frmTangent, txtDeltaX), plusOne},
+        {"parametric: t0", make<frmParam>, PRESS(frmParam, lblT0_MouseDown), BOX(frmParam, txtT0), plusOne},
+        {"parametric: final t", make<frmParam>, PRESS(frmParam, lblFinalT_MouseDown), BOX(frmParam, txtTn), plusOne},
+        {"parametric: t step", make<frmParam>, PRESS(frmParam, lblTstep_MouseDown), BOX(frmParam, txtTstep), plusOne},
+        {"parametric: traced t", make<frmParam>, PRESS(frmParam, lbltTrace_MouseDown), BOX(frmParam, txtT), plusOne},
+        {"slope field: points", make<frmFlowField>, PRESS(frmFlowField, lblplots_MouseDown),
+         BOX(frmFlowField, txtCurvePoints), plusOne},
+        {"slope field: horizontal shift", make<frmFlowField>, PRESS(frmFlowField, lblHorShift_MouseDown),
+         BOX(frmFlowField, txtHorShift), plusOne},
+        {"slope field: vertical shift", make<frmFlowField>, PRESS(frmFlowField, lblVerShift_MouseDown),
+         BOX(frmFlowField, txtVerShift), plusOne},
+        {"slope field: step halves", make<frmFlowField>, PRESS(frmFlowField, lblDeltaX_MouseDown),
+         BOX(frmFlowField, txtDelta), half},
+        {"area: a", make<frmArea>, PRESS(frmArea, lblLeft_MouseDown), BOX(frmArea, txtLeft), plusOne},
+        {"area: b", make<frmArea>, PRESS(frmArea, lblRight_MouseDown), BOX(frmArea, txtRight), plusOne},
+        {"area: strips", make<frmArea>, PRESS(frmArea, lblStrips_MouseDown), BOX(frmArea, txtStrips), plusOne},
+        {"limits: epsilon halves", make<frmLimits>, PRESS(frmLimits, lblEpsilon_MouseDown), BOX(frmLimits, txtEpsilon),
+         half},
+        {"limits: a", make<frmLimits>, PRESS(frmLimits, lblPoint_MouseDown), BOX(frmLimits, txtPoint), plusOne},
+        {"Taylor: centre", make<frmTaylor>, PRESS(frmTaylor, lblCentre_MouseDown), BOX(frmTaylor, txtCentre),
+         plusOne},
+    };
+#undef PRESS
+#undef BOX
+    ScriptedDialogs script;
+    for (const Row& r : rows) {
+        const auto screen = r.make();
+        screen->Form_Activate();
+        TextBox* box = r.box(*screen);
+        const double before = box->value();
+        auto others = boxTexts(*screen);
+        others.erase(box->objectName());
+        r.press(*screen, LeftButton);
+        EXPECT_DOUBLE_EQ(box->value(), r.left(before)) << r.name << " from " << before;
+        r.press(*screen, RightButton);
+        EXPECT_DOUBLE_EQ(box->value(), before) << r.name;
+        auto after = boxTexts(*screen);
+        after.erase(box->objectName());
+        EXPECT_EQ(after, others) << r.name;
+    }
+}
