@@ -192,7 +192,10 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
         std::vector<std::pair<QString, bool>> seen;  // the lesson's place and whether the screen was shown
         QString said;
         QTimer::singleShot(0, &grapher, [&] {
-            for (int step = 2; step <= 4; ++step) {
+            // Before the first step and past the last there is nothing to move to.
+            grapher.mnuPreviousStep->trigger();
+            seen.emplace_back(grapher.lblLessonPlace->text(), grapher.isVisible());
+            for (int step = 2; step <= 5; ++step) {
                 grapher.mnuNextStep->trigger();
                 seen.emplace_back(grapher.lblLessonPlace->text(), grapher.isVisible());
             }
@@ -200,9 +203,10 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
             grapher.cmdExit->click();
         });
         l.openLesson(path);
-        const std::vector<std::pair<QString, bool>> expected = {{QStringLiteral("Step 2 of 4"), true},
-                                                                {QStringLiteral("Step 3 of 4"), true},
-                                                                {QStringLiteral("Step 4 of 4"), true}};
+        const std::vector<std::pair<QString, bool>> expected = {
+            {QStringLiteral("Step 1 of 4"), true}, {QStringLiteral("Step 2 of 4"), true},
+            {QStringLiteral("Step 3 of 4"), true}, {QStringLiteral("Step 4 of 4"), true},
+            {QStringLiteral("Step 4 of 4"), true}};
         EXPECT_EQ(seen, expected);
         EXPECT_EQ(said, QStringLiteral("Step 4 of 4."));
         std::vector<QString> boxes;
