@@ -7,6 +7,7 @@
 
 #include "graphwin/GraphScreen.h"
 #include "screens/frmArea.h"
+#include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
 #include "screens/Lesson.h"
 #include "screens/frmLimits.h"
@@ -160,4 +161,49 @@ TEST(Handlers, ALessonStepPressesItsButtonsAsOftenAsItSays)
                 guesses << cell.left(7);
         EXPECT_EQ(guesses, expected[i]) << "step " << i + 1;
     }
+}
+
+// The labels that step through a catalogue of families: pressed as many times as the catalogue has
+// families, each visits every family once and comes back to where it started; the right button goes
+// back one where it steps backwards (the parametric labels step forwards with either button).
+TEST(Handlers, EachFamilyLabelStepsThroughItsWholeCatalogue)
+{
+    using namespace FuncGlobals;
+    struct Row {
+        const char* name;
+        std::function<std::unique_ptr<GraphScreen>()> make;
+        void (*press)(GraphScreen&, int Button);
+        std::int16_t* id;
+        int families;
+        bool rightGoesBack;
+    };
+#define PRESS(S, H) [](GraphScreen& s, int b) { as<S>(s).H(b, 0, 0, 0); }
+    const Row rows[] = {
+        {"grapher", make<frmClasses>, PRESS(GraphScreen, lblFunc_MouseDown), &FunctionId, ExplicitFamilyCount, true},
+        {"slope field dy", make<frmFlowField>, PRESS(frmFlowField, lbldy_MouseDown), &DyFuncId, RateFamilyCount, true},
+        {"slope field dx", make<frmFlowField>, PRESS(frmFlowField, lbldx_MouseDown), &DxFuncId, RateFamilyCount, true},
+        {"parametric x", make<frmParam>, PRESS(frmParam, lblXPar_MouseDown), &XtFuncId, ParametricFamilyCount, false},
+        {"parametric y", make<frmParam>, PRESS(frmParam, lblYPar_MouseDown), &YtFuncId, ParametricFamilyCount, false},
+    };
+#undef PRESS
+    ScriptedDialogs script;
+    for (const Row& r : rows) {
+        const auto screen = r.make();
+        screen->Form_Activate();
+        const int start = *r.id;
+        r.press(*screen, LeftButton);
+        const int next = *r.id;
+        EXPECT_NE(next, start) << r.name;
+        r.press(*screen, RightButton);
+        EXPECT_EQ(*r.id, r.rightGoesBack ? start : (next % r.families) + 1) << r.name;
+        const int from = *r.id;
+        std::set<int> seen;
+        for (int i = 0; i < r.families; ++i) {
+            r.press(*screen, LeftButton);
+            seen.insert(*r.id);
+        }
+        EXPECT_EQ(static_cast<int>(seen.size()), r.families) << r.name;
+        EXPECT_EQ(*r.id, from) << r.name;
+    }
+    EXPECT_TRUE(script.errors.empty());
 }
