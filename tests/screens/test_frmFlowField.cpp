@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "graphwin/DrawingStyle.h"
-#include "screens/frmFlowField.h"
 
 #include "ScreenFixture.h"
 

@@ -5,36 +5,19 @@
 #include <cmath>
 
 #include "screens/Convergence.h"
-#include "screens/frmClasses.h"
-#include "screens/frmFlowField.h"
-#include "screens/frmMVT.h"
-#include "screens/frmNewton.h"
-#include "screens/frmParam.h"
-#include "screens/frmRiemann.h"
-#include "screens/frmTangent.h"
 
 #include "ScreenFixture.h"
 
 namespace {
 
-template <class Screen>
-struct Typed : ScreenFixture<Screen> {
-    void TearDown() override
-    {
-        ScreenFixture<Screen>::TearDown();
-        // The next test starts from the families, whatever this one typed.
-        FuncGlobals::TypedExplicit = nullptr;
-        FuncGlobals::TypedRate = nullptr;
-        FuncGlobals::TypedParametric = nullptr;
-    }
-};
-using TypedNewton = Typed<frmNewton>;
-using TypedSums = Typed<frmRiemann>;
-using TypedGrapher = Typed<frmClasses>;
-using TypedField = Typed<frmFlowField>;
-using TypedCurve = Typed<frmParam>;
-using TypedMVT = Typed<frmMVT>;
-using TypedTangent = Typed<frmTangent>;
+// The fixture puts the families back after each test, whatever it typed.
+using TypedNewton = ScreenFixture<frmNewton>;
+using TypedSums = ScreenFixture<frmRiemann>;
+using TypedGrapher = ScreenFixture<frmClasses>;
+using TypedField = ScreenFixture<frmFlowField>;
+using TypedCurve = ScreenFixture<frmParam>;
+using TypedMVT = ScreenFixture<frmMVT>;
+using TypedTangent = ScreenFixture<frmTangent>;
 
 double ratio(const Convergence::Table& t, std::size_t r, std::size_t m)
 {
