@@ -252,16 +252,6 @@ struct ScreenFixture : ::testing::Test {
         return std::count_if(ops().begin(), ops().end(),
                              [c](const DrawOp& op) { return op.kind == DrawOp::Line && op.color == c; });
     }
-    // Each text in turn typed into every one of the boxes, then `act`: what careless typing leaves.
-    static void eachText(std::initializer_list<QLineEdit*> boxes, std::initializer_list<const char*> texts,
-                         const std::function<void()>& act)
-    {
-        for (const char* text : texts) {
-            for (QLineEdit* box : boxes)
-                box->setText(QString::fromLatin1(text));
-            act();
-        }
-    }
     static QRgb colour(int n) { return 0xFF000000u | rt::QBColor(n); }
     using Shown = std::vector<std::pair<QString, QString>>;  // the message boxes shown: title, text
     // A person's left or right press on a label.

@@ -5,16 +5,16 @@
 
 #include <QApplication>
 #include <QChartView>
-#include <QLineSeries>
 #include <QClipboard>
 #include <QFile>
-#include <QStandardPaths>
-#include <QTemporaryDir>
+#include <QLineSeries>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScatterSeries>
 #include <QScrollBar>
+#include <QStandardPaths>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "funclib/StepMethods.h"
@@ -244,7 +244,8 @@ TEST(ConvergenceWindowFit, TheSumsTableFitsAMaximizedWindowBesideItsPlot)
     selectFamily(2, {1, 0, 0, 0, 0, 0});
     frmRiemann sums;  // on its screen the table is one key away, and its entry shows it
     const auto entries = sums.menuBar->findChildren<QAction*>();
-    const auto open = std::find_if(entries.begin(), entries.end(), [](QAction* a) { return a->text() == "Convergence &Table..."; });
+    const auto open =
+        std::find_if(entries.begin(), entries.end(), [](QAction* a) { return a->text() == "Convergence &Table..."; });
     ASSERT_NE(open, entries.end());
     EXPECT_EQ((*open)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_T));
     (*open)->trigger();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The animation screen through its widgets: the continuous and step animations, their frame values,
 // the cut label, the restored coefficients and the status rule.
+#include "screens/frmAnimate.h"
 
 #include "ScreenFixture.h"
 

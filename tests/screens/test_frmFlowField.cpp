@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "graphwin/DrawingStyle.h"
+#include "screens/frmFlowField.h"
 
 #include "ScreenFixture.h"
 

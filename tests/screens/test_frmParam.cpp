@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parametric screen through its widgets: the plot as points and as lines, the step limit and the
 // slider's arithmetic, the trace, Zoom Out and the function labels.
+#include "screens/frmParam.h"
 
 #include "ScreenFixture.h"
 

@@ -107,11 +107,13 @@ TEST_F(Taylor, WhatIsDrawnAndNothingRaises)
     screen->CleanGraph();
     screen->cmdPlotto->click();
     EXPECT_EQ(inColour(4) + inColour(12) + inColour(10), 0);
-    eachText({screen->txtCentre, screen->txtTolerance, screen->txtAtX}, {"1e400", "abc", "", "-1e308"}, [&] {
+    for (const char* text : {"1e400", "abc", "", "-1e308"}) {
+        for (QLineEdit* box : {screen->txtCentre, screen->txtTolerance, screen->txtAtX})
+            box->setText(QString::fromLatin1(text));
         screen->cmdAddTerm->click();
         press(screen->lblCentre, Qt::RightButton);
         screen->chkLagrange->click();
-    });
+    }
     EXPECT_TRUE(script.errors.empty());
 }
 
