@@ -179,8 +179,7 @@ TEST_F(Lessons, BrokenFilesAreRefusedWithWhatAndWhere)
     for (const Broken& c : cases) {
         const QString path = dir.filePath(QString::fromLatin1(c.name));
         QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(c.text);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(c.text) == c.text.size());
         file.close();
         const lesson::Read read = lesson::load(path);
         EXPECT_FALSE(read.lesson) << c.name;
