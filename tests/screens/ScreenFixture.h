@@ -156,11 +156,7 @@ struct ScriptedDialogs : DialogScript {
         setDialogScript(this);
         FuncGlobals::Coefficients = {};
     }
-    ~ScriptedDialogs()
-    {
-        setDialogScript(nullptr);
-        forgetTypedFunctions();
-    }
+    ~ScriptedDialogs() { setDialogScript(nullptr); }
 };
 
 template <class Screen>

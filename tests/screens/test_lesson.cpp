@@ -17,7 +17,8 @@
 namespace {
 
 struct Scripted : ::testing::Test {
-    ScriptedDialogs script;  // which also puts the families back after the test
+    ScriptedDialogs script;
+    void TearDown() override { forgetTypedFunctions(); }
 };
 
 // A screen set up by a teacher: `prepare` changes it as a person would; the lesson must carry it.
