@@ -2,6 +2,8 @@
 #pragma once
 // A screen under test: real widgets, scripted dialogs, the drawing recorded.
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <functional>
 #include <memory>
 
@@ -9,14 +11,26 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
+#include <QSignalBlocker>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/Controls.h"
 #include "graphwin/Dialogs.h"
 #include "runtime/QBColor.h"
+#include "screens/frmAnimate.h"
+#include "screens/frmClasses.h"
+#include "screens/frmFlowField.h"
+#include "screens/frmMVT.h"
+#include "screens/frmNewton.h"
+#include "screens/frmParam.h"
+#include "screens/frmRiemann.h"
+#include "screens/frmTangent.h"
 #include "tests/TestSupport.h"
 
 // Readable failure messages for texts.
@@ -37,6 +51,16 @@ inline QString texts(std::initializer_list<QWidget*> widgets)
     return out.join(QLatin1Char('|'));
 }
 
+// The window's four limits as their boxes show them: Xmin|Xmax|Ymin|Ymax.
+inline QString windowLimits(const GraphScreen& s) { return texts({s.txtXmin, s.txtXmax, s.txtYmin, s.txtYmax}); }
+
+// A box's text set as a program would set it, without running the box's own handlers.
+inline void setQuietly(QLineEdit* box, const QString& text)
+{
+    const QSignalBlocker quiet(box);
+    box->setText(text);
+}
+
 // Types the '|'-separated texts into the boxes, one each, in order, as a person's edits.
 inline void type(std::initializer_list<QLineEdit*> boxes, const char* joined)
 {
@@ -44,6 +68,66 @@ inline void type(std::initializer_list<QLineEdit*> boxes, const char* joined)
     int i = 0;
     for (QLineEdit* box : boxes)
         box->setText(parts.value(i++));
+}
+
+// The cells of rows r0..r1 and columns c0..c1 of a grid, row by row, joined by '|'.
+inline QString cells(const Grid* grid, int r0, int r1, int c0, int c1)
+{
+    QStringList out;
+    for (int r = r0; r <= r1; ++r)
+        for (int c = c0; c <= c1; ++c)
+            out << grid->cell(r, c);
+    return out.join(QLatin1Char('|'));
+}
+
+// Sets a screen's function: "#n" chooses family n with the coefficients it has, any other text is typed.
+inline void setFunction(GraphScreen& s, const char* f)
+{
+    if (f[0] == '#')
+        s.mnuFunc_Click(std::atoi(f + 1));
+    else
+        EXPECT_EQ(s.setTypedFunction(QString::fromUtf8(f)), QString()) << f;
+}
+
+// Back to the families, whatever a test typed, so that the next test starts as a fresh run does.
+inline void forgetTypedFunctions()
+{
+    FuncGlobals::TypedExplicit = nullptr;
+    FuncGlobals::TypedRate = nullptr;
+    FuncGlobals::TypedParametric = nullptr;
+}
+
+// A whole file's bytes (empty when it cannot be read, which the comparison then shows).
+inline QByteArray fileBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// What a command-line tool prints to its standard output.
+inline QString toolOutput(const QString& tool, const QStringList& arguments)
+{
+    QProcess p;
+    p.start(tool, arguments);
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+// Whether two recordings draw the same shapes in the same colours, each coordinate within `within`
+// twips (by default a millionth: a curve drawn again from its world start point maps back to the
+// press's twips up to the last bits of a double); `first` says where they part, or the counts.
+inline bool sameOps(const std::vector<DrawOp>& a, const std::vector<DrawOp>& b, std::string& first,
+                    double within = 1e-6)
+{
+    for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i)
+        if (a[i].kind != b[i].kind || std::fabs(a[i].x1 - b[i].x1) > within || std::fabs(a[i].y1 - b[i].y1) > within ||
+            std::fabs(a[i].x2 - b[i].x2) > within || std::fabs(a[i].y2 - b[i].y2) > within ||
+            a[i].color != b[i].color) {
+            first = "operation " + std::to_string(i) + " differs";
+            return false;
+        }
+    first = "counts " + std::to_string(a.size()) + " and " + std::to_string(b.size());
+    return a.size() == b.size();
 }
 
 // A screen of the program by its own type, and a fresh one of a type, for tables of screens.
@@ -56,6 +140,12 @@ template <class S>
 std::unique_ptr<GraphScreen> make()
 {
     return std::make_unique<S>();
+}
+// An action written for a screen of type S, for a table whose actions take any screen.
+template <class S, class F>
+std::function<void(GraphScreen&)> on(F act)
+{
+    return [act](GraphScreen& s) { act(static_cast<S&>(s)); };
 }
 
 // Scripted dialogs for one test, put back however the test ends (a failed ASSERT included), with the
@@ -86,6 +176,7 @@ struct ScreenFixture : ::testing::Test {
     {
         screen.reset();
         setDialogScript(nullptr);
+        forgetTypedFunctions();
     }
 
     // One row of a table of actions: on a freshly loaded screen, `act` acts as a person would and
@@ -146,6 +237,11 @@ struct ScreenFixture : ::testing::Test {
         return std::any_of(ops().begin(), ops().end(), [&](const DrawOp& op) {
             return op.kind == DrawOp::Line && op.x1 == x1 && op.y1 == y1 && op.x2 == x2 && op.y2 == y2;
         });
+    }
+    long inColour(int qbColour) const  // the shapes drawn in a colour of QBColor's sixteen
+    {
+        return std::count_if(ops().begin(), ops().end(),
+                             [c = colour(qbColour)](const DrawOp& op) { return op.color == c; });
     }
     long linesIn(QRgb c) const
     {

@@ -7,20 +7,11 @@
 #include <functional>
 #include <memory>
 
-#include <QSignalBlocker>
 #include <QTemporaryDir>
 
 #include "screens/ConvergenceWindow.h"
 #include "screens/Lesson.h"
 #include "screens/ScreenRegistry.h"
-#include "screens/frmAnimate.h"
-#include "screens/frmClasses.h"
-#include "screens/frmFlowField.h"
-#include "screens/frmMVT.h"
-#include "screens/frmNewton.h"
-#include "screens/frmParam.h"
-#include "screens/frmRiemann.h"
-#include "screens/frmTangent.h"
 
 #include "ScreenFixture.h"
 
@@ -89,7 +80,8 @@ const std::vector<Path>& additionPaths()
                  EXPECT_EQ(row.convergence(s)->exportTable(dir.filePath(QStringLiteral("t.csv"))), QString());
              }
          }},
-        {"typed function entered", [](GraphScreen& s, const ScreenRow& row) { EXPECT_EQ(row.typeExample(s), QString()); }},
+        {"typed function entered",
+         [](GraphScreen& s, const ScreenRow& row) { EXPECT_EQ(row.typeExample(s), QString()); }},
         {"projector mode",
          [](GraphScreen& s, const ScreenRow&) {
              s.mnuProjector_Click();
@@ -103,10 +95,8 @@ const std::vector<Path>& additionPaths()
 // boxes' own handlers (whose classic errors belong to a person's typing).
 void fillEveryBox(GraphScreen& s, const QString& text)
 {
-    for (QLineEdit* box : s.findChildren<QLineEdit*>()) {
-        const QSignalBlocker quiet(box);
-        box->setText(text);
-    }
+    for (QLineEdit* box : s.findChildren<QLineEdit*>())
+        setQuietly(box, text);
 }
 
 }  // namespace
@@ -157,10 +147,7 @@ TEST(Additions, AConvergenceTableNamesTheBoxThatHoldsNoNumber)
         ScriptedDialogs script;
         const std::unique_ptr<GraphScreen> s = c.make();
         s->Form_Activate();
-        {
-            const QSignalBlocker quiet(c.box(*s));
-            c.box(*s)->setText(QStringLiteral("1e400"));
-        }
+        setQuietly(c.box(*s), QStringLiteral("1e400"));
         ConvergenceWindow* window = screens::of(*s)->convergence(*s);
         window->recompute();
         EXPECT_EQ(window->summary()->text(), QString::fromUtf8(c.says)) << c.name;
@@ -177,10 +164,7 @@ TEST(Additions, TheTangentDescriptionSaysABoxThatIsNotANumberInWords)
     frmTangent s;
     s.Form_Activate();
     ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^2")), QString());
-    {
-        const QSignalBlocker quiet(s.txtX);
-        s.txtX->setText(QStringLiteral("1e400"));
-    }
+    setQuietly(s.txtX, QStringLiteral("1e400"));
     EXPECT_TRUE(s.describe().contains(QStringLiteral("No exact tangent: x = 1e400 is not a number.")))
         << s.describe().toStdString();
     s.txtX->setText(QStringLiteral("3"));

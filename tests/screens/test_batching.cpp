@@ -3,12 +3,6 @@
 // picture two screens act alike, one batching and one not, and every pixel agrees, at the normal size
 // and redrawn at another size from what the surface keeps.
 #include "runtime/Random.h"
-#include "screens/frmAnimate.h"
-#include "screens/frmClasses.h"
-#include "screens/frmFlowField.h"
-#include "screens/frmMVT.h"
-#include "screens/frmParam.h"
-#include "screens/frmRiemann.h"
 
 #include "ScreenFixture.h"
 
@@ -24,40 +18,37 @@ QImage pictureOf(GraphScreen& s)
 TEST(Batching, EachScreensHeaviestPictureIsPixelForPixelTheShapesDrawnOneByOne)
 {
     ScriptedDialogs script;
-    const struct { const char* name; std::unique_ptr<GraphScreen> (*make)(); std::function<void(GraphScreen&)> act; } cases[] = {
-        {"sums, seven methods at 32000", make<frmRiemann>,
-         [](GraphScreen& g) {
-             auto& s = as<frmRiemann>(g);
+    const struct {
+        const char* name;
+        std::unique_ptr<GraphScreen> (*make)();
+        std::function<void(GraphScreen&)> act;
+    } cases[] = {
+        {"sums, seven methods at 32000", make<frmRiemann>, on<frmRiemann>([](frmRiemann& s) {
              type({s.txtA, s.txtB, s.txtC, s.txtLBound, s.txtRBound, s.txtParts}, "1|0|-3|-2|2.5|32000");
              for (CheckBox* c : {s.chkLeft, s.chkRight, s.chkMid, s.chkTrap, s.chkRandom, s.chkSimpson, s.chkRiemann})
                  c->setChecked(true);
              s.cmdParts_Click();
-         }},
+         })},
         {"grapher, a sine", make<frmClasses>,
          [](GraphScreen& s) {
              s.mnuFunc_Click(5);
              type({s.txtA, s.txtB}, "9|3");
              s.cmdPlotto_Click();
          }},
-        {"slope field, the arrows and eighty curves", make<frmFlowField>,
-         [](GraphScreen& g) {
-             auto& s = as<frmFlowField>(g);
+        {"slope field, the arrows and eighty curves", make<frmFlowField>, on<frmFlowField>([](frmFlowField& s) {
              s.cmdShowFlow_Click();
              s.chkBiDirect->setChecked(true);
              s.cmdPlotto_Click();
-         }},
-        {"parametric, 32000 steps connected and as points", make<frmParam>,
-         [](GraphScreen& g) {
-             auto& s = as<frmParam>(g);
+         })},
+        {"parametric, 32000 steps connected and as points", make<frmParam>, on<frmParam>([](frmParam& s) {
              s.txtTstep->setText(QStringLiteral("32000"));
              s.cmdPlotto_Click();
              s.optCont->setChecked(true);
              s.txtXmin->setText(QStringLiteral("0"));
              s.cmdPlotto_Click();
-         }},
+         })},
         {"parametric, 1000 steps connected, then an overflow with segments not yet drawn", make<frmParam>,
-         [](GraphScreen& g) {
-             auto& s = as<frmParam>(g);
+         on<frmParam>([](frmParam& s) {
              s.mnuXFunc_Click(4);  // the family is shared by both screens
              s.optCont->setChecked(true);
              s.cmdPlotto_Click();  // not a whole number of the batch's chunks
@@ -65,15 +56,13 @@ TEST(Batching, EachScreensHeaviestPictureIsPixelForPixelTheShapesDrawnOneByOne)
              FuncGlobals::Coefficients = {1, 1, -5, 0, 0.1, 0};
              type({s.txtT0, s.txtTn}, "-20|800");
              s.cmdPlotto->click();
-         }},
-        {"mean value, the secant and slider tangents", make<frmMVT>,
-         [](GraphScreen& g) {
-             auto& s = as<frmMVT>(g);
+         })},
+        {"mean value, the secant and slider tangents", make<frmMVT>, on<frmMVT>([](frmMVT& s) {
              type({s.txtX1, s.txtX2}, "-3|2");
              s.cmdApplyMVT_Click();
              for (int v : {0, 7000, 20000})
                  s.HscMVT->setValue(v);
-         }},
+         })},
         {"animation, the continuous run", make<frmAnimate>,
          [](GraphScreen& s) { as<frmAnimate>(s).cmdAnimate_Click(); }},
     };

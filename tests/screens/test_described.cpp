@@ -14,14 +14,6 @@
 #include <QTimer>
 
 #include "launcher/frmGraphingCalc.h"
-#include "screens/frmAnimate.h"
-#include "screens/frmClasses.h"
-#include "screens/frmFlowField.h"
-#include "screens/frmMVT.h"
-#include "screens/frmNewton.h"
-#include "screens/frmParam.h"
-#include "screens/frmRiemann.h"
-#include "screens/frmTangent.h"
 
 #include "ScreenFixture.h"
 
@@ -51,28 +43,26 @@ QString described(GraphScreen& s)
 TEST(Copy, CtrlCCopiesTheGraphWithItsDescriptionOrAGridOrASelection)
 {
     ScriptedDialogs script;
-    {
-        Shown shown(std::make_unique<frmClasses>());
-        GraphScreen& s = *shown.screen;
-        s.cmdPlotto->click();
-        s.txtA->setFocus();  // a box without a selection leaves Ctrl+C to the window
-        QTest::keyClick(s.txtA, Qt::Key_C, Qt::ControlModifier);
-        const QMimeData* data = QApplication::clipboard()->mimeData();
-        ASSERT_TRUE(data && data->hasImage());
-        const QImage image = qvariant_cast<QImage>(data->imageData());
-        EXPECT_NEAR(image.width(), 6405 / 15.0 * s.surface->devicePixelRatioF(), 2);
-        EXPECT_TRUE(data->text().contains(QStringLiteral("y = A * (Bx - C)^2 + D with A = 1"))) << str(data->text());
-        // The square's picture from (2400, 120): the parabola's blue is at its vertex (5600, 3300).
-        const double dpr = s.surface->devicePixelRatioF();
-        int blue = 0;
-        for (int dy = -2; dy <= 2; ++dy)
-            for (int dx = -2; dx <= 2; ++dx)
-                blue += image.pixel(int(3200 / 15.0 * dpr) + dx, int(3180 / 15.0 * dpr) + dy) == 0xFF000080u;
-        EXPECT_GT(blue, 0);
-        s.txtA->selectAll();
-        QTest::keyClick(s.txtA, Qt::Key_C, Qt::ControlModifier);
-        EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("1"));
-    }
+    Shown shown(std::make_unique<frmClasses>());
+    GraphScreen& s = *shown.screen;
+    s.cmdPlotto->click();
+    s.txtA->setFocus();  // a box without a selection leaves Ctrl+C to the window
+    QTest::keyClick(s.txtA, Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* data = QApplication::clipboard()->mimeData();
+    ASSERT_TRUE(data && data->hasImage());
+    const QImage image = qvariant_cast<QImage>(data->imageData());
+    EXPECT_NEAR(image.width(), 6405 / 15.0 * s.surface->devicePixelRatioF(), 2);
+    EXPECT_TRUE(data->text().contains(QStringLiteral("y = A * (Bx - C)^2 + D with A = 1"))) << str(data->text());
+    // The square's picture from (2400, 120): the parabola's blue is at its vertex (5600, 3300).
+    const double dpr = s.surface->devicePixelRatioF();
+    int blue = 0;
+    for (int dy = -2; dy <= 2; ++dy)
+        for (int dx = -2; dx <= 2; ++dx)
+            blue += image.pixel(int(3200 / 15.0 * dpr) + dx, int(3180 / 15.0 * dpr) + dy) == 0xFF000080u;
+    EXPECT_GT(blue, 0);
+    s.txtA->selectAll();
+    QTest::keyClick(s.txtA, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("1"));
 }
 
 // The sums screen keeps its own caption but shares the selected family with every screen: after the
@@ -85,8 +75,7 @@ TEST(Described, TheSumsUseTheSharedFamilyAndTheDescriptionSaysWhich)
     auto& s = static_cast<frmRiemann&>(*sums.screen);
     frmClasses grapher;  // loaded after the sums screen: the shared family is now 1
     s.Form_Activate();
-    s.txtLBound->setText(QStringLiteral("0"));
-    s.txtRBound->setText(QStringLiteral("2"));
+    type({s.txtLBound, s.txtRBound}, "0|2");
     s.chkLeft->setChecked(true);
     s.cmdParts->click();
     EXPECT_EQ(s.lblFunction->text(), QStringLiteral("y = Ax^2 + Bx + C"));
@@ -120,11 +109,16 @@ TEST(Keyboard, MnemonicsAndSteppers)
     EXPECT_EQ(spoken(named.screen->lblA) + '|' + spoken(named.screen->lblXmaxR) + '|' + spoken(named.screen->txtYmin) +
                   '|' + named.screen->txtYmin->toolTip(),
               QStringLiteral("raise or lower A|raise Xmax by one|Ymin|Ymin"));
-    const struct { ClickLabel* label; Qt::Key key; Qt::KeyboardModifiers modifiers; QLineEdit* box; const char* shows; } keys[] = {
-        {grapher.lblA, Qt::Key_Up, {}, grapher.txtA, "2"},
-        {grapher.lblA, Qt::Key_Down, {}, grapher.txtA, "1"},
-        {grapher.lblXmaxR, Qt::Key_Space, {}, grapher.txtXmax, "11"},  // the arrow's click
-        {grapher.lblXmaxR, Qt::Key_Space, Qt::ShiftModifier, grapher.txtXmax, "16"}};  // and double click
+    const struct {
+        ClickLabel* label;
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        QLineEdit* box;
+        const char* shows;
+    } keys[] = {{grapher.lblA, Qt::Key_Up, {}, grapher.txtA, "2"},
+                {grapher.lblA, Qt::Key_Down, {}, grapher.txtA, "1"},
+                {grapher.lblXmaxR, Qt::Key_Space, {}, grapher.txtXmax, "11"},  // the arrow's click
+                {grapher.lblXmaxR, Qt::Key_Space, Qt::ShiftModifier, grapher.txtXmax, "16"}};  // and double click
     for (const auto& [label, key, modifiers, box, shows] : keys) {
         QTest::keyClick(label, key, modifiers);
         EXPECT_EQ(box->text(), QString::fromLatin1(shows)) << label->accessibleName().toStdString() << ' ' << key;

@@ -3,10 +3,8 @@
 // screen's showcase, the three file formats as other programs read them, the page fitted for
 // printing, and what a bad file name does.
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -63,14 +61,6 @@ QSet<QString> svgColours(const QByteArray& svg)
     return colours;
 }
 
-QString runTool(const QString& tool, const QStringList& arguments)
-{
-    QProcess p;
-    p.start(tool, arguments);
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
-
 class ExportTest : public ::testing::TestWithParam<const screens::Entry*> { };
 
 }  // namespace
@@ -93,9 +83,7 @@ TEST_P(ExportTest, VectorDrawingLiesOnTheScreensPicture)
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("graph.svg"));
     ASSERT_EQ(screen->exportGraph(path, {}), QString()) << row.key;
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray svg = file.readAll();
+    const QByteArray svg = fileBytes(path);
     EXPECT_FALSE(svg.contains("<image")) << row.key << ": a picture where vectors belong";
     // Each colour of a curve on the screen (any colour covering 30 pixels or more) is a stroke in the file.
     QHash<QRgb, int> counts;
@@ -127,22 +115,17 @@ TEST(Export, FilesOfEachFormatAsOtherProgramsReadThem)
     const graphexport::Graph g = screen->exportedGraph();
 
     ASSERT_EQ(screen->exportGraph(dir.filePath(QStringLiteral("g.svg")), {}), QString());
-    QFile svgFile(dir.filePath(QStringLiteral("g.svg")));
-    ASSERT_TRUE(svgFile.open(QIODevice::ReadOnly));
-    const QByteArray svg = svgFile.readAll();
+    const QByteArray svg = fileBytes(dir.filePath(QStringLiteral("g.svg")));
     EXPECT_GE(svg.count("<path"), 20);
     EXPECT_TRUE(svg.contains("Window: x from")) << "the caption is text in the file";
 
     graphexport::Options mono;
     mono.colour = false;
     ASSERT_EQ(screen->exportGraph(dir.filePath(QStringLiteral("mono.svg")), mono), QString());
-    QFile monoFile(dir.filePath(QStringLiteral("mono.svg")));
-    ASSERT_TRUE(monoFile.open(QIODevice::ReadOnly));
-    const QByteArray monoSvg = monoFile.readAll();
+    const QByteArray monoSvg = fileBytes(dir.filePath(QStringLiteral("mono.svg")));
     for (const QString& c : svgColours(monoSvg)) {
         const QRgb rgb = c.mid(1).toUInt(nullptr, 16);
-        EXPECT_EQ(qRed(rgb), qGreen(rgb)) << c.toStdString() << " is not a grey";
-        EXPECT_EQ(qGreen(rgb), qBlue(rgb)) << c.toStdString() << " is not a grey";
+        EXPECT_TRUE(qRed(rgb) == qGreen(rgb) && qGreen(rgb) == qBlue(rgb)) << c.toStdString() << " is not a grey";
     }
     EXPECT_TRUE(monoSvg.contains("stroke-dasharray")) << "the curves told apart by line styles";
 
@@ -164,9 +147,9 @@ TEST(Export, FilesOfEachFormatAsOtherProgramsReadThem)
     const QString pdfinfo = QStandardPaths::findExecutable(QStringLiteral("pdfinfo"));
     if (pdfinfo.isEmpty())
         GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
-    EXPECT_TRUE(runTool(pdfinfo, {pdf}).contains(QRegularExpression(QStringLiteral("Pages:\\s+1\\n"))));
+    EXPECT_TRUE(toolOutput(pdfinfo, {pdf}).contains(QRegularExpression(QStringLiteral("Pages:\\s+1\\n"))));
     const QString text =
-        runTool(QStandardPaths::findExecutable(QStringLiteral("pdftotext")), {pdf, QStringLiteral("-")});
+        toolOutput(QStandardPaths::findExecutable(QStringLiteral("pdftotext")), {pdf, QStringLiteral("-")});
     EXPECT_TRUE(text.contains(QStringLiteral("Window: x from"))) << text.toStdString();
     EXPECT_TRUE(text.contains(screen->txtXmax->text())) << text.toStdString();
 }
@@ -228,12 +211,10 @@ TEST(Export, BadFileNamesAreToldAndLeaveNoFile)
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList()) << "a file was left behind";
 
     // Through the menu: the message is shown, and a good name writes the file after asking the options.
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     script.answers = {dir.filePath(QStringLiteral("graph")), dir.filePath(QStringLiteral("graph.png"))};
     screen->mnuExportGraph_Click();
     screen->mnuExportGraph_Click();
-    setDialogScript(nullptr);
     ASSERT_EQ(script.shown.size(), 4u);
     EXPECT_EQ(script.shown[1].first, QStringLiteral("Export Graph"));
     EXPECT_TRUE(script.shown[1].second.contains(QStringLiteral("end it with"))) << script.shown[1].second.toStdString();

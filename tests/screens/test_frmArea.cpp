@@ -44,40 +44,18 @@ TEST(AreaBetween, CrossingsAndAreasAgainstClosedForms)
         double within;  // how near each crossing must be
         double signedArea, unsignedArea;
     } rows[] = {
+        // clang-format off
         {"sqrt x above x^2 on [0, 1]", "sqrt(x)", "x^2", 0, 1, {0, 1}, Kind::Sampled, 0, 1.0 / 3, 1.0 / 3},
-        {"sin x and cos x on [0, pi]",
-         "sin(x)",
-         "cos(x)",
-         0,
-         pi,
-         {pi / 4},
-         Kind::SignChange,
-         1e-15,
-         2,
+        {"sin x and cos x on [0, pi]", "sin(x)", "cos(x)", 0, pi, {pi / 4}, Kind::SignChange, 1e-15, 2,
          2 * std::numbers::sqrt2},
         {"x and x^3 on [-1, 1]", "x", "x^3", -1, 1, {-1, 0, 1}, Kind::Sampled, 0, 0, 0.5},
         // 1 and e^(x - 1) cross at 1, between scanned points of [0.3, 2.1] (0.3 + 0.0009 i).
-        {"1 and e^(x - 1) on [0.3, 2.1]",
-         "1",
-         "exp(x - 1)",
-         0.3,
-         2.1,
-         {1},
-         Kind::SignChange,
-         1e-15,
-         1.8 - (std::exp(1.1) - std::exp(-0.7)),
-         (0.7 - (1 - std::exp(-0.7))) + (std::exp(1.1) - 1 - 1.1)},
+        {"1 and e^(x - 1) on [0.3, 2.1]", "1", "exp(x - 1)", 0.3, 2.1, {1}, Kind::SignChange, 1e-15,
+         1.8 - (std::exp(1.1) - std::exp(-0.7)), (0.7 - (1 - std::exp(-0.7))) + (std::exp(1.1) - 1 - 1.1)},
         // (x - 0.3)^2 touches 0 between scanned points; Brent places it to about half the digits.
-        {"(x - 0.3)^2 touching 0",
-         "(x - 0.3)^2",
-         "0",
-         -1,
-         1.1,
-         {0.3},
-         Kind::Touch,
-         1e-7,
-         (0.512 + 2.197) / 3,
+        {"(x - 0.3)^2 touching 0", "(x - 0.3)^2", "0", -1, 1.1, {0.3}, Kind::Touch, 1e-7, (0.512 + 2.197) / 3,
          (0.512 + 2.197) / 3},
+        // clang-format on
     };
     for (const auto& row : rows) {
         const AreaBetween::Result r = AreaBetween::compute(typed(row.f), typed(row.g), row.a, row.b, 16);
@@ -142,12 +120,16 @@ TEST(AreaBetween, GapsAreFoundWithTheirEnds)
 using Area = ScreenFixture<frmArea>;
 
 namespace {
-QString column(frmArea& s, int c)
+QString column(frmArea& s, int c) { return cells(s.grdAreas, 1, 6, c, c); }
+// Types f (unless it is empty) and g, a and b ('|'-separated, unless null), and finds the crossings.
+frmArea& find(frmArea& s, const char* f, const char* gab)
 {
-    QStringList out;
-    for (int r = 1; r <= 6; ++r)
-        out << s.grdAreas->cell(r, c);
-    return out.join(QLatin1Char('|'));
+    if (*f)
+        setFunction(s, f);
+    if (gab)
+        type({s.txtG, s.txtLeft, s.txtRight}, gab);
+    s.cmdCrossings->click();
+    return s;
 }
 }  // namespace
 
@@ -157,25 +139,14 @@ QString column(frmArea& s, int c)
 TEST_F(Area, SumsAndAreasThroughTheBoxes)
 {
     run({
-        {"signed, n = 2",
+        {"signed / unsigned, n = 2",
          [](auto& s) {
              s.txtStrips->setText(QStringLiteral("2"));
              s.cmdCrossings->click();
-             return column(s, 1);
+             return column(s, 1) + '/' + column(s, 2);
          },
-         "4.375|4.375|-3.4375|4.375|-0.8333333333|-0.8333333333"},
-        {"unsigned, n = 2",
-         [](auto& s) {
-             s.txtStrips->setText(QStringLiteral("2"));
-             s.cmdCrossings->click();
-             return column(s, 2);
-         },
-         "15.625|15.625|3.4375|15.625|14.16666667|8.166666667"},
-        {"crossings listed",
-         [](auto& s) {
-             s.cmdCrossings->click();
-             return s.lblCrossings->text();
-         },
+         "4.375|4.375|-3.4375|4.375|-0.8333333333|-0.8333333333/15.625|15.625|3.4375|15.625|14.16666667|8.166666667"},
+        {"crossings listed", [](auto& s) { return find(s, "", nullptr).lblCrossings->text(); },
          "Crossings in [a, b]:\nx = -1 (f = g at a scanned point)\nx = 2 (f = g at a scanned point)"},
         {"n odd: Simpson refuses, a step and a doubling",
          [](auto& s) {
@@ -190,35 +161,24 @@ TEST_F(Area, SumsAndAreasThroughTheBoxes)
          "n odd|4|-1|Rule (n = 4)"},
         {"sin and cos on [0, 3.14159265358979]",
          [](auto& s) {
-             EXPECT_EQ(s.setTypedFunction(QStringLiteral("sin(x)")), QString());
-             type({s.txtG, s.txtLeft, s.txtRight}, "cos(x)|0|3.14159265358979");
-             s.cmdCrossings->click();
+             find(s, "sin(x)", "cos(x)|0|3.14159265358979");
              return s.lblCrossings->text() + '|' + s.grdAreas->cell(6, 2);
          },
          "Crossings in [a, b]:\nx = 0.7853981634 (sign change, TOMS 748)|2.828427125"},
         {"x and x^3 on [-1, 1]: the halves cancel",
          [](auto& s) {
-             EXPECT_EQ(s.setTypedFunction(QStringLiteral("x")), QString());
-             type({s.txtG, s.txtLeft, s.txtRight}, "x^3|-1|1");
-             s.cmdCrossings->click();
+             find(s, "x", "x^3|-1|1");
              return s.grdAreas->cell(6, 1) + '|' + s.grdAreas->cell(6, 2) + '|' + s.lblCrossings->text();
          },
          "0|0.5|Crossings in [a, b]:\nx = -1 (f = g at a scanned point)\nx = 0 (f = g at a scanned point)\nx = 1 (f = "
          "g at a scanned point)"},
         {"a gap of f",
          [](auto& s) {
-             EXPECT_EQ(s.setTypedFunction(QStringLiteral("1/x")), QString());
-             type({s.txtG, s.txtLeft, s.txtRight}, "0|-1|1");
-             s.cmdCrossings->click();
+             find(s, "1/x", "0|-1|1");
              return s.lblStatus->text() + '|' + s.grdAreas->cell(6, 1);
          },
          "No area: f(x) = 1/x is not defined at x = 0, so the area between the curves does not exist on [a, b].|--"},
-        {"a gap of g",
-         [](auto& s) {
-             type({s.txtG, s.txtLeft, s.txtRight}, "sqrt(x)|-1|1");
-             s.cmdCrossings->click();
-             return s.lblStatus->text();
-         },
+        {"a gap of g", [](auto& s) { return find(s, "", "sqrt(x)|-1|1").lblStatus->text(); },
          "No area: g(x) = sqrt(x) is not defined from x = -1 to x = 0, so the area between the curves does not "
          "exist on [a, b]."},
         {"refusals",
@@ -239,13 +199,9 @@ TEST_F(Area, SumsAndAreasThroughTheBoxes)
 
 TEST_F(Area, DrawsBothColoursKeepsThePictureAndNeverRaises)
 {
-    const auto drawnIn = [this](int colour) {
-        return std::count_if(ops().begin(), ops().end(),
-                             [c = Area::colour(colour)](const DrawOp& op) { return op.color == c; });
-    };
     screen->cmdCrossings->click();
-    EXPECT_GT(drawnIn(DrawingStyle::kAreaFAbove), 100);  // x^2 above x + 2 on [-2, -1] and [2, 3]
-    EXPECT_GT(drawnIn(DrawingStyle::kAreaGAbove), 100);
+    EXPECT_GT(inColour(DrawingStyle::kAreaFAbove), 100);  // x^2 above x + 2 on [-2, -1] and [2, 3]
+    EXPECT_GT(inColour(DrawingStyle::kAreaGAbove), 100);
     EXPECT_TRUE(screen->everyDrawingKept());
     expectDescribed("Crossings: x = -1 (f = g at a scanned point); x = 2", {screen->lblStatus});
     screen->convergence->recompute();

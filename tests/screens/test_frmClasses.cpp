@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The function grapher through its widgets: axes and ticks, the plot walk, erase, and the faults
 // that end an action.
-#include "screens/frmClasses.h"
 
 #include "ScreenFixture.h"
 

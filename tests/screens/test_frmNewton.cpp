@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Newton's method screen through its widgets: the sequence of guesses, the drawing of each step, the
 // grid, the zero-slope message and when a new sequence starts.
-#include "screens/frmNewton.h"
 
 #include "ScreenFixture.h"
 
@@ -13,13 +12,7 @@ struct Newton : ScreenFixture<frmNewton> {
         screen->mnuFunc_Click(2);
         type({screen->txtA, screen->txtB, screen->txtC}, "1|0|-4");
     }
-    QString rows(int from, int to) const
-    {
-        QStringList out;
-        for (int r = from; r <= to; ++r)
-            out << screen->grdGuess->item(r, 1)->text();
-        return out.join(QLatin1Char('|'));
-    }
+    QString rows(int from, int to) const { return cells(screen->grdGuess, from, to, 1, 1); }
     long labels() const { return count(DrawOp::Text); }
 };
 }  // namespace
@@ -28,7 +21,8 @@ TEST_F(Newton, ASequenceOnXSquaredMinusFourFromOne)
 {
     EXPECT_EQ(screen->grdGuess->tabSeparated(), QStringLiteral("Guess #\tValue\n"));  // no guess yet: the heading
     screen->surface->setZoom(2);  // both columns grow with the form, from their widths in twips
-    EXPECT_EQ(std::pair(screen->grdGuess->columnWidth(0), screen->grdGuess->columnWidth(1)), std::pair(670 * 2 / 15, 200));
+    EXPECT_EQ(std::pair(screen->grdGuess->columnWidth(0), screen->grdGuess->columnWidth(1)),
+              std::pair(670 * 2 / 15, 200));
     screen->surface->setZoom(1);
     screen->txtGuess->setText(QStringLiteral("1"));
     screen->cmdApply->click();

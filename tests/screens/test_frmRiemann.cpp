@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sums screen through its widgets: areas against hand-worked values in single-precision text,
 // the random sums, the boundary boxes, and what is drawn at the bounds of the graph box.
-#include "screens/frmRiemann.h"
 
 #include "ScreenFixture.h"
 #include "runtime/Random.h"
@@ -30,7 +29,10 @@ struct Sums : ScreenFixture<frmRiemann> {
 
 TEST_F(Sums, AreasAgainstHandWorkedValues)
 {
-    const struct { const char* abcLRn; const char* shown; } cases[] = {
+    const struct {
+        const char* abcLRn;
+        const char* shown;
+    } cases[] = {
         {"1|0|0|-2|2|1", "=  16|=  16|=  0|=  16|Parts not even #"},  // x^2 on [-2, 2]
         {"1|0|0|-2|2|2", "=  8|=  8|=  4|=  8|=  5.333333"},
         {"0|1|0|0|1|3", "=  .3333333|=  .6666667|=  .5|=  .5|Parts not even #"},  // singles written with Str
@@ -102,7 +104,11 @@ TEST_F(Sums, BoundariesArePulledBackIntoTheWindowAndIntoOrder)
 
 TEST_F(Sums, BarsAreDrawnOnlyStrictlyInsideTheGraphBox)
 {
-    const struct { const char* abcLRn; int method; long lines; } cases[] = {
+    const struct {
+        const char* abcLRn;
+        int method;
+        long lines;
+    } cases[] = {
         // the sum, its method's colour, the lines drawn
         {"0|0|10|-2|2|4", 2, 0},  // left sums of y = 10: the tops lie on row 100
         {"0|0|9.99|-2|2|4", 2, 12}, {"0|0|9.99|-10|2|4", 2, 9},  // the first bar starts on the edge at 1800
@@ -150,7 +156,7 @@ TEST_F(Sums, TheGuardedWindowOfThisScreen)
     screen->txtXmax->setText(QStringLiteral("-9"));
     for (const auto& a : arrows) {
         (screen.get()->*a.arrow)();
-        EXPECT_EQ(texts({screen->txtXmin, screen->txtXmax, screen->txtYmin, screen->txtYmax}), a.limits);
+        EXPECT_EQ(windowLimits(*screen), a.limits);
     }
     EXPECT_EQ(script.shown.size(), 2u);
     type({screen->txtXmax, screen->txtXmin, screen->txtYmin, screen->txtYmax}, "12|-4|-10|10");

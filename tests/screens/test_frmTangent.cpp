@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tangent line screen through its widgets: secants and their cut labels, the slider's mapping,
 // Half Delta x, the steppers and the unguarded horizontal secant.
-#include "screens/frmTangent.h"
 
 #include "ScreenFixture.h"
 
@@ -17,6 +16,11 @@ QString apply(frmTangent& s, const char* family2Coefficients = nullptr)
     }
     s.cmdApply->click();
     return labels(s);
+}
+QString applyDx(frmTangent& s, const char* dx)
+{
+    s.txtDeltaX->setText(QString::fromLatin1(dx));
+    return apply(s);
 }
 QString slider(frmTangent& s, int value)
 {
@@ -38,18 +42,8 @@ TEST_F(Tangent, SecantsAndTheirLabels)
              return s.txtDeltaX->text() + '|' + apply(s);
          },
          " .5|( 1, 1) to ( 1.5, 2.25)|y = 2.5x + -1.5"},
-        {"negative dx",
-         [](auto& s) {
-             s.txtDeltaX->setText(QStringLiteral("-1"));
-             return apply(s);
-         },
-         "( 1, 1) to ( 0, 0)|y = 1x + 0"},
-        {"empty dx",
-         [](auto& s) {
-             s.txtDeltaX->setText(QString());
-             return apply(s);
-         },
-         "( ___, ___ ) to ( ___ , ___ )|ERROR!  0/0"},
+        {"negative dx", [](auto& s) { return applyDx(s, "-1"); }, "( 1, 1) to ( 0, 0)|y = 1x + 0"},
+        {"empty dx", [](auto& s) { return applyDx(s, ""); }, "( ___, ___ ) to ( ___ , ___ )|ERROR!  0/0"},
         {"cut, not rounded", [](auto& s) { return apply(s, "0|2.999999|0").section('+', 0, 0); },
          "( 1, 2.9999) to ( 2, 5.9999)|y = 2.99999x "},
         {"cut downwards", [](auto& s) { return apply(s, "0|-0.333333|0").section('+', 0, 0); },

@@ -2,7 +2,6 @@
 // The Taylor screen through its buttons and boxes: the terms listed, P_n and the error at x against
 // the series written out, words where f or a derivative does not exist at a, degree 20 and beyond,
 // what is drawn, and no classic error whatever the boxes hold.
-#include "screens/frmClasses.h"
 #include "screens/frmTaylor.h"
 
 #include <cmath>
@@ -12,97 +11,65 @@
 using Taylor = ScreenFixture<frmTaylor>;
 
 namespace {
-// Adds `n` terms to a fresh screen on family `family` (its default coefficients) or on a typed text.
-void build(frmTaylor& s, const char* f, const char* centre, int n)
+// Adds `n` terms about `centre` to a fresh screen on `f` (see setFunction).
+frmTaylor& build(frmTaylor& s, const char* f, const char* centre, int n)
 {
-    if (f[0] == '#')
-        s.mnuFunc_Click(std::atoi(f + 1));
-    else
-        EXPECT_EQ(s.setTypedFunction(QString::fromUtf8(f)), QString());
+    setFunction(s, f);
     s.txtCentre->setText(QString::fromUtf8(centre));
     for (int i = 0; i < n; ++i)
         s.cmdAddTerm->click();
+    return s;
 }
-QString column(frmTaylor& s, int c, int rows)
-{
-    QStringList out;
-    for (int r = 1; r <= rows; ++r)
-        out << s.grdTerms->cell(r, c);
-    return out.join(QLatin1Char('|'));
-}
+QString column(frmTaylor& s, int c, int rows) { return cells(s.grdTerms, 1, rows, c, c); }
+QString termsAndDegree(frmTaylor& s, int rows) { return column(s, 1, rows) + '|' + s.lblDegree->text(); }
+QString termsAndStatus(frmTaylor& s, int rows) { return column(s, 1, rows) + '|' + s.lblStatus->text(); }
 }  // namespace
 
 TEST_F(Taylor, TermsAndWordsThroughTheButtons)
 {
     run({
-        {"sin (family 5) at 0",
+        {"sin (family 5) at 0, then a term removed",
          [](auto& s) {
-             build(s, "#5", "0", 6);
-             return column(s, 1, 7) + '|' + s.lblDegree->text();
-         },
-         "0|x|0|-x^3/6|0|x^5/120||Degree: 5"},
-        {"remove a term",
-         [](auto& s) {
-             build(s, "#5", "0", 6);
+             const QString six = termsAndDegree(build(s, "#5", "0", 6), 7);
              s.cmdRemoveTerm->click();
-             return column(s, 1, 6) + '|' + s.lblDegree->text();
+             return six + '/' + termsAndDegree(s, 6);
          },
-         "0|x|0|-x^3/6|0||Degree: 4"},
+         "0|x|0|-x^3/6|0|x^5/120||Degree: 5/0|x|0|-x^3/6|0||Degree: 4"},
         {"never below 0",
          [](auto& s) {
-             build(s, "#5", "0", 1);
-             s.cmdRemoveTerm->click();
+             build(s, "#5", "0", 1).cmdRemoveTerm->click();
              return s.lblDegree->text();
          },
          "Degree: 0"},
-        {"exp at 0",
-         [](auto& s) {
-             build(s, "e^x", "0", 4);
-             return column(s, 1, 4);
-         },
-         "1|x|x^2/2|x^3/6"},
+        {"exp at 0", [](auto& s) { return column(build(s, "e^x", "0", 4), 1, 4); }, "1|x|x^2/2|x^3/6"},
         {"ln at 1, stepped from 0",
          [](auto& s) {
-             build(s, "ln(x)", "0", 3);
-             press(s.lblCentre, Qt::LeftButton);
+             press(build(s, "ln(x)", "0", 3).lblCentre, Qt::LeftButton);
              return column(s, 1, 3) + '|' + s.txtCentre->text();
          },
          "0|(x - 1)|-(x - 1)^2/2|1"},
-        {"ln at 0",
-         [](auto& s) {
-             build(s, "ln(x)", "0", 2);
-             return column(s, 1, 2) + '|' + s.lblStatus->text();
-         },
+        {"ln at 0", [](auto& s) { return termsAndStatus(build(s, "ln(x)", "0", 2), 2); },
          "f(a) does not exist|f(a) does not exist|No Taylor polynomial of degree 1 about a = 0: f(a) does not exist."},
         {"a coefficient's last digit is another series",
          [](auto& s) {
-             build(s, "#2", "0", 0);
-             s.txtC->setText(QStringLiteral("1"));
+             build(s, "#2", "0", 0).txtC->setText(QStringLiteral("1"));
              s.cmdAddTerm->click();
              s.txtC->setText(QStringLiteral("1.0000001"));
              s.cmdPlotto->click();
              return column(s, 1, 1);
          },
          "10000001/10000000"},
-        {"sqrt at 0",
-         [](auto& s) {
-             build(s, "sqrt(x)", "0", 2);
-             return column(s, 1, 2);
-         },
-         "0|f^(1)(a) does not exist"},
+        {"sqrt at 0", [](auto& s) { return column(build(s, "sqrt(x)", "0", 2), 1, 2); }, "0|f^(1)(a) does not exist"},
         {"a refused family",
          [](auto& s) {
-             build(s, "#10", "0", 1);
-             s.txtB->setText(QStringLiteral("0"));
-             s.txtC->setText(QStringLiteral("0"));
+             type({build(s, "#10", "0", 1).txtB, s.txtC}, "0|0");
              s.cmdPlotto->click();
              return s.lblStatus->text();
          },
          "No Taylor polynomial: part of the expression is 0 where it divides or is a base."},
         {"degree 20, then no further than 30",
          [](auto& s) {
-             build(s, "e^x", "0", 21);
-             QString d = s.lblDegree->text();
+             const QString d = build(s, "e^x", "0", 21).lblDegree->text();
              for (int i = 0; i < 12; ++i)
                  s.cmdAddTerm->click();
              return d + '|' + s.lblDegree->text() + '|' + s.grdTerms->cell(21, 1);
@@ -131,19 +98,15 @@ TEST_F(Taylor, ValuesAtXAgainstTheSeriesWrittenOut)
 
 TEST_F(Taylor, WhatIsDrawnAndNothingRaises)
 {
-    const auto pointsIn = [this](int colour) {
-        return std::count_if(ops().begin(), ops().end(),
-                             [c = Taylor::colour(colour)](const DrawOp& op) { return op.color == c; });
-    };
     build(*screen, "#5", "0", 4);  // sin x: P_3 = x - x^3/6 within 0.1 of sin x on about |x| < 1.4
-    EXPECT_GT(pointsIn(4), 100);  // P_3
-    EXPECT_GT(pointsIn(12), 100);  // P_2, faint
-    EXPECT_GT(pointsIn(10), 0);  // the band
+    EXPECT_GT(inColour(4), 100);  // P_3
+    EXPECT_GT(inColour(12), 100);  // P_2, faint
+    EXPECT_GT(inColour(10), 0);  // the band
     EXPECT_TRUE(screen->everyDrawingKept());
     build(*screen, "ln(x)", "0", 3);  // f drawn, no polynomial
     screen->CleanGraph();
     screen->cmdPlotto->click();
-    EXPECT_EQ(pointsIn(4) + pointsIn(12) + pointsIn(10), 0);
+    EXPECT_EQ(inColour(4) + inColour(12) + inColour(10), 0);
     for (const char* text : {"1e400", "abc", "", "-1e308"}) {
         for (QLineEdit* box : {screen->txtCentre, screen->txtTolerance, screen->txtAtX})
             box->setText(QString::fromLatin1(text));

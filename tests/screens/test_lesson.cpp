@@ -11,14 +11,6 @@
 #include "fuzz/LessonProperties.h"
 #include "screens/Lesson.h"
 #include "screens/ScreenRegistry.h"
-#include "screens/frmAnimate.h"
-#include "screens/frmClasses.h"
-#include "screens/frmFlowField.h"
-#include "screens/frmMVT.h"
-#include "screens/frmNewton.h"
-#include "screens/frmParam.h"
-#include "screens/frmRiemann.h"
-#include "screens/frmTangent.h"
 
 #include "ScreenFixture.h"
 
@@ -26,12 +18,7 @@ namespace {
 
 struct Scripted : ::testing::Test {
     ScriptedDialogs script;
-    void TearDown() override
-    {
-        FuncGlobals::TypedExplicit = nullptr;
-        FuncGlobals::TypedRate = nullptr;
-        FuncGlobals::TypedParametric = nullptr;
-    }
+    void TearDown() override { forgetTypedFunctions(); }
 };
 
 // A screen set up by a teacher: `prepare` changes it as a person would; the lesson must carry it.
@@ -48,65 +35,61 @@ using Lessons = Scripted;
 TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
 {
     const ScreenCase cases[] = {
-        {"grapher", [] { return std::make_unique<frmClasses>(); },
+        {"grapher", make<frmClasses>,
          [](GraphScreen& s) {
              s.mnuFunc_Click(5);
              type({s.txtA, s.txtB, s.txtXmin}, "3|2|-4");
          }},
-        {"animation", [] { return std::make_unique<frmAnimate>(); },
+        {"animation", make<frmAnimate>,
          [](GraphScreen& s) {
              s.setTypedFunction(QStringLiteral("A*x^2 + B"));
              as<frmAnimate>(s).chkB->setChecked(true);
              as<frmAnimate>(s).optSteps->setChecked(true);
          }},
-        {"sums", [] { return std::make_unique<frmRiemann>(); },
-         [](GraphScreen& s) {
-             auto& r = as<frmRiemann>(s);
-             s.setTypedFunction(QStringLiteral("exp(-x^2)"));
+        {"sums", make<frmRiemann>, on<frmRiemann>([](frmRiemann& r) {
+             r.setTypedFunction(QStringLiteral("exp(-x^2)"));
              type({r.txtLBound, r.txtRBound, r.txtParts}, "0|1|16");
              r.chkMid->setChecked(true);
              r.chkSimpson->setChecked(true);
-         }},
-        {"newton", [] { return std::make_unique<frmNewton>(); },
+         })},
+        {"newton", make<frmNewton>,
          [](GraphScreen& s) {
              s.mnuFunc_Click(4);
              type({s.txtA, s.txtC, s.txtD, as<frmNewton>(s).txtGuess}, "1|-2|-5|2");
          }},
-        {"slope-field", [] { return std::make_unique<frmFlowField>(); },
-         [](GraphScreen& s) {
-             auto& f = as<frmFlowField>(s);
+        {"slope-field", make<frmFlowField>, on<frmFlowField>([](frmFlowField& f) {
              f.setTypedRates(QStringLiteral("x - y^2"), QStringLiteral("1"));
              f.optApprox->setChecked(true);
              f.optRunga4->setChecked(true);
              f.chkBiDirect->setChecked(true);
              type({f.txtDelta}, "0.25");
-         }},
-        {"slope-field", [] { return std::make_unique<frmFlowField>(); },  // the families, by number
+         })},
+        {"slope-field", make<frmFlowField>,  // the families, by number
          [](GraphScreen& s) { as<frmFlowField>(s).mnuDy_Click(3), as<frmFlowField>(s).mnuDx_Click(5); }},
-        {"tangent", [] { return std::make_unique<frmTangent>(); },
-         [](GraphScreen& s) {
-             auto& t = as<frmTangent>(s);
+        {"tangent", make<frmTangent>, on<frmTangent>([](frmTangent& t) {
              type({t.txtX, t.txtDeltaX}, "2|0.5");
              t.hscDx->setValue(1500);
-         }},
-        {"mvt", [] { return std::make_unique<frmMVT>(); },
-         [](GraphScreen& s) {
-             auto& m = as<frmMVT>(s);
-             s.mnuFunc_Click(1);  // the first family, which a scan from 2 would miss
+         })},
+        {"mvt", make<frmMVT>, on<frmMVT>([](frmMVT& m) {
+             m.mnuFunc_Click(1);  // the first family, which a scan from 2 would miss
              type({m.txtX1, m.txtX2}, "0|2");
              m.HscMVT->setValue(2500);
-         }},
-        {"parametric", [] { return std::make_unique<frmParam>(); },
-         [](GraphScreen& s) {
-             auto& p = as<frmParam>(s);
+         })},
+        {"parametric", make<frmParam>, on<frmParam>([](frmParam& p) {
              p.mnuXFunc_Click(7);
              p.mnuYFunc_Click(8);
              type({p.txtTn, p.txtTstep}, "12.6|500");
              p.optCont->setChecked(true);
-         }},
+         })},
+    };
+    // What a step holds of the screen: its function and its controls.
+    const auto state = [](const lesson::Step& step) {
+        return QJsonDocument(QJsonObject{{"function", step.function}, {"controls", step.controls}})
+            .toJson()
+            .toStdString();
     };
     lesson::Lesson saved;
-    std::vector<QJsonObject> expected;
+    std::vector<std::string> expected;
     for (const ScreenCase& c : cases) {
         auto screen = c.make();
         screen->Form_Activate();
@@ -115,17 +98,14 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
         EXPECT_EQ(step.screen, QString::fromLatin1(c.name));
         step.actions = {{QStringLiteral("cmdPlotto"), 1, {}}};
         saved.steps.push_back(step);
-        expected.push_back(
-            QJsonObject{{QStringLiteral("function"), step.function}, {QStringLiteral("controls"), step.controls}});
+        expected.push_back(state(step));
     }
     const auto mvt = std::find_if(saved.steps.begin(), saved.steps.end(), [](auto& s) { return s.screen == "mvt"; });
     EXPECT_EQ(mvt->function.value(QStringLiteral("family")).toInt(), 1) << "the first family is saved by number";
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("every screen.plotto"));
     ASSERT_EQ(lesson::save(saved, path), QString());
-    FuncGlobals::TypedExplicit = nullptr;
-    FuncGlobals::TypedRate = nullptr;
-    FuncGlobals::TypedParametric = nullptr;
+    forgetTypedFunctions();
     FuncGlobals::Coefficients = {};
 
     // A fresh run of the screens opens each step and finds every control as it was.
@@ -138,13 +118,7 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
         const lesson::Step& step = read.lesson->steps[i];
         ASSERT_EQ(lesson::check(step, *screen), QString()) << cases[i].name;
         EXPECT_EQ(lesson::apply(step, *screen), 0);
-        const lesson::Step again = lesson::capture(*screen);
-        EXPECT_EQ(QJsonDocument(QJsonObject{{QStringLiteral("function"), again.function},
-                                            {QStringLiteral("controls"), again.controls}})
-                      .toJson(QJsonDocument::Compact)
-                      .toStdString(),
-                  QJsonDocument(expected[i]).toJson(QJsonDocument::Compact).toStdString())
-            << cases[i].name;
+        EXPECT_EQ(state(lesson::capture(*screen)), expected[i]) << cases[i].name;
         EXPECT_FALSE(screen->surface->ops().empty() && screen->surface->clears() == 0) << cases[i].name;
     }
     EXPECT_TRUE(script.errors.empty());
@@ -153,9 +127,12 @@ TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
 TEST_F(Lessons, EachToolsEntryRunsTheCommandOfTheLessonsOwner)
 {
     std::string ran;
-    GraphScreen::setLessonCommands({.add = [&](GraphScreen&) { ran += 'a'; }, .save = [&] { ran += 's'; },
-                                    .open = [&] { ran += 'o'; }, .next = [&] { ran += 'n'; },
-                                    .previous = [&] { ran += 'p'; }, .worksheet = [&] { ran += 'w'; },
+    GraphScreen::setLessonCommands({.add = [&](GraphScreen&) { ran += 'a'; },
+                                    .save = [&] { ran += 's'; },
+                                    .open = [&] { ran += 'o'; },
+                                    .next = [&] { ran += 'n'; },
+                                    .previous = [&] { ran += 'p'; },
+                                    .worksheet = [&] { ran += 'w'; },
                                     .place = [] { return QStringLiteral("Step 2 of 3"); }});
     frmClasses screen;
     for (QAction* a : {screen.mnuAddStep, screen.mnuSaveLesson, screen.mnuOpenLesson, screen.mnuNextStep,
@@ -203,8 +180,7 @@ TEST_F(Lessons, BrokenFilesAreRefusedWithWhatAndWhere)
     for (const Broken& c : cases) {
         const QString path = dir.filePath(QString::fromLatin1(c.name));
         QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(c.text);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(c.text) == c.text.size());
         file.close();
         const lesson::Read read = lesson::load(path);
         EXPECT_FALSE(read.lesson) << c.name;

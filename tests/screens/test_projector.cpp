@@ -13,9 +13,6 @@
 #include <QGroupBox>
 
 #include "screens/ScreenRegistry.h"
-#include "screens/frmClasses.h"
-#include "screens/frmMVT.h"
-#include "screens/frmRiemann.h"
 
 #include "ScreenFixture.h"
 
@@ -34,6 +31,20 @@ double contrast(QRgb a, QRgb b)
 {
     const double la = luminance(a), lb = luminance(b);
     return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+// The pixels of a picture that are not white, and the luminance of the lightest of them.
+std::pair<long, double> ink(const QImage& image)
+{
+    long inked = 0;
+    double lightest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != 0xFFFFFFFF) {
+                ++inked;
+                lightest = std::max(lightest, luminance(image.pixel(x, y)));
+            }
+    return {inked, lightest};
 }
 
 struct Projector : ScreenFixture<frmMVT> {
@@ -149,33 +160,17 @@ TEST_F(Projector, ChangesHowShapesAreDrawnNeverWhere)
     draw();
     const std::vector<DrawOp> plain = ops();
     const QImage before = screen->surface->picture(QRectF(2400, 100, 6400, 6400));
-    long inkPlain = 0;
-    for (int y = 0; y < before.height(); ++y)
-        for (int x = 0; x < before.width(); ++x)
-            inkPlain += before.pixel(x, y) != 0xFFFFFFFF;
-
     DrawingSurface::setProjectorMode(true);
-    const QImage bold = screen->surface->picture(QRectF(2400, 100, 6400, 6400));
-    long inkBold = 0;
-    double lightest = 0;
-    for (int y = 0; y < bold.height(); ++y)
-        for (int x = 0; x < bold.width(); ++x)
-            if (bold.pixel(x, y) != 0xFFFFFFFF) {
-                ++inkBold;
-                lightest = std::max(lightest, luminance(bold.pixel(x, y)));
-            }
-    EXPECT_GT(inkBold, 2 * inkPlain);  // lines two to three times as wide
+    const auto [inkBold, lightest] = ink(screen->surface->picture(QRectF(2400, 100, 6400, 6400)));
+    EXPECT_GT(inkBold, 2 * ink(before).first);  // lines two to three times as wide
     EXPECT_LE(lightest, 0.31);  // every colour at least 3:1 against white
 
     // The same handlers with the mode on compute and record the very same shapes.
     ScreenFixture::TearDown();
     ScreenFixture::SetUp();
     draw();
-    ASSERT_EQ(ops().size(), plain.size());
-    for (std::size_t i = 0; i < plain.size(); ++i)
-        EXPECT_TRUE(ops()[i].kind == plain[i].kind && ops()[i].x1 == plain[i].x1 && ops()[i].y1 == plain[i].y1 &&
-                    ops()[i].x2 == plain[i].x2 && ops()[i].y2 == plain[i].y2 && ops()[i].color == plain[i].color)
-            << i;
+    std::string where;
+    EXPECT_TRUE(sameOps(ops(), plain, where, 0)) << where;
 
     // Off again, the picture is what it was, pixel for pixel.
     DrawingSurface::setProjectorMode(false);

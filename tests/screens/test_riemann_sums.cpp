@@ -10,6 +10,7 @@
 #include "screens/RiemannSums.h"
 
 using RiemannSums::Result;
+namespace R = RiemannSums;
 
 namespace {
 double square(double x) { return x * x; }
@@ -25,36 +26,21 @@ TEST(RiemannSums, AreasOfXSquaredOnZeroToTwoWithFourPartitions)
 {
     struct Case {
         const char* name;
-        Result (*sum)(Heights&);
         float area;  // worked out by hand: the heights times 1/2 (Simpson: exact, 8/3)
         Heights heights;
+        Result (*sum)(Heights&);
     } cases[] = {
-        {"left",
-         [](Heights& h) { return RiemannSums::leftEndpoint(square, 0, 0.5, 4, bars(h)); },
-         1.75f,
-         {0, 0.25, 1, 2.25}},
-        {"right",
-         [](Heights& h) { return RiemannSums::rightEndpoint(square, 0, 0.5, 4, bars(h)); },
-         3.75f,
-         {0.25, 1, 2.25, 4}},
-        {"midpoint",
-         [](Heights& h) { return RiemannSums::midpoint(square, 0, 0.5, 4, bars(h)); },
-         2.625f,
-         {0.0625, 0.5625, 1.5625, 3.0625}},
-        {"trapezoid",
-         [](Heights& h) {
-             return RiemannSums::trapezoidal(square, 0, 0.5, 4,
-                                             [&](double, double, double y, double) { h.push_back(y); });
-         },
-         2.75f,
-         {0, 0.25, 1, 2.25}},
-        {"Simpson",
-         [](Heights& h) {
-             return RiemannSums::simpson(square, 0, 0.5, 4,
-                                         [&](double, double, double, double y1, double) { h.push_back(y1); });
-         },
-         8.0f / 3,
-         {0.25, 2.25}},
+        // clang-format off
+        {"left", 1.75f, {0, 0.25, 1, 2.25}, [](Heights& h) { return R::leftEndpoint(square, 0, 0.5, 4, bars(h)); }},
+        {"right", 3.75f, {0.25, 1, 2.25, 4}, [](Heights& h) { return R::rightEndpoint(square, 0, 0.5, 4, bars(h)); }},
+        {"midpoint", 2.625f, {0.0625, 0.5625, 1.5625, 3.0625},
+         [](Heights& h) { return R::midpoint(square, 0, 0.5, 4, bars(h)); }},
+        {"trapezoid", 2.75f, {0, 0.25, 1, 2.25}, [](Heights& h) {
+             return R::trapezoidal(square, 0, 0.5, 4, [&](double, double, double y, double) { h.push_back(y); }); }},
+        {"Simpson", 8.0f / 3, {0.25, 2.25}, [](Heights& h) {  // a pair's middle height
+             return R::simpson(square, 0, 0.5, 4, [&](double, double, double, double y, double) { h.push_back(y); });
+         }},
+        // clang-format on
     };
     for (const Case& c : cases) {
         Heights h;

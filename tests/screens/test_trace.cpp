@@ -8,10 +8,6 @@
 #include <QRegularExpression>
 
 #include "graphwin/TracePlayer.h"
-#include "screens/frmClasses.h"
-#include "screens/frmFlowField.h"
-#include "screens/frmParam.h"
-#include "screens/frmRiemann.h"
 
 #include "ScreenFixture.h"
 
@@ -19,11 +15,6 @@ namespace {
 
 template <class Screen>
 struct Trace : ScreenFixture<Screen> {
-    void TearDown() override
-    {
-        ScreenFixture<Screen>::TearDown();
-        FuncGlobals::TypedExplicit = nullptr;
-    }
     // Presses `key` in the graph and returns what the walk said.
     QString press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
