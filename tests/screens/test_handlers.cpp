@@ -6,10 +6,10 @@
 #include <map>
 
 #include "graphwin/GraphScreen.h"
+#include "screens/Lesson.h"
 #include "screens/frmArea.h"
 #include "screens/frmClasses.h"
 #include "screens/frmFlowField.h"
-#include "screens/Lesson.h"
 #include "screens/frmLimits.h"
 #include "screens/frmNewton.h"
 #include "screens/frmParam.h"
@@ -86,40 +86,33 @@ TEST(Handlers, EachStepperLabelMovesItsOwnBoxAndTheRightButtonBringsItBack)
     };
     const auto plusOne = [](double v) { return v + 1; };
     const auto half = [](double v) { return v / 2; };
-#define PRESS(S, H) [](GraphScreen& s, int b) { as<S>(s).H(b, 0, 0, 0); }
-#define BOX(S, B) [](GraphScreen& s) -> TextBox* { return as<S>(s).B; }
+// clang-format off
+#define ROW(name, S, handler, box, left) \
+    {name, make<S>, [](GraphScreen& s, int b) { as<S>(s).handler(b, 0, 0, 0); }, \
+     [](GraphScreen& s) -> TextBox* { return as<S>(s).box; }, left}
     const Row rows[] = {
-        {"sums: partitions", make<frmRiemann>, PRESS(frmRiemann, lblPartitions_MouseDown), BOX(frmRiemann, txtParts),
-         plusOne},
-        {"sums: left bound", make<frmRiemann>, PRESS(frmRiemann, lblLBound_MouseDown), BOX(frmRiemann, txtLBound),
-         plusOne},
-        {"sums: right bound", make<frmRiemann>, PRESS(frmRiemann, lblRBound_MouseDown), BOX(frmRiemann, txtRBound),
-         plusOne},
-        {"tangent: x", make<frmTangent>, PRESS(frmTangent, lblXat_MouseDown), BOX(frmTangent, txtX), plusOne},
-        {"tangent: dx", make<frmTangent>, PRESS(frmTangent, lblDeltaX_MouseDown), BOX(frmTangent, txtDeltaX), plusOne},
-        {"parametric: t0", make<frmParam>, PRESS(frmParam, lblT0_MouseDown), BOX(frmParam, txtT0), plusOne},
-        {"parametric: final t", make<frmParam>, PRESS(frmParam, lblFinalT_MouseDown), BOX(frmParam, txtTn), plusOne},
-        {"parametric: t step", make<frmParam>, PRESS(frmParam, lblTstep_MouseDown), BOX(frmParam, txtTstep), plusOne},
-        {"parametric: traced t", make<frmParam>, PRESS(frmParam, lbltTrace_MouseDown), BOX(frmParam, txtT), plusOne},
-        {"slope field: points", make<frmFlowField>, PRESS(frmFlowField, lblplots_MouseDown),
-         BOX(frmFlowField, txtCurvePoints), plusOne},
-        {"slope field: horizontal shift", make<frmFlowField>, PRESS(frmFlowField, lblHorShift_MouseDown),
-         BOX(frmFlowField, txtHorShift), plusOne},
-        {"slope field: vertical shift", make<frmFlowField>, PRESS(frmFlowField, lblVerShift_MouseDown),
-         BOX(frmFlowField, txtVerShift), plusOne},
-        {"slope field: step halves", make<frmFlowField>, PRESS(frmFlowField, lblDeltaX_MouseDown),
-         BOX(frmFlowField, txtDelta), half},
-        {"area: a", make<frmArea>, PRESS(frmArea, lblLeft_MouseDown), BOX(frmArea, txtLeft), plusOne},
-        {"area: b", make<frmArea>, PRESS(frmArea, lblRight_MouseDown), BOX(frmArea, txtRight), plusOne},
-        {"area: strips", make<frmArea>, PRESS(frmArea, lblStrips_MouseDown), BOX(frmArea, txtStrips), plusOne},
-        {"limits: epsilon halves", make<frmLimits>, PRESS(frmLimits, lblEpsilon_MouseDown), BOX(frmLimits, txtEpsilon),
-         half},
-        {"limits: a", make<frmLimits>, PRESS(frmLimits, lblPoint_MouseDown), BOX(frmLimits, txtPoint), plusOne},
-        {"Taylor: centre", make<frmTaylor>, PRESS(frmTaylor, lblCentre_MouseDown), BOX(frmTaylor, txtCentre),
-         plusOne},
+        ROW("sums: partitions", frmRiemann, lblPartitions_MouseDown, txtParts, plusOne),
+        ROW("sums: left bound", frmRiemann, lblLBound_MouseDown, txtLBound, plusOne),
+        ROW("sums: right bound", frmRiemann, lblRBound_MouseDown, txtRBound, plusOne),
+        ROW("tangent: x", frmTangent, lblXat_MouseDown, txtX, plusOne),
+        ROW("tangent: dx", frmTangent, lblDeltaX_MouseDown, txtDeltaX, plusOne),
+        ROW("parametric: t0", frmParam, lblT0_MouseDown, txtT0, plusOne),
+        ROW("parametric: final t", frmParam, lblFinalT_MouseDown, txtTn, plusOne),
+        ROW("parametric: t step", frmParam, lblTstep_MouseDown, txtTstep, plusOne),
+        ROW("parametric: traced t", frmParam, lbltTrace_MouseDown, txtT, plusOne),
+        ROW("slope field: points", frmFlowField, lblplots_MouseDown, txtCurvePoints, plusOne),
+        ROW("slope field: horizontal shift", frmFlowField, lblHorShift_MouseDown, txtHorShift, plusOne),
+        ROW("slope field: vertical shift", frmFlowField, lblVerShift_MouseDown, txtVerShift, plusOne),
+        ROW("slope field: step halves", frmFlowField, lblDeltaX_MouseDown, txtDelta, half),
+        ROW("area: a", frmArea, lblLeft_MouseDown, txtLeft, plusOne),
+        ROW("area: b", frmArea, lblRight_MouseDown, txtRight, plusOne),
+        ROW("area: strips", frmArea, lblStrips_MouseDown, txtStrips, plusOne),
+        ROW("limits: epsilon halves", frmLimits, lblEpsilon_MouseDown, txtEpsilon, half),
+        ROW("limits: a", frmLimits, lblPoint_MouseDown, txtPoint, plusOne),
+        ROW("Taylor: centre", frmTaylor, lblCentre_MouseDown, txtCentre, plusOne),
     };
-#undef PRESS
-#undef BOX
+#undef ROW
+    // clang-format on
     ScriptedDialogs script;
     for (const Row& r : rows) {
         const auto screen = r.make();
