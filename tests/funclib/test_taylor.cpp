@@ -72,6 +72,8 @@ TEST(Taylor, PolynomialsAgainstTheSeriesWrittenOut)
     // |cos 0.5 - P_6(0.5)| <= max|cos^(7)| 0.5^7 / 7!, the largest |sin t| on [0, 0.5] being sin 0.5.
     TaylorSeries c = TaylorSeries::ofText("cos(x)", 0, {});
     EXPECT_NEAR(c.lagrangeBound(6, h), std::sin(h) * std::pow(h, 7) / 5040, 1e-18);
+    // Sampled between the centre and x, not on the other side: |e^1 - P_1(1)| <= e * 1^2 / 2!.
+    EXPECT_NEAR(TaylorSeries::ofText("e^x", 0, {}).lagrangeBound(1, 1), std::exp(1.0) / 2, 1e-15);
 }
 
 TEST(Taylor, WhereTheFunctionOrADerivativeDoesNotExist)
