@@ -146,11 +146,11 @@ void frmTaylor::showDegree(int n)
     TaylorSeries& s = *series();
     const TaylorTerm& last = s.term(degree_);
     if (!s.refusal().empty())
-        status_ = Plotto::tr("No Taylor polynomial: ") + QString::fromStdString(s.refusal()) + QLatin1Char('.');
+        status_ = Plotto::tr("No Taylor polynomial: %1.").arg(i18n::words(s.refusal()));
     else if (last.state != TaylorTerm::State::Found)
         status_ = Plotto::tr("No Taylor polynomial of degree %1 about a = %2: %3.")
                       .arg(degree_)
-                      .arg(shownTrimStr(s.centre()), QString::fromStdString(last.why));
+                      .arg(shownTrimStr(s.centre()), i18n::words(last.why));
     else
         status_ =
             Plotto::tr("P_%1 about a = %2 in red%3; the green band on the x axis is where |f - P_%1| < %4.")
@@ -285,9 +285,9 @@ std::vector<GraphScreen::DragHandle> frmTaylor::dragHandles()
 
 void frmTaylor::describeResults(QStringList& lines) const
 {
-    lines << Plotto::tr("Taylor polynomials of ") + describeFamily() + QLatin1Char('.');
+    lines << Plotto::tr("Taylor polynomials of %1.").arg(describeFamily());
     if (degree_ < 0) {
-        lines << Plotto::tr("No terms yet; centre box: ") + txtCentre->text() + QLatin1Char('.');
+        lines << Plotto::tr("No terms yet; centre box: %1.").arg(txtCentre->text());
         return;
     }
     QStringList terms;
