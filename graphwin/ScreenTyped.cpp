@@ -146,7 +146,7 @@ void GraphScreen::mnuTypeFunction_Click()
                       {QStringLiteral("sqrt(4 - x^2)")},
                       {QStringLiteral("abs(x)")},
                       {QStringLiteral("1/(1 + x^2)")}};
-    entry.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
+    entry.names = typedNamesHelp(QStringLiteral("x"), Plotto::tr("A to E"));
     entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const auto f = FuncGlobals::TypedFunction::make(texts.value(0).toStdString(), error);

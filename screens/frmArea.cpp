@@ -93,10 +93,11 @@ frmArea::frmArea() : GraphScreen(areaConfig())
 void frmArea::Form_Load()
 {
     GraphScreen::Form_Load();
-    const char* headings[] = {"Rule", "Signed: f - g", "Unsigned: |f - g|"};
+    const char* headings[] = {QT_TRANSLATE_NOOP("Plotto", "Rule"), QT_TRANSLATE_NOOP("Plotto", "Signed: f - g"),
+                              QT_TRANSLATE_NOOP("Plotto", "Unsigned: |f - g|")};
     const double widths[] = {1700, 2000, 2000};
     for (int c = 0; c < 3; ++c) {
-        grdAreas->setCell(0, c, QString::fromLatin1(headings[c]));
+        grdAreas->setCell(0, c, Plotto::tr(headings[c]));
         grdAreas->setColumnWidthTwips(c, widths[c]);
     }
     for (std::size_t m = 0; m < StripRules::kRules.size(); ++m)

@@ -214,7 +214,7 @@ void frmFlowField::mnuTypeFunction_Click()
                       {QStringLiteral("A*y*(1 - y/B)"), QStringLiteral("1")},
                       {QStringLiteral("sin(x*y)"), QStringLiteral("1")},
                       {QStringLiteral("x + y"), QStringLiteral("x - y")}};
-    entry.names = typedNamesHelp(Plotto::tr("x and y"), QStringLiteral("A to F")) +
+    entry.names = typedNamesHelp(Plotto::tr("x and y"), Plotto::tr("A to F")) +
                   Plotto::tr(" With dx = 1 the field is the slope field of dy/dx = dy.");
     entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;

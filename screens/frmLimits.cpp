@@ -61,10 +61,10 @@ frmLimits::frmLimits() : GraphScreen(limitsConfig())
 void frmLimits::Form_Load()
 {
     GraphScreen::Form_Load();
-    const char* headings[] = {"ε", "δ", "δ/ε", "leaves at x ="};
+    const char* headings[] = {"ε", "δ", "δ/ε", QT_TRANSLATE_NOOP("Plotto", "leaves at x =")};
     const double widths[] = {1300, 1500, 1100, 1600};
     for (int c = 0; c < 4; ++c) {
-        grdHalvings->setCell(0, c, QString::fromUtf8(headings[c]));
+        grdHalvings->setCell(0, c, Plotto::tr(headings[c]));
         grdHalvings->setColumnWidthTwips(c, widths[c]);
     }
 }

@@ -325,7 +325,7 @@ void frmParam::mnuTypeFunction_Click()
                       {QStringLiteral("cos(3*t)*cos(t)"), QStringLiteral("cos(3*t)*sin(t)")},
                       {QStringLiteral("t^2 - 1"), QStringLiteral("t^3 - t")},
                       {QStringLiteral("exp(t/10)*cos(t)"), QStringLiteral("exp(t/10)*sin(t)")}};
-    entry.names = typedNamesHelp(QStringLiteral("t"), QStringLiteral("A to F"));
+    entry.names = typedNamesHelp(QStringLiteral("t"), Plotto::tr("A to F"));
     entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const auto curve =

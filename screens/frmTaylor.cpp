@@ -74,10 +74,11 @@ frmTaylor::frmTaylor() : GraphScreen(taylorConfig())
 void frmTaylor::Form_Load()
 {
     GraphScreen::Form_Load();
-    const char* headings[] = {"n", "New term", "P_n(x)", "f(x) - P_n(x)", "Lagrange bound"};
+    const char* headings[] = {"n", QT_TRANSLATE_NOOP("Plotto", "New term"), "P_n(x)", "f(x) - P_n(x)",
+                              QT_TRANSLATE_NOOP("Plotto", "Lagrange bound")};
     const double widths[] = {360, 1400, 1150, 1300, 0};
     for (int c = 0; c < 5; ++c) {
-        grdTerms->setCell(0, c, QString::fromLatin1(headings[c]));
+        grdTerms->setCell(0, c, Plotto::tr(headings[c]));
         grdTerms->setColumnWidthTwips(c, widths[c]);
     }
     for (int k = 0; k + 1 < kGridRows; ++k)

@@ -2774,6 +2774,38 @@ Die Standardoptionen von Qt (-platform, -style, ...) werden akzeptiert.</transla
         <source>%1, and %2 or %3, both the natural logarithm</source>
         <translation>%1 sowie %2 oder %3, beide der natürliche Logarithmus</translation>
     </message>
+    <message>
+        <source>A to E</source>
+        <translation>A bis E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Orientiert: f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Betrag: |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A bis F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>verlässt bei x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Neuer Term</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Lagrange-Schranke</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

@@ -2774,6 +2774,38 @@ Se aceptan las opciones estándar de Qt (-platform, -style, ...).</translation>
         <source>%1, and %2 or %3, both the natural logarithm</source>
         <translation>%1, y %2 o %3, ambos el logaritmo natural</translation>
     </message>
+    <message>
+        <source>A to E</source>
+        <translation>A a E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Con signo: f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Sin signo: |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A a F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>sale en x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Término nuevo</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Cota de Lagrange</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

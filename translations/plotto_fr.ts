@@ -2774,6 +2774,38 @@ Les options standard de Qt (-platform, -style, ...) sont acceptées.</translatio
         <source>%1, and %2 or %3, both the natural logarithm</source>
         <translation>%1, et %2 ou %3, tous deux le logarithme népérien</translation>
     </message>
+    <message>
+        <source>A to E</source>
+        <translation>A à E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Règle</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Algébrique : f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Absolue : |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A à F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>sort en x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Nouveau terme</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Borne de Lagrange</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

@@ -2774,6 +2774,38 @@ As opções padrão do Qt (-platform, -style, ...) são aceitas.</translation>
         <source>%1, and %2 or %3, both the natural logarithm</source>
         <translation>%1, e %2 ou %3, ambos o logaritmo natural</translation>
     </message>
+    <message>
+        <source>A to E</source>
+        <translation>A a E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regra</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Com sinal: f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Sem sinal: |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A a F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>sai em x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Novo termo</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Cota de Lagrange</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>
