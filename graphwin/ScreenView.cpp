@@ -230,10 +230,15 @@ QString GraphScreen::readoutAt(double xTwips, double yTwips) const
     const double rx = std::fabs(graph.XRange) / GraphWindow::Side * perPixel,
                  ry = std::fabs(graph.YRange) / GraphWindow::Side * perPixel;
     auto said = [](double v, double resolution) { return QString::fromStdString(audio::spoken(v, resolution)); };
+    // A drawing's name without its coefficients' values and without "the typed function", in the
+    // words of the language (describeFamily's templates).
     auto shortName = [](QString name) {
-        if (const auto with = name.indexOf(QStringLiteral(" with ")); with > 0)
-            name.truncate(with);
-        return name.remove(QStringLiteral("the typed function "));
+        const QString with =
+            Plotto::tr("%1 with %2").section(QStringLiteral("%1"), 1).section(QStringLiteral("%2"), 0, 0);
+        if (const auto at = with.isEmpty() ? -1 : name.indexOf(with); at > 0)
+            name.truncate(at);
+        const QString typed = Plotto::tr("the typed function y = %1").section(QStringLiteral("y = %1"), 0, 0);
+        return typed.isEmpty() ? name : name.remove(typed);
     };
     const double reach = 8 * perPixel;
     if (sinceClear())

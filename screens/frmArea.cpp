@@ -134,7 +134,7 @@ void frmArea::cmdDouble_Click()
     const double twice = std::min<double>(std::floor(*n) * 2, AreaBetween::kMaxStrips);
     txtStrips->assign(QString::number(twice, 'f', 0));
     if (twice == AreaBetween::kMaxStrips)
-        lblStatus->setText(QStringLiteral("%1 strips is the most this screen sums.").arg(AreaBetween::kMaxStrips));
+        lblStatus->setText(Plotto::tr("%1 strips is the most this screen sums.").arg(AreaBetween::kMaxStrips));
     if (result_)
         findAll();
 }

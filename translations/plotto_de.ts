@@ -2806,6 +2806,74 @@ Die Standardoptionen von Qt (-platform, -style, ...) werden akzeptiert.</transla
         <source>Lagrange bound</source>
         <translation>Lagrange-Schranke</translation>
     </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 ist %2. Drücken erhöht um eins; die Aktion Verringern senkt um eins.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 enthält %2, was keine Zahl ist.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 Streifen sind das Höchste, was dieser Bildschirm summiert.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>der Bildschirm hat kein Steuerelement namens &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>das Feld &apos;%1&apos; kann %2 nicht aufnehmen</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>die Bildlaufleiste &apos;%1&apos; kann diese Stellung nicht annehmen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; ist angekreuzt oder nicht: true oder false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>der Bildschirm hat keinen Menüeintrag &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>der Bildschirm hat keine Schaltfläche &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Das ist keine Lektion: %1 bei Zeichen %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>Die Lektion hat keine gültige Versionsnummer.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Schritt %1: unbekannter Bildschirm &apos;%2&apos; (die Bildschirme sind %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Schritt %1: eine Aktion nennt keine zu klickende Schaltfläche und keinen zu wählenden Menüeintrag.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>Die Lektion kann nicht nach %1 geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>Die Lektion konnte nicht nach %1 gespeichert werden: %2. Dort wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>Die Lektion %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 ist zu groß für eine Lektion.</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

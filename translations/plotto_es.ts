@@ -2806,6 +2806,74 @@ Se aceptan las opciones estándar de Qt (-platform, -style, ...).</translation>
         <source>Lagrange bound</source>
         <translation>Cota de Lagrange</translation>
     </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 vale %2. Pulse para subir en uno; la acción de disminuir baja en uno.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 contiene %2, que no es un número.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 franjas es lo máximo que suma esta pantalla.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>la pantalla no tiene ningún control llamado &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>la casilla &apos;%1&apos; no admite %2</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>la barra &apos;%1&apos; no admite esa posición</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; está marcada o no: true o false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>la pantalla no tiene ninguna entrada de menú &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>la pantalla no tiene ningún botón &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Esto no es una lección: %1 en el carácter %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>La lección no tiene un número de versión válido.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Paso %1: pantalla desconocida &apos;%2&apos; (las pantallas son %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Paso %1: una acción no nombra ningún botón que pulsar ni entrada de menú que elegir.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>La lección no se puede escribir en %1: %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>La lección no se pudo guardar en %1: %2. No se cambió nada allí.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>La lección %1 no se puede leer: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 es demasiado grande para ser una lección.</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

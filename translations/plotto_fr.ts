@@ -2806,6 +2806,74 @@ Les options standard de Qt (-platform, -style, ...) sont acceptées.</translatio
         <source>Lagrange bound</source>
         <translation>Borne de Lagrange</translation>
     </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 vaut %2. Appuyez pour augmenter de un ; l&apos;action de diminution diminue de un.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 contient %2, qui n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 bandes est le maximum que cet écran additionne.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>l&apos;écran n&apos;a pas de contrôle nommé &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>la case &apos;%1&apos; ne peut pas prendre %2</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>la barre &apos;%1&apos; ne peut pas prendre cette position</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; est cochée ou non : true ou false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>l&apos;écran n&apos;a pas d&apos;entrée de menu &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>l&apos;écran n&apos;a pas de bouton &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Ce n&apos;est pas une leçon : %1 au caractère %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>La leçon n&apos;a pas de numéro de version valide.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Étape %1 : écran inconnu &apos;%2&apos; (les écrans sont %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Étape %1 : une action ne nomme aucun bouton à cliquer ni entrée de menu à choisir.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>La leçon ne peut pas être écrite dans %1 : %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>La leçon n&apos;a pas pu être enregistrée dans %1 : %2. Rien n&apos;y a été modifié.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>La leçon %1 ne peut pas être lue : %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 est trop grand pour être une leçon.</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

@@ -2806,6 +2806,74 @@ As opções padrão do Qt (-platform, -style, ...) são aceitas.</translation>
         <source>Lagrange bound</source>
         <translation>Cota de Lagrange</translation>
     </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 é %2. Pressione para aumentar em um; a ação de diminuir reduz em um.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 contém %2, que não é um número.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 faixas é o máximo que esta tela soma.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>a tela não tem nenhum controle chamado &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>a caixa &apos;%1&apos; não aceita %2</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>a barra &apos;%1&apos; não aceita essa posição</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; está marcada ou não: true ou false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>a tela não tem nenhum item de menu &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>a tela não tem nenhum botão &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Isto não é uma lição: %1 no caractere %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>A lição não tem um número de versão válido.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Passo %1: tela desconhecida &apos;%2&apos; (as telas são %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Passo %1: uma ação não nomeia nenhum botão a clicar nem item de menu a escolher.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>A lição não pode ser gravada em %1: %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>A lição não pôde ser salva em %1: %2. Nada foi alterado ali.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>A lição %1 não pode ser lida: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 é grande demais para ser uma lição.</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>
