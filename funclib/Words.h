@@ -87,9 +87,11 @@ inline constexpr const char* sidesDiffer =
     QT_TRANSLATE_NOOP("Plotto", "The left side %1 and the right side %2: no limit at a = %3.");
 inline constexpr const char* tendsToInfinity = QT_TRANSLATE_NOOP("Plotto", "tends to infinity");
 inline constexpr const char* tendsToMinusInfinity = QT_TRANSLATE_NOOP("Plotto", "tends to -infinity");
+//: what one side of a does as x nears a ("The left side tends to 1 and ...")
 inline constexpr const char* tendsTo = QT_TRANSLATE_NOOP("Plotto", "tends to %1");
 inline constexpr const char* toInfinity = QT_TRANSLATE_NOOP("Plotto", "to infinity");
 inline constexpr const char* toMinusInfinity = QT_TRANSLATE_NOOP("Plotto", "to -infinity");
+//: the right side's clause when the left side's said "tends" ("... and the right side to 2")
 inline constexpr const char* to = QT_TRANSLATE_NOOP("Plotto", "to %1");
 inline constexpr const char* unsettled = QT_TRANSLATE_NOOP("Plotto", "does not settle");
 inline constexpr const char* undefinedSide = QT_TRANSLATE_NOOP("Plotto", "is undefined");
@@ -135,14 +137,16 @@ inline constexpr const char* noArea = QT_TRANSLATE_NOOP("Plotto", "No area: %1."
 inline constexpr const char* signedArea =
     QT_TRANSLATE_NOOP("Plotto", "Signed area %1 (adaptive Gauss-Kronrod, 61 points, split at the crossings)");
 inline constexpr const char* noValueBecause = QT_TRANSLATE_NOOP("Plotto", "no value: %1");
-// A convergence table's cell: the error is below the reference's own accuracy %1.
+//: a convergence table's cell: the error is below the reference's own accuracy %1
 inline constexpr const char* below = QT_TRANSLATE_NOOP("Plotto", "below %1");
+//: a convergence table's cell: the row's value is the reference itself
 inline constexpr const char* reference = QT_TRANSLATE_NOOP("Plotto", "(reference)");
+//: a convergence table's cell in place of a ratio, explained by the round-off note under the table
 inline constexpr const char* roundOff = QT_TRANSLATE_NOOP("Plotto", "round-off");
 inline constexpr const char* roundOffNote = QT_TRANSLATE_NOOP(
     "Plotto", "round-off: an error below %1 is mostly the rounding of double-precision arithmetic over the "
               "steps, not the method's own error, so its ratio is not shown.");
-// The label of a reference line of slope -%1 on the log-log plot.
+//: the label of a reference line of slope -%1 on the log-log plot
 inline constexpr const char* slope = QT_TRANSLATE_NOOP("Plotto", "slope %1");
 inline constexpr const char* nOdd = QT_TRANSLATE_NOOP("Plotto", "n odd");
 inline constexpr const char* noValueCell = QT_TRANSLATE_NOOP("Plotto", "no value");
@@ -163,7 +167,7 @@ inline constexpr const char* verticalBeforeEnd = QT_TRANSLATE_NOOP(
 inline constexpr const char* referenceFault = QT_TRANSLATE_NOOP("Plotto", "The reference cannot be computed: %1.");
 inline constexpr const char* endUnreached =
     QT_TRANSLATE_NOOP("Plotto", "The adaptive integration could not reach the end x (the slope grows without bound).");
-// A row of the step methods' table: the step h (%1) and how many steps reach the end x (%2).
+//: a row of the step methods' table: the step h (%1) and how many steps reach the end x (%2)
 inline constexpr const char* stepRow = QT_TRANSLATE_NOOP("Plotto", "%1 (%2 steps)");
 inline constexpr const char* meetsVertical = QT_TRANSLATE_NOOP("Plotto", "meets a vertical slope");
 inline constexpr const char* leavesWindow = QT_TRANSLATE_NOOP("Plotto", "leaves the window");
@@ -172,8 +176,8 @@ inline constexpr const char* leavesWindow = QT_TRANSLATE_NOOP("Plotto", "leaves 
 inline constexpr const char* naturalLogarithm =
     QT_TRANSLATE_NOOP("Plotto", "%1, and %2 or %3, both the natural logarithm");
 
-// Which of two typed texts a refusal is about ("dy: missing ')' at 3"); %1 names the text (dy, dx,
-// x(t), y(t)) and %2 is the refusal.
+//: which of two typed texts a refusal is about ("dy: missing ')' at 3"): %1 names the text (dy, dx,
+//: x(t), y(t)) and %2 is the refusal
 inline constexpr const char* inText = QT_TRANSLATE_NOOP("Plotto", "%1: %2");
 
 // Every template, the more particular before the more general where one text could fit two (the

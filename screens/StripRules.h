@@ -65,11 +65,13 @@ constexpr auto ignore = [](auto&&...) {};
 }  // namespace detail
 
 inline const std::array<Rule, 5> kRules{{
+    //: a sum's rule (left endpoints) in the convergence table and the area grid
     {QT_TRANSLATE_NOOP("Plotto", "Left"), 1, 0x1F4EB4, false,
      [](const Function& f, double a, double b, std::int32_t n) { return detail::riemann(f, a, b, n, 0); },
      [](const Function& f, double L, double dx, std::int32_t n) {
          return RiemannSums::leftEndpoint(f, L, dx, n, detail::ignore);
      }},
+    //: a sum's rule (right endpoints) in the convergence table and the area grid
     {QT_TRANSLATE_NOOP("Plotto", "Right"), 1, 0xB42A1F, false,
      [](const Function& f, double a, double b, std::int32_t n) { return detail::riemann(f, a, b, n, 1); },
      [](const Function& f, double L, double dx, std::int32_t n) {

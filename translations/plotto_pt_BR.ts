@@ -2237,6 +2237,7 @@
     </message>
     <message>
         <source>tends to %1</source>
+        <extracomment>what one side of a does as x nears a (&quot;The left side tends to 1 and ...&quot;)</extracomment>
         <translation>tende a %1</translation>
     </message>
     <message>
@@ -2249,6 +2250,7 @@
     </message>
     <message>
         <source>to %1</source>
+        <extracomment>the right side&apos;s clause when the left side&apos;s said &quot;tends&quot; (&quot;... and the right side to 2&quot;)</extracomment>
         <translation>a %1</translation>
     </message>
     <message>
@@ -2345,14 +2347,17 @@
     </message>
     <message>
         <source>below %1</source>
+        <extracomment>a convergence table&apos;s cell: the error is below the reference&apos;s own accuracy %1</extracomment>
         <translation>abaixo de %1</translation>
     </message>
     <message>
         <source>(reference)</source>
+        <extracomment>a convergence table&apos;s cell: the row&apos;s value is the reference itself</extracomment>
         <translation>(referência)</translation>
     </message>
     <message>
         <source>round-off</source>
+        <extracomment>a convergence table&apos;s cell in place of a ratio, explained by the round-off note under the table</extracomment>
         <translation>arredondamento</translation>
     </message>
     <message>
@@ -2361,6 +2366,7 @@
     </message>
     <message>
         <source>slope %1</source>
+        <extracomment>the label of a reference line of slope -%1 on the log-log plot</extracomment>
         <translation>inclinação %1</translation>
     </message>
     <message>
@@ -2409,6 +2415,7 @@
     </message>
     <message>
         <source>%1 (%2 steps)</source>
+        <extracomment>a row of the step methods&apos; table: the step h (%1) and how many steps reach the end x (%2)</extracomment>
         <translation>%1 (%2 passos)</translation>
     </message>
     <message>
@@ -2421,6 +2428,7 @@
     </message>
     <message>
         <source>%1: %2</source>
+        <extracomment>which of two typed texts a refusal is about (&quot;dy: missing &apos;)&apos; at 3&quot;): %1 names the text (dy, dx, x(t), y(t)) and %2 is the refusal</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>
@@ -2686,10 +2694,12 @@ Derivada: y&apos; = %2</translation>
     </message>
     <message>
         <source>Left</source>
+        <extracomment>a sum&apos;s rule (left endpoints) in the convergence table and the area grid</extracomment>
         <translation>Esquerda</translation>
     </message>
     <message>
         <source>Right</source>
+        <extracomment>a sum&apos;s rule (right endpoints) in the convergence table and the area grid</extracomment>
         <translation>Direita</translation>
     </message>
     <message>
