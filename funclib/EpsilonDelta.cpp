@@ -9,7 +9,11 @@
 #include <cmath>
 #include <cstdio>
 
+#include "funclib/Words.h"
+
 namespace limits {
+
+namespace words = FuncGlobals::words;
 
 namespace {
 
@@ -84,16 +88,24 @@ Side sideOf(const Values& f, double a, int direction)
     return s;
 }
 
-std::string phrase(const Side& s)
+// What one side does, as a clause; `toOnly` drops "tends" where the sentence has said it already.
+std::string phrase(const Side& s, bool toOnly = false)
 {
+    if (toOnly)
+        switch (s.kind) {
+        case Side::Kind::Settles: return words::fill(words::to, {shown(s.value)});
+        case Side::Kind::PlusInfinity: return words::toInfinity;
+        case Side::Kind::MinusInfinity: return words::toMinusInfinity;
+        default: break;
+        }
     switch (s.kind) {
-    case Side::Kind::Settles: return "tends to " + shown(s.value);
-    case Side::Kind::PlusInfinity: return "tends to infinity";
-    case Side::Kind::MinusInfinity: return "tends to -infinity";
-    case Side::Kind::Unsettled: return "does not settle";
+    case Side::Kind::Settles: return words::fill(words::tendsTo, {shown(s.value)});
+    case Side::Kind::PlusInfinity: return words::tendsToInfinity;
+    case Side::Kind::MinusInfinity: return words::tendsToMinusInfinity;
+    case Side::Kind::Unsettled: return words::unsettled;
     case Side::Kind::Undefined: break;
     }
-    return "is undefined";
+    return words::undefinedSide;
 }
 
 // What one side of a holds for the band.
@@ -183,12 +195,11 @@ LimitEstimate estimateLimit(const Values& f, double a)
 {
     LimitEstimate e;
     if (!std::isfinite(a)) {
-        e.words = "a must be a number.";
+        e.words = words::aNumber;
         return e;
     }
     e.left = sideOf(f, a, -1);
     e.right = sideOf(f, a, 1);
-    const std::string at = " at a = " + shown(a);
     using K = Side::Kind;
     const bool leftOk = e.left.kind == K::Settles, rightOk = e.right.kind == K::Settles;
     if (leftOk && rightOk) {
@@ -196,9 +207,8 @@ LimitEstimate estimateLimit(const Values& f, double a)
         if (std::fabs(l - r) <= kSettleTolerance * std::max({1.0, std::fabs(l), std::fabs(r)})) {
             e.exists = true;
             e.limit = e.left.spread >= e.right.spread ? l : r;
-            e.words = "Both sides tend to " + shown(e.limit) + ": L = " + shown(e.limit) + at +
-                      " (estimated from x = a +- h, h halving to " + fixed("%.2g", std::ldexp(1.0, -kSteps)) +
-                      " times max(1, |a|); the last values agree to " + fixed("%.0e", kSettleTolerance) + ").";
+            e.words = words::fill(words::bothSides, {shown(e.limit), shown(a), fixed("%.2g", std::ldexp(1.0, -kSteps)),
+                                                     fixed("%.0e", kSettleTolerance)});
             return e;
         }
     }
@@ -206,19 +216,15 @@ LimitEstimate estimateLimit(const Values& f, double a)
         const bool right = rightOk;
         e.exists = true;
         e.limit = right ? e.right.value : e.left.value;
-        e.words = std::string("f is defined only on the ") + (right ? "right" : "left") + " of a near it; that side " +
-                  "tends to " + shown(e.limit) + ": L = " + shown(e.limit) + at + " (a one-sided limit).";
+        e.words = words::fill(right ? words::onlyRight : words::onlyLeft, {shown(e.limit), shown(a)});
         return e;
     }
     if (e.left.kind == K::Undefined && e.right.kind == K::Undefined) {
-        e.words = "f is not defined near a = " + shown(a) + " on either side: no limit there.";
+        e.words = words::fill(words::noLimitUndefined, {shown(a)});
         return e;
     }
-    std::string right = phrase(e.right);
-    if (leftOk || e.left.kind == K::PlusInfinity || e.left.kind == K::MinusInfinity)
-        if (right.rfind("tends ", 0) == 0)
-            right.erase(0, 6);
-    e.words = "The left side " + phrase(e.left) + " and the right side " + right + ": no limit" + at + ".";
+    const bool leftTends = leftOk || e.left.kind == K::PlusInfinity || e.left.kind == K::MinusInfinity;
+    e.words = words::fill(words::sidesDiffer, {phrase(e.left), phrase(e.right, leftTends), shown(a)});
     return e;
 }
 
@@ -227,30 +233,26 @@ DeltaSearch largestDelta(const Values& f, double a, double L, double eps, double
     DeltaSearch d;
     const double floor = kFloor * std::max(1.0, std::fabs(a));
     if (!std::isfinite(eps) || eps <= 0) {
-        d.words = "ε must be a positive number.";
+        d.words = words::epsilonPositive;
         return d;
     }
     if (!std::isfinite(a) || !std::isfinite(L)) {
-        d.words = "a and L must be numbers.";
+        d.words = words::aAndL;
         return d;
     }
     if (!(xmin + 1000 * floor < a && a < xmax - 1000 * floor)) {
-        d.words = "a = " + shown(a) + " is not inside the window from " + shown(xmin) + " to " + shown(xmax) +
-                  ": move a or widen the window to look for δ.";
+        d.words = words::fill(words::outsideWindow, {shown(a), shown(xmin), shown(xmax)});
         return d;
     }
     if (eps < kSmallestEpsilon * std::max(1.0, std::fabs(L))) {
-        d.words = "ε = " + shown(eps) +
-                  " is below what rounding in f lets the computer tell apart from L = " + shown(L) +
-                  " (it must be at least " + fixed("%.0e", kSmallestEpsilon * std::max(1.0, std::fabs(L))) +
-                  "): no δ is looked for.";
+        d.words = words::fill(words::belowRounding,
+                              {shown(eps), shown(L), fixed("%.0e", kSmallestEpsilon * std::max(1.0, std::fabs(L)))});
         return d;
     }
     const SideSearch left = searchSide(f, a, L, eps, -1, a - xmin), right = searchSide(f, a, L, eps, 1, xmax - a);
     d.undefinedSides = !left.defined + !right.defined;
-    const std::string forEps = "For ε = " + shown(eps);
     if (d.undefinedSides == 2) {
-        d.words = "f is not defined near a = " + shown(a) + " on either side: no δ can be looked for.";
+        d.words = words::fill(words::noDeltaUndefined, {shown(a)});
         return d;
     }
     if (left.noDelta || right.noDelta) {
@@ -258,9 +260,7 @@ DeltaSearch largestDelta(const Values& f, double a, double L, double eps, double
         d.outcome = DeltaSearch::Outcome::NoDelta;
         d.closeX = a + (right.noDelta ? 1 : -1) * s.leaveT;
         d.closeY = s.leaveY;
-        d.words = forEps +
-                  " no δ works: points arbitrarily close to a leave the band (even x = " + fixed("%.15g", d.closeX) +
-                  " has |f(x) - L| = " + shown(std::fabs(s.leaveY - L)) + ", not below ε).";
+        d.words = words::fill(words::noDelta, {shown(eps), fixed("%.15g", d.closeX), shown(std::fabs(s.leaveY - L))});
         return d;
     }
     // A side where f is nowhere defined puts no bound on delta.
@@ -271,19 +271,16 @@ DeltaSearch largestDelta(const Values& f, double a, double L, double eps, double
     d.delta = s.delta;
     d.reachesEdge = s.edge;
     if (s.edge) {
-        d.words = forEps + " no x of the window leaves the band: δ = " + shown(d.delta) +
-                  " is the distance from a to the window's nearer edge.";
+        d.words = words::fill(words::edgeDelta, {shown(eps), shown(d.delta)});
     } else {
         d.leaveX = a + (onRight ? 1 : -1) * s.leaveT;
         d.leaveY = s.leaveY;
-        d.words = forEps + " the largest δ is " + shown(d.delta) +
-                  ": the graph first leaves the band at x = " + shown(d.leaveX) + " (f = " + shown(d.leaveY) + ").";
+        d.words = words::fill(words::largestDelta, {shown(eps), shown(d.delta), shown(d.leaveX), shown(d.leaveY)});
     }
     if (d.undefinedSides == 1)
-        d.words += std::string(" f is not defined to the ") + (left.defined ? "right" : "left") +
-                   " of a: only x where it is defined count.";
+        d.words = words::fill(left.defined ? words::onlyLeftCounts : words::onlyRightCounts, {d.words});
     else if (left.gaps || right.gaps)
-        d.words += " f is undefined at some x of the window: they are not in its domain and do not count.";
+        d.words = words::fill(words::gapsDoNotCount, {d.words});
     return d;
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/Words.h"
 #include "runtime/RuntimeError.h"
 
 namespace FuncGlobals {
@@ -17,7 +18,7 @@ const TypedCurve* TypedParametric = nullptr;
 namespace {
 
 // The place of a fault in the second of two texts is counted in that text; the message says which.
-std::string inText(const char* which, const std::string& error) { return std::string(which) + ": " + error; }
+std::string inText(const char* which, const std::string& error) { return words::fill(words::inText, {which, error}); }
 
 }  // namespace
 

@@ -13,6 +13,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "funclib/Words.h"
 #include "runtime/Numbers.h"
 
 namespace StepMethods {
@@ -78,9 +79,9 @@ constexpr Method row(const char* key, const char* caption, std::uint32_t colour,
 
 // key, caption, colour (dark enough for a projector), order
 constexpr Method kMethods[] = {
-    row<Euler>("euler", "Euler", 0x1F4EB4, 1),
-    row<Midpoint>("rk2", "Runge-Kutta 2", 0xB42A1F, 2),
-    row<FourthOrder>("rk4", "Runge-Kutta 4", 0x1E7B32, 4),
+    row<Euler>("euler", QT_TRANSLATE_NOOP("Plotto", "Euler"), 0x1F4EB4, 1),
+    row<Midpoint>("rk2", QT_TRANSLATE_NOOP("Plotto", "Runge-Kutta 2"), 0xB42A1F, 2),
+    row<FourthOrder>("rk4", QT_TRANSLATE_NOOP("Plotto", "Runge-Kutta 4"), 0x1E7B32, 4),
 };
 
 }  // namespace

@@ -23,7 +23,7 @@ using Stepper = double (*)(double x, double y, double h, std::optional<double> d
 
 struct Method {
     const char* key;  // stable name, for code and saved settings; never shown
-    const char* caption;  // the convergence table's column heading
+    const char* caption;  // the convergence table's column heading, English (translated where shown)
     std::uint32_t colour;  // 0xRRGGBB, of its line on the convergence plot
     int order;  // the error shrinks as h^order
     // The step over the rate families (DyFunc / DxFunc): raises Division by zero where dx is 0,

@@ -17,6 +17,7 @@
 #include "funclib/TypedExpression.h"
 #include "funclib/TypedReader.h"
 #include "funclib/TypedSymbolic.h"
+#include "funclib/Words.h"
 
 namespace FuncGlobals {
 
@@ -129,6 +130,12 @@ std::optional<double> valueAt(const typed::Node& n, double x)
 
 // The first exponent of the tree that is beyond kMaxExactExponent at the centre, if any (the
 // derivatives' powers keep their exponents, or lower them by the degree).
+// Why the derivative of order `degree` has no value at the centre.
+std::string missing(int degree)
+{
+    return degree == 0 ? words::noValue : words::fill(words::noDerivativeAt, {std::to_string(degree)});
+}
+
 std::optional<double> hugeExponent(const typed::Node& n, double centre)
 {
     if (n.op == typed::Op::Power)
@@ -159,7 +166,7 @@ TaylorSeries TaylorSeries::ofFamily(int family, double centre, const Coefficient
     if (family < 1 || family > ExplicitFamilyCount) {
         TaylorSeries s;
         s.centre_ = centre;
-        s.refusal_ = "no function chosen";
+        s.refusal_ = words::noFunction;
         return s;
     }
     return ofText(FamilyTables::kExplicit[family - 1].typed, centre, k);
@@ -173,13 +180,13 @@ TaylorSeries TaylorSeries::ofText(const std::string& text, double centre, const 
         const typed::NodePtr tree = typed::read(text, {"x"}, TypedExpression::MaxDepth);
         withValues(*tree, k);
         if (const auto e = hugeExponent(*tree, centre)) {
-            std::ostringstream why;
-            why << "an exponent of " << *e << " is too large to work out exactly";
-            s.refusal_ = why.str();
+            std::ostringstream exponent;
+            exponent << *e;
+            s.refusal_ = words::fill(words::hugeExponent, {exponent.str()});
             return s;
         }
         if (typed::dividesByZero(*tree, {"x"})) {
-            s.refusal_ = "part of the expression is 0 where it divides or is a base";
+            s.refusal_ = words::zeroDivides;
             return s;
         }
         auto symbolic = std::make_unique<Symbolic>();
@@ -189,7 +196,7 @@ TaylorSeries TaylorSeries::ofText(const std::string& text, double centre, const 
     } catch (const typed::Refusal& r) {
         s.refusal_ = r.message;
     } catch (const std::exception&) {
-        s.refusal_ = "the expression cannot be worked out exactly";
+        s.refusal_ = words::notExact;
     }
     return s;
 }
@@ -223,20 +230,18 @@ const TaylorTerm& TaylorSeries::term(int k)
                 t.value = numericValue(c);
                 if (std::isinf(t.value) || (std::isnan(t.value) && !t.exact.empty())) {
                     t.state = TaylorTerm::State::TooLarge;
-                    t.why = "the coefficient is too large for double precision";
+                    t.why = words::coefficientTooLarge;
                 } else if (std::isnan(t.value)) {
                     t.state = TaylorTerm::State::Undefined;
-                    t.why = t.degree == 0 ? "f(a) does not exist"
-                                          : "f^(" + std::to_string(t.degree) + ")(a) does not exist";
+                    t.why = missing(t.degree);
                 }
             } catch (const std::length_error&) {
                 t.state = TaylorTerm::State::TooLarge;
-                t.why = "the derivative grows too long to work out";
+                t.why = words::derivativeTooLong;
             } catch (const std::exception&) {
                 // GiNaC refuses a pole outright (ln 0, 0^-1): the derivative does not exist there.
                 t.state = TaylorTerm::State::Undefined;
-                t.why =
-                    t.degree == 0 ? "f(a) does not exist" : "f^(" + std::to_string(t.degree) + ")(a) does not exist";
+                t.why = missing(t.degree);
             }
         }
         terms_.push_back(std::move(t));

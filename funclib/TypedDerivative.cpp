@@ -11,6 +11,7 @@
 
 #include "funclib/TypedSymbolic.h"
 #include "funclib/TypedText.h"
+#include "funclib/Words.h"
 
 namespace FuncGlobals::typed {
 
@@ -303,7 +304,7 @@ ExactDerivative exactDerivative(const Node& tree, const std::vector<std::string>
     for (char c = 'A'; c <= 'F'; ++c)
         names.emplace_back(1, c);
     if (dividesByZero(tree, names)) {
-        made.failure = "no derivative: part of the expression is 0 where it divides or is a base";
+        made.failure = words::noDerivativeZero;
         return made;
     }
     std::map<std::string, GiNaC::realsymbol> symbols;
@@ -314,7 +315,7 @@ ExactDerivative exactDerivative(const Node& tree, const std::vector<std::string>
     const GiNaC::ex f = toGinac(tree, symbols);
     const GiNaC::ex d = f.diff(symbols.at(variables[0]));
     if (!fromGinac(d, made.bracketed)) {
-        made.failure = "no derivative: it uses a function that cannot be differentiated here";
+        made.failure = words::noDerivativeFunction;
         return made;
     }
     // The derivative exists only where the function does. Where the function has an operation that

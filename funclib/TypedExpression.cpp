@@ -15,6 +15,7 @@
 #include "funclib/TypedFunctions.h"
 #include "funclib/TypedReader.h"
 #include "funclib/TypedText.h"
+#include "funclib/Words.h"
 
 namespace FuncGlobals {
 
@@ -62,7 +63,7 @@ std::unique_ptr<TypedExpression> TypedExpression::compile(const std::string& tex
     for (unsigned char c : text)
         characters += (c & 0xC0) != 0x80;
     if (characters > MaxLength) {
-        error = "too long: at most " + std::to_string(MaxLength) + " characters";
+        error = words::fill(words::tooLong, {std::to_string(MaxLength)});
         return nullptr;
     }
     typed::NodePtr tree;
@@ -82,7 +83,7 @@ std::unique_ptr<TypedExpression> TypedExpression::compile(const std::string& tex
     // Coefficients, constants and the byte code are all bound inside; the compile cannot fail for a
     // tree the reader built, but if it does the expression is refused rather than half made.
     if (!compileMuparser(*e->compiled_, bracketed, variables)) {
-        error = "cannot be evaluated";
+        error = words::notEvaluated;
         return nullptr;
     }
     if (variables.empty())
@@ -98,7 +99,7 @@ std::unique_ptr<TypedExpression> TypedExpression::compile(const std::string& tex
         std::unique_ptr<TypedExpression> derivative(new TypedExpression);
         derivative->compiled_ = std::make_unique<Compiled>();
         if (!compileMuparser(*derivative->compiled_, d.bracketed, variables)) {
-            e->derivativeText_ = "no derivative: it cannot be evaluated";
+            e->derivativeText_ = words::noDerivativeEvaluated;
             return e;
         }
         e->derivativeText_ = d.shown;
@@ -107,7 +108,7 @@ std::unique_ptr<TypedExpression> TypedExpression::compile(const std::string& tex
     } catch (...) {
         // GiNaC refuses some expressions outright (a division by an expression that simplifies to
         // 0, a logarithm of 0); the function itself still evaluates, with its derivative undefined.
-        e->derivativeText_ = "no derivative: the expression is undefined everywhere or cannot be differentiated";
+        e->derivativeText_ = words::noDerivativeGinac;
     }
     return e;
 }

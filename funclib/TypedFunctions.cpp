@@ -12,6 +12,8 @@
 
 #include <ginac/ginac.h>
 
+#include "funclib/Words.h"
+
 namespace FuncGlobals {
 
 namespace {
@@ -77,7 +79,7 @@ constexpr TypedFunctionRow kTypedFunctions[] = {
      .value = [](double a) { return std::log(a); },
      .symbolic = [](const ex& a) -> ex { return log(a); },
      .definedAt = [](double a) { return a > 0; },
-     .said = "both the natural logarithm"},
+     .said = words::naturalLogarithm},
     {.name = "sqrt",
      .value = [](double a) { return std::sqrt(a); },
      .symbolic = [](const ex& a) -> ex { return sqrt(a); },
@@ -155,19 +157,14 @@ const TypedFunctionRow* findTypedFunction(std::string_view word)
 
 std::string typedFunctionsHelp()
 {
-    std::string listed, apart;
-    for (const TypedFunctionRow& f : kTypedFunctions) {
-        if (!f.said) {
+    std::string listed;
+    for (const TypedFunctionRow& f : kTypedFunctions)
+        if (!f.said)
             listed += (listed.empty() ? "" : " ") + std::string(f.name);
-            continue;
-        }
-        apart += ", and " + std::string(f.name);
-        for (const char* alias : f.aliases)
-            if (alias)
-                apart += " or " + std::string(alias);
-        apart += ", " + std::string(f.said);
-    }
-    return listed + apart;
+    for (const TypedFunctionRow& f : kTypedFunctions)
+        if (f.said)
+            listed = words::fill(f.said, {listed, f.name, f.aliases[0] ? f.aliases[0] : f.name});
+    return listed;
 }
 
 GiNaC::ex symbolicCall(const TypedFunctionRow& f, const GiNaC::ex& a)

@@ -34,7 +34,8 @@ struct TypedFunctionRow {
     // wherever it is evaluated (ln(x - x)) from GiNaC, which would throw.
     bool (*definedAt)(double a) = nullptr;
     bool overflows = false;
-    // Said apart, after the other names, in the entry's help: "and ln or log, <said>".
+    // Said apart, after the names before it, in the entry's help: a template of Words.h, with the
+    // names before it, the row's name and its alias ("%1, and %2 or %3, both the natural logarithm").
     const char* said = nullptr;
 
     bool finiteEverywhere() const { return !definedAt && !overflows; }

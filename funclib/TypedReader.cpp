@@ -7,6 +7,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "funclib/Words.h"
+
 namespace FuncGlobals::typed {
 
 namespace {
@@ -38,18 +40,18 @@ public:
     {
         skipBlanks();
         if (pos_ >= text_.size())
-            refuse("nothing typed: type a function, for example x^2 - 4", pos_);
+            refuse(words::nothingTyped, pos_);
         NodePtr n = sum();
         skipBlanks();
         if (pos_ < text_.size()) {
             if (text_[pos_] == ')')
-                refuse("unexpected ')'", pos_);
+                refuse(words::unexpectedClose, pos_);
             refuseJuxtaposition(pos_);
         }
         // The nesting that counts is the tree's, so that brackets added to show the order of
         // operations never make a text too deep to read again.
         if (const Node* deep = deeper(*n, 1))
-            refuse("too deeply nested", deep->at);
+            refuse(words::tooDeep, deep->at);
         return n;
     }
 
@@ -64,9 +66,11 @@ private:
                 return d;
         return nullptr;
     }
-    [[noreturn]] void refuse(const std::string& what, std::size_t at, const std::string& hint = {}) const
+    // A refusal from one of the templates of Words.h: `args`, then the place as the last argument.
+    [[noreturn]] void refuse(const char* pattern, std::size_t at, std::vector<std::string> args = {}) const
     {
-        throw Refusal{what + " at " + std::to_string(place(at)) + hint};
+        args.push_back(std::to_string(place(at)));
+        throw Refusal{words::fill(pattern, args)};
     }
     // The 1-based place, in characters, of byte `at` (UTF-8 continuation bytes are not counted).
     int place(std::size_t at) const
@@ -101,7 +105,7 @@ private:
     void enter(std::size_t at)
     {
         if (++depth_ > 4 * maxDepth_)
-            refuse("too deeply nested", at);
+            refuse(words::tooDeep, at);
     }
 
     static NodePtr make(Op op, NodePtr a, NodePtr b = nullptr)
@@ -131,7 +135,7 @@ private:
     {
         skipBlanks();
         if (pos_ >= text_.size())
-            refuse(std::string("missing a term after '") + after + "'", pos_);
+            refuse(words::termAfter, pos_, {after});
         return product();
     }
     NodePtr product()
@@ -153,7 +157,7 @@ private:
     {
         skipBlanks();
         if (pos_ >= text_.size())
-            refuse(std::string("missing a term after '") + after + "'", pos_);
+            refuse(words::termAfter, pos_, {after});
         return signedTerm();
     }
     NodePtr signedTerm()
@@ -186,7 +190,7 @@ private:
         skipBlanks();
         const std::size_t at = pos_;
         if (at >= text_.size())
-            refuse("missing a term", at);
+            refuse(words::term, at);
         const char c = text_[at];
         if (c == '(') {
             ++pos_;
@@ -200,19 +204,19 @@ private:
         if (std::isalpha(static_cast<unsigned char>(c)) || c == '_')
             return name();
         if (c == ')')
-            refuse(at == 0 || text_.find_first_not_of(" \t", 0) == at ? "unexpected ')'" : "missing a term before ')'",
+            refuse(at == 0 || text_.find_first_not_of(" \t", 0) == at ? words::unexpectedClose : words::termBeforeClose,
                    at);
         if (c == '+' || c == '*' || c == '/' || c == '^')
-            refuse(std::string("missing a term before '") + c + "'", at);
+            refuse(words::termBefore, at, {std::string(1, c)});
         refuseCharacter(at);
     }
     [[noreturn]] void refuseUnclosed()
     {
         skipBlanks();
         if (pos_ >= text_.size())
-            refuse("missing ')'", pos_);
+            refuse(words::missingClose, pos_);
         if (text_[pos_] == ',')
-            refuse("unexpected ',' (each function takes one argument)", pos_);
+            refuse(words::oneArgument, pos_);
         refuseJuxtaposition(pos_);
     }
     [[noreturn]] void refuseCharacter(std::size_t at) const
@@ -222,8 +226,8 @@ private:
             ++end;
         const std::string ch = text_.substr(at, end - at);
         if (ch == ",")
-            refuse("unexpected ',' (write decimals with a point, and each function takes one argument)", at);
-        refuse("unexpected character '" + ch + "'", at);
+            refuse(words::decimalComma, at);
+        refuse(words::character, at, {ch});
     }
     // Something that can start a term follows a complete term: a product written without '*'.
     [[noreturn]] void refuseJuxtaposition(std::size_t at) const
@@ -243,7 +247,7 @@ private:
         while (next < text_.size() && (std::isalnum(static_cast<unsigned char>(text_[next])) || text_[next] == '.'))
             ++next;
         std::string after = next > at ? text_.substr(at, next - at) : std::string("(");
-        refuse("missing '*': write " + before + "*" + after + " for a product", at);
+        refuse(words::product, at, {before, after});
     }
 
     NodePtr number()
@@ -262,7 +266,7 @@ private:
             ++end;
         }
         if (!digits)
-            refuse("a number needs a digit", at);
+            refuse(words::digit, at);
         // An exponent only when e is followed by digits (2e3); "2e" alone is 2 times e, refused below.
         if (end < text_.size() && (text_[end] == 'e' || text_[end] == 'E')) {
             std::size_t k = end + 1;
@@ -280,7 +284,7 @@ private:
         n->shown = text_.substr(at, end - at);
         n->value = std::strtod(n->shown.c_str(), nullptr);
         if (!std::isfinite(n->value))
-            refuse("number too large", at);
+            refuse(words::tooLarge, at);
         pos_ = end;
         return n;
     }
@@ -298,7 +302,7 @@ private:
         if (const TypedFunctionRow* f = findTypedFunction(word)) {
             skipBlanks();
             if (pos_ >= text_.size() || text_[pos_] != '(')
-                refuse("missing '(' after '" + word + "'", pos_);
+                refuse(words::openAfter, pos_, {word});
             ++pos_;
             n->op = Op::Call;
             n->function = f;
@@ -325,18 +329,17 @@ private:
             n->value = word == "e" ? std::exp(1.0) : std::acos(-1.0);
             return n;
         }
-        std::string hint;
         if (word.size() == 1 && word[0] >= 'a' && word[0] <= 'f')
-            hint = " (the coefficients are the capitals A to F)";
-        else if (word.size() > 1) {
+            refuse(words::lowerCoefficient, at, {word});
+        if (word.size() > 1) {
             // "xy" or "Ax": letters that are each a name of their own, a product written without '*'.
             bool allNames = true;
             for (char c : word)
                 allNames = allNames && isVariableLetter(c);
             if (allNames)
-                hint = ": write " + std::string(1, word[0]) + "*" + word.substr(1) + " for a product";
+                refuse(words::unknownProduct, at, {word, word.substr(0, 1), word.substr(1)});
         }
-        refuse("unknown name '" + word + "'", at, hint);
+        refuse(words::unknownName, at, {word});
     }
     bool isVariableLetter(char c) const
     {

@@ -109,7 +109,7 @@ public:
         if (t == QAccessible::Value && l->steps)
             return l->steps->text();
         if (t == QAccessible::Description && l->steps)
-            return QStringLiteral("%1 is %2. Press to raise by one; the decrease action lowers by one.")
+            return Plotto::tr("%1 is %2. Press to raise by one; the decrease action lowers by one.")
                 .arg(spoken(l->text()), l->steps->text());
         if (t == QAccessible::Name && l->accessibleName().isEmpty())
             return l->text();

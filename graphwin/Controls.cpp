@@ -2,13 +2,17 @@
 #include "graphwin/Controls.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include "graphwin/Dialogs.h"
 #include "graphwin/Language.h"
@@ -85,8 +89,57 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event)
         guarded(this, Click);
 }
 
+namespace {
+
+// A text of a grid's cell that is not a number ("Schätzung Nr.", "n odd").
+bool isWords(const QString& text)
+{
+    bool number = false;
+    QString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&number);
+    return !number && !text.trimmed().isEmpty();
+}
+
+// Draws a grid's words shortened with an ellipsis where they do not fit, and shows them whole in a
+// tooltip there; numbers as the classic grid draws them.
+class GridDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    // The width the text needs beyond the room it has, in pixels (0 or less when it fits).
+    static int overflow(const QStyleOptionViewItem& option, const QWidget* view)
+    {
+        const QStyle* style = view ? view->style() : QApplication::style();
+        const QRect room = style->subElementRect(QStyle::SE_ItemViewItemText, &option, view);
+        return option.fontMetrics.horizontalAdvance(option.text) - room.width() + 1;
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (isWords(option->text))
+            option->textElideMode = Qt::ElideRight;
+    }
+
+public:
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override
+    {
+        const auto* grid = qobject_cast<const Grid*>(view);
+        const QString tip = grid ? grid->cellTip(index.row(), index.column()) : QString();
+        if (event->type() == QEvent::ToolTip && !tip.isEmpty()) {
+            QToolTip::showText(event->globalPos(), tip, view);
+            return true;
+        }
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+};
+
+}  // namespace
+
 Grid::Grid(QWidget* parent, int rows, int columns) : QTableWidget(rows, columns, parent)
 {
+    setItemDelegate(new GridDelegate(this));
     horizontalHeader()->hide();
     verticalHeader()->hide();
     QFont small = font();
@@ -137,6 +190,25 @@ QString Grid::tabSeparated() const
             lines << cells.join(QLatin1Char('\t'));
     }
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
+bool Grid::cellFits(int row, int column) const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(model()->index(row, column));
+    option.text = cell(row, column);
+    const QVariant own = item(row, column) ? item(row, column)->data(Qt::FontRole) : QVariant();
+    option.font = own.isValid() ? own.value<QFont>() : font();
+    option.fontMetrics = QFontMetrics(option.font);
+    option.features |= QStyleOptionViewItem::HasDisplay;
+    return GridDelegate::overflow(option, this) <= 0;
+}
+
+QString Grid::cellTip(int row, int column) const
+{
+    const QString text = cell(row, column);
+    return isWords(text) && !cellFits(row, column) ? text : QString();
 }
 
 QString Grid::cell(int row, int column) const
@@ -378,7 +450,7 @@ QString notNumbers(std::initializer_list<std::pair<QString, const QLineEdit*>> b
     QStringList said;
     for (const auto& [name, box] : boxes)
         if (!rt::TryVal(box->text().toStdString()))
-            said << QStringLiteral("%1 holds %2, which is not a number.").arg(name, box->text());
+            said << Plotto::tr("%1 holds %2, which is not a number.").arg(name, box->text());
     return said.join(QLatin1Char(' '));
 }
 

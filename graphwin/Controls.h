@@ -77,6 +77,12 @@ public:
     // The grid as tab-separated lines for a spreadsheet: the heading row, then every row that holds
     // a value beyond its first column.
     QString tabSeparated() const;
+    // Whether a cell's text fits its column. A heading or a word (a translated one is often longer)
+    // that does not is drawn shortened with an ellipsis and shows whole in its tooltip, and the
+    // screen reader reads the whole text; a number keeps the classic grid's look.
+    bool cellFits(int row, int column) const;
+    // The tooltip of a cell: its whole text where it is words shortened with an ellipsis, else "".
+    QString cellTip(int row, int column) const;
 
 private:
     std::vector<double> columnTwips_;

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <QtGlobal>
+
 #include "graphwin/GraphWindow.h"
 #include "runtime/Numbers.h"
 
@@ -41,11 +43,13 @@ std::optional<std::string> refusal(const Limits& l)
 {
     if (!std::isfinite(l.xmin) || !std::isfinite(l.xmax) || !std::isfinite(l.ymin) || !std::isfinite(l.ymax) ||
         !(l.xmin < l.xmax) || !(l.ymin < l.ymax))
-        return "The window's limits are not numbers in order.";
+        return QT_TRANSLATE_NOOP("Plotto", "The window's limits are not numbers in order.");
     if (l.width() > kWidest || l.height() > kWidest)
-        return "Zoomed out as far as the graph goes: the window is at most 1E+12 wide and high.";
+        return QT_TRANSLATE_NOOP("Plotto",
+                                 "Zoomed out as far as the graph goes: the window is at most 1E+12 wide and high.");
     if (l.width() < kNarrowest || l.height() < kNarrowest || !mappable(l.xmin, l.xmax) || !mappable(l.ymin, l.ymax))
-        return "Zoomed in as far as the arithmetic can show: a closer window would draw rounding noise.";
+        return QT_TRANSLATE_NOOP(
+            "Plotto", "Zoomed in as far as the arithmetic can show: a closer window would draw rounding noise.");
     return std::nullopt;
 }
 

@@ -19,7 +19,8 @@ struct Limits {
 
 // Why a window cannot be shown, in words, or nothing when it can: its limits must be finite and
 // ordered, no wider than kWidest, and no narrower than the doubles can tell apart across the
-// square's pixels (about a millionth of a millionth of the numbers it shows).
+// square's pixels (about a millionth of a millionth of the numbers it shows). The words are English,
+// marked for translation; the screen shows them translated.
 std::optional<std::string> refusal(const Limits& limits);
 inline constexpr double kWidest = 1e12;
 

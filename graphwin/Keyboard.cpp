@@ -111,7 +111,7 @@ void GraphScreen::arrangeForKeyboard()
         auto* label = qobject_cast<ClickLabel*>(labelFor(box));
         if (label && label->MouseDown && label->accessibleName().isEmpty()) {
             label->steps = box;
-            label->setAccessibleName(Plotto::tr("raise or lower ") + spoken(label->text()));
+            label->setAccessibleName(Plotto::tr("raise or lower %1").arg(spoken(label->text())));
         }
     }
 

@@ -9,6 +9,8 @@
 #include <QSettings>
 #include <QTranslator>
 
+#include "funclib/Words.h"
+
 namespace i18n {
 
 namespace {
@@ -148,6 +150,89 @@ QString lessonNumber(const QString& typed)
     if (separator() != QLatin1Char(',') || !lone.match(typed).hasMatch())
         return typed;
     return QString(typed).replace(QLatin1Char(','), QLatin1Char('.'));
+}
+
+namespace {
+
+// One of funclib's templates, as a pattern that finds its arguments in a text made from it.
+struct Template {
+    const char* source;
+    QRegularExpression pattern;
+    std::vector<int> argument;  // the argument number (0-based) each captured group holds
+};
+
+const std::vector<Template>& templates()
+{
+    static const std::vector<Template> all = [] {
+        std::vector<Template> out;
+        static const QRegularExpression number(QStringLiteral("%([1-9])"));
+        for (const char* source : FuncGlobals::words::templates()) {
+            const QString text = QString::fromUtf8(source);
+            Template t{source, {}, {}};
+            QString pattern = QStringLiteral("^");
+            qsizetype from = 0;
+            std::vector<int> groupOf(9, 0);
+            for (auto m = number.globalMatch(text); m.hasNext();) {
+                const auto found = m.next();
+                pattern += QRegularExpression::escape(text.mid(from, found.capturedStart() - from));
+                const int n = found.captured(1).toInt() - 1;
+                if (groupOf[n] != 0) {  // the same argument again: the same text again
+                    pattern += QStringLiteral("\\%1").arg(groupOf[n]);
+                } else {
+                    t.argument.push_back(n);
+                    groupOf[n] = static_cast<int>(t.argument.size());
+                    pattern += QStringLiteral("(.+?)");
+                }
+                from = found.capturedEnd();
+            }
+            pattern += QRegularExpression::escape(text.mid(from)) + QStringLiteral("$");
+            t.pattern.setPattern(pattern);
+            out.push_back(std::move(t));
+        }
+        return out;
+    }();
+    return all;
+}
+
+bool isNumber(const QString& s)
+{
+    static const QRegularExpression number(QStringLiteral("^-?(\\d+\\.?\\d*|\\.\\d+)([eE][-+]?\\d+)?$"));
+    return number.match(s).hasMatch();
+}
+
+}  // namespace
+
+QString words(const std::string& english)
+{
+    const QString text = QString::fromStdString(english);
+    if (currentCode() == QLatin1String("en") || text.isEmpty())
+        return text;
+    if (isNumber(text))
+        return decimals(text);
+    for (const Template& t : templates()) {
+        const QRegularExpressionMatch m = t.pattern.match(text);
+        if (!m.hasMatch())
+            continue;
+        QStringList args(9);
+        for (std::size_t g = 0; g < t.argument.size(); ++g) {
+            const QString arg = m.captured(static_cast<int>(g) + 1);
+            args[t.argument[g]] = isNumber(arg) ? decimals(arg) : words(arg.toStdString());
+        }
+        // Filled in one pass, so that a % sign inside an argument stays as it is.
+        const QString translated = QCoreApplication::translate("Plotto", t.source);
+        QString out;
+        for (qsizetype i = 0; i < translated.size(); ++i) {
+            const QChar c = translated.at(i);
+            if (c == QLatin1Char('%') && i + 1 < translated.size() && translated.at(i + 1) >= QLatin1Char('1') &&
+                translated.at(i + 1) <= QLatin1Char('9')) {
+                out += args.at(translated.at(++i).unicode() - '1');
+            } else {
+                out += c;
+            }
+        }
+        return out;
+    }
+    return text;
 }
 
 }  // namespace i18n

@@ -8,6 +8,7 @@
 // `QT_TRANSLATE_NOOP("Plotto", "Plot")` where a table holds the English text and the place that shows
 // it translates it (form tables, the screen registry, the families' captions). English texts are the
 // source; a text missing from a catalogue shows in English.
+#include <string>
 #include <vector>
 
 #include <QCoreApplication>
@@ -60,5 +61,11 @@ QString typedDecimals(const QString& typed);
 // ("-1,5", "2,5E-3") gets a point, so that the lesson means the same in every language; anything else
 // (an expression such as "max(x, 2)", a number already with a point) is kept as typed.
 QString lessonNumber(const QString& typed);
+
+// A sentence funclib wrote in English from one of its templates (funclib/Words.h) shown in the
+// language: the template's translation with the same arguments, each argument itself a sentence of
+// funclib shown in the language, and a number among them (or a text that is just a number) shown
+// with the language's separator. A text made from no template is shown as it is.
+QString words(const std::string& english);
 
 }  // namespace i18n

@@ -62,7 +62,7 @@ QString GraphScreen::describe() const
                  .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
     if (drawnAfterClear_ == surface->clears() && !drawn_.isEmpty()) {
         for (const QString& what : drawn_)
-            lines << QStringLiteral("Drawn: ") + what + QLatin1Char('.');
+            lines << Plotto::tr("Drawn: %1.").arg(what);
         if (drawnBeyond_ > 0)
             lines << Plotto::tr("And %1 more drawings.").arg(drawnBeyond_);
     }
@@ -82,7 +82,7 @@ QStringList GraphScreen::results() const
 QString GraphScreen::describeFamily() const
 {
     using namespace FuncGlobals;
-    QString text = typed_ ? Plotto::tr("the typed function y = ") + QString::fromStdString(typed_->f->text())
+    QString text = typed_ ? Plotto::tr("the typed function y = %1").arg(QString::fromStdString(typed_->f->text()))
                    : FunctionId >= 1 && FunctionId <= ExplicitFamilyCount
                        ? QString::fromStdString(FuncCaption[FunctionId])
                        : Plotto::tr("y = 0 (no function chosen)");
@@ -92,7 +92,8 @@ QString GraphScreen::describeFamily() const
         if (boxes[i])
             values
                 << QStringLiteral("%1 = %2").arg(QChar::fromLatin1(static_cast<char>('A' + i))).arg(boxes[i]->text());
-    return text + QStringLiteral(" with ") + values.join(QStringLiteral(", "));
+    //: a function and its coefficients' values ("y = A*x^2 with A = 1, B = 0")
+    return Plotto::tr("%1 with %2").arg(text, values.join(QStringLiteral(", ")));
 }
 
 void GraphScreen::refreshDescription()

@@ -129,7 +129,7 @@ void GraphScreen::mnuHearCurve_Click()
         return;
     }
     if (audio::play(traceSamples(), kTraceRate)) {
-        announce(Plotto::tr("Playing ") + curve->name + QLatin1Char('.'));
+        announce(Plotto::tr("Playing %1.").arg(curve->name));
         return;
     }
     // Said once in a run; the walk goes on without sound.

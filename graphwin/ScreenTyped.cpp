@@ -71,8 +71,7 @@ QString GraphScreen::checkFunctionState(const QJsonObject& state) const
             std::string error;
             if (!typed.isString() ||
                 !FuncGlobals::TypedExpression::compile(typed.toString().toStdString(), part.variables, error))
-                return Plotto::tr("the function '%1' cannot be taken: %2")
-                    .arg(typed.toString(), QString::fromStdString(error));
+                return Plotto::tr("the function '%1' cannot be taken: %2").arg(typed.toString(), i18n::words(error));
         }
     }
     return {};
@@ -147,14 +146,14 @@ void GraphScreen::mnuTypeFunction_Click()
                       {QStringLiteral("sqrt(4 - x^2)")},
                       {QStringLiteral("abs(x)")},
                       {QStringLiteral("1/(1 + x^2)")}};
-    entry.names = typedNamesHelp(QStringLiteral("x"), QStringLiteral("A to E"));
+    entry.names = typedNamesHelp(QStringLiteral("x"), Plotto::tr("A to E"));
     entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const auto f = FuncGlobals::TypedFunction::make(texts.value(0).toStdString(), error);
         if (!f)
-            return QString::fromStdString(error);
-        preview = Plotto::tr("Understood: y = ") + QString::fromStdString(f->f->understood()) +
-                  Plotto::tr("\nDerivative: y' = ") + QString::fromStdString(f->f->derivativeText());
+            return i18n::words(error);
+        preview = Plotto::tr("Understood: y = %1\nDerivative: y' = %2")
+                      .arg(QString::fromStdString(f->f->understood()), i18n::words(f->f->derivativeText()));
         return QString();
     };
     runTypedEntry(entry, [this](const QStringList& texts) { return setTypedFunction(texts.value(0)); });
@@ -167,7 +166,7 @@ QString GraphScreen::setTypedFunction(const QString& text)
     std::string error;
     auto made = FuncGlobals::TypedFunction::make(text.toStdString(), error);
     if (!made)
-        return QString::fromStdString(error);
+        return i18n::words(error);
     typed_ = std::move(made);
     installTyped();
     lblFunc->setText(QStringLiteral("y = ") + text.trimmed());
@@ -182,7 +181,7 @@ bool GraphScreen::typedDefinedAt(std::initializer_list<double> xs, QLabel* label
         return true;
     for (double x : xs)
         if (std::isnan(typed_->value(x))) {
-            label->setText(before + Plotto::tr("undefined: no f(x) at x = ") + shownTrimStr(x));
+            label->setText(before + Plotto::tr("undefined: no f(x) at x = %1").arg(shownTrimStr(x)));
             return false;
         }
     return true;
@@ -192,7 +191,7 @@ bool GraphScreen::typedSlopeAt(double slope, double x, QLabel* label) const
 {
     if (!typed_ || !std::isnan(slope))
         return true;
-    label->setText(Plotto::tr("no slope: f'(x) is undefined at x = ") + shownTrimStr(x));
+    label->setText(Plotto::tr("no slope: f'(x) is undefined at x = %1").arg(shownTrimStr(x)));
     return false;
 }
 

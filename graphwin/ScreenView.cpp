@@ -90,13 +90,13 @@ bool GraphScreen::showWindow(const view::Limits& limits)
 bool GraphScreen::moveView(const view::Limits& wanted, bool remember)
 {
     if (const auto why = view::refusal(wanted)) {
-        announce(QString::fromStdString(*why));
+        announce(Plotto::tr(why->c_str()));
         return false;
     }
     const double pixels = GraphWindow::Side / twipsPerPixel(surface);
     const view::Limits limits = view::readable(wanted, pixels);
     if (const auto why = view::refusal(limits)) {
-        announce(QString::fromStdString(*why));
+        announce(Plotto::tr(why->c_str()));
         return false;
     }
     const bool whole = scene_->complete();
@@ -111,7 +111,7 @@ bool GraphScreen::moveView(const view::Limits& wanted, bool remember)
     QString said = Plotto::tr("Window: x from %1 to %2, y from %3 to %4.")
                        .arg(txtXmin->text(), txtXmax->text(), txtYmin->text(), txtYmax->text());
     if (!failed.isEmpty())
-        said += Plotto::tr(" Not drawn at this window: ") + failed.join(QStringLiteral("; ")) + QLatin1Char('.');
+        said += Plotto::tr(" Not drawn at this window: %1.").arg(failed.join(QStringLiteral("; ")));
     if (!whole)
         said += Plotto::tr(" Some drawings made before cannot be drawn again at a new window: press the "
                            "screen's buttons to draw them here.");
@@ -155,7 +155,7 @@ void GraphScreen::runForDrag(const std::function<void()>& action)
     try {
         action();
     } catch (const rt::RuntimeError& error) {
-        announce(Plotto::tr("Cannot be drawn from here: ") + QString::fromUtf8(error.what()) + QLatin1Char('.'));
+        announce(Plotto::tr("Cannot be drawn from here: %1.").arg(QString::fromUtf8(error.what())));
     }
     refreshDescription();
 }
@@ -230,10 +230,15 @@ QString GraphScreen::readoutAt(double xTwips, double yTwips) const
     const double rx = std::fabs(graph.XRange) / GraphWindow::Side * perPixel,
                  ry = std::fabs(graph.YRange) / GraphWindow::Side * perPixel;
     auto said = [](double v, double resolution) { return QString::fromStdString(audio::spoken(v, resolution)); };
+    // A drawing's name without its coefficients' values and without "the typed function", in the
+    // words of the language (describeFamily's templates).
     auto shortName = [](QString name) {
-        if (const auto with = name.indexOf(QStringLiteral(" with ")); with > 0)
-            name.truncate(with);
-        return name.remove(QStringLiteral("the typed function "));
+        const QString with =
+            Plotto::tr("%1 with %2").section(QStringLiteral("%1"), 1).section(QStringLiteral("%2"), 0, 0);
+        if (const auto at = with.isEmpty() ? -1 : name.indexOf(with); at > 0)
+            name.truncate(at);
+        const QString typed = Plotto::tr("the typed function y = %1").section(QStringLiteral("y = %1"), 0, 0);
+        return typed.isEmpty() ? name : name.remove(typed);
     };
     const double reach = 8 * perPixel;
     if (sinceClear())

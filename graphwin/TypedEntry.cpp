@@ -21,7 +21,7 @@ QString typedNamesHelp(const QString& variables, const QString& coefficients)
     return Plotto::tr("Use %1, the coefficients %2, the numbers e and pi, + - * / and ^ (a power, "
                       "taken before a minus sign: -x^2 is -(x^2)). Write every product with *, as 2*x. "
                       "Functions: %3.")
-        .arg(variables, coefficients, QString::fromStdString(FuncGlobals::typedFunctionsHelp()));
+        .arg(variables, coefficients, i18n::words(FuncGlobals::typedFunctionsHelp()));
 }
 
 std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayout& entry)
@@ -82,7 +82,7 @@ std::optional<QStringList> openTypedEntry(QWidget* parent, const TypedEntryLayou
         QString shown;
         const QString refusal = entry.check(texts(), shown);
         buttons->button(QDialogButtonBox::Ok)->setEnabled(refusal.isEmpty());
-        preview->setText(refusal.isEmpty() ? shown : Plotto::tr("Cannot be taken: ") + refusal);
+        preview->setText(refusal.isEmpty() ? shown : Plotto::tr("Cannot be taken: %1").arg(refusal));
         preview->setAccessibleDescription(preview->text());
     };
     for (QLineEdit* line : lines)

@@ -356,7 +356,7 @@ QString write(const lesson::Lesson& lesson, const QString& title, const QString&
     if (QString error = writePages(path, title, sheet); !error.isEmpty())
         return error;
     if (blank)
-        return writePages(answersPath(path), title + Plotto::tr(": answers"), answers);
+        return writePages(answersPath(path), Plotto::tr("%1: answers").arg(title), answers);
     return {};
 }
 

@@ -168,7 +168,7 @@ void frmGraphingCalc::addStep(GraphScreen& screen)
         if (const QString key = lesson::buttonKey(screen, a.click); !key.isEmpty())
             a.click = key;
     if (const QString refusal = lesson::check(step, screen); !refusal.isEmpty()) {
-        MsgBox(Plotto::tr("The step was not added: ") + refusal + QLatin1Char('.'), Plotto::tr("Add to the Lesson"));
+        MsgBox(Plotto::tr("The step was not added: %1.").arg(refusal), Plotto::tr("Add to the Lesson"));
         return;
     }
     lesson_.steps.push_back(std::move(step));

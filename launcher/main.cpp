@@ -52,52 +52,82 @@ struct Opening {
     QString language;  // --lang's code, or "" to follow the remembered choice and the desktop
 };
 
+// Qt's command-line parser writes its own words (the usage line, the headings, its options) in its
+// context; the catalogues carry them, so that --help is whole in the language without Qt's own
+// catalogues installed.
+[[maybe_unused]] constexpr const char* kParserWords[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Usage: %1"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "[options]"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Options:"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Arguments:"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays help on commandline options."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays help including Qt specific options."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays version information."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown options: %1."),
+};
+
+// The value of --lang (also -lang, --lang=CODE) among the arguments, or "": read before the options
+// are parsed, so that --help and --screens answer in the language.
+QString askedLanguage(int argc, char* argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        const QString a = QString::fromLocal8Bit(argv[i]);
+        if ((a == QLatin1String("--lang") || a == QLatin1String("-lang")) && i + 1 < argc)
+            return QString::fromLocal8Bit(argv[i + 1]);
+        if (a.startsWith(QLatin1String("--lang=")) || a.startsWith(QLatin1String("-lang=")))
+            return a.section(QLatin1Char('='), 1);
+    }
+    return {};
+}
+
 // Answers --help, --version and --screens, or an unknown option or screen, before any window exists
 // (so that they work without a display). Returns the exit status to end with, or -1 to start the
 // program with `opening`.
 int answerCommandLine(int argc, char* argv[], Opening& opening)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Calculus demonstrations for the classroom. %1\n"
-                                                    "Qt's standard options (-platform, -style, ...) are accepted.")
+    parser.setApplicationDescription(Plotto::tr("Calculus demonstrations for the classroom. %1\n"
+                                                "Qt's standard options (-platform, -style, ...) are accepted.")
                                          .arg(screens::summary()));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addPositionalArgument(QStringLiteral("lesson"), QStringLiteral("A lesson to open (a .plotto file)."),
-                                 QStringLiteral("[lesson]"));
+    //: the name of the command line's argument in `plotto --help`
+    parser.addPositionalArgument(Plotto::tr("lesson"), Plotto::tr("A lesson to open (a .plotto file)."),
+                                 Plotto::tr("[lesson]"));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    const QCommandLineOption list(
-        QStringLiteral("screens"),
-        QStringLiteral("Lists the demonstration screens, one a line in teaching order, "
-                       "separated by tabs: key, button, menu entry, classic or addition "
-                       "(an addition opens from More Demonstrations), the entry's Alt letter."));
+    const QCommandLineOption list(QStringLiteral("screens"),
+                                  Plotto::tr("Lists the demonstration screens, one a line in teaching order, "
+                                             "separated by tabs: key, button, menu entry, classic or addition "
+                                             "(an addition opens from More Demonstrations), the entry's Alt letter."));
     parser.addOption(list);
     QStringList keys;
     for (const screens::Entry* e : screens::inTeachingOrder())
         keys << QString::fromLatin1(e->key);
-    const QCommandLineOption screen(
-        QStringLiteral("screen"),
-        QStringLiteral("Opens a screen at the start: %1.").arg(keys.join(QStringLiteral(", "))),
-        QStringLiteral("name"));
+    const QCommandLineOption screen(QStringLiteral("screen"),
+                                    Plotto::tr("Opens a screen at the start: %1.").arg(keys.join(QStringLiteral(", "))),
+                                    //: the value of --screen in `plotto --help`
+                                    Plotto::tr("name"));
     parser.addOption(screen);
     const QCommandLineOption worksheet(QStringLiteral("worksheet"),
-                                       QStringLiteral("Writes the lesson as a worksheet to a PDF file, one step a "
-                                                      "page, and ends, with no window shown."),
-                                       QStringLiteral("file.pdf"));
+                                       Plotto::tr("Writes the lesson as a worksheet to a PDF file, one step a "
+                                                  "page, and ends, with no window shown."),
+                                       Plotto::tr("file.pdf"));
     parser.addOption(worksheet);
     const QCommandLineOption blank(QStringLiteral("blank"),
-                                   QStringLiteral("With --worksheet: leaves the results as boxes to fill in, and "
-                                                  "writes the answers to a second file (NAME-answers.pdf)."));
+                                   Plotto::tr("With --worksheet: leaves the results as boxes to fill in, and "
+                                              "writes the answers to a second file (NAME-answers.pdf)."));
     parser.addOption(blank);
     QStringList codes;
     for (const i18n::Language& l : i18n::languages())
         codes << QString::fromLatin1(l.code);
     const QCommandLineOption lang(QStringLiteral("lang"),
-                                  QStringLiteral("Shows the program in a language: %1 (English is the default; "
-                                                 "without this, the language chosen in Tools, Language, else "
-                                                 "the desktop's).")
+                                  Plotto::tr("Shows the program in a language: %1 (English is the default; "
+                                             "without this, the language chosen in Tools, Language, else "
+                                             "the desktop's).")
                                       .arg(codes.join(QStringLiteral(", "))),
-                                  QStringLiteral("code"));
+                                  //: the value of --lang in `plotto --help`
+                                  Plotto::tr("code"));
     parser.addOption(lang);
     for (const auto& [name, value] : kQtOptions) {
         QCommandLineOption qt(QString::fromLatin1(name), QString(), value ? QString::fromLatin1(value) : QString());
@@ -124,12 +154,13 @@ int answerCommandLine(int argc, char* argv[], Opening& opening)
     }
     if (parser.isSet(list)) {
         for (const screens::Entry* e : screens::inTeachingOrder()) {
-            const QString entry = QString::fromUtf8(e->entry);
+            const QString entry = Plotto::tr(e->entry);
             const qsizetype letter = entry.indexOf(QLatin1Char('&')) + 1;
-            std::printf("%s\t%s\t%s\t%s\t%s\n", e->key,
-                        qPrintable(QString::fromUtf8(e->button).remove(QLatin1Char('&'))),
-                        qPrintable(QString(entry).remove(QLatin1Char('&'))),
-                        e->kind == screens::Entry::Kind::Addition ? "addition" : "classic",
+            //: a screen's kind in `plotto --screens`: one of the seed's eight, or one added since
+            const QString kind =
+                e->kind == screens::Entry::Kind::Addition ? Plotto::tr("addition") : Plotto::tr("classic");
+            std::printf("%s\t%s\t%s\t%s\t%s\n", e->key, qPrintable(Plotto::tr(e->button).remove(QLatin1Char('&'))),
+                        qPrintable(QString(entry).remove(QLatin1Char('&'))), qPrintable(kind),
                         qPrintable(letter > 0 ? entry.mid(letter, 1).toLower() : QString()));
         }
         return 0;
@@ -178,8 +209,18 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("plotto"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PLOTTO_VERSION));
     Opening opening;
-    if (const int status = answerCommandLine(argc, argv, opening); status >= 0)
-        return status;
+    {
+        // The language first, by the rules the program follows, so that --help and --screens answer
+        // in it; a translator needs an application object, this one only for the command line.
+        // Named "plotto", as the usage line names the program wherever it was started from.
+        char name[] = "plotto";
+        char* coreArgv[] = {name, nullptr};
+        int coreArgc = 1;
+        const QCoreApplication core(coreArgc, coreArgv);
+        i18n::install(i18n::choose(askedLanguage(argc, argv), i18n::remembered(), i18n::desktopLanguages()));
+        if (const int status = answerCommandLine(argc, argv, opening); status >= 0)
+            return status;
+    }
     // A worksheet is written without a window: Qt's offscreen platform needs no display.
     if (!opening.worksheet.isEmpty())
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -14,10 +14,13 @@
 #include <boost/math/tools/roots.hpp>
 #include <boost/math/tools/toms748_solve.hpp>
 
+#include "funclib/Words.h"
 #include "screens/Convergence.h"
 #include "screens/StripRules.h"
 
 namespace AreaBetween {
+
+namespace words = FuncGlobals::words;
 
 namespace {
 
@@ -68,10 +71,10 @@ std::string shownX(double x, double scale)
 std::string Crossing::text() const
 {
     switch (kind) {
-    case Kind::Sampled: return "x = " + shownX(x) + " (f = g at a scanned point)";
-    case Kind::SignChange: return "x = " + shownX(x) + " (sign change, TOMS 748)";
-    case Kind::Touch: return "x = " + shownX(x) + " (touch without sign change, Brent minimum of |f - g|)";
-    case Kind::Stretch: return "x = " + shownX(x) + " to " + shownX(to) + " (f = g all along)";
+    case Kind::Sampled: return words::fill(words::scanned, {shownX(x)});
+    case Kind::SignChange: return words::fill(words::signChange, {shownX(x)});
+    case Kind::Touch: return words::fill(words::touch, {shownX(x)});
+    case Kind::Stretch: return words::fill(words::stretch, {shownX(x), shownX(to)});
     }
     return {};
 }
@@ -144,11 +147,11 @@ Result compute(const Values& f, const Values& g, double a, double b, std::int32_
     }
 
     if (!r.gaps.empty()) {
-        r.why = "a curve is not defined everywhere on [a, b]";
+        r.why = words::curveGaps;
         return r;
     }
     if (r.jumpNear) {
-        r.why = "f - g jumps across 0 without crossing it near x = " + shownX(*r.jumpNear, width);
+        r.why = words::fill(words::jumps, {shownX(*r.jumpNear, width)});
         return r;
     }
     // The pieces between crossings, where f - g keeps its sign.
@@ -177,9 +180,7 @@ Result compute(const Values& f, const Values& g, double a, double b, std::int32_
             piece.converged = false;
         }
         if (!piece.converged) {
-            r.why = "the integral of f - g does not settle between x = " + shownX(ends[k], width) +
-                    " and x = " + shownX(ends[k + 1], width) +
-                    " (f - g is unbounded there, or oscillates faster than the adaptive rule can follow)";
+            r.why = words::fill(words::unsettledIntegral, {shownX(ends[k], width), shownX(ends[k + 1], width)});
             return r;
         }
         signedArea += piece.value;

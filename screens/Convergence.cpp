@@ -12,6 +12,7 @@
 #include "funclib/FuncGlobals.h"
 #include "funclib/FunctionSource.h"
 #include "funclib/StepMethods.h"
+#include "funclib/Words.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "screens/IntegralCurves.h"
@@ -28,6 +29,8 @@ struct boost::numeric::odeint::vector_space_norm_inf<long double> {
 
 namespace Convergence {
 
+namespace words = FuncGlobals::words;
+
 std::string format(const char* pattern, double v)
 {
     char text[64];
@@ -38,7 +41,7 @@ std::string format(const char* pattern, double v)
 namespace {
 
 // What an arithmetic fault means in a cell.
-std::string faultNote(const rt::RuntimeError& error) { return std::string("no value: ") + error.what(); }
+std::string faultNote(const rt::RuntimeError& error) { return words::fill(words::noValueBecause, {error.what()}); }
 
 }  // namespace
 
@@ -68,14 +71,14 @@ std::vector<std::vector<std::string>> Table::cells() const
             }
             const double error = std::fabs(*cell.value - *exact);
             if (error <= exactAccuracy) {
-                line.insert(line.end(), {"below " + format("%.0e", exactAccuracy), "(reference)"});
+                line.insert(line.end(), {words::fill(words::below, {format("%.0e", exactAccuracy)}), words::reference});
                 continue;
             }
             line.push_back(format("%.3e", error));
             const Cell* before = r > 0 ? &values[r - 1][m] : nullptr;
             const double previous = before && before->value ? std::fabs(*before->value - *exact) : 0;
             if (before && before->value && error > 0 && kind == Kind::Steps && std::min(error, previous) < kRoundOff)
-                line.push_back("round-off");
+                line.push_back(words::roundOff);
             else if (before && before->value && error > 0)
                 line.push_back(format("%.2f", previous / error));
             else
@@ -89,17 +92,12 @@ std::vector<std::vector<std::string>> Table::cells() const
 bool Table::hasRoundOff() const
 {
     for (const auto& line : cells())
-        if (std::find(line.begin(), line.end(), "round-off") != line.end())
+        if (std::find(line.begin(), line.end(), words::roundOff) != line.end())
             return true;
     return false;
 }
 
-std::string Table::roundOffNote()
-{
-    return "round-off: an error below " + format("%.0e", kRoundOff) +
-           " is mostly the rounding of double-precision arithmetic over the steps, not the method's own "
-           "error, so its ratio is not shown.";
-}
+std::string Table::roundOffNote() { return words::fill(words::roundOffNote, {format("%.0e", kRoundOff)}); }
 
 std::vector<Table::ReferenceLine> Table::referenceLines() const
 {
@@ -123,7 +121,10 @@ std::vector<Table::ReferenceLine> Table::referenceLines() const
         // to the smallest error (where rounding has flattened the data).
         const double n1 =
             std::min(points.back().first > n0 ? points.back().first : n0 * 2, n0 * std::pow(e0 / lowest, 1.0 / order));
-        out.push_back({order, {n0, top}, {n1, top * std::pow(n1 / n0, -order)}, "slope " + std::to_string(order)});
+        out.push_back({order,
+                       {n0, top},
+                       {n1, top * std::pow(n1 / n0, -order)},
+                       words::fill(words::slope, {std::to_string(order)})});
     }
     return out;
 }
@@ -225,9 +226,9 @@ Table strips(const std::function<double(double)>& f, double L, double R, std::in
             Cell cell;
             const double v = rule.evenOnly && n % 2 ? std::nan("") : rule.apply(f, L, R, n);
             if (rule.evenOnly && n % 2)
-                cell.note = "n odd";
+                cell.note = words::nOdd;
             else if (!std::isfinite(v))
-                cell.note = "no value";
+                cell.note = words::noValueCell;
             else
                 cell.value = v;
             row.push_back(cell);
@@ -251,20 +252,19 @@ Table sums(double L, double R, std::int32_t currentN)
                 gap = x;
         }
         if (gap) {
-            t.exactSource = "The function is not defined everywhere on the interval (for example at x = " +
-                            rt::Trim(rt::Str(*gap)) + "): the integral does not exist there.";
+            t.exactSource = words::fill(words::integralGaps, {rt::Trim(rt::Str(*gap))});
         } else {
             const Integral i = gaussKronrod(f, L, R);
             if (!i.converged)
-                t.exactSource = "The function is unbounded on the interval: the integral does not exist there.";
+                t.exactSource = words::integralUnbounded;
             else {
                 t.exact = i.value;
                 t.exactAccuracy = i.error;
-                t.exactSource = "Exact value " + format("%.12g", i.value) + " (adaptive Gauss-Kronrod, 61 points)";
+                t.exactSource = words::fill(words::exactValue, {format("%.12g", i.value)});
             }
         }
     } catch (const rt::RuntimeError& error) {
-        t.exactSource = "The integral cannot be computed: " + std::string(error.what()) + ".";
+        t.exactSource = words::fill(words::integralFault, {error.what()});
     }
 
     for (std::int32_t n : stripCounts(currentN)) {
@@ -277,11 +277,11 @@ Table sums(double L, double R, std::int32_t currentN)
                 const double dx = rt::Div(rt::Chk(R - L), n);
                 const RiemannSums::Result r = rule.classic(f, L, dx, n);
                 if (r.odd)
-                    cell.note = "n odd";
+                    cell.note = words::nOdd;
                 else if (r.gap)
-                    cell.note = "undefined at x = " + rt::Trim(rt::Str(r.gapAt));
+                    cell.note = words::fill(words::undefinedAt, {rt::Trim(rt::Str(r.gapAt))});
                 else if (r.error)
-                    cell.note = "error value";
+                    cell.note = words::errorValue;
                 else {
                     cell.value = r.area;
                     cell.note = rt::Trim(rt::Str(r.area));  // the screen's own text of the area
@@ -352,16 +352,15 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
             // own resolution of y, whichever is larger) bounds it with room to spare.
             t.exactAccuracy = std::max(static_cast<double>(std::fabs(fine - coarse)),
                                        4 * std::numeric_limits<double>::epsilon() * std::max(1.0, std::fabs(y)));
-            t.exactSource = "Reference endpoint y = " + format("%.15g", y) +
-                            " (adaptive Runge-Kutta-Fehlberg 7(8) in extended precision; accurate to " +
-                            format("%.0e", t.exactAccuracy) + ")";
+            t.exactSource =
+                words::fill(words::referenceEndpoint, {format("%.15g", y), format("%.0e", t.exactAccuracy)});
         } else {
-            t.exactSource = "The curve meets a vertical slope before the end x: there is no endpoint to compare with.";
+            t.exactSource = words::verticalBeforeEnd;
         }
     } catch (const rt::RuntimeError& error) {
-        t.exactSource = "The reference cannot be computed: " + std::string(error.what()) + ".";
+        t.exactSource = words::fill(words::referenceFault, {error.what()});
     } catch (const std::exception&) {
-        t.exactSource = "The adaptive integration could not reach the end x (the slope grows without bound).";
+        t.exactSource = words::endUnreached;
     }
 
     const double span = xEnd - x0;
@@ -369,7 +368,7 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
         const double wanted = std::fabs(h) / std::pow(2.0, k);
         const long count = wanted > 0 ? std::max(1L, std::lround(std::fabs(span) / wanted)) : 1;
         const double step = count > 0 ? span / static_cast<double>(count) : 0;
-        t.rowHeadings.push_back(format("%.6g", step) + " (" + std::to_string(count) + " steps)");
+        t.rowHeadings.push_back(words::fill(words::stepRow, {format("%.6g", step), std::to_string(count)}));
         t.rowCounts.push_back(static_cast<double>(count));
         std::vector<Cell> row;
         for (const StepMethods::Method& method : StepMethods::all()) {
@@ -382,12 +381,12 @@ Table steps(double x0, double y0, double xEnd, double h, int halvings, const Win
                 for (long i = 0; i < count && cell.note.empty(); ++i) {
                     const IntegralCurves::Step st = IntegralCurves::step(s, x, y, step);
                     if (st.vertical)
-                        cell.note = "meets a vertical slope";
+                        cell.note = words::meetsVertical;
                     x = x0 + step * static_cast<double>(i + 1);
                     y = rt::Chk(y + st.dy);
                     if (cell.note.empty() &&
                         !(window.ymin <= y && y <= window.ymax && window.xmin <= x && x <= window.xmax))
-                        cell.note = "leaves the window";
+                        cell.note = words::leavesWindow;
                 }
                 if (cell.note.empty() && count > 0)
                     cell.value = y;

@@ -34,13 +34,7 @@ QString ConvergenceWindow::exportTable(const QString& path) const
     if (suffix == QLatin1String("csv")) {
         file.write(QByteArray::fromStdString(table_.csv()));
     } else {
-        std::vector<QStringList> rows;
-        for (const auto& line : table_.cells()) {
-            QStringList cells;
-            for (const std::string& cell : line)
-                cells << QString::fromStdString(cell);
-            rows.push_back(cells);
-        }
+        const std::vector<QStringList> rows = shownCells();
         QPdfWriter pdf(&file);
         pdf.setCreator(QStringLiteral("Plotto"));
         pdf.setTitle(windowTitle());

@@ -101,9 +101,9 @@ QLineEdit* ConvergenceWindow::addInput(const QString& name, const QString& text)
 void ConvergenceWindow::recompute()
 {
     table_ = compute_();
-    summary_->setText(QString::fromStdString(table_.exactSource));
+    summary_->setText(i18n::words(table_.exactSource));
     fillGrid();
-    roundOff_->setText(table_.hasRoundOff() ? QString::fromStdString(Convergence::Table::roundOffNote()) : QString());
+    roundOff_->setText(table_.hasRoundOff() ? i18n::words(Convergence::Table::roundOffNote()) : QString());
     roundOff_->setVisible(!roundOff_->text().isEmpty());
     fillPlot();
     applyFont();
@@ -113,28 +113,28 @@ void ConvergenceWindow::fillGrid()
 {
     // The row heading, then one column per method: its value, error and ratio one under the other,
     // from the same cells that Ctrl+C copies.
-    const auto cells = table_.cells();
+    const std::vector<QStringList> cells = shownCells();
     grid_->clear();
     const int methods = static_cast<int>(table_.methods.size());
     grid_->setRowCount(static_cast<int>(cells.size()) - 1);
     grid_->setColumnCount(1 + methods);
-    grid_->setHorizontalHeaderItem(0, new QTableWidgetItem(QString::fromStdString(cells[0][0])));
+    grid_->setHorizontalHeaderItem(0, new QTableWidgetItem(cells[0][0]));
     for (int m = 0; m < methods; ++m)
-        grid_->setHorizontalHeaderItem(1 + m, new QTableWidgetItem(QString::fromStdString(table_.methods[m])));
+        grid_->setHorizontalHeaderItem(1 + m, new QTableWidgetItem(method(static_cast<std::size_t>(m))));
     for (std::size_t r = 1; r < cells.size(); ++r) {
-        auto* heading = new QTableWidgetItem(
-            QString::fromStdString(cells[r][0]).replace(QStringLiteral(" ("), QStringLiteral("\n(")));
+        auto* heading = new QTableWidgetItem(QString(cells[r][0]).replace(QStringLiteral(" ("), QStringLiteral("\n(")));
         heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         grid_->setItem(static_cast<int>(r) - 1, 0, heading);
         for (int m = 0; m < methods; ++m) {
-            const std::string& value = cells[r][1 + 3 * m];
-            const std::string& error = cells[r][2 + 3 * m];
-            const std::string& ratio = cells[r][3 + 3 * m];
-            QString text = QString::fromStdString(value);
-            if (!error.empty())
-                text += QStringLiteral("\nerror ") + QString::fromStdString(error);
-            if (!ratio.empty())
-                text += QStringLiteral("\nratio ") + QString::fromStdString(ratio);
+            const QString& error = cells[r][2 + 3 * m];
+            const QString& ratio = cells[r][3 + 3 * m];
+            QString text = cells[r][1 + 3 * m];
+            //: a convergence table's cell: the error of the value above it
+            if (!error.isEmpty())
+                text += QLatin1Char('\n') + Plotto::tr("error %1").arg(error);
+            //: a convergence table's cell: the previous row's error over this row's
+            if (!ratio.isEmpty())
+                text += QLatin1Char('\n') + Plotto::tr("ratio %1").arg(ratio);
             auto* item = new QTableWidgetItem(text);
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             grid_->setItem(static_cast<int>(r) - 1, 1 + m, item);
@@ -146,24 +146,26 @@ void ConvergenceWindow::fillPlot()
 {
     auto* chart = new QChart;
     const bool partitions = table_.kind == Convergence::Table::Kind::Sums;
-    const QString title = Plotto::tr("Error against the number of %1, log-log")
-                              .arg(partitions ? QStringLiteral("partitions") : QStringLiteral("steps"));
+    const QString title = partitions ? Plotto::tr("Error against the number of partitions, log-log")
+                                     : Plotto::tr("Error against the number of steps, log-log");
     chart->setTitle(title);
     plot_->setAccessibleName(title);
     auto* x = new QLogValueAxis;
     x->setBase(2);
     x->setLabelFormat(QStringLiteral("%g"));
-    x->setTitleText(partitions ? QStringLiteral("n") : QStringLiteral("steps"));
+    //: the horizontal axis of the step methods' convergence plot
+    x->setTitleText(partitions ? QStringLiteral("n") : Plotto::tr("steps"));
     auto* y = new QLogValueAxis;
     y->setBase(10);
     y->setLabelFormat(QStringLiteral("%.0e"));
-    y->setTitleText(QStringLiteral("error"));
+    //: the vertical axis of a convergence plot
+    y->setTitleText(Plotto::tr("error"));
     chart->addAxis(x, Qt::AlignBottom);
     chart->addAxis(y, Qt::AlignLeft);
     double lowest = 0, highest = 0;
     for (std::size_t m = 0; m < table_.methods.size() && table_.exact; ++m) {
         auto* series = new QLineSeries;
-        series->setName(QString::fromStdString(table_.methods[m]));
+        series->setName(method(m));
         series->setPen(QPen(QColor::fromRgb(m < table_.colours.size() ? table_.colours[m] : 0x606060), 2.5));
         series->setPointsVisible(true);
         // Only measurable errors: an error of 0 has no place on a log scale.
@@ -196,7 +198,7 @@ void ConvergenceWindow::fillPlot()
         end->setMarkerSize(1);
         end->setColor(Qt::transparent);
         end->setBorderColor(Qt::transparent);
-        end->setPointLabelsFormat(QString::fromStdString(reference.label));
+        end->setPointLabelsFormat(i18n::words(reference.label));
         end->setPointLabelsColor(QColor(0x40, 0x40, 0x40));
         end->setPointLabelsVisible(true);
         end->setPointLabelsClipping(false);
@@ -220,12 +222,35 @@ void ConvergenceWindow::fillPlot()
     plot_->setAccessibleDescription(plotDescription());
 }
 
+QString ConvergenceWindow::method(std::size_t m) const { return Plotto::tr(table_.methods[m].c_str()); }
+
+std::vector<QStringList> ConvergenceWindow::shownCells() const
+{
+    std::vector<QStringList> rows;
+    for (const auto& line : table_.cells()) {
+        QStringList cells;
+        for (const std::string& cell : line)
+            cells << i18n::words(cell);
+        rows.push_back(cells);
+    }
+    // The headings: the row's, then each method's value, error and ratio.
+    for (std::size_t m = 0; m < table_.methods.size() && !rows.empty(); ++m) {
+        const auto at = static_cast<qsizetype>(1 + 3 * m);
+        rows.front()[at] = method(m);
+        //: a convergence table's heading over a method's errors
+        rows.front()[at + 1] = Plotto::tr("%1 error").arg(method(m));
+        //: a convergence table's heading over a method's ratios of successive errors
+        rows.front()[at + 2] = Plotto::tr("%1 ratio").arg(method(m));
+    }
+    return rows;
+}
+
 QString ConvergenceWindow::plotDescription() const
 {
     QStringList lines;
     lines << plot_->accessibleName() + QLatin1Char('.');
     if (!table_.exact) {
-        lines << Plotto::tr("No errors to plot: ") + QString::fromStdString(table_.exactSource);
+        lines << Plotto::tr("No errors to plot: %1").arg(i18n::words(table_.exactSource));
         return lines.join(QLatin1Char('\n'));
     }
     // A method's measured slope: the median of the slopes between its successive rows with a
@@ -240,15 +265,16 @@ QString ConvergenceWindow::plotDescription() const
             n0 = count;
             e0 = error;
         }
-        const QString expected =
-            m < table_.orders.size() ? Plotto::tr(" (expected -%1)").arg(table_.orders[m]) : QString();
         if (slopes.empty()) {
-            lines << QString::fromStdString(table_.methods[m]) + Plotto::tr(": too few measurable errors for a slope");
+            lines << Plotto::tr("%1: too few measurable errors for a slope").arg(method(m));
             continue;
         }
         std::nth_element(slopes.begin(), slopes.begin() + static_cast<long>(slopes.size() / 2), slopes.end());
-        lines << QString::fromStdString(table_.methods[m]) + Plotto::tr(": slope ") +
-                     QString::fromStdString(Convergence::format("%.2f", slopes[slopes.size() / 2])) + expected;
+        const QString slope =
+            i18n::decimals(QString::fromStdString(Convergence::format("%.2f", slopes[slopes.size() / 2])));
+        lines << (m < table_.orders.size()
+                      ? Plotto::tr("%1: slope %2 (expected -%3)").arg(method(m), slope).arg(table_.orders[m])
+                      : Plotto::tr("%1: slope %2").arg(method(m), slope));
     }
     return lines.join(QLatin1Char('\n'));
 }

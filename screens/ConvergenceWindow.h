@@ -8,8 +8,10 @@
 // table fits beside the plot. Ctrl+C copies the table as tab-separated text, or the plot as an image
 // when the plot has the focus; everything grows with the window.
 #include <functional>
+#include <vector>
 
 #include <QDialog>
+#include <QStringList>
 
 #include "screens/Convergence.h"
 
@@ -42,6 +44,10 @@ public:
     void exportTableClicked();
     // What the plot shows, in words: each method's measured slope against its expected one.
     QString plotDescription() const;
+    // Method m's name (a column's heading) in the language.
+    QString method(std::size_t m) const;
+    // The table's cells as the window shows them, in the language (the first row holds the headings).
+    std::vector<QStringList> shownCells() const;
     // The window's size at which its font is the normal one; it grows with the window from there.
     static constexpr int kNormalWidth = 1180, kNormalHeight = 560;
 

@@ -13,8 +13,8 @@
 #include <QSaveFile>
 
 #include "graphwin/Controls.h"
-#include "graphwin/FormTable.h"
 #include "graphwin/Dialogs.h"
+#include "graphwin/FormTable.h"
 #include "graphwin/GraphScreen.h"
 #include "graphwin/Language.h"
 #include "screens/ScreenRegistry.h"
@@ -128,10 +128,10 @@ QString check(const Step& step, GraphScreen& screen)
     for (auto it = step.controls.begin(); it != step.controls.end(); ++it) {
         QWidget* w = named(screen, it.key());
         if (!w)
-            return QStringLiteral("the screen has no control named '%1'").arg(it.key());
+            return Plotto::tr("the screen has no control named '%1'").arg(it.key());
         if (qobject_cast<TextBox*>(w)) {
             if (!typable(it.value()))
-                return QStringLiteral("the box '%1' cannot take %2")
+                return Plotto::tr("the box '%1' cannot take %2")
                     .arg(spokenName(w),
                          QString::fromUtf8(QJsonDocument(QJsonArray{it.value()}).toJson(QJsonDocument::Compact))
                              .mid(1)
@@ -140,15 +140,15 @@ QString check(const Step& step, GraphScreen& screen)
             const double v = it.value().toDouble(std::nan(""));
             if (!it.value().isDouble() || v != std::floor(v) || v < std::min(bar->minimum(), bar->maximum()) ||
                 v > std::max(bar->minimum(), bar->maximum()))
-                return QStringLiteral("the scroll bar '%1' cannot take that position").arg(spokenName(w));
+                return Plotto::tr("the scroll bar '%1' cannot take that position").arg(spokenName(w));
         } else if (!it.value().isBool()) {
-            return QStringLiteral("'%1' is ticked or not: true or false").arg(spokenName(w));
+            return Plotto::tr("'%1' is ticked or not: true or false").arg(spokenName(w));
         }
     }
     for (const Action& a : step.actions) {
         if (!a.menu.isEmpty() ? !menuEntry(screen, a.menu) : !button(screen, a.click))
-            return !a.menu.isEmpty() ? QStringLiteral("the screen has no menu entry '%1'").arg(a.menu)
-                                     : QStringLiteral("the screen has no button '%1'").arg(a.click);
+            return !a.menu.isEmpty() ? Plotto::tr("the screen has no menu entry '%1'").arg(a.menu)
+                                     : Plotto::tr("the screen has no button '%1'").arg(a.click);
         if (a.times < 1 || a.times > 100)
             return QStringLiteral("'%1' is pressed 1 to 100 times").arg(a.click);
     }
@@ -305,14 +305,14 @@ Read fromJson(const QByteArray& text)
     const QJsonDocument doc = QJsonDocument::fromJson(text, &parse);
     if (parse.error != QJsonParseError::NoError)
         return {std::nullopt,
-                QStringLiteral("This is not a lesson: %1 at character %2.").arg(parse.errorString()).arg(parse.offset)};
+                Plotto::tr("This is not a lesson: %1 at character %2.").arg(parse.errorString()).arg(parse.offset)};
     const QJsonObject root = doc.object();
     if (!doc.isObject() || root.value(QStringLiteral("format")).toString() != QString::fromLatin1(kFormat))
         return {std::nullopt, QStringLiteral("This is not a Plotto lesson (it does not say \"format\": \"%1\").")
                                   .arg(QString::fromLatin1(kFormat))};
     const QJsonValue version = root.value(QStringLiteral("version"));
     if (!version.isDouble() || version.toDouble() < 1 || version.toDouble() != std::floor(version.toDouble()))
-        return {std::nullopt, QStringLiteral("The lesson has no valid version number.")};
+        return {std::nullopt, Plotto::tr("The lesson has no valid version number.")};
     if (version.toDouble() > kVersion)
         return {std::nullopt, QStringLiteral("The lesson was made by a newer Plotto (lesson version %1; this Plotto "
                                              "reads version %2 and older).")
@@ -320,22 +320,22 @@ Read fromJson(const QByteArray& text)
                                   .arg(kVersion)};
     const QJsonValue steps = root.value(QStringLiteral("steps"));
     if (!steps.isArray() || steps.toArray().isEmpty())
-        return {std::nullopt, QStringLiteral("The lesson has no steps.")};
+        return {std::nullopt, Plotto::tr("The lesson has no steps.")};
     Lesson lesson;
     lesson.version = version.toInt();
     lesson.title = root.value(QStringLiteral("title")).toString();
     int number = 0;
     for (const QJsonValue& v : steps.toArray()) {
         ++number;
-        const QString where = QStringLiteral("Step %1: ").arg(number);
+
         const QJsonObject o = v.toObject();
         Step s;
         s.screen = o.value(QStringLiteral("screen")).toString();
         if (!v.isObject() || std::find(screenKeys().begin(), screenKeys().end(), s.screen) == screenKeys().end())
             return {std::nullopt,
-                    where + QStringLiteral("unknown screen '%1' (the screens are %2).")
-                                .arg(s.screen,
-                                     QStringList(screenKeys().begin(), screenKeys().end()).join(QStringLiteral(", ")))};
+                    Plotto::tr("Step %1: unknown screen '%2' (the screens are %3).")
+                        .arg(QString::number(number), s.screen,
+                             QStringList(screenKeys().begin(), screenKeys().end()).join(QStringLiteral(", ")))};
         s.function = o.value(QStringLiteral("function")).toObject();
         s.controls = o.value(QStringLiteral("controls")).toObject();
         s.note = o.value(QStringLiteral("note")).toString();
@@ -343,7 +343,7 @@ Read fromJson(const QByteArray& text)
             const QJsonObject action = a.toObject();
             if (!action.value(QStringLiteral("click")).isString() && !action.value(QStringLiteral("menu")).isString())
                 return {std::nullopt,
-                        where + QStringLiteral("an action names no button to click or menu entry to choose.")};
+                        Plotto::tr("Step %1: an action names no button to click or menu entry to choose.").arg(number)};
             s.actions.push_back({action.value(QStringLiteral("click")).toString(),
                                  action.value(QStringLiteral("times")).toInt(1),
                                  action.value(QStringLiteral("menu")).toString()});
@@ -357,10 +357,10 @@ QString save(const Lesson& lesson, const QString& path)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return QStringLiteral("The lesson cannot be written to %1: %2.").arg(path, file.errorString());
+        return Plotto::tr("The lesson cannot be written to %1: %2.").arg(path, file.errorString());
     file.write(toJson(lesson));
     if (!file.commit())
-        return QStringLiteral("The lesson could not be saved to %1: %2. Nothing was changed there.")
+        return Plotto::tr("The lesson could not be saved to %1: %2. Nothing was changed there.")
             .arg(path, file.errorString());
     return {};
 }
@@ -369,10 +369,10 @@ Read load(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return {std::nullopt, QStringLiteral("The lesson %1 cannot be read: %2.").arg(path, file.errorString())};
+        return {std::nullopt, Plotto::tr("The lesson %1 cannot be read: %2.").arg(path, file.errorString())};
     constexpr qint64 kLargest = 4 << 20;  // a lesson of a hundred steps is a few tens of kilobytes
     if (file.size() > kLargest)
-        return {std::nullopt, QStringLiteral("%1 is too large to be a lesson.").arg(path)};
+        return {std::nullopt, Plotto::tr("%1 is too large to be a lesson.").arg(path)};
     Read read = fromJson(file.readAll());
     if (!read.lesson)
         read.error = path + QStringLiteral(": ") + read.error;

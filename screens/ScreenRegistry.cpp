@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "funclib/FuncGlobals.h"
+#include "graphwin/Language.h"
 #include "screens/frmAnimate.h"
 #include "screens/frmArea.h"
 #include "screens/frmClasses.h"
@@ -279,14 +280,19 @@ std::vector<const Entry*> inTeachingOrder()
 
 QString summary()
 {
+    // English counts in words; another language in figures (its catalogue has no number words).
+    const auto count = [](int n) {
+        return i18n::current() == QLatin1String("en") ? countInWords(n) : QString::number(n);
+    };
     QStringList phrases;
     for (const Entry* e : inTeachingOrder())
-        phrases << QString::fromLatin1(e->describes)
-                       .replace(QStringLiteral("{families}"), countInWords(FuncGlobals::ExplicitFamilyCount));
+        phrases
+            << Plotto::tr(e->describes).replace(QStringLiteral("{families}"), count(FuncGlobals::ExplicitFamilyCount));
+    //: the last of a list of screens ("..., Newton's method and Taylor polynomials")
     if (phrases.size() > 1)
-        phrases.back().prepend(QStringLiteral("and "));
-    return QStringLiteral("A launcher opens %1 demonstration screens: %2.")
-        .arg(countInWords(static_cast<int>(phrases.size())), phrases.join(QStringLiteral(", ")));
+        phrases.back() = Plotto::tr("and %1").arg(phrases.back());
+    return Plotto::tr("A launcher opens %1 demonstration screens: %2.")
+        .arg(count(static_cast<int>(phrases.size())), phrases.join(QStringLiteral(", ")));
 }
 
 }  // namespace screens

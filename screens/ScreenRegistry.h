@@ -49,7 +49,8 @@ const Entry* find(const QString& key);
 const Entry* of(const GraphScreen& screen);
 
 // "A launcher opens eight demonstration screens: graphing ..., and parametric curves." in teaching
-// order: the sentence the software centre's description and `plotto --help` give.
+// order: the sentence the software centre's description (in English) and `plotto --help` (in the
+// language in use) give.
 QString summary();
 // A count in words ("eight"), as the summary says it; figures above twenty.
 QString countInWords(int n);

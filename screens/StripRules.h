@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <functional>
 
+#include <QtGlobal>
+
 #include "screens/RiemannSums.h"
 
 namespace StripRules {
@@ -16,7 +18,7 @@ namespace StripRules {
 using Function = std::function<double(double)>;
 
 struct Rule {
-    const char* name;
+    const char* name;  // English, marked for translation where it is shown
     int order;  // the error falls as n^-order
     std::uint32_t colour;  // 0xRRGGBB on the convergence plot
     bool evenOnly;  // Simpson's rule takes strips in pairs
@@ -63,26 +65,28 @@ constexpr auto ignore = [](auto&&...) {};
 }  // namespace detail
 
 inline const std::array<Rule, 5> kRules{{
-    {"Left", 1, 0x1F4EB4, false,
+    //: a sum's rule (left endpoints) in the convergence table and the area grid
+    {QT_TRANSLATE_NOOP("Plotto", "Left"), 1, 0x1F4EB4, false,
      [](const Function& f, double a, double b, std::int32_t n) { return detail::riemann(f, a, b, n, 0); },
      [](const Function& f, double L, double dx, std::int32_t n) {
          return RiemannSums::leftEndpoint(f, L, dx, n, detail::ignore);
      }},
-    {"Right", 1, 0xB42A1F, false,
+    //: a sum's rule (right endpoints) in the convergence table and the area grid
+    {QT_TRANSLATE_NOOP("Plotto", "Right"), 1, 0xB42A1F, false,
      [](const Function& f, double a, double b, std::int32_t n) { return detail::riemann(f, a, b, n, 1); },
      [](const Function& f, double L, double dx, std::int32_t n) {
          return RiemannSums::rightEndpoint(f, L, dx, n, detail::ignore);
      }},
-    {"Midpoint", 2, 0x1E7B32, false,
+    {QT_TRANSLATE_NOOP("Plotto", "Midpoint"), 2, 0x1E7B32, false,
      [](const Function& f, double a, double b, std::int32_t n) { return detail::riemann(f, a, b, n, 0.5); },
      [](const Function& f, double L, double dx, std::int32_t n) {
          return RiemannSums::midpoint(f, L, dx, n, detail::ignore);
      }},
-    {"Trapezoid", 2, 0x7A3EA8, false, detail::trapezoid,
+    {QT_TRANSLATE_NOOP("Plotto", "Trapezoid"), 2, 0x7A3EA8, false, detail::trapezoid,
      [](const Function& f, double L, double dx, std::int32_t n) {
          return RiemannSums::trapezoidal(f, L, dx, n, detail::ignore);
      }},
-    {"Simpson", 4, 0x8A5A00, true, detail::simpson,
+    {QT_TRANSLATE_NOOP("Plotto", "Simpson"), 4, 0x8A5A00, true, detail::simpson,
      [](const Function& f, double L, double dx, std::int32_t n) {
          return RiemannSums::simpson(f, L, dx, n, detail::ignore);
      }},

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/Words.h"
 #include "graphwin/DrawingStyle.h"
 #include "graphwin/Language.h"
 #include "screens/Convergence.h"
@@ -82,25 +83,25 @@ frmArea::frmArea() : GraphScreen(areaConfig())
         const ExplicitSnapshot f(ExplicitSnapshot::What::Value, typed_), g(ExplicitSnapshot::What::Value, in->g);
         const AreaBetween::Result r = AreaBetween::compute(valuesOf(f), valuesOf(g), in->a, in->b, 1);
         if (!r.signedArea)
-            return Convergence::sumsWithout("No area: " + r.why + ".");
-        return Convergence::strips([f, g](double x) { return f.at(x) - g.at(x); }, in->a, in->b, in->n, r.signedArea,
-                                   r.accuracy,
-                                   "Signed area " + Convergence::format("%.12g", *r.signedArea) +
-                                       " (adaptive Gauss-Kronrod, 61 points, split at the crossings)");
+            return Convergence::sumsWithout(FuncGlobals::words::fill(FuncGlobals::words::noArea, {r.why}));
+        return Convergence::strips(
+            [f, g](double x) { return f.at(x) - g.at(x); }, in->a, in->b, in->n, r.signedArea, r.accuracy,
+            FuncGlobals::words::fill(FuncGlobals::words::signedArea, {Convergence::format("%.12g", *r.signedArea)}));
     });
 }
 
 void frmArea::Form_Load()
 {
     GraphScreen::Form_Load();
-    const char* headings[] = {"Rule", "Signed: f - g", "Unsigned: |f - g|"};
+    const char* headings[] = {QT_TRANSLATE_NOOP("Plotto", "Rule"), QT_TRANSLATE_NOOP("Plotto", "Signed: f - g"),
+                              QT_TRANSLATE_NOOP("Plotto", "Unsigned: |f - g|")};
     const double widths[] = {1700, 2000, 2000};
     for (int c = 0; c < 3; ++c) {
-        grdAreas->setCell(0, c, QString::fromLatin1(headings[c]));
+        grdAreas->setCell(0, c, Plotto::tr(headings[c]));
         grdAreas->setColumnWidthTwips(c, widths[c]);
     }
     for (std::size_t m = 0; m < StripRules::kRules.size(); ++m)
-        grdAreas->setCell(static_cast<int>(m) + 1, 0, QString::fromLatin1(StripRules::kRules[m].name));
+        grdAreas->setCell(static_cast<int>(m) + 1, 0, Plotto::tr(StripRules::kRules[m].name));
     grdAreas->setCell(kGridRows - 1, 0, Plotto::tr("Limit (integral)"));
     lblLegend->setText(Plotto::tr("Shaded light cyan where f is above g, yellow where g is above f."));
 }
@@ -133,7 +134,7 @@ void frmArea::cmdDouble_Click()
     const double twice = std::min<double>(std::floor(*n) * 2, AreaBetween::kMaxStrips);
     txtStrips->assign(QString::number(twice, 'f', 0));
     if (twice == AreaBetween::kMaxStrips)
-        lblStatus->setText(QStringLiteral("%1 strips is the most this screen sums.").arg(AreaBetween::kMaxStrips));
+        lblStatus->setText(Plotto::tr("%1 strips is the most this screen sums.").arg(AreaBetween::kMaxStrips));
     if (result_)
         findAll();
 }
@@ -184,7 +185,7 @@ std::optional<frmArea::Inputs> frmArea::readInputs(QString& why) const
     in.g = text.isEmpty() ? nullptr : FuncGlobals::TypedFunction::make(text.toStdString(), error);
     if (!in.g) {
         why = text.isEmpty() ? Plotto::tr("Type g(x) in its box (for example x + 2).")
-                             : QStringLiteral("g(x) = %1 cannot be read: %2.").arg(text, QString::fromStdString(error));
+                             : Plotto::tr("g(x) = %1 cannot be read: %2.").arg(text, i18n::words(error));
         return std::nullopt;
     }
     in.a = *a;
@@ -284,10 +285,10 @@ QString frmArea::gapWords(const AreaBetween::Gap& gap) const
                          : typed_       ? QStringLiteral("f(x) = ") + QString::fromStdString(typed_->f->text())
                                         : QStringLiteral("f");
     const double width = inputs_ ? inputs_->b - inputs_->a : 0;
-    const QString from = QString::fromStdString(AreaBetween::shownX(gap.from, width));
-    const QString to = QString::fromStdString(AreaBetween::shownX(gap.to, width));
-    return from == to ? QStringLiteral("%1 is not defined at x = %2").arg(name, from)
-                      : QStringLiteral("%1 is not defined from x = %2 to x = %3").arg(name, from, to);
+    const QString from = i18n::decimals(QString::fromStdString(AreaBetween::shownX(gap.from, width)));
+    const QString to = i18n::decimals(QString::fromStdString(AreaBetween::shownX(gap.to, width)));
+    return from == to ? Plotto::tr("%1 is not defined at x = %2").arg(name, from)
+                      : Plotto::tr("%1 is not defined from x = %2 to x = %3").arg(name, from, to);
 }
 
 void frmArea::clearResults(const QString& status)
@@ -306,11 +307,12 @@ void frmArea::fillResults()
     QStringList list;
     for (const AreaBetween::Crossing& c : r.crossings)
         if (list.size() < kListed)
-            list << QString::fromStdString(c.text());
+            list << i18n::words(c.text());
     if (r.crossings.size() > kListed)
         list << Plotto::tr("and %1 more (Ctrl+C copies them all)").arg(r.crossings.size() - kListed);
-    lblCrossings->setText(r.crossings.empty() ? Plotto::tr("f and g do not cross in [a, b].")
-                                              : Plotto::tr("Crossings in [a, b]:\n") + list.join(QLatin1Char('\n')));
+    lblCrossings->setText(r.crossings.empty()
+                              ? Plotto::tr("f and g do not cross in [a, b].")
+                              : Plotto::tr("Crossings in [a, b]:\n%1").arg(list.join(QLatin1Char('\n'))));
     for (std::size_t m = 0; m < r.sums.size(); ++m) {
         const bool odd = StripRules::kRules[m].evenOnly && r.strips % 2;
         grdAreas->setCell(static_cast<int>(m) + 1, 1,
@@ -325,16 +327,16 @@ void frmArea::fillResults()
             Plotto::tr("Signed area %1, unsigned area %2 from x = %3 to %4 (adaptive Gauss-Kronrod, split at "
                        "the crossings; error below %5).")
                 .arg(shown(r.signedArea, r.unsignedArea.value_or(0)), shown(r.unsignedArea),
-                     QString::fromStdString(AreaBetween::shownX(inputs_->a)),
-                     QString::fromStdString(AreaBetween::shownX(inputs_->b)),
-                     QString::number(std::max(r.accuracy, 1e-15), 'g', 1)));
+                     i18n::decimals(QString::fromStdString(AreaBetween::shownX(inputs_->a))),
+                     i18n::decimals(QString::fromStdString(AreaBetween::shownX(inputs_->b))),
+                     i18n::decimals(QString::number(std::max(r.accuracy, 1e-15), 'g', 1))));
         return;
     }
     QStringList gaps;
     for (const AreaBetween::Gap& gap : r.gaps)
         if (gaps.size() < 3)
             gaps << gapWords(gap);
-    const QString where = gaps.isEmpty() ? QString::fromStdString(r.why) : gaps.join(QStringLiteral("; "));
+    const QString where = gaps.isEmpty() ? i18n::words(r.why) : gaps.join(QStringLiteral("; "));
     lblStatus->setText(Plotto::tr("No area: %1, so the area between the curves does not exist on [a, b].")
                            .arg(where)
                            .replace(QStringLiteral("  "), QStringLiteral(" ")));

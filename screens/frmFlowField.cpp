@@ -191,7 +191,7 @@ QString frmFlowField::setTypedRates(const QString& dy, const QString& dx)
     std::string error;
     auto made = FuncGlobals::TypedRates::make(dy.toStdString(), dxText.toStdString(), error);
     if (!made)
-        return QString::fromStdString(error);
+        return i18n::words(error);
     typedRates_ = std::move(made);
     installTyped();
     lbldy->setText(QStringLiteral("dy = ") + dy.trimmed());
@@ -214,16 +214,17 @@ void frmFlowField::mnuTypeFunction_Click()
                       {QStringLiteral("A*y*(1 - y/B)"), QStringLiteral("1")},
                       {QStringLiteral("sin(x*y)"), QStringLiteral("1")},
                       {QStringLiteral("x + y"), QStringLiteral("x - y")}};
-    entry.names = typedNamesHelp(Plotto::tr("x and y"), QStringLiteral("A to F")) +
+    entry.names = typedNamesHelp(Plotto::tr("x and y"), Plotto::tr("A to F")) +
                   Plotto::tr(" With dx = 1 the field is the slope field of dy/dx = dy.");
     entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const QString dx = texts.value(1).trimmed().isEmpty() ? QStringLiteral("1") : texts.value(1);
         const auto rates = FuncGlobals::TypedRates::make(texts.value(0).toStdString(), dx.toStdString(), error);
         if (!rates)
-            return QString::fromStdString(error);
-        preview = Plotto::tr("Understood: dy = ") + QString::fromStdString(rates->dy->understood()) +
-                  QStringLiteral(",  dx = ") + QString::fromStdString(rates->dx->understood());
+            return i18n::words(error);
+        preview =
+            Plotto::tr("Understood: dy = %1,  dx = %2")
+                .arg(QString::fromStdString(rates->dy->understood()), QString::fromStdString(rates->dx->understood()));
         return QString();
     };
     runTypedEntry(entry, [this](const QStringList& texts) { return setTypedRates(texts.value(0), texts.value(1)); });
@@ -239,8 +240,7 @@ void frmFlowField::Form_MouseMove(int, int, double X, double Y)
     const double W = Chk(txtXmax->value() - txtXmin->value()), H = Chk(txtYmax->value() - txtYmin->value());
     CurrentX = rt::Int(Chk(Chk(X - graph.XOrigin) * W) / 64) / 100;
     CurrentY = rt::Int(Chk(Chk(graph.YOrigin - Y) * H) / 64) / 100;
-    lblPos->setText(Plotto::tr("Start( ") + shownTrimStr(CurrentX) + QStringLiteral(" , ") + shownTrimStr(CurrentY) +
-                    QStringLiteral(" ) "));
+    lblPos->setText(Plotto::tr("Start( %1 , %2 ) ").arg(shownTrimStr(CurrentX), shownTrimStr(CurrentY)));
 }
 
 void frmFlowField::lblPos_Click()
@@ -251,8 +251,7 @@ void frmFlowField::lblPos_Click()
     double y =
         rt::Val(InputBox(Plotto::tr("Enter y coordinate:"), QStringLiteral("Y ="), QStringLiteral("4"), 4000, 4000)
                     .toStdString());
-    lblPos->setText(Plotto::tr("Start( ") + shownTrimStr(x) + QStringLiteral(" , ") + shownTrimStr(y) +
-                    QStringLiteral(" ) "));
+    lblPos->setText(Plotto::tr("Start( %1 , %2 ) ").arg(shownTrimStr(x), shownTrimStr(y)));
     PointCounter = 0;
     FollowCurveForward(x, y);
 }

@@ -114,9 +114,7 @@ void frmFlowField::noteCurve(int Button)
     if (Button == RightButton)
         std::reverse(curvePoints_.begin(), curvePoints_.end());
     const auto at = [](double v) { return shownStr(rt::Int(v * 1000 + 0.5) / 1000); };
-    noteTraced(
-        drawnCurve(Plotto::tr("the curve from (") + at(from.x) + QStringLiteral(",") + at(from.y) + QStringLiteral(")"),
-                   std::move(curvePoints_)));
+    noteTraced(drawnCurve(Plotto::tr("the curve from (%1,%2)").arg(at(from.x), at(from.y)), std::move(curvePoints_)));
     curvePoints_.clear();
 }
 
@@ -215,7 +213,7 @@ void frmFlowField::followCurve(double& x, double& y, bool backward, const Follow
     if (!reachedEnd)
         return;
     auto end = [](double v) { return shownStr(rt::RoundHalfUp(v, 1000)); };
-    lblEndpt->setText(Plotto::tr("EndPt (") + end(x) + QStringLiteral(",") + end(y));
+    lblEndpt->setText(Plotto::tr("EndPt (%1,%2").arg(end(x), end(y)));
 }
 
 void frmFlowField::followGuarded(double& x, double& y, bool backward)

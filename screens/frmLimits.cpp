@@ -61,10 +61,10 @@ frmLimits::frmLimits() : GraphScreen(limitsConfig())
 void frmLimits::Form_Load()
 {
     GraphScreen::Form_Load();
-    const char* headings[] = {"ε", "δ", "δ/ε", "leaves at x ="};
+    const char* headings[] = {"ε", "δ", "δ/ε", QT_TRANSLATE_NOOP("Plotto", "leaves at x =")};
     const double widths[] = {1300, 1500, 1100, 1600};
     for (int c = 0; c < 4; ++c) {
-        grdHalvings->setCell(0, c, QString::fromUtf8(headings[c]));
+        grdHalvings->setCell(0, c, Plotto::tr(headings[c]));
         grdHalvings->setColumnWidthTwips(c, widths[c]);
     }
 }
@@ -109,7 +109,7 @@ void frmLimits::cmdFindL_Click()
     const limits::LimitEstimate e = limits::estimateLimit(values(), *a);
     if (e.exists)
         txtLimit->assign(shown(e.limit));
-    lblStatus->setText(QString::fromStdString(e.words));
+    lblStatus->setText(i18n::words(e.words));
     draw(nullptr);
 }
 
@@ -151,12 +151,15 @@ void frmLimits::showDelta()
     // The window as its boxes show it (a zoom of the view writes them too).
     const std::optional<double> xmin = txtXmin->number(), xmax = txtXmax->number();
     DeltaSearch found;
-    if (!a || !L || !eps)
-        found.words = "Type numbers for a, L and ε.";
-    else if (!xmin || !xmax || !(*xmin < *xmax))
-        found.words = "The window's x limits must be numbers, the minimum below the maximum.";
-    else
+    QString status;
+    if (!a || !L || !eps) {
+        status = Plotto::tr("Type numbers for a, L and ε.");
+    } else if (!xmin || !xmax || !(*xmin < *xmax)) {
+        status = Plotto::tr("The window's x limits must be numbers, the minimum below the maximum.");
+    } else {
         found = limits::largestDelta(values(), *a, *L, *eps, *xmin, *xmax);
+        status = i18n::words(found.words);
+    }
     const QString key = describeFamily() + QLatin1Char('|') + txtPoint->text() + QLatin1Char('|') + txtLimit->text();
     if (key != tableKey_) {
         rows_.clear();
@@ -169,12 +172,12 @@ void frmLimits::showDelta()
         lblResult->setText(QStringLiteral("ε = %1   δ = %2%3")
                                .arg(shown(*eps), shown(found.delta),
                                     found.reachesEdge ? Plotto::tr("   (the window's edge)")
-                                                      : Plotto::tr("   leaves at x = ") + shown(found.leaveX)));
+                                                      : Plotto::tr("   leaves at x = %1").arg(shown(found.leaveX))));
     else if (found.outcome == DeltaSearch::Outcome::NoDelta)
-        lblResult->setText(QStringLiteral("ε = %1   no δ").arg(shown(*eps)));
+        lblResult->setText(Plotto::tr("ε = %1   no δ").arg(shown(*eps)));
     else
         lblResult->setText(QString());
-    lblStatus->setText(QString::fromStdString(found.words));
+    lblStatus->setText(status);
     fillGrid();
     draw(&found);
 }
@@ -310,9 +313,8 @@ std::vector<GraphScreen::DragHandle> frmLimits::dragHandles()
 
 void frmLimits::describeResults(QStringList& lines) const
 {
-    lines << Plotto::tr("Limits by ε and δ of ") + describeFamily() + QStringLiteral(", a = ") + txtPoint->text() +
-                 QStringLiteral(", L = ") + txtLimit->text() + QStringLiteral(", ε = ") + txtEpsilon->text() +
-                 QLatin1Char('.');
+    lines << Plotto::tr("Limits by ε and δ of %1, a = %2, L = %3, ε = %4.")
+                 .arg(describeFamily(), txtPoint->text(), txtLimit->text(), txtEpsilon->text());
     if (!lblResult->text().isEmpty())
         lines << lblResult->text();
     if (!lblStatus->text().isEmpty())

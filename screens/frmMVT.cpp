@@ -112,7 +112,7 @@ void frmMVT::applyMVT()
     auto R4 = [](double v) { return shownStr(RoundHalfUp(v, 10000)); };
     lblPt1->setText(QStringLiteral("(") + R4(r.a) + QStringLiteral(",") + R4(r.fa) + QStringLiteral(")"));
     lblPt2->setText(QStringLiteral("(") + R4(r.b) + QStringLiteral(",") + R4(r.fb) + QStringLiteral(")"));
-    lblSlope1->setText(Plotto::tr("slope = ") + shownTrimStr(RoundHalfUp(SecantSlope, 100000)));
+    lblSlope1->setText(Plotto::tr("slope = %1").arg(shownTrimStr(RoundHalfUp(SecantSlope, 100000))));
 }
 
 void frmMVT::drawSecantAB(SecantAB& s)
@@ -156,10 +156,10 @@ void frmMVT::slideTangent()
     const double slope = FuncGlobals::ExplicitSlope(c);
     if (!typedDefinedAt({c}, lblSlope2) || !typedSlopeAt(slope, c, lblSlope2))
         return;
-    lblSlope2->setText(Plotto::tr("Slope =") + shownStr(RoundHalfUp(slope, 10000)));
+    lblSlope2->setText(Plotto::tr("Slope =%1").arg(shownStr(RoundHalfUp(slope, 10000))));
     const double fc = FuncGlobals::ExplicitValue(c);
     keepDrawing(
-        Plotto::tr("the tangent at x = ") + shownTrimStr(c),
+        Plotto::tr("the tangent at x = %1").arg(shownTrimStr(c)),
         [this, slope, c, fc] {
             // Not reduced: family 15 asks for colour 16, which does not exist.
             FirstUseColour colour([] { return FuncGlobals::FunctionId + 1; });
@@ -344,8 +344,7 @@ void frmMVT::mnuAbout_Click()
 
 void frmMVT::describeResults(QStringList& lines) const
 {
-    lines << Plotto::tr("Mean value theorem for ") + describeFamily() + QStringLiteral(" on [") + txtX1->text() +
-                 QStringLiteral(", ") + txtX2->text() + QStringLiteral("].");
+    lines << Plotto::tr("Mean value theorem for %1 on [%2, %3].").arg(describeFamily(), txtX1->text(), txtX2->text());
     lines << Plotto::tr("Secant from %1 to %2, %3.").arg(lblPt1->text(), lblPt2->text(), lblSlope1->text());
     lines << Plotto::tr("Slider point %1, %2.").arg(lblFindc->text().trimmed(), lblSlope2->text());
     QStringList found;

@@ -126,12 +126,12 @@ void frmNewton::applyNewton(double x)
     // curve (with "x1" at the start of a sequence), then the tangent down to the axis.
     const bool first = NewSequence;
     keepDrawing(
-        Plotto::tr("the guess x = ") + shownTrimStr(x), [this, x, first] { drawGuess(x, first); }, typed_,
+        Plotto::tr("the guess x = %1").arg(shownTrimStr(x)), [this, x, first] { drawGuess(x, first); }, typed_,
         QStringLiteral("steps"));
     NewSequence = false;
     auto step = std::make_shared<std::pair<double, double>>();  // the slope and the next guess
     keepDrawing(
-        Plotto::tr("the tangent at x = ") + shownTrimStr(x), [this, x, step] { *step = drawTangent(x); }, typed_,
+        Plotto::tr("the tangent at x = %1").arg(shownTrimStr(x)), [this, x, step] { *step = drawTangent(x); }, typed_,
         QStringLiteral("steps"));
     if (step->first != 0) {
         txtGuess->assign(qTrimStr(step->second));
@@ -216,10 +216,9 @@ void frmNewton::describeResults(QStringList& lines) const
     for (int r = 1; r < grdGuess->rowCount(); ++r)
         if (!grdGuess->cell(r, 1).isEmpty())
             guesses << QStringLiteral("%1: %2").arg(grdGuess->cell(r, 0), grdGuess->cell(r, 1));
-    lines << Plotto::tr("Newton's method on ") + describeFamily() + QLatin1Char('.');
-    lines << (guesses.isEmpty()
-                  ? Plotto::tr("No guesses yet; first guess box: ") + txtGuess->text() + QLatin1Char('.')
-                  : QStringLiteral("Guesses: ") + guesses.join(QStringLiteral("; ")) + QLatin1Char('.'));
+    lines << Plotto::tr("Newton's method on %1.").arg(describeFamily());
+    lines << (guesses.isEmpty() ? Plotto::tr("No guesses yet; first guess box: %1.").arg(txtGuess->text())
+                                : Plotto::tr("Guesses: %1.").arg(guesses.join(QStringLiteral("; "))));
     if (const auto gap = newton::lastGap(this->guesses()))
         lines << Plotto::tr("The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.")
                      .arg(QString::number(*gap, 'g', 3));

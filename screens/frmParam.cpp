@@ -170,7 +170,7 @@ void frmParam::txtT_Change()
     if (typedCurve_) {
         const double tx = CurveX(t), ty = CurveY(t);
         if (std::isnan(tx) || std::isnan(ty) || std::fabs(tx) > 3e38 || std::fabs(ty) > 3e38) {
-            lblXY->setText(Plotto::tr("(undefined at t = ") + shownTrimStr(t) + QStringLiteral(")"));
+            lblXY->setText(Plotto::tr("(undefined at t = %1)").arg(shownTrimStr(t)));
             return;
         }
     }
@@ -179,7 +179,7 @@ void frmParam::txtT_Change()
                    QStringLiteral(")"));
     // The traced point is a kept step: a new window marks it again at its place there.
     keepDrawing(
-        Plotto::tr("the point at t = ") + shownTrimStr(t),
+        Plotto::tr("the point at t = %1").arg(shownTrimStr(t)),
         [this, x, y] {
             const double column = graph.column(x), row = graph.row(y);
             if (!inside(column, row))
@@ -197,8 +197,8 @@ void frmParam::plotCurve(At at, From from)
     const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
     const bool points = optPoints->isChecked();
-    const QString name = Plotto::tr("the curve ") + lblXPar->text() + QStringLiteral(", ") + lblYPar->text() +
-                         Plotto::tr(" for t from ") + txtT0->text() + QStringLiteral(" to ") + txtTn->text();
+    const QString name = Plotto::tr("the curve %1, %2 for t from %3 to %4")
+                             .arg(lblXPar->text(), lblYPar->text(), txtT0->text(), txtTn->text());
     // The figure is a kept step: a new window maps the same t values again.
     keepDrawing(
         Plotto::tr("the parametric curve"),
@@ -303,7 +303,7 @@ QString frmParam::setTypedCurve(const QString& xt, const QString& yt)
     std::string error;
     auto made = FuncGlobals::TypedCurve::make(xt.toStdString(), yt.toStdString(), error);
     if (!made)
-        return QString::fromStdString(error);
+        return i18n::words(error);
     typedCurve_ = std::move(made);
     installTyped();
     lblXPar->setText(QStringLiteral("x = ") + xt.trimmed());
@@ -325,15 +325,16 @@ void frmParam::mnuTypeFunction_Click()
                       {QStringLiteral("cos(3*t)*cos(t)"), QStringLiteral("cos(3*t)*sin(t)")},
                       {QStringLiteral("t^2 - 1"), QStringLiteral("t^3 - t")},
                       {QStringLiteral("exp(t/10)*cos(t)"), QStringLiteral("exp(t/10)*sin(t)")}};
-    entry.names = typedNamesHelp(QStringLiteral("t"), QStringLiteral("A to F"));
+    entry.names = typedNamesHelp(QStringLiteral("t"), Plotto::tr("A to F"));
     entry.check = [](const QStringList& texts, QString& preview) {
         std::string error;
         const auto curve =
             FuncGlobals::TypedCurve::make(texts.value(0).toStdString(), texts.value(1).toStdString(), error);
         if (!curve)
-            return QString::fromStdString(error);
-        preview = Plotto::tr("Understood: x = ") + QString::fromStdString(curve->x->understood()) +
-                  QStringLiteral(",  y = ") + QString::fromStdString(curve->y->understood());
+            return i18n::words(error);
+        preview =
+            Plotto::tr("Understood: x = %1,  y = %2")
+                .arg(QString::fromStdString(curve->x->understood()), QString::fromStdString(curve->y->understood()));
         return QString();
     };
     runTypedEntry(entry, [this](const QStringList& texts) { return setTypedCurve(texts.value(0), texts.value(1)); });

@@ -272,7 +272,7 @@ void frmRiemann::showResult(ClickLabel* label, const RiemannSums::Result& result
         return;
     }
     if (result.gap) {
-        label->setText(Plotto::tr("undefined at x = ") + shownTrimStr(result.gapAt));
+        label->setText(Plotto::tr("undefined at x = %1").arg(shownTrimStr(result.gapAt)));
         return;
     }
     label->setText(result.error ? Plotto::tr("= error!") : QStringLiteral("= ") + shownStr(result.area));
@@ -309,7 +309,8 @@ void frmRiemann::cmdParts_Click()
                 // random sums with the same draws), standing on that window's axis.
                 auto done = std::make_shared<std::pair<RiemannSums::Result, std::vector<audio::Point>>>();
                 keepDrawing(
-                    Plotto::tr(m.caption) + Plotto::tr(" bars"),
+                    //: a sum's bars as drawn ("Left Endpoint bars")
+                    Plotto::tr("%1 bars").arg(Plotto::tr(m.caption)),
                     [this, &m, L = parts.L, R = parts.R, dx = parts.dx, n, done] {
                         Parts drawn{*this, L, R, dx, n, static_cast<double>(graph.YOrigin), {}};
                         DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(m.colour)));
@@ -317,7 +318,7 @@ void frmRiemann::cmdParts_Click()
                         done->second = std::move(drawn.heights);
                     },
                     typed_);
-                noteTraced(drawnCurve(Plotto::tr(m.caption) + Plotto::tr(" bars of ") + describeFamily(),
+                noteTraced(drawnCurve(Plotto::tr("%1 bars of %2").arg(Plotto::tr(m.caption), describeFamily()),
                                       std::move(done->second)));
                 showResult(label, done->first);
             },

@@ -62,8 +62,8 @@ frmTangent::frmTangent() : GraphScreen(tangentConfig())
 QString frmTangent::spokenDeltaX() const
 {
     const std::optional<double> dx = txtDeltaX->number();
-    return Plotto::tr("Delta x = ") +
-           (dx ? shownTrimStr((hscDx->value() - 1000) * *dx / 1000) : txtDeltaX->text() + Plotto::tr(", not a number"));
+    return dx ? Plotto::tr("Delta x = %1").arg(shownTrimStr((hscDx->value() - 1000) * *dx / 1000))
+              : Plotto::tr("Delta x = %1, not a number").arg(txtDeltaX->text());
 }
 
 void frmTangent::DrawSecant(double dx)
@@ -81,7 +81,7 @@ void frmTangent::drawSecant(double dx)
     // through the same computation, clipped to that window.
     auto result = std::make_shared<Secant>();
     keepDrawing(
-        Plotto::tr("the secant from x = ") + shownTrimStr(x1),
+        Plotto::tr("the secant from x = %1").arg(shownTrimStr(x1)),
         [this, x1, dx, result] { *result = secantLines(x1, dx); }, typed_, QStringLiteral("secants"));
     const Secant& r = *result;
     if (r.x2 == r.x1) {
@@ -188,10 +188,9 @@ void frmTangent::mnuAbout_Click()
 
 void frmTangent::describeResults(QStringList& lines) const
 {
-    lines << Plotto::tr("Tangent problem for ") + describeFamily() + QStringLiteral(" at x = ") + txtX->text() +
-                 Plotto::tr(", Delta x = ") + txtDeltaX->text() + QLatin1Char('.');
-    lines << Plotto::tr("Secant through ") + lblPoints->text() + QStringLiteral(": ") + lblTLine->text() +
-                 QLatin1Char('.');
+    lines << Plotto::tr("Tangent problem for %1 at x = %2, Delta x = %3.")
+                 .arg(describeFamily(), txtX->text(), txtDeltaX->text());
+    lines << Plotto::tr("Secant through %1: %2.").arg(lblPoints->text(), lblTLine->text());
     if (typedInUse()) {
         // The exact tangent the secants turn into, from the symbolic derivative.
         const std::optional<double> at = txtX->number();

@@ -74,10 +74,11 @@ frmTaylor::frmTaylor() : GraphScreen(taylorConfig())
 void frmTaylor::Form_Load()
 {
     GraphScreen::Form_Load();
-    const char* headings[] = {"n", "New term", "P_n(x)", "f(x) - P_n(x)", "Lagrange bound"};
+    const char* headings[] = {"n", QT_TRANSLATE_NOOP("Plotto", "New term"), "P_n(x)", "f(x) - P_n(x)",
+                              QT_TRANSLATE_NOOP("Plotto", "Lagrange bound")};
     const double widths[] = {360, 1400, 1150, 1300, 0};
     for (int c = 0; c < 5; ++c) {
-        grdTerms->setCell(0, c, QString::fromLatin1(headings[c]));
+        grdTerms->setCell(0, c, Plotto::tr(headings[c]));
         grdTerms->setColumnWidthTwips(c, widths[c]);
     }
     for (int k = 0; k + 1 < kGridRows; ++k)
@@ -146,11 +147,11 @@ void frmTaylor::showDegree(int n)
     TaylorSeries& s = *series();
     const TaylorTerm& last = s.term(degree_);
     if (!s.refusal().empty())
-        status_ = Plotto::tr("No Taylor polynomial: ") + QString::fromStdString(s.refusal()) + QLatin1Char('.');
+        status_ = Plotto::tr("No Taylor polynomial: %1.").arg(i18n::words(s.refusal()));
     else if (last.state != TaylorTerm::State::Found)
         status_ = Plotto::tr("No Taylor polynomial of degree %1 about a = %2: %3.")
                       .arg(degree_)
-                      .arg(shownTrimStr(s.centre()), QString::fromStdString(last.why));
+                      .arg(shownTrimStr(s.centre()), i18n::words(last.why));
     else
         status_ =
             Plotto::tr("P_%1 about a = %2 in red%3; the green band on the x axis is where |f - P_%1| < %4.")
@@ -285,9 +286,9 @@ std::vector<GraphScreen::DragHandle> frmTaylor::dragHandles()
 
 void frmTaylor::describeResults(QStringList& lines) const
 {
-    lines << Plotto::tr("Taylor polynomials of ") + describeFamily() + QLatin1Char('.');
+    lines << Plotto::tr("Taylor polynomials of %1.").arg(describeFamily());
     if (degree_ < 0) {
-        lines << Plotto::tr("No terms yet; centre box: ") + txtCentre->text() + QLatin1Char('.');
+        lines << Plotto::tr("No terms yet; centre box: %1.").arg(txtCentre->text());
         return;
     }
     QStringList terms;

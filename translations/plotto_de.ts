@@ -92,20 +92,12 @@
         <translation>Graph</translation>
     </message>
     <message>
-        <source>raise or lower </source>
-        <translation>erhöhen oder verringern: </translation>
-    </message>
-    <message>
         <source>Window: x from %1 to %2, y from %3 to %4.</source>
         <translation>Fenster: x von %1 bis %2, y von %3 bis %4.</translation>
     </message>
     <message>
         <source>And %1 more drawings.</source>
         <translation>Und %1 weitere Zeichnungen.</translation>
-    </message>
-    <message>
-        <source>the typed function y = </source>
-        <translation>die eingegebene Funktion y = </translation>
     </message>
     <message>
         <source>y = 0 (no function chosen)</source>
@@ -204,10 +196,6 @@
         <translation>Es ist noch nichts gezeichnet, das man hören könnte.</translation>
     </message>
     <message>
-        <source>Playing </source>
-        <translation>Wiedergabe: </translation>
-    </message>
-    <message>
         <source>No sound device: the curve cannot be heard here. Left and Right still walk along it.</source>
         <translation>Kein Audiogerät: die Kurve kann hier nicht gehört werden. Links und Rechts gehen weiterhin an ihr entlang.</translation>
     </message>
@@ -260,26 +248,8 @@
         <translation>Funktion y = f(x) eingeben</translation>
     </message>
     <message>
-        <source>Understood: y = </source>
-        <translation>Verstanden: y = </translation>
-    </message>
-    <message>
-        <source>
-Derivative: y&apos; = </source>
-        <translation>
-Ableitung: y&apos; = </translation>
-    </message>
-    <message>
         <source>This screen does not graph a function y = f(x).</source>
         <translation>Dieser Bildschirm zeichnet keine Funktion y = f(x).</translation>
-    </message>
-    <message>
-        <source>undefined: no f(x) at x = </source>
-        <translation>nicht definiert: kein f(x) bei x = </translation>
-    </message>
-    <message>
-        <source>no slope: f&apos;(x) is undefined at x = </source>
-        <translation>keine Steigung: f&apos;(x) ist nicht definiert bei x = </translation>
     </message>
     <message>
         <source>cannot be computed: the numbers are too large</source>
@@ -310,16 +280,8 @@ Ableitung: y&apos; = </translation>
         <translation>&amp;Vorwärts</translation>
     </message>
     <message>
-        <source> Not drawn at this window: </source>
-        <translation> In diesem Fenster nicht gezeichnet: </translation>
-    </message>
-    <message>
         <source> Some drawings made before cannot be drawn again at a new window: press the screen&apos;s buttons to draw them here.</source>
         <translation> Einige zuvor erstellte Zeichnungen können in einem neuen Fenster nicht erneut gezeichnet werden: drücken Sie die Schaltflächen des Bildschirms, um sie hier zu zeichnen.</translation>
-    </message>
-    <message>
-        <source>Cannot be drawn from here: </source>
-        <translation>Von hier aus nicht zeichenbar: </translation>
     </message>
     <message>
         <source>The window&apos;s limits are not numbers: type them first.</source>
@@ -350,10 +312,6 @@ Ableitung: y&apos; = </translation>
         <translation>Vorschau</translation>
     </message>
     <message>
-        <source>Cannot be taken: </source>
-        <translation>Nicht übernommen: </translation>
-    </message>
-    <message>
         <source>Error against the number of steps, log-log</source>
         <translation>Fehler gegen die Anzahl der Schritte, doppelt logarithmisch</translation>
     </message>
@@ -362,28 +320,8 @@ Ableitung: y&apos; = </translation>
         <translation>Neu be&amp;rechnen</translation>
     </message>
     <message>
-        <source>Error against the number of %1, log-log</source>
-        <translation>Fehler gegen die Anzahl der %1, doppelt logarithmisch</translation>
-    </message>
-    <message>
         <source>slope -%1</source>
         <translation>Steigung -%1</translation>
-    </message>
-    <message>
-        <source>No errors to plot: </source>
-        <translation>Keine Fehler darzustellen: </translation>
-    </message>
-    <message>
-        <source> (expected -%1)</source>
-        <translation> (erwartet -%1)</translation>
-    </message>
-    <message>
-        <source>: too few measurable errors for a slope</source>
-        <translation>: zu wenige messbare Fehler für eine Steigung</translation>
-    </message>
-    <message>
-        <source>: slope </source>
-        <translation>: Steigung </translation>
     </message>
     <message>
         <source>Con&amp;vergence</source>
@@ -614,12 +552,6 @@ Ableitung: y&apos; = </translation>
         <translation>f und g schneiden sich nicht in [a, b].</translation>
     </message>
     <message>
-        <source>Crossings in [a, b]:
-</source>
-        <translation>Schnittpunkte in [a, b]:
-</translation>
-    </message>
-    <message>
         <source>n odd</source>
         <translation>n ungerade</translation>
     </message>
@@ -740,14 +672,6 @@ Ableitung: y&apos; = </translation>
         <translation> Mit dx = 1 ist das Feld das Richtungsfeld von dy/dx = dy.</translation>
     </message>
     <message>
-        <source>Understood: dy = </source>
-        <translation>Verstanden: dy = </translation>
-    </message>
-    <message>
-        <source>Start( </source>
-        <translation>Start( </translation>
-    </message>
-    <message>
         <source>Enter x coordinate:</source>
         <translation>x-Koordinate eingeben:</translation>
     </message>
@@ -852,16 +776,8 @@ Ableitung: y&apos; = </translation>
         <translation>das Richtungsfeld</translation>
     </message>
     <message>
-        <source>the curve from (</source>
-        <translation>die Kurve ab (</translation>
-    </message>
-    <message>
         <source>an integral curve</source>
         <translation>eine Integralkurve</translation>
-    </message>
-    <message>
-        <source>EndPt (</source>
-        <translation>Endpunkt (</translation>
     </message>
     <message>
         <source>Slope Fields</source>
@@ -1032,10 +948,6 @@ Ableitung: y&apos; = </translation>
         <translation>   (der Fensterrand)</translation>
     </message>
     <message>
-        <source>   leaves at x = </source>
-        <translation>   verlässt bei x = </translation>
-    </message>
-    <message>
         <source>near a</source>
         <translation>nahe a</translation>
     </message>
@@ -1050,10 +962,6 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>the point a</source>
         <translation>der Punkt a</translation>
-    </message>
-    <message>
-        <source>Limits by ε and δ of </source>
-        <translation>Grenzwerte mit ε und δ von </translation>
     </message>
     <message>
         <source>This screen shows what the limit of f(x) as x approaches a means: for every ε &gt; 0 there is a δ &gt; 0 such that every x with 0 &lt; |x - a| &lt; δ has |f(x) - L| &lt; ε.  You choose ε; the screen finds the largest δ.</source>
@@ -1140,18 +1048,6 @@ Ableitung: y&apos; = </translation>
         <translation>FEHLER!  0/0</translation>
     </message>
     <message>
-        <source>slope = </source>
-        <translation>Steigung = </translation>
-    </message>
-    <message>
-        <source>Slope =</source>
-        <translation>Steigung =</translation>
-    </message>
-    <message>
-        <source>the tangent at x = </source>
-        <translation>die Tangente bei x = </translation>
-    </message>
-    <message>
         <source>Enter an x value to check</source>
         <translation>Geben Sie einen x-Wert zum Prüfen ein</translation>
     </message>
@@ -1190,10 +1086,6 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>There are some accuracy considerations when using [Find c].  The slopes are compared to the nearest 0.001.  The calculated slope from the end points may differ from the slope of the tangent line.  Some MVT points may be missed due the accuracy when scannning through the function for the points.  This usually does not happen unless your interval is wide and there are rapid fluctuations like sin(20x).</source>
         <translation>Bei [c finden] gibt es einige Genauigkeitsfragen. Die Steigungen werden auf 0,001 genau verglichen. Die aus den Endpunkten berechnete Steigung kann von der Steigung der Tangente abweichen. Manche Mittelwertstellen können wegen der Genauigkeit beim Absuchen der Funktion übersehen werden. Das geschieht meist nur, wenn Ihr Intervall breit ist und es schnelle Schwankungen wie bei sin(20x) gibt.</translation>
-    </message>
-    <message>
-        <source>Mean value theorem for </source>
-        <translation>Mittelwertsatz für </translation>
     </message>
     <message>
         <source>Secant from %1 to %2, %3.</source>
@@ -1248,10 +1140,6 @@ Ableitung: y&apos; = </translation>
         <translation> (zu groß)</translation>
     </message>
     <message>
-        <source>the guess x = </source>
-        <translation>der Schätzwert x = </translation>
-    </message>
-    <message>
         <source>This guess failed due to zero for the slope</source>
         <translation>Dieser Schätzwert ist gescheitert, weil die Steigung null ist</translation>
     </message>
@@ -1294,14 +1182,6 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>Zoom in or change the window and Apply again.</source>
         <translation>Vergrößern Sie oder ändern Sie das Fenster und wenden Sie es erneut an.</translation>
-    </message>
-    <message>
-        <source>Newton&apos;s method on </source>
-        <translation>Newton-Verfahren für </translation>
-    </message>
-    <message>
-        <source>No guesses yet; first guess box: </source>
-        <translation>Noch keine Schätzwerte; Feld für den ersten Schätzwert: </translation>
     </message>
     <message>
         <source>the first guess</source>
@@ -1368,32 +1248,12 @@ Ableitung: y&apos; = </translation>
         <translation>Höchstwert überschritten</translation>
     </message>
     <message>
-        <source>(undefined at t = </source>
-        <translation>(nicht definiert bei t = </translation>
-    </message>
-    <message>
-        <source>the point at t = </source>
-        <translation>der Punkt bei t = </translation>
-    </message>
-    <message>
-        <source>the curve </source>
-        <translation>die Kurve </translation>
-    </message>
-    <message>
-        <source> for t from </source>
-        <translation> für t von </translation>
-    </message>
-    <message>
         <source>the parametric curve</source>
         <translation>die Parameterkurve</translation>
     </message>
     <message>
         <source>Type a parametric curve</source>
         <translation>Eine Parameterkurve eingeben</translation>
-    </message>
-    <message>
-        <source>Understood: x = </source>
-        <translation>Verstanden: x = </translation>
     </message>
     <message>
         <source>This screen allows you to graph parametric equations by defining the function for the x value and another equation for the y value.  The x and y values are functions of the variable t.</source>
@@ -1572,24 +1432,12 @@ Ableitung: y&apos; = </translation>
         <translation>Anzahl nicht gerade</translation>
     </message>
     <message>
-        <source>undefined at x = </source>
-        <translation>nicht definiert bei x = </translation>
-    </message>
-    <message>
         <source>= error!</source>
         <translation>= Fehler!</translation>
     </message>
     <message>
         <source>Working</source>
         <translation>In Arbeit</translation>
-    </message>
-    <message>
-        <source> bars</source>
-        <translation> Balken</translation>
-    </message>
-    <message>
-        <source> bars of </source>
-        <translation> Balken von </translation>
     </message>
     <message>
         <source>= too large</source>
@@ -1720,14 +1568,6 @@ Ableitung: y&apos; = </translation>
         <translation>Geradengleichung</translation>
     </message>
     <message>
-        <source>, not a number</source>
-        <translation>, keine Zahl</translation>
-    </message>
-    <message>
-        <source>the secant from x = </source>
-        <translation>die Sekante ab x = </translation>
-    </message>
-    <message>
         <source>This screen is to demonstrate the classic slope of the tangent line problem.  You may select any function from the menu.  Choose values for the A,B,...,E variables for your function and Plotto.</source>
         <translation>Dieser Bildschirm veranschaulicht das klassische Problem der Tangentensteigung. Sie können jede Funktion aus dem Menü wählen. Wählen Sie Werte für die Variablen A,B,...,E Ihrer Funktion und klicken Sie auf Plotto.</translation>
     </message>
@@ -1754,18 +1594,6 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>Clicking or scrolling the slider will change delta x and graph the secant line when releasing the mouse button.  You may see the points and the equation for each new change of the slider.  Notice the x-dx, x=  , and x+dx at the bottom of the slider.  This should help to know which way your secant line is going.</source>
         <translation>Ein Klick auf den Schieberegler oder sein Verschieben ändert Delta x und zeichnet beim Loslassen der Maustaste die Sekante. Sie sehen die Punkte und die Gleichung bei jeder neuen Änderung des Reglers. Beachten Sie x-dx, x=  und x+dx unter dem Regler. Das hilft zu erkennen, in welche Richtung Ihre Sekante geht.</translation>
-    </message>
-    <message>
-        <source>Tangent problem for </source>
-        <translation>Tangentenproblem für </translation>
-    </message>
-    <message>
-        <source>, Delta x = </source>
-        <translation>, Delta x = </translation>
-    </message>
-    <message>
-        <source>Secant through </source>
-        <translation>Sekante durch </translation>
     </message>
     <message>
         <source>No exact tangent: x = %1 is not a number.</source>
@@ -1828,10 +1656,6 @@ Ableitung: y&apos; = </translation>
         <translation>Familie %1</translation>
     </message>
     <message>
-        <source>No Taylor polynomial: </source>
-        <translation>Kein Taylorpolynom: </translation>
-    </message>
-    <message>
         <source>No Taylor polynomial of degree %1 about a = %2: %3.</source>
         <translation>Kein Taylorpolynom vom Grad %1 um a = %2: %3.</translation>
     </message>
@@ -1866,14 +1690,6 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>the centre a</source>
         <translation>die Entwicklungsstelle a</translation>
-    </message>
-    <message>
-        <source>Taylor polynomials of </source>
-        <translation>Taylorpolynome von </translation>
-    </message>
-    <message>
-        <source>No terms yet; centre box: </source>
-        <translation>Noch keine Terme; Feld der Entwicklungsstelle: </translation>
     </message>
     <message>
         <source>Degree %1. Terms: </source>
@@ -2108,10 +1924,6 @@ Ableitung: y&apos; = </translation>
         <translation>Zur Lektion hinzufügen</translation>
     </message>
     <message>
-        <source>The step was not added: </source>
-        <translation>Der Schritt wurde nicht hinzugefügt: </translation>
-    </message>
-    <message>
         <source>The lesson has no steps yet: add a screen with Tools, Add This Screen to the Lesson.</source>
         <translation>Die Lektion hat noch keine Schritte: fügen Sie mit Werkzeuge, Diesen Bildschirm zur Lektion hinzufügen, einen Bildschirm hinzu.</translation>
     </message>
@@ -2170,10 +1982,6 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>The lesson has no steps.</source>
         <translation>Die Lektion hat keine Schritte.</translation>
-    </message>
-    <message>
-        <source>: answers</source>
-        <translation>: Lösungen</translation>
     </message>
     <message>
         <source>Area=</source>
@@ -2254,6 +2062,866 @@ Ableitung: y&apos; = </translation>
     <message>
         <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
         <translation>Schritt %1 kann nicht gezeigt werden: seine Werte %2 (Laufzeitfehler %3).</translation>
+    </message>
+    <message>
+        <source>Euler</source>
+        <translation>Euler</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 2</source>
+        <translation>Runge-Kutta 2</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 4</source>
+        <translation>Runge-Kutta 4</translation>
+    </message>
+    <message>
+        <source>nothing typed: type a function, for example x^2 - 4 at %1</source>
+        <translation>nichts eingegeben: geben Sie eine Funktion ein, zum Beispiel x^2 - 4 an Stelle %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;)&apos; at %1</source>
+        <translation>unerwartetes &apos;)&apos; an Stelle %1</translation>
+    </message>
+    <message>
+        <source>too deeply nested at %1</source>
+        <translation>zu tief verschachtelt an Stelle %1</translation>
+    </message>
+    <message>
+        <source>missing a term after &apos;%1&apos; at %2</source>
+        <translation>nach &apos;%1&apos; fehlt ein Term an Stelle %2</translation>
+    </message>
+    <message>
+        <source>missing a term at %1</source>
+        <translation>ein Term fehlt an Stelle %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;)&apos; at %1</source>
+        <translation>vor &apos;)&apos; fehlt ein Term an Stelle %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;%1&apos; at %2</source>
+        <translation>vor &apos;%1&apos; fehlt ein Term an Stelle %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;)&apos; at %1</source>
+        <translation>&apos;)&apos; fehlt an Stelle %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (each function takes one argument) at %1</source>
+        <translation>unerwartetes &apos;,&apos; (jede Funktion hat ein Argument) an Stelle %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (write decimals with a point, and each function takes one argument) at %1</source>
+        <translation>unerwartetes &apos;,&apos; (Dezimalzahlen mit Punkt schreiben; jede Funktion hat ein Argument) an Stelle %1</translation>
+    </message>
+    <message>
+        <source>unexpected character &apos;%1&apos; at %2</source>
+        <translation>unerwartetes Zeichen &apos;%1&apos; an Stelle %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;*&apos;: write %1*%2 for a product at %3</source>
+        <translation>&apos;*&apos; fehlt: schreiben Sie %1*%2 für ein Produkt an Stelle %3</translation>
+    </message>
+    <message>
+        <source>a number needs a digit at %1</source>
+        <translation>eine Zahl braucht eine Ziffer an Stelle %1</translation>
+    </message>
+    <message>
+        <source>number too large at %1</source>
+        <translation>Zahl zu groß an Stelle %1</translation>
+    </message>
+    <message>
+        <source>missing &apos;(&apos; after &apos;%1&apos; at %2</source>
+        <translation>nach &apos;%1&apos; fehlt &apos;(&apos; an Stelle %2</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2 (the coefficients are the capitals A to F)</source>
+        <translation>unbekannter Name &apos;%1&apos; an Stelle %2 (die Koeffizienten sind die Großbuchstaben A bis F)</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %4: write %2*%3 for a product</source>
+        <translation>unbekannter Name &apos;%1&apos; an Stelle %4: schreiben Sie %2*%3 für ein Produkt</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2</source>
+        <translation>unbekannter Name &apos;%1&apos; an Stelle %2</translation>
+    </message>
+    <message>
+        <source>too long: at most %1 characters</source>
+        <translation>zu lang: höchstens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>cannot be evaluated</source>
+        <translation>kann nicht ausgewertet werden</translation>
+    </message>
+    <message>
+        <source>no derivative: it cannot be evaluated</source>
+        <translation>keine Ableitung: sie kann nicht ausgewertet werden</translation>
+    </message>
+    <message>
+        <source>no derivative: the expression is undefined everywhere or cannot be differentiated</source>
+        <translation>keine Ableitung: der Ausdruck ist nirgends definiert oder nicht differenzierbar</translation>
+    </message>
+    <message>
+        <source>no derivative: part of the expression is 0 where it divides or is a base</source>
+        <translation>keine Ableitung: ein Teil des Ausdrucks ist 0, wo er teilt oder Basis ist</translation>
+    </message>
+    <message>
+        <source>no derivative: it uses a function that cannot be differentiated here</source>
+        <translation>keine Ableitung: sie verwendet eine Funktion, die hier nicht abgeleitet werden kann</translation>
+    </message>
+    <message>
+        <source>no function chosen</source>
+        <translation>keine Funktion gewählt</translation>
+    </message>
+    <message>
+        <source>an exponent of %1 is too large to work out exactly</source>
+        <translation>ein Exponent von %1 ist zu groß, um exakt gerechnet zu werden</translation>
+    </message>
+    <message>
+        <source>part of the expression is 0 where it divides or is a base</source>
+        <translation>ein Teil des Ausdrucks ist 0, wo er teilt oder Basis ist</translation>
+    </message>
+    <message>
+        <source>the expression cannot be worked out exactly</source>
+        <translation>der Ausdruck kann nicht exakt berechnet werden</translation>
+    </message>
+    <message>
+        <source>the coefficient is too large for double precision</source>
+        <translation>der Koeffizient ist zu groß für doppelte Genauigkeit</translation>
+    </message>
+    <message>
+        <source>f(a) does not exist</source>
+        <translation>f(a) existiert nicht</translation>
+    </message>
+    <message>
+        <source>f^(%1)(a) does not exist</source>
+        <translation>f^(%1)(a) existiert nicht</translation>
+    </message>
+    <message>
+        <source>the derivative grows too long to work out</source>
+        <translation>die Ableitung wird zu lang, um sie zu berechnen</translation>
+    </message>
+    <message>
+        <source>a must be a number.</source>
+        <translation>a muss eine Zahl sein.</translation>
+    </message>
+    <message>
+        <source>Both sides tend to %1: L = %1 at a = %2 (estimated from x = a +- h, h halving to %3 times max(1, |a|); the last values agree to %4).</source>
+        <translation>Beide Seiten streben gegen %1: L = %1 bei a = %2 (geschätzt aus x = a +- h, h halbiert bis %3 mal max(1, |a|); die letzten Werte stimmen bis auf %4 überein).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the right of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f ist nahe a nur rechts von a definiert; diese Seite strebt gegen %1: L = %1 bei a = %2 (ein einseitiger Grenzwert).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the left of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f ist nahe a nur links von a definiert; diese Seite strebt gegen %1: L = %1 bei a = %2 (ein einseitiger Grenzwert).</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no limit there.</source>
+        <translation>f ist nahe a = %1 auf keiner Seite definiert: dort gibt es keinen Grenzwert.</translation>
+    </message>
+    <message>
+        <source>The left side %1 and the right side %2: no limit at a = %3.</source>
+        <translation>Die linke Seite %1 und die rechte Seite %2: kein Grenzwert bei a = %3.</translation>
+    </message>
+    <message>
+        <source>tends to infinity</source>
+        <translation>strebt gegen unendlich</translation>
+    </message>
+    <message>
+        <source>tends to -infinity</source>
+        <translation>strebt gegen -unendlich</translation>
+    </message>
+    <message>
+        <source>tends to %1</source>
+        <extracomment>what one side of a does as x nears a (&quot;The left side tends to 1 and ...&quot;)</extracomment>
+        <translation>strebt gegen %1</translation>
+    </message>
+    <message>
+        <source>to infinity</source>
+        <translation>gegen unendlich</translation>
+    </message>
+    <message>
+        <source>to -infinity</source>
+        <translation>gegen -unendlich</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <extracomment>the right side&apos;s clause when the left side&apos;s said &quot;tends&quot; (&quot;... and the right side to 2&quot;)</extracomment>
+        <translation>gegen %1</translation>
+    </message>
+    <message>
+        <source>does not settle</source>
+        <translation>pendelt sich nicht ein</translation>
+    </message>
+    <message>
+        <source>is undefined</source>
+        <translation>ist nicht definiert</translation>
+    </message>
+    <message>
+        <source>ε must be a positive number.</source>
+        <translation>ε muss eine positive Zahl sein.</translation>
+    </message>
+    <message>
+        <source>a and L must be numbers.</source>
+        <translation>a und L müssen Zahlen sein.</translation>
+    </message>
+    <message>
+        <source>a = %1 is not inside the window from %2 to %3: move a or widen the window to look for δ.</source>
+        <translation>a = %1 liegt nicht im Fenster von %2 bis %3: verschieben Sie a oder vergrößern Sie das Fenster, um δ zu suchen.</translation>
+    </message>
+    <message>
+        <source>ε = %1 is below what rounding in f lets the computer tell apart from L = %2 (it must be at least %3): no δ is looked for.</source>
+        <translation>ε = %1 liegt unter dem, was die Rundung in f den Rechner von L = %2 unterscheiden lässt (es muss mindestens %3 sein): es wird kein δ gesucht.</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no δ can be looked for.</source>
+        <translation>f ist nahe a = %1 auf keiner Seite definiert: es kann kein δ gesucht werden.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no δ works: points arbitrarily close to a leave the band (even x = %2 has |f(x) - L| = %3, not below ε).</source>
+        <translation>Für ε = %1 passt kein δ: beliebig nahe Punkte bei a verlassen das Band (selbst x = %2 hat |f(x) - L| = %3, nicht unter ε).</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no x of the window leaves the band: δ = %2 is the distance from a to the window&apos;s nearer edge.</source>
+        <translation>Für ε = %1 verlässt kein x des Fensters das Band: δ = %2 ist der Abstand von a zum näheren Fensterrand.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 the largest δ is %2: the graph first leaves the band at x = %3 (f = %4).</source>
+        <translation>Für ε = %1 ist das größte δ gleich %2: der Graph verlässt das Band zuerst bei x = %3 (f = %4).</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the right of a: only x where it is defined count.</source>
+        <translation>%1 f ist rechts von a nicht definiert: nur x, wo sie definiert ist, zählen.</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the left of a: only x where it is defined count.</source>
+        <translation>%1 f ist links von a nicht definiert: nur x, wo sie definiert ist, zählen.</translation>
+    </message>
+    <message>
+        <source>%1 f is undefined at some x of the window: they are not in its domain and do not count.</source>
+        <translation>%1 f ist an einigen x des Fensters nicht definiert: sie gehören nicht zum Definitionsbereich und zählen nicht.</translation>
+    </message>
+    <message>
+        <source>x = %1 (f = g at a scanned point)</source>
+        <translation>x = %1 (f = g an einem abgetasteten Punkt)</translation>
+    </message>
+    <message>
+        <source>x = %1 (sign change, TOMS 748)</source>
+        <translation>x = %1 (Vorzeichenwechsel, TOMS 748)</translation>
+    </message>
+    <message>
+        <source>x = %1 (touch without sign change, Brent minimum of |f - g|)</source>
+        <translation>x = %1 (Berührung ohne Vorzeichenwechsel, Brent-Minimum von |f - g|)</translation>
+    </message>
+    <message>
+        <source>x = %1 to %2 (f = g all along)</source>
+        <translation>x = %1 bis %2 (f = g durchgehend)</translation>
+    </message>
+    <message>
+        <source>a curve is not defined everywhere on [a, b]</source>
+        <translation>eine Kurve ist nicht überall auf [a, b] definiert</translation>
+    </message>
+    <message>
+        <source>f - g jumps across 0 without crossing it near x = %1</source>
+        <translation>f - g springt über 0, ohne es zu kreuzen, nahe x = %1</translation>
+    </message>
+    <message>
+        <source>the integral of f - g does not settle between x = %1 and x = %2 (f - g is unbounded there, or oscillates faster than the adaptive rule can follow)</source>
+        <translation>das Integral von f - g pendelt sich zwischen x = %1 und x = %2 nicht ein (f - g ist dort unbeschränkt oder schwingt schneller, als die adaptive Regel folgen kann)</translation>
+    </message>
+    <message>
+        <source>No area: %1.</source>
+        <translation>Keine Fläche: %1.</translation>
+    </message>
+    <message>
+        <source>Signed area %1 (adaptive Gauss-Kronrod, 61 points, split at the crossings)</source>
+        <translation>Orientierte Fläche %1 (adaptives Gauß-Kronrod, 61 Punkte, an den Schnittpunkten geteilt)</translation>
+    </message>
+    <message>
+        <source>no value: %1</source>
+        <translation>kein Wert: %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <extracomment>a convergence table&apos;s cell: the error is below the reference&apos;s own accuracy %1</extracomment>
+        <translation>unter %1</translation>
+    </message>
+    <message>
+        <source>(reference)</source>
+        <extracomment>a convergence table&apos;s cell: the row&apos;s value is the reference itself</extracomment>
+        <translation>(Referenz)</translation>
+    </message>
+    <message>
+        <source>round-off</source>
+        <extracomment>a convergence table&apos;s cell in place of a ratio, explained by the round-off note under the table</extracomment>
+        <translation>Rundung</translation>
+    </message>
+    <message>
+        <source>round-off: an error below %1 is mostly the rounding of double-precision arithmetic over the steps, not the method&apos;s own error, so its ratio is not shown.</source>
+        <translation>Rundung: ein Fehler unter %1 ist vor allem die Rundung der Arithmetik mit doppelter Genauigkeit über die Schritte, nicht der Fehler des Verfahrens selbst; sein Verhältnis wird daher nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>slope %1</source>
+        <extracomment>the label of a reference line of slope -%1 on the log-log plot</extracomment>
+        <translation>Steigung %1</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>undefined at x = %1</source>
+        <translation>nicht definiert bei x = %1</translation>
+    </message>
+    <message>
+        <source>error value</source>
+        <translation>Fehlerwert</translation>
+    </message>
+    <message>
+        <source>The function is not defined everywhere on the interval (for example at x = %1): the integral does not exist there.</source>
+        <translation>Die Funktion ist nicht überall auf dem Intervall definiert (zum Beispiel bei x = %1): das Integral existiert dort nicht.</translation>
+    </message>
+    <message>
+        <source>The function is unbounded on the interval: the integral does not exist there.</source>
+        <translation>Die Funktion ist auf dem Intervall unbeschränkt: das Integral existiert dort nicht.</translation>
+    </message>
+    <message>
+        <source>Exact value %1 (adaptive Gauss-Kronrod, 61 points)</source>
+        <translation>Exakter Wert %1 (adaptives Gauß-Kronrod, 61 Punkte)</translation>
+    </message>
+    <message>
+        <source>The integral cannot be computed: %1.</source>
+        <translation>Das Integral kann nicht berechnet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Reference endpoint y = %1 (adaptive Runge-Kutta-Fehlberg 7(8) in extended precision; accurate to %2)</source>
+        <translation>Referenz-Endpunkt y = %1 (adaptives Runge-Kutta-Fehlberg 7(8) in erweiterter Genauigkeit; genau bis %2)</translation>
+    </message>
+    <message>
+        <source>The curve meets a vertical slope before the end x: there is no endpoint to compare with.</source>
+        <translation>Die Kurve trifft vor dem End-x auf eine senkrechte Steigung: es gibt keinen Endpunkt zum Vergleich.</translation>
+    </message>
+    <message>
+        <source>The reference cannot be computed: %1.</source>
+        <translation>Die Referenz kann nicht berechnet werden: %1.</translation>
+    </message>
+    <message>
+        <source>The adaptive integration could not reach the end x (the slope grows without bound).</source>
+        <translation>Die adaptive Integration konnte das End-x nicht erreichen (die Steigung wächst unbeschränkt).</translation>
+    </message>
+    <message>
+        <source>%1 (%2 steps)</source>
+        <extracomment>a row of the step methods&apos; table: the step h (%1) and how many steps reach the end x (%2)</extracomment>
+        <translation>%1 (%2 Schritte)</translation>
+    </message>
+    <message>
+        <source>meets a vertical slope</source>
+        <translation>trifft eine senkrechte Steigung</translation>
+    </message>
+    <message>
+        <source>leaves the window</source>
+        <translation>verlässt das Fenster</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>which of two typed texts a refusal is about (&quot;dy: missing &apos;)&apos; at 3&quot;): %1 names the text (dy, dx, x(t), y(t)) and %2 is the refusal</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The window&apos;s limits are not numbers in order.</source>
+        <translation>Die Grenzen des Fensters sind keine geordneten Zahlen.</translation>
+    </message>
+    <message>
+        <source>Zoomed out as far as the graph goes: the window is at most 1E+12 wide and high.</source>
+        <translation>So weit verkleinert, wie der Graph reicht: das Fenster ist höchstens 1E+12 breit und hoch.</translation>
+    </message>
+    <message>
+        <source>Zoomed in as far as the arithmetic can show: a closer window would draw rounding noise.</source>
+        <translation>So weit vergrößert, wie die Arithmetik zeigen kann: ein engeres Fenster würde Rundungsrauschen zeichnen.</translation>
+    </message>
+    <message>
+        <source>raise or lower %1</source>
+        <translation>%1 erhöhen oder verringern</translation>
+    </message>
+    <message>
+        <source>Drawn: %1.</source>
+        <translation>Gezeichnet: %1.</translation>
+    </message>
+    <message>
+        <source>the typed function y = %1</source>
+        <translation>die eingegebene Funktion y = %1</translation>
+    </message>
+    <message>
+        <source>%1 with %2</source>
+        <extracomment>a function and its coefficients&apos; values (&quot;y = A*x^2 with A = 1, B = 0&quot;)</extracomment>
+        <translation>%1 mit %2</translation>
+    </message>
+    <message>
+        <source>Playing %1.</source>
+        <translation>Wiedergabe: %1.</translation>
+    </message>
+    <message>
+        <source>Understood: y = %1
+Derivative: y&apos; = %2</source>
+        <translation>Verstanden: y = %1
+Ableitung: y&apos; = %2</translation>
+    </message>
+    <message>
+        <source>undefined: no f(x) at x = %1</source>
+        <translation>nicht definiert: kein f(x) bei x = %1</translation>
+    </message>
+    <message>
+        <source>no slope: f&apos;(x) is undefined at x = %1</source>
+        <translation>keine Steigung: f&apos;(x) ist nicht definiert bei x = %1</translation>
+    </message>
+    <message>
+        <source> Not drawn at this window: %1.</source>
+        <translation> In diesem Fenster nicht gezeichnet: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be drawn from here: %1.</source>
+        <translation>Kann von hier aus nicht gezeichnet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be taken: %1</source>
+        <translation>Nicht übernommen: %1</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <extracomment>a convergence table&apos;s cell: the error of the value above it</extracomment>
+        <translation>Fehler %1</translation>
+    </message>
+    <message>
+        <source>ratio %1</source>
+        <extracomment>a convergence table&apos;s cell: the previous row&apos;s error over this row&apos;s</extracomment>
+        <translation>Verhältnis %1</translation>
+    </message>
+    <message>
+        <source>Error against the number of partitions, log-log</source>
+        <translation>Fehler gegen die Anzahl der Teilintervalle, doppelt logarithmisch</translation>
+    </message>
+    <message>
+        <source>steps</source>
+        <extracomment>the horizontal axis of the step methods&apos; convergence plot</extracomment>
+        <translation>Schritte</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <extracomment>the vertical axis of a convergence plot</extracomment>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>%1 error</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s errors</extracomment>
+        <translation>Fehler %1</translation>
+    </message>
+    <message>
+        <source>%1 ratio</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s ratios of successive errors</extracomment>
+        <translation>Verhältnis %1</translation>
+    </message>
+    <message>
+        <source>No errors to plot: %1</source>
+        <translation>Keine Fehler zum Zeichnen: %1</translation>
+    </message>
+    <message>
+        <source>%1: too few measurable errors for a slope</source>
+        <translation>%1: zu wenige messbare Fehler für eine Steigung</translation>
+    </message>
+    <message>
+        <source>%1: slope %2 (expected -%3)</source>
+        <translation>%1: Steigung %2 (erwartet -%3)</translation>
+    </message>
+    <message>
+        <source>%1: slope %2</source>
+        <translation>%1: Steigung %2</translation>
+    </message>
+    <message>
+        <source>g(x) = %1 cannot be read: %2.</source>
+        <translation>g(x) = %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not defined at x = %2</source>
+        <translation>%1 ist bei x = %2 nicht definiert</translation>
+    </message>
+    <message>
+        <source>%1 is not defined from x = %2 to x = %3</source>
+        <translation>%1 ist von x = %2 bis x = %3 nicht definiert</translation>
+    </message>
+    <message>
+        <source>Crossings in [a, b]:
+%1</source>
+        <translation>Schnittpunkte in [a, b]:
+%1</translation>
+    </message>
+    <message>
+        <source>Understood: dy = %1,  dx = %2</source>
+        <translation>Verstanden: dy = %1,  dx = %2</translation>
+    </message>
+    <message>
+        <source>Start( %1 , %2 ) </source>
+        <translation>Start( %1 , %2 ) </translation>
+    </message>
+    <message>
+        <source>the curve from (%1,%2)</source>
+        <translation>die Kurve ab (%1,%2)</translation>
+    </message>
+    <message>
+        <source>EndPt (%1,%2</source>
+        <translation>Endpunkt (%1,%2</translation>
+    </message>
+    <message>
+        <source>Type numbers for a, L and ε.</source>
+        <translation>Geben Sie Zahlen für a, L und ε ein.</translation>
+    </message>
+    <message>
+        <source>The window&apos;s x limits must be numbers, the minimum below the maximum.</source>
+        <translation>Die x-Grenzen des Fensters müssen Zahlen sein, das Minimum unter dem Maximum.</translation>
+    </message>
+    <message>
+        <source>   leaves at x = %1</source>
+        <translation>   verlässt bei x = %1</translation>
+    </message>
+    <message>
+        <source>ε = %1   no δ</source>
+        <translation>ε = %1   kein δ</translation>
+    </message>
+    <message>
+        <source>Limits by ε and δ of %1, a = %2, L = %3, ε = %4.</source>
+        <translation>Grenzwerte mit ε und δ von %1, a = %2, L = %3, ε = %4.</translation>
+    </message>
+    <message>
+        <source>slope = %1</source>
+        <translation>Steigung = %1</translation>
+    </message>
+    <message>
+        <source>Slope =%1</source>
+        <translation>Steigung =%1</translation>
+    </message>
+    <message>
+        <source>the tangent at x = %1</source>
+        <translation>die Tangente bei x = %1</translation>
+    </message>
+    <message>
+        <source>Mean value theorem for %1 on [%2, %3].</source>
+        <translation>Mittelwertsatz für %1 auf [%2, %3].</translation>
+    </message>
+    <message>
+        <source>the guess x = %1</source>
+        <translation>der Schätzwert x = %1</translation>
+    </message>
+    <message>
+        <source>Newton&apos;s method on %1.</source>
+        <translation>Newton-Verfahren für %1.</translation>
+    </message>
+    <message>
+        <source>No guesses yet; first guess box: %1.</source>
+        <translation>Noch keine Schätzwerte; Feld für den ersten Schätzwert: %1.</translation>
+    </message>
+    <message>
+        <source>Guesses: %1.</source>
+        <translation>Schätzwerte: %1.</translation>
+    </message>
+    <message>
+        <source>(undefined at t = %1)</source>
+        <translation>(nicht definiert bei t = %1)</translation>
+    </message>
+    <message>
+        <source>the point at t = %1</source>
+        <translation>der Punkt bei t = %1</translation>
+    </message>
+    <message>
+        <source>the curve %1, %2 for t from %3 to %4</source>
+        <translation>die Kurve %1, %2 für t von %3 bis %4</translation>
+    </message>
+    <message>
+        <source>Understood: x = %1,  y = %2</source>
+        <translation>Verstanden: x = %1,  y = %2</translation>
+    </message>
+    <message>
+        <source>%1 bars</source>
+        <extracomment>a sum&apos;s bars as drawn (&quot;Left Endpoint bars&quot;)</extracomment>
+        <translation>Balken %1</translation>
+    </message>
+    <message>
+        <source>%1 bars of %2</source>
+        <translation>Balken %1 von %2</translation>
+    </message>
+    <message>
+        <source>Delta x = %1</source>
+        <translation>Delta x = %1</translation>
+    </message>
+    <message>
+        <source>Delta x = %1, not a number</source>
+        <translation>Delta x = %1, keine Zahl</translation>
+    </message>
+    <message>
+        <source>the secant from x = %1</source>
+        <translation>die Sekante ab x = %1</translation>
+    </message>
+    <message>
+        <source>Tangent problem for %1 at x = %2, Delta x = %3.</source>
+        <translation>Tangentenproblem für %1 bei x = %2, Delta x = %3.</translation>
+    </message>
+    <message>
+        <source>Secant through %1: %2.</source>
+        <translation>Sekante durch %1: %2.</translation>
+    </message>
+    <message>
+        <source>No Taylor polynomial: %1.</source>
+        <translation>Kein Taylorpolynom: %1.</translation>
+    </message>
+    <message>
+        <source>Taylor polynomials of %1.</source>
+        <translation>Taylorpolynome von %1.</translation>
+    </message>
+    <message>
+        <source>No terms yet; centre box: %1.</source>
+        <translation>Noch keine Terme; Feld der Entwicklungsstelle: %1.</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>the last of a list of screens (&quot;..., Newton&apos;s method and Taylor polynomials&quot;)</extracomment>
+        <translation>und %1</translation>
+    </message>
+    <message>
+        <source>A launcher opens %1 demonstration screens: %2.</source>
+        <translation>Ein Startfenster öffnet %1 Demonstrationsbildschirme: %2.</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <extracomment>a sum&apos;s rule (left endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <extracomment>a sum&apos;s rule (right endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Trapezoid</source>
+        <translation>Trapez</translation>
+    </message>
+    <message>
+        <source>Simpson</source>
+        <translation>Simpson</translation>
+    </message>
+    <message>
+        <source>The step was not added: %1.</source>
+        <translation>Der Schritt wurde nicht hinzugefügt: %1.</translation>
+    </message>
+    <message>
+        <source>Calculus demonstrations for the classroom. %1
+Qt&apos;s standard options (-platform, -style, ...) are accepted.</source>
+        <translation>Demonstrationen zur Analysis für den Unterricht. %1
+Die Standardoptionen von Qt (-platform, -style, ...) werden akzeptiert.</translation>
+    </message>
+    <message>
+        <source>lesson</source>
+        <extracomment>the name of the command line&apos;s argument in `plotto --help`</extracomment>
+        <translation>Lektion</translation>
+    </message>
+    <message>
+        <source>A lesson to open (a .plotto file).</source>
+        <translation>Eine zu öffnende Lektion (eine .plotto-Datei).</translation>
+    </message>
+    <message>
+        <source>[lesson]</source>
+        <translation>[Lektion]</translation>
+    </message>
+    <message>
+        <source>Lists the demonstration screens, one a line in teaching order, separated by tabs: key, button, menu entry, classic or addition (an addition opens from More Demonstrations), the entry&apos;s Alt letter.</source>
+        <translation>Listet die Demonstrationsbildschirme auf, einen pro Zeile in Unterrichtsreihenfolge, durch Tabulatoren getrennt: Schlüssel, Schaltfläche, Menüeintrag, klassisch oder Ergänzung (eine Ergänzung öffnet sich über Mehr Demonstrationen), der Alt-Buchstabe des Eintrags.</translation>
+    </message>
+    <message>
+        <source>Opens a screen at the start: %1.</source>
+        <translation>Öffnet beim Start einen Bildschirm: %1.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <extracomment>the value of --screen in `plotto --help`</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Writes the lesson as a worksheet to a PDF file, one step a page, and ends, with no window shown.</source>
+        <translation>Schreibt die Lektion als Arbeitsblatt in eine PDF-Datei, einen Schritt pro Seite, und endet, ohne ein Fenster zu zeigen.</translation>
+    </message>
+    <message>
+        <source>file.pdf</source>
+        <translation>datei.pdf</translation>
+    </message>
+    <message>
+        <source>With --worksheet: leaves the results as boxes to fill in, and writes the answers to a second file (NAME-answers.pdf).</source>
+        <translation>Mit --worksheet: lässt die Ergebnisse als auszufüllende Kästchen und schreibt die Lösungen in eine zweite Datei (NAME-answers.pdf).</translation>
+    </message>
+    <message>
+        <source>Shows the program in a language: %1 (English is the default; without this, the language chosen in Tools, Language, else the desktop&apos;s).</source>
+        <translation>Zeigt das Programm in einer Sprache: %1 (Englisch ist die Vorgabe; ohne diese Option die unter Werkzeuge, Sprache gewählte, sonst die des Desktops).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <extracomment>the value of --lang in `plotto --help`</extracomment>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>addition</source>
+        <extracomment>a screen&apos;s kind in `plotto --screens`: one of the seed&apos;s eight, or one added since</extracomment>
+        <translation>Ergänzung</translation>
+    </message>
+    <message>
+        <source>classic</source>
+        <translation>klassisch</translation>
+    </message>
+    <message>
+        <source>%1: answers</source>
+        <translation>%1: Lösungen</translation>
+    </message>
+    <message>
+        <source>%1, and %2 or %3, both the natural logarithm</source>
+        <translation>%1 sowie %2 oder %3, beide der natürliche Logarithmus</translation>
+    </message>
+    <message>
+        <source>A to E</source>
+        <translation>A bis E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Orientiert: f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Betrag: |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A bis F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>verlässt bei x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Neuer Term</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Lagrange-Schranke</translation>
+    </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 ist %2. Drücken erhöht um eins; die Aktion Verringern senkt um eins.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 enthält %2, was keine Zahl ist.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 Streifen sind das Höchste, was dieser Bildschirm summiert.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>der Bildschirm hat kein Steuerelement namens &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>das Feld &apos;%1&apos; kann %2 nicht aufnehmen</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>die Bildlaufleiste &apos;%1&apos; kann diese Stellung nicht annehmen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; ist angekreuzt oder nicht: true oder false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>der Bildschirm hat keinen Menüeintrag &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>der Bildschirm hat keine Schaltfläche &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Das ist keine Lektion: %1 bei Zeichen %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>Die Lektion hat keine gültige Versionsnummer.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Schritt %1: unbekannter Bildschirm &apos;%2&apos; (die Bildschirme sind %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Schritt %1: eine Aktion nennt keine zu klickende Schaltfläche und keinen zu wählenden Menüeintrag.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>Die Lektion kann nicht nach %1 geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>Die Lektion konnte nicht nach %1 gespeichert werden: %2. Dort wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>Die Lektion %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 ist zu groß für eine Lektion.</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Zeigt die Hilfe zu den Kommandozeilenoptionen.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Zeigt die Hilfe einschließlich der Qt-eigenen Optionen.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Zeigt die Versionsinformation.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
     </message>
 </context>
 </TS>

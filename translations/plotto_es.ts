@@ -92,20 +92,12 @@
         <translation>Gráfica</translation>
     </message>
     <message>
-        <source>raise or lower </source>
-        <translation>subir o bajar </translation>
-    </message>
-    <message>
         <source>Window: x from %1 to %2, y from %3 to %4.</source>
         <translation>Ventana: x de %1 a %2, y de %3 a %4.</translation>
     </message>
     <message>
         <source>And %1 more drawings.</source>
         <translation>Y %1 dibujos más.</translation>
-    </message>
-    <message>
-        <source>the typed function y = </source>
-        <translation>la función escrita y = </translation>
     </message>
     <message>
         <source>y = 0 (no function chosen)</source>
@@ -204,10 +196,6 @@
         <translation>Todavía no hay nada dibujado que escuchar.</translation>
     </message>
     <message>
-        <source>Playing </source>
-        <translation>Reproduciendo </translation>
-    </message>
-    <message>
         <source>No sound device: the curve cannot be heard here. Left and Right still walk along it.</source>
         <translation>No hay dispositivo de sonido: aquí no se puede oír la curva. Izquierda y Derecha siguen recorriéndola.</translation>
     </message>
@@ -260,26 +248,8 @@
         <translation>Escriba una función y = f(x)</translation>
     </message>
     <message>
-        <source>Understood: y = </source>
-        <translation>Entendido: y = </translation>
-    </message>
-    <message>
-        <source>
-Derivative: y&apos; = </source>
-        <translation>
-Derivada: y&apos; = </translation>
-    </message>
-    <message>
         <source>This screen does not graph a function y = f(x).</source>
         <translation>Esta pantalla no grafica una función y = f(x).</translation>
-    </message>
-    <message>
-        <source>undefined: no f(x) at x = </source>
-        <translation>indefinida: no hay f(x) en x = </translation>
-    </message>
-    <message>
-        <source>no slope: f&apos;(x) is undefined at x = </source>
-        <translation>sin pendiente: f&apos;(x) no está definida en x = </translation>
     </message>
     <message>
         <source>cannot be computed: the numbers are too large</source>
@@ -310,16 +280,8 @@ Derivada: y&apos; = </translation>
         <translation>A&amp;delante</translation>
     </message>
     <message>
-        <source> Not drawn at this window: </source>
-        <translation> No dibujado en esta ventana: </translation>
-    </message>
-    <message>
         <source> Some drawings made before cannot be drawn again at a new window: press the screen&apos;s buttons to draw them here.</source>
         <translation> Algunos dibujos hechos antes no se pueden volver a dibujar en una ventana nueva: pulse los botones de la pantalla para dibujarlos aquí.</translation>
-    </message>
-    <message>
-        <source>Cannot be drawn from here: </source>
-        <translation>No se puede dibujar desde aquí: </translation>
     </message>
     <message>
         <source>The window&apos;s limits are not numbers: type them first.</source>
@@ -350,10 +312,6 @@ Derivada: y&apos; = </translation>
         <translation>Vista previa</translation>
     </message>
     <message>
-        <source>Cannot be taken: </source>
-        <translation>No se puede tomar: </translation>
-    </message>
-    <message>
         <source>Error against the number of steps, log-log</source>
         <translation>Error frente al número de pasos, log-log</translation>
     </message>
@@ -362,28 +320,8 @@ Derivada: y&apos; = </translation>
         <translation>Re&amp;calcular</translation>
     </message>
     <message>
-        <source>Error against the number of %1, log-log</source>
-        <translation>Error frente al número de %1, log-log</translation>
-    </message>
-    <message>
         <source>slope -%1</source>
         <translation>pendiente -%1</translation>
-    </message>
-    <message>
-        <source>No errors to plot: </source>
-        <translation>No hay errores que graficar: </translation>
-    </message>
-    <message>
-        <source> (expected -%1)</source>
-        <translation> (se espera -%1)</translation>
-    </message>
-    <message>
-        <source>: too few measurable errors for a slope</source>
-        <translation>: muy pocos errores medibles para una pendiente</translation>
-    </message>
-    <message>
-        <source>: slope </source>
-        <translation>: pendiente </translation>
     </message>
     <message>
         <source>Con&amp;vergence</source>
@@ -614,12 +552,6 @@ Derivada: y&apos; = </translation>
         <translation>f y g no se cortan en [a, b].</translation>
     </message>
     <message>
-        <source>Crossings in [a, b]:
-</source>
-        <translation>Cortes en [a, b]:
-</translation>
-    </message>
-    <message>
         <source>n odd</source>
         <translation>n impar</translation>
     </message>
@@ -740,14 +672,6 @@ Derivada: y&apos; = </translation>
         <translation> Con dx = 1 el campo es el campo direccional de dy/dx = dy.</translation>
     </message>
     <message>
-        <source>Understood: dy = </source>
-        <translation>Entendido: dy = </translation>
-    </message>
-    <message>
-        <source>Start( </source>
-        <translation>Inicio( </translation>
-    </message>
-    <message>
         <source>Enter x coordinate:</source>
         <translation>Coordenada x:</translation>
     </message>
@@ -852,16 +776,8 @@ Derivada: y&apos; = </translation>
         <translation>el campo direccional</translation>
     </message>
     <message>
-        <source>the curve from (</source>
-        <translation>la curva desde (</translation>
-    </message>
-    <message>
         <source>an integral curve</source>
         <translation>una curva integral</translation>
-    </message>
-    <message>
-        <source>EndPt (</source>
-        <translation>Punto final (</translation>
     </message>
     <message>
         <source>Slope Fields</source>
@@ -1032,10 +948,6 @@ Derivada: y&apos; = </translation>
         <translation>   (el borde de la ventana)</translation>
     </message>
     <message>
-        <source>   leaves at x = </source>
-        <translation>   sale en x = </translation>
-    </message>
-    <message>
         <source>near a</source>
         <translation>cerca de a</translation>
     </message>
@@ -1050,10 +962,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>the point a</source>
         <translation>el punto a</translation>
-    </message>
-    <message>
-        <source>Limits by ε and δ of </source>
-        <translation>Límites con ε y δ de </translation>
     </message>
     <message>
         <source>This screen shows what the limit of f(x) as x approaches a means: for every ε &gt; 0 there is a δ &gt; 0 such that every x with 0 &lt; |x - a| &lt; δ has |f(x) - L| &lt; ε.  You choose ε; the screen finds the largest δ.</source>
@@ -1140,18 +1048,6 @@ Derivada: y&apos; = </translation>
         <translation>¡ERROR!  0/0</translation>
     </message>
     <message>
-        <source>slope = </source>
-        <translation>pendiente = </translation>
-    </message>
-    <message>
-        <source>Slope =</source>
-        <translation>Pendiente =</translation>
-    </message>
-    <message>
-        <source>the tangent at x = </source>
-        <translation>la tangente en x = </translation>
-    </message>
-    <message>
         <source>Enter an x value to check</source>
         <translation>Escriba un valor de x para comprobar</translation>
     </message>
@@ -1190,10 +1086,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>There are some accuracy considerations when using [Find c].  The slopes are compared to the nearest 0.001.  The calculated slope from the end points may differ from the slope of the tangent line.  Some MVT points may be missed due the accuracy when scannning through the function for the points.  This usually does not happen unless your interval is wide and there are rapid fluctuations like sin(20x).</source>
         <translation>Hay algunas cuestiones de precisión al usar [Hallar c]. Las pendientes se comparan con una precisión de 0,001. La pendiente calculada a partir de los extremos puede diferir de la pendiente de la recta tangente. Algunos puntos del TVM pueden pasarse por alto debido a la precisión al recorrer la función en busca de los puntos. Esto no suele ocurrir salvo que el intervalo sea ancho y haya oscilaciones rápidas como en sin(20x).</translation>
-    </message>
-    <message>
-        <source>Mean value theorem for </source>
-        <translation>Teorema del valor medio para </translation>
     </message>
     <message>
         <source>Secant from %1 to %2, %3.</source>
@@ -1248,10 +1140,6 @@ Derivada: y&apos; = </translation>
         <translation> (demasiado grande)</translation>
     </message>
     <message>
-        <source>the guess x = </source>
-        <translation>la aproximación x = </translation>
-    </message>
-    <message>
         <source>This guess failed due to zero for the slope</source>
         <translation>Esta aproximación falló porque la pendiente es cero</translation>
     </message>
@@ -1294,14 +1182,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Zoom in or change the window and Apply again.</source>
         <translation>Acerque o cambie la ventana y vuelva a aplicar.</translation>
-    </message>
-    <message>
-        <source>Newton&apos;s method on </source>
-        <translation>Método de Newton sobre </translation>
-    </message>
-    <message>
-        <source>No guesses yet; first guess box: </source>
-        <translation>Aún no hay aproximaciones; casilla de la primera: </translation>
     </message>
     <message>
         <source>the first guess</source>
@@ -1368,32 +1248,12 @@ Derivada: y&apos; = </translation>
         <translation>Máximo superado</translation>
     </message>
     <message>
-        <source>(undefined at t = </source>
-        <translation>(indefinida en t = </translation>
-    </message>
-    <message>
-        <source>the point at t = </source>
-        <translation>el punto en t = </translation>
-    </message>
-    <message>
-        <source>the curve </source>
-        <translation>la curva </translation>
-    </message>
-    <message>
-        <source> for t from </source>
-        <translation> para t de </translation>
-    </message>
-    <message>
         <source>the parametric curve</source>
         <translation>la curva paramétrica</translation>
     </message>
     <message>
         <source>Type a parametric curve</source>
         <translation>Escriba una curva paramétrica</translation>
-    </message>
-    <message>
-        <source>Understood: x = </source>
-        <translation>Entendido: x = </translation>
     </message>
     <message>
         <source>This screen allows you to graph parametric equations by defining the function for the x value and another equation for the y value.  The x and y values are functions of the variable t.</source>
@@ -1572,24 +1432,12 @@ Derivada: y&apos; = </translation>
         <translation>Partes no pares</translation>
     </message>
     <message>
-        <source>undefined at x = </source>
-        <translation>indefinida en x = </translation>
-    </message>
-    <message>
         <source>= error!</source>
         <translation>= ¡error!</translation>
     </message>
     <message>
         <source>Working</source>
         <translation>Calculando</translation>
-    </message>
-    <message>
-        <source> bars</source>
-        <translation> barras</translation>
-    </message>
-    <message>
-        <source> bars of </source>
-        <translation> barras de </translation>
     </message>
     <message>
         <source>= too large</source>
@@ -1720,14 +1568,6 @@ Derivada: y&apos; = </translation>
         <translation>Ecuación de la recta</translation>
     </message>
     <message>
-        <source>, not a number</source>
-        <translation>, no es un número</translation>
-    </message>
-    <message>
-        <source>the secant from x = </source>
-        <translation>la secante desde x = </translation>
-    </message>
-    <message>
         <source>This screen is to demonstrate the classic slope of the tangent line problem.  You may select any function from the menu.  Choose values for the A,B,...,E variables for your function and Plotto.</source>
         <translation>Esta pantalla sirve para demostrar el problema clásico de la pendiente de la recta tangente. Puede elegir cualquier función del menú. Elija valores para las variables A,B,...,E de su función y pulse Plotto.</translation>
     </message>
@@ -1754,18 +1594,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Clicking or scrolling the slider will change delta x and graph the secant line when releasing the mouse button.  You may see the points and the equation for each new change of the slider.  Notice the x-dx, x=  , and x+dx at the bottom of the slider.  This should help to know which way your secant line is going.</source>
         <translation>Hacer clic o desplazar el deslizador cambia delta x y traza la recta secante al soltar el botón del ratón. Verá los puntos y la ecuación con cada nuevo cambio del deslizador. Observe x-dx, x=  y x+dx debajo del deslizador. Ayuda a saber hacia dónde va su recta secante.</translation>
-    </message>
-    <message>
-        <source>Tangent problem for </source>
-        <translation>Problema de la tangente para </translation>
-    </message>
-    <message>
-        <source>, Delta x = </source>
-        <translation>, Delta x = </translation>
-    </message>
-    <message>
-        <source>Secant through </source>
-        <translation>Secante por </translation>
     </message>
     <message>
         <source>No exact tangent: x = %1 is not a number.</source>
@@ -1828,10 +1656,6 @@ Derivada: y&apos; = </translation>
         <translation>familia %1</translation>
     </message>
     <message>
-        <source>No Taylor polynomial: </source>
-        <translation>Sin polinomio de Taylor: </translation>
-    </message>
-    <message>
         <source>No Taylor polynomial of degree %1 about a = %2: %3.</source>
         <translation>Sin polinomio de Taylor de grado %1 alrededor de a = %2: %3.</translation>
     </message>
@@ -1866,14 +1690,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>the centre a</source>
         <translation>el centro a</translation>
-    </message>
-    <message>
-        <source>Taylor polynomials of </source>
-        <translation>Polinomios de Taylor de </translation>
-    </message>
-    <message>
-        <source>No terms yet; centre box: </source>
-        <translation>Aún no hay términos; casilla del centro: </translation>
     </message>
     <message>
         <source>Degree %1. Terms: </source>
@@ -2108,10 +1924,6 @@ Derivada: y&apos; = </translation>
         <translation>Añadir a la lección</translation>
     </message>
     <message>
-        <source>The step was not added: </source>
-        <translation>El paso no se añadió: </translation>
-    </message>
-    <message>
         <source>The lesson has no steps yet: add a screen with Tools, Add This Screen to the Lesson.</source>
         <translation>La lección aún no tiene pasos: añada una pantalla con Herramientas, Añadir esta pantalla a la lección.</translation>
     </message>
@@ -2170,10 +1982,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>The lesson has no steps.</source>
         <translation>La lección no tiene pasos.</translation>
-    </message>
-    <message>
-        <source>: answers</source>
-        <translation>: respuestas</translation>
     </message>
     <message>
         <source>Area=</source>
@@ -2254,6 +2062,866 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
         <translation>El paso %1 no se puede mostrar: sus valores %2 (error en tiempo de ejecución %3).</translation>
+    </message>
+    <message>
+        <source>Euler</source>
+        <translation>Euler</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 2</source>
+        <translation>Runge-Kutta 2</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 4</source>
+        <translation>Runge-Kutta 4</translation>
+    </message>
+    <message>
+        <source>nothing typed: type a function, for example x^2 - 4 at %1</source>
+        <translation>no se escribió nada: escriba una función, por ejemplo x^2 - 4 en %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;)&apos; at %1</source>
+        <translation>&apos;)&apos; inesperado en %1</translation>
+    </message>
+    <message>
+        <source>too deeply nested at %1</source>
+        <translation>anidamiento demasiado profundo en %1</translation>
+    </message>
+    <message>
+        <source>missing a term after &apos;%1&apos; at %2</source>
+        <translation>falta un término después de &apos;%1&apos; en %2</translation>
+    </message>
+    <message>
+        <source>missing a term at %1</source>
+        <translation>falta un término en %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;)&apos; at %1</source>
+        <translation>falta un término antes de &apos;)&apos; en %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;%1&apos; at %2</source>
+        <translation>falta un término antes de &apos;%1&apos; en %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;)&apos; at %1</source>
+        <translation>falta &apos;)&apos; en %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (each function takes one argument) at %1</source>
+        <translation>&apos;,&apos; inesperada (cada función toma un solo argumento) en %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (write decimals with a point, and each function takes one argument) at %1</source>
+        <translation>&apos;,&apos; inesperada (escriba los decimales con punto; cada función toma un solo argumento) en %1</translation>
+    </message>
+    <message>
+        <source>unexpected character &apos;%1&apos; at %2</source>
+        <translation>carácter inesperado &apos;%1&apos; en %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;*&apos;: write %1*%2 for a product at %3</source>
+        <translation>falta &apos;*&apos;: escriba %1*%2 para un producto en %3</translation>
+    </message>
+    <message>
+        <source>a number needs a digit at %1</source>
+        <translation>un número necesita una cifra en %1</translation>
+    </message>
+    <message>
+        <source>number too large at %1</source>
+        <translation>número demasiado grande en %1</translation>
+    </message>
+    <message>
+        <source>missing &apos;(&apos; after &apos;%1&apos; at %2</source>
+        <translation>falta &apos;(&apos; después de &apos;%1&apos; en %2</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2 (the coefficients are the capitals A to F)</source>
+        <translation>nombre desconocido &apos;%1&apos; en %2 (los coeficientes son las mayúsculas A a F)</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %4: write %2*%3 for a product</source>
+        <translation>nombre desconocido &apos;%1&apos; en %4: escriba %2*%3 para un producto</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2</source>
+        <translation>nombre desconocido &apos;%1&apos; en %2</translation>
+    </message>
+    <message>
+        <source>too long: at most %1 characters</source>
+        <translation>demasiado largo: como máximo %1 caracteres</translation>
+    </message>
+    <message>
+        <source>cannot be evaluated</source>
+        <translation>no se puede evaluar</translation>
+    </message>
+    <message>
+        <source>no derivative: it cannot be evaluated</source>
+        <translation>sin derivada: no se puede evaluar</translation>
+    </message>
+    <message>
+        <source>no derivative: the expression is undefined everywhere or cannot be differentiated</source>
+        <translation>sin derivada: la expresión no está definida en ningún punto o no se puede derivar</translation>
+    </message>
+    <message>
+        <source>no derivative: part of the expression is 0 where it divides or is a base</source>
+        <translation>sin derivada: una parte de la expresión es 0 donde divide o es una base</translation>
+    </message>
+    <message>
+        <source>no derivative: it uses a function that cannot be differentiated here</source>
+        <translation>sin derivada: usa una función que aquí no se puede derivar</translation>
+    </message>
+    <message>
+        <source>no function chosen</source>
+        <translation>ninguna función elegida</translation>
+    </message>
+    <message>
+        <source>an exponent of %1 is too large to work out exactly</source>
+        <translation>un exponente de %1 es demasiado grande para calcularlo exactamente</translation>
+    </message>
+    <message>
+        <source>part of the expression is 0 where it divides or is a base</source>
+        <translation>una parte de la expresión es 0 donde divide o es una base</translation>
+    </message>
+    <message>
+        <source>the expression cannot be worked out exactly</source>
+        <translation>la expresión no se puede calcular exactamente</translation>
+    </message>
+    <message>
+        <source>the coefficient is too large for double precision</source>
+        <translation>el coeficiente es demasiado grande para la doble precisión</translation>
+    </message>
+    <message>
+        <source>f(a) does not exist</source>
+        <translation>f(a) no existe</translation>
+    </message>
+    <message>
+        <source>f^(%1)(a) does not exist</source>
+        <translation>f^(%1)(a) no existe</translation>
+    </message>
+    <message>
+        <source>the derivative grows too long to work out</source>
+        <translation>la derivada se vuelve demasiado larga para calcularla</translation>
+    </message>
+    <message>
+        <source>a must be a number.</source>
+        <translation>a debe ser un número.</translation>
+    </message>
+    <message>
+        <source>Both sides tend to %1: L = %1 at a = %2 (estimated from x = a +- h, h halving to %3 times max(1, |a|); the last values agree to %4).</source>
+        <translation>Ambos lados tienden a %1: L = %1 en a = %2 (estimado desde x = a +- h, con h reduciéndose a la mitad hasta %3 veces max(1, |a|); los últimos valores coinciden hasta %4).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the right of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f solo está definida a la derecha de a cerca de a; ese lado tiende a %1: L = %1 en a = %2 (un límite lateral).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the left of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f solo está definida a la izquierda de a cerca de a; ese lado tiende a %1: L = %1 en a = %2 (un límite lateral).</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no limit there.</source>
+        <translation>f no está definida cerca de a = %1 en ningún lado: no hay límite ahí.</translation>
+    </message>
+    <message>
+        <source>The left side %1 and the right side %2: no limit at a = %3.</source>
+        <translation>El lado izquierdo %1 y el lado derecho %2: no hay límite en a = %3.</translation>
+    </message>
+    <message>
+        <source>tends to infinity</source>
+        <translation>tiende a infinito</translation>
+    </message>
+    <message>
+        <source>tends to -infinity</source>
+        <translation>tiende a -infinito</translation>
+    </message>
+    <message>
+        <source>tends to %1</source>
+        <extracomment>what one side of a does as x nears a (&quot;The left side tends to 1 and ...&quot;)</extracomment>
+        <translation>tiende a %1</translation>
+    </message>
+    <message>
+        <source>to infinity</source>
+        <translation>a infinito</translation>
+    </message>
+    <message>
+        <source>to -infinity</source>
+        <translation>a -infinito</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <extracomment>the right side&apos;s clause when the left side&apos;s said &quot;tends&quot; (&quot;... and the right side to 2&quot;)</extracomment>
+        <translation>a %1</translation>
+    </message>
+    <message>
+        <source>does not settle</source>
+        <translation>no se estabiliza</translation>
+    </message>
+    <message>
+        <source>is undefined</source>
+        <translation>no está definido</translation>
+    </message>
+    <message>
+        <source>ε must be a positive number.</source>
+        <translation>ε debe ser un número positivo.</translation>
+    </message>
+    <message>
+        <source>a and L must be numbers.</source>
+        <translation>a y L deben ser números.</translation>
+    </message>
+    <message>
+        <source>a = %1 is not inside the window from %2 to %3: move a or widen the window to look for δ.</source>
+        <translation>a = %1 no está dentro de la ventana de %2 a %3: mueva a o amplíe la ventana para buscar δ.</translation>
+    </message>
+    <message>
+        <source>ε = %1 is below what rounding in f lets the computer tell apart from L = %2 (it must be at least %3): no δ is looked for.</source>
+        <translation>ε = %1 está por debajo de lo que el redondeo de f permite al ordenador distinguir de L = %2 (debe ser al menos %3): no se busca δ.</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no δ can be looked for.</source>
+        <translation>f no está definida cerca de a = %1 en ningún lado: no se puede buscar δ.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no δ works: points arbitrarily close to a leave the band (even x = %2 has |f(x) - L| = %3, not below ε).</source>
+        <translation>Para ε = %1 ningún δ sirve: puntos arbitrariamente cercanos a a salen de la banda (incluso x = %2 tiene |f(x) - L| = %3, no menor que ε).</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no x of the window leaves the band: δ = %2 is the distance from a to the window&apos;s nearer edge.</source>
+        <translation>Para ε = %1 ningún x de la ventana sale de la banda: δ = %2 es la distancia de a al borde más cercano de la ventana.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 the largest δ is %2: the graph first leaves the band at x = %3 (f = %4).</source>
+        <translation>Para ε = %1 el mayor δ es %2: la gráfica sale de la banda por primera vez en x = %3 (f = %4).</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the right of a: only x where it is defined count.</source>
+        <translation>%1 f no está definida a la derecha de a: solo cuentan los x donde está definida.</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the left of a: only x where it is defined count.</source>
+        <translation>%1 f no está definida a la izquierda de a: solo cuentan los x donde está definida.</translation>
+    </message>
+    <message>
+        <source>%1 f is undefined at some x of the window: they are not in its domain and do not count.</source>
+        <translation>%1 f no está definida en algunos x de la ventana: no están en su dominio y no cuentan.</translation>
+    </message>
+    <message>
+        <source>x = %1 (f = g at a scanned point)</source>
+        <translation>x = %1 (f = g en un punto explorado)</translation>
+    </message>
+    <message>
+        <source>x = %1 (sign change, TOMS 748)</source>
+        <translation>x = %1 (cambio de signo, TOMS 748)</translation>
+    </message>
+    <message>
+        <source>x = %1 (touch without sign change, Brent minimum of |f - g|)</source>
+        <translation>x = %1 (contacto sin cambio de signo, mínimo de Brent de |f - g|)</translation>
+    </message>
+    <message>
+        <source>x = %1 to %2 (f = g all along)</source>
+        <translation>x = %1 a %2 (f = g en todo el tramo)</translation>
+    </message>
+    <message>
+        <source>a curve is not defined everywhere on [a, b]</source>
+        <translation>una curva no está definida en todo [a, b]</translation>
+    </message>
+    <message>
+        <source>f - g jumps across 0 without crossing it near x = %1</source>
+        <translation>f - g salta por encima de 0 sin cruzarlo cerca de x = %1</translation>
+    </message>
+    <message>
+        <source>the integral of f - g does not settle between x = %1 and x = %2 (f - g is unbounded there, or oscillates faster than the adaptive rule can follow)</source>
+        <translation>la integral de f - g no se estabiliza entre x = %1 y x = %2 (f - g no está acotada ahí, u oscila más rápido de lo que la regla adaptativa puede seguir)</translation>
+    </message>
+    <message>
+        <source>No area: %1.</source>
+        <translation>Sin área: %1.</translation>
+    </message>
+    <message>
+        <source>Signed area %1 (adaptive Gauss-Kronrod, 61 points, split at the crossings)</source>
+        <translation>Área con signo %1 (Gauss-Kronrod adaptativo, 61 puntos, dividida en los cruces)</translation>
+    </message>
+    <message>
+        <source>no value: %1</source>
+        <translation>sin valor: %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <extracomment>a convergence table&apos;s cell: the error is below the reference&apos;s own accuracy %1</extracomment>
+        <translation>menor que %1</translation>
+    </message>
+    <message>
+        <source>(reference)</source>
+        <extracomment>a convergence table&apos;s cell: the row&apos;s value is the reference itself</extracomment>
+        <translation>(referencia)</translation>
+    </message>
+    <message>
+        <source>round-off</source>
+        <extracomment>a convergence table&apos;s cell in place of a ratio, explained by the round-off note under the table</extracomment>
+        <translation>redondeo</translation>
+    </message>
+    <message>
+        <source>round-off: an error below %1 is mostly the rounding of double-precision arithmetic over the steps, not the method&apos;s own error, so its ratio is not shown.</source>
+        <translation>redondeo: un error menor que %1 se debe sobre todo al redondeo de la aritmética de doble precisión a lo largo de los pasos, no al error propio del método, por eso no se muestra su cociente.</translation>
+    </message>
+    <message>
+        <source>slope %1</source>
+        <extracomment>the label of a reference line of slope -%1 on the log-log plot</extracomment>
+        <translation>pendiente %1</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>sin valor</translation>
+    </message>
+    <message>
+        <source>undefined at x = %1</source>
+        <translation>indefinida en x = %1</translation>
+    </message>
+    <message>
+        <source>error value</source>
+        <translation>valor de error</translation>
+    </message>
+    <message>
+        <source>The function is not defined everywhere on the interval (for example at x = %1): the integral does not exist there.</source>
+        <translation>La función no está definida en todo el intervalo (por ejemplo en x = %1): ahí la integral no existe.</translation>
+    </message>
+    <message>
+        <source>The function is unbounded on the interval: the integral does not exist there.</source>
+        <translation>La función no está acotada en el intervalo: ahí la integral no existe.</translation>
+    </message>
+    <message>
+        <source>Exact value %1 (adaptive Gauss-Kronrod, 61 points)</source>
+        <translation>Valor exacto %1 (Gauss-Kronrod adaptativo, 61 puntos)</translation>
+    </message>
+    <message>
+        <source>The integral cannot be computed: %1.</source>
+        <translation>La integral no se puede calcular: %1.</translation>
+    </message>
+    <message>
+        <source>Reference endpoint y = %1 (adaptive Runge-Kutta-Fehlberg 7(8) in extended precision; accurate to %2)</source>
+        <translation>Punto final de referencia y = %1 (Runge-Kutta-Fehlberg 7(8) adaptativo en precisión extendida; exacto hasta %2)</translation>
+    </message>
+    <message>
+        <source>The curve meets a vertical slope before the end x: there is no endpoint to compare with.</source>
+        <translation>La curva encuentra una pendiente vertical antes del x final: no hay punto final con el que comparar.</translation>
+    </message>
+    <message>
+        <source>The reference cannot be computed: %1.</source>
+        <translation>La referencia no se puede calcular: %1.</translation>
+    </message>
+    <message>
+        <source>The adaptive integration could not reach the end x (the slope grows without bound).</source>
+        <translation>La integración adaptativa no pudo llegar al x final (la pendiente crece sin límite).</translation>
+    </message>
+    <message>
+        <source>%1 (%2 steps)</source>
+        <extracomment>a row of the step methods&apos; table: the step h (%1) and how many steps reach the end x (%2)</extracomment>
+        <translation>%1 (%2 pasos)</translation>
+    </message>
+    <message>
+        <source>meets a vertical slope</source>
+        <translation>encuentra una pendiente vertical</translation>
+    </message>
+    <message>
+        <source>leaves the window</source>
+        <translation>sale de la ventana</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>which of two typed texts a refusal is about (&quot;dy: missing &apos;)&apos; at 3&quot;): %1 names the text (dy, dx, x(t), y(t)) and %2 is the refusal</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The window&apos;s limits are not numbers in order.</source>
+        <translation>Los límites de la ventana no son números en orden.</translation>
+    </message>
+    <message>
+        <source>Zoomed out as far as the graph goes: the window is at most 1E+12 wide and high.</source>
+        <translation>Alejado hasta donde llega la gráfica: la ventana mide como máximo 1E+12 de ancho y de alto.</translation>
+    </message>
+    <message>
+        <source>Zoomed in as far as the arithmetic can show: a closer window would draw rounding noise.</source>
+        <translation>Acercado hasta donde la aritmética puede mostrar: una ventana más cercana dibujaría ruido de redondeo.</translation>
+    </message>
+    <message>
+        <source>raise or lower %1</source>
+        <translation>subir o bajar %1</translation>
+    </message>
+    <message>
+        <source>Drawn: %1.</source>
+        <translation>Dibujado: %1.</translation>
+    </message>
+    <message>
+        <source>the typed function y = %1</source>
+        <translation>la función escrita y = %1</translation>
+    </message>
+    <message>
+        <source>%1 with %2</source>
+        <extracomment>a function and its coefficients&apos; values (&quot;y = A*x^2 with A = 1, B = 0&quot;)</extracomment>
+        <translation>%1 con %2</translation>
+    </message>
+    <message>
+        <source>Playing %1.</source>
+        <translation>Reproduciendo %1.</translation>
+    </message>
+    <message>
+        <source>Understood: y = %1
+Derivative: y&apos; = %2</source>
+        <translation>Entendido: y = %1
+Derivada: y&apos; = %2</translation>
+    </message>
+    <message>
+        <source>undefined: no f(x) at x = %1</source>
+        <translation>indefinida: no hay f(x) en x = %1</translation>
+    </message>
+    <message>
+        <source>no slope: f&apos;(x) is undefined at x = %1</source>
+        <translation>sin pendiente: f&apos;(x) no está definida en x = %1</translation>
+    </message>
+    <message>
+        <source> Not drawn at this window: %1.</source>
+        <translation> No dibujado en esta ventana: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be drawn from here: %1.</source>
+        <translation>No se puede dibujar desde aquí: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be taken: %1</source>
+        <translation>No se puede tomar: %1</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <extracomment>a convergence table&apos;s cell: the error of the value above it</extracomment>
+        <translation>error %1</translation>
+    </message>
+    <message>
+        <source>ratio %1</source>
+        <extracomment>a convergence table&apos;s cell: the previous row&apos;s error over this row&apos;s</extracomment>
+        <translation>cociente %1</translation>
+    </message>
+    <message>
+        <source>Error against the number of partitions, log-log</source>
+        <translation>Error frente al número de particiones, log-log</translation>
+    </message>
+    <message>
+        <source>steps</source>
+        <extracomment>the horizontal axis of the step methods&apos; convergence plot</extracomment>
+        <translation>pasos</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <extracomment>the vertical axis of a convergence plot</extracomment>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>%1 error</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s errors</extracomment>
+        <translation>error de %1</translation>
+    </message>
+    <message>
+        <source>%1 ratio</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s ratios of successive errors</extracomment>
+        <translation>cociente de %1</translation>
+    </message>
+    <message>
+        <source>No errors to plot: %1</source>
+        <translation>No hay errores que representar: %1</translation>
+    </message>
+    <message>
+        <source>%1: too few measurable errors for a slope</source>
+        <translation>%1: muy pocos errores medibles para una pendiente</translation>
+    </message>
+    <message>
+        <source>%1: slope %2 (expected -%3)</source>
+        <translation>%1: pendiente %2 (esperada -%3)</translation>
+    </message>
+    <message>
+        <source>%1: slope %2</source>
+        <translation>%1: pendiente %2</translation>
+    </message>
+    <message>
+        <source>g(x) = %1 cannot be read: %2.</source>
+        <translation>g(x) = %1 no se puede leer: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not defined at x = %2</source>
+        <translation>%1 no está definida en x = %2</translation>
+    </message>
+    <message>
+        <source>%1 is not defined from x = %2 to x = %3</source>
+        <translation>%1 no está definida de x = %2 a x = %3</translation>
+    </message>
+    <message>
+        <source>Crossings in [a, b]:
+%1</source>
+        <translation>Cruces en [a, b]:
+%1</translation>
+    </message>
+    <message>
+        <source>Understood: dy = %1,  dx = %2</source>
+        <translation>Entendido: dy = %1,  dx = %2</translation>
+    </message>
+    <message>
+        <source>Start( %1 , %2 ) </source>
+        <translation>Inicio( %1 , %2 ) </translation>
+    </message>
+    <message>
+        <source>the curve from (%1,%2)</source>
+        <translation>la curva desde (%1,%2)</translation>
+    </message>
+    <message>
+        <source>EndPt (%1,%2</source>
+        <translation>Punto final (%1,%2</translation>
+    </message>
+    <message>
+        <source>Type numbers for a, L and ε.</source>
+        <translation>Escriba números para a, L y ε.</translation>
+    </message>
+    <message>
+        <source>The window&apos;s x limits must be numbers, the minimum below the maximum.</source>
+        <translation>Los límites x de la ventana deben ser números, el mínimo por debajo del máximo.</translation>
+    </message>
+    <message>
+        <source>   leaves at x = %1</source>
+        <translation>   sale en x = %1</translation>
+    </message>
+    <message>
+        <source>ε = %1   no δ</source>
+        <translation>ε = %1   ningún δ</translation>
+    </message>
+    <message>
+        <source>Limits by ε and δ of %1, a = %2, L = %3, ε = %4.</source>
+        <translation>Límites con ε y δ de %1, a = %2, L = %3, ε = %4.</translation>
+    </message>
+    <message>
+        <source>slope = %1</source>
+        <translation>pendiente = %1</translation>
+    </message>
+    <message>
+        <source>Slope =%1</source>
+        <translation>Pendiente =%1</translation>
+    </message>
+    <message>
+        <source>the tangent at x = %1</source>
+        <translation>la tangente en x = %1</translation>
+    </message>
+    <message>
+        <source>Mean value theorem for %1 on [%2, %3].</source>
+        <translation>Teorema del valor medio para %1 en [%2, %3].</translation>
+    </message>
+    <message>
+        <source>the guess x = %1</source>
+        <translation>la aproximación x = %1</translation>
+    </message>
+    <message>
+        <source>Newton&apos;s method on %1.</source>
+        <translation>Método de Newton sobre %1.</translation>
+    </message>
+    <message>
+        <source>No guesses yet; first guess box: %1.</source>
+        <translation>Aún no hay aproximaciones; casilla de la primera: %1.</translation>
+    </message>
+    <message>
+        <source>Guesses: %1.</source>
+        <translation>Aproximaciones: %1.</translation>
+    </message>
+    <message>
+        <source>(undefined at t = %1)</source>
+        <translation>(indefinida en t = %1)</translation>
+    </message>
+    <message>
+        <source>the point at t = %1</source>
+        <translation>el punto en t = %1</translation>
+    </message>
+    <message>
+        <source>the curve %1, %2 for t from %3 to %4</source>
+        <translation>la curva %1, %2 para t de %3 a %4</translation>
+    </message>
+    <message>
+        <source>Understood: x = %1,  y = %2</source>
+        <translation>Entendido: x = %1,  y = %2</translation>
+    </message>
+    <message>
+        <source>%1 bars</source>
+        <extracomment>a sum&apos;s bars as drawn (&quot;Left Endpoint bars&quot;)</extracomment>
+        <translation>barras de %1</translation>
+    </message>
+    <message>
+        <source>%1 bars of %2</source>
+        <translation>barras de %1 de %2</translation>
+    </message>
+    <message>
+        <source>Delta x = %1</source>
+        <translation>Delta x = %1</translation>
+    </message>
+    <message>
+        <source>Delta x = %1, not a number</source>
+        <translation>Delta x = %1, no es un número</translation>
+    </message>
+    <message>
+        <source>the secant from x = %1</source>
+        <translation>la secante desde x = %1</translation>
+    </message>
+    <message>
+        <source>Tangent problem for %1 at x = %2, Delta x = %3.</source>
+        <translation>Problema de la tangente para %1 en x = %2, Delta x = %3.</translation>
+    </message>
+    <message>
+        <source>Secant through %1: %2.</source>
+        <translation>Secante por %1: %2.</translation>
+    </message>
+    <message>
+        <source>No Taylor polynomial: %1.</source>
+        <translation>Sin polinomio de Taylor: %1.</translation>
+    </message>
+    <message>
+        <source>Taylor polynomials of %1.</source>
+        <translation>Polinomios de Taylor de %1.</translation>
+    </message>
+    <message>
+        <source>No terms yet; centre box: %1.</source>
+        <translation>Aún no hay términos; casilla del centro: %1.</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>the last of a list of screens (&quot;..., Newton&apos;s method and Taylor polynomials&quot;)</extracomment>
+        <translation>y %1</translation>
+    </message>
+    <message>
+        <source>A launcher opens %1 demonstration screens: %2.</source>
+        <translation>Un lanzador abre %1 pantallas de demostración: %2.</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <extracomment>a sum&apos;s rule (left endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <extracomment>a sum&apos;s rule (right endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Trapezoid</source>
+        <translation>Trapecios</translation>
+    </message>
+    <message>
+        <source>Simpson</source>
+        <translation>Simpson</translation>
+    </message>
+    <message>
+        <source>The step was not added: %1.</source>
+        <translation>El paso no se añadió: %1.</translation>
+    </message>
+    <message>
+        <source>Calculus demonstrations for the classroom. %1
+Qt&apos;s standard options (-platform, -style, ...) are accepted.</source>
+        <translation>Demostraciones de cálculo para el aula. %1
+Se aceptan las opciones estándar de Qt (-platform, -style, ...).</translation>
+    </message>
+    <message>
+        <source>lesson</source>
+        <extracomment>the name of the command line&apos;s argument in `plotto --help`</extracomment>
+        <translation>lección</translation>
+    </message>
+    <message>
+        <source>A lesson to open (a .plotto file).</source>
+        <translation>Una lección que abrir (un archivo .plotto).</translation>
+    </message>
+    <message>
+        <source>[lesson]</source>
+        <translation>[lección]</translation>
+    </message>
+    <message>
+        <source>Lists the demonstration screens, one a line in teaching order, separated by tabs: key, button, menu entry, classic or addition (an addition opens from More Demonstrations), the entry&apos;s Alt letter.</source>
+        <translation>Lista las pantallas de demostración, una por línea en el orden de enseñanza, separadas por tabuladores: clave, botón, entrada de menú, clásica o añadida (una añadida se abre desde Más demostraciones), la letra Alt de la entrada.</translation>
+    </message>
+    <message>
+        <source>Opens a screen at the start: %1.</source>
+        <translation>Abre una pantalla al inicio: %1.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <extracomment>the value of --screen in `plotto --help`</extracomment>
+        <translation>nombre</translation>
+    </message>
+    <message>
+        <source>Writes the lesson as a worksheet to a PDF file, one step a page, and ends, with no window shown.</source>
+        <translation>Escribe la lección como hoja de trabajo en un archivo PDF, un paso por página, y termina sin mostrar ninguna ventana.</translation>
+    </message>
+    <message>
+        <source>file.pdf</source>
+        <translation>archivo.pdf</translation>
+    </message>
+    <message>
+        <source>With --worksheet: leaves the results as boxes to fill in, and writes the answers to a second file (NAME-answers.pdf).</source>
+        <translation>Con --worksheet: deja los resultados como casillas para rellenar y escribe las respuestas en un segundo archivo (NOMBRE-answers.pdf).</translation>
+    </message>
+    <message>
+        <source>Shows the program in a language: %1 (English is the default; without this, the language chosen in Tools, Language, else the desktop&apos;s).</source>
+        <translation>Muestra el programa en un idioma: %1 (el inglés es el predeterminado; sin esta opción, el idioma elegido en Herramientas, Idioma, si no el del escritorio).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <extracomment>the value of --lang in `plotto --help`</extracomment>
+        <translation>código</translation>
+    </message>
+    <message>
+        <source>addition</source>
+        <extracomment>a screen&apos;s kind in `plotto --screens`: one of the seed&apos;s eight, or one added since</extracomment>
+        <translation>añadida</translation>
+    </message>
+    <message>
+        <source>classic</source>
+        <translation>clásica</translation>
+    </message>
+    <message>
+        <source>%1: answers</source>
+        <translation>%1: respuestas</translation>
+    </message>
+    <message>
+        <source>%1, and %2 or %3, both the natural logarithm</source>
+        <translation>%1, y %2 o %3, ambos el logaritmo natural</translation>
+    </message>
+    <message>
+        <source>A to E</source>
+        <translation>A a E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Con signo: f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Sin signo: |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A a F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>sale en x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Término nuevo</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Cota de Lagrange</translation>
+    </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 vale %2. Pulse para subir en uno; la acción de disminuir baja en uno.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 contiene %2, que no es un número.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 franjas es lo máximo que suma esta pantalla.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>la pantalla no tiene ningún control llamado &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>la casilla &apos;%1&apos; no admite %2</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>la barra &apos;%1&apos; no admite esa posición</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; está marcada o no: true o false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>la pantalla no tiene ninguna entrada de menú &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>la pantalla no tiene ningún botón &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Esto no es una lección: %1 en el carácter %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>La lección no tiene un número de versión válido.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Paso %1: pantalla desconocida &apos;%2&apos; (las pantallas son %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Paso %1: una acción no nombra ningún botón que pulsar ni entrada de menú que elegir.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>La lección no se puede escribir en %1: %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>La lección no se pudo guardar en %1: %2. No se cambió nada allí.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>La lección %1 no se puede leer: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 es demasiado grande para ser una lección.</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opciones]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Muestra la ayuda sobre las opciones de la línea de órdenes.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Muestra la ayuda con las opciones propias de Qt.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Muestra la información de la versión.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opción desconocida &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opciones desconocidas: %1.</translation>
     </message>
 </context>
 </TS>

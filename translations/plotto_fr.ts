@@ -92,20 +92,12 @@
         <translation>Graphique</translation>
     </message>
     <message>
-        <source>raise or lower </source>
-        <translation>augmenter ou diminuer </translation>
-    </message>
-    <message>
         <source>Window: x from %1 to %2, y from %3 to %4.</source>
         <translation>Fenêtre : x de %1 à %2, y de %3 à %4.</translation>
     </message>
     <message>
         <source>And %1 more drawings.</source>
         <translation>Et %1 autres tracés.</translation>
-    </message>
-    <message>
-        <source>the typed function y = </source>
-        <translation>la fonction saisie y = </translation>
     </message>
     <message>
         <source>y = 0 (no function chosen)</source>
@@ -204,10 +196,6 @@
         <translation>Rien n&apos;est encore tracé à écouter.</translation>
     </message>
     <message>
-        <source>Playing </source>
-        <translation>Lecture de </translation>
-    </message>
-    <message>
         <source>No sound device: the curve cannot be heard here. Left and Right still walk along it.</source>
         <translation>Aucun périphérique audio : la courbe ne peut pas être entendue ici. Gauche et Droite la parcourent toujours.</translation>
     </message>
@@ -260,26 +248,8 @@
         <translation>Taper une fonction y = f(x)</translation>
     </message>
     <message>
-        <source>Understood: y = </source>
-        <translation>Compris : y = </translation>
-    </message>
-    <message>
-        <source>
-Derivative: y&apos; = </source>
-        <translation>
-Dérivée : y&apos; = </translation>
-    </message>
-    <message>
         <source>This screen does not graph a function y = f(x).</source>
         <translation>Cet écran ne trace pas de fonction y = f(x).</translation>
-    </message>
-    <message>
-        <source>undefined: no f(x) at x = </source>
-        <translation>non définie : pas de f(x) en x = </translation>
-    </message>
-    <message>
-        <source>no slope: f&apos;(x) is undefined at x = </source>
-        <translation>pas de pente : f&apos;(x) n&apos;est pas définie en x = </translation>
     </message>
     <message>
         <source>cannot be computed: the numbers are too large</source>
@@ -310,16 +280,8 @@ Dérivée : y&apos; = </translation>
         <translation>&amp;Suivante</translation>
     </message>
     <message>
-        <source> Not drawn at this window: </source>
-        <translation> Non tracé dans cette fenêtre : </translation>
-    </message>
-    <message>
         <source> Some drawings made before cannot be drawn again at a new window: press the screen&apos;s buttons to draw them here.</source>
         <translation> Certains tracés faits auparavant ne peuvent pas être refaits dans une nouvelle fenêtre : appuyez sur les boutons de l&apos;écran pour les tracer ici.</translation>
-    </message>
-    <message>
-        <source>Cannot be drawn from here: </source>
-        <translation>Impossible de tracer d&apos;ici : </translation>
     </message>
     <message>
         <source>The window&apos;s limits are not numbers: type them first.</source>
@@ -350,10 +312,6 @@ Dérivée : y&apos; = </translation>
         <translation>Aperçu</translation>
     </message>
     <message>
-        <source>Cannot be taken: </source>
-        <translation>Impossible à prendre : </translation>
-    </message>
-    <message>
         <source>Error against the number of steps, log-log</source>
         <translation>Erreur en fonction du nombre de pas, log-log</translation>
     </message>
@@ -362,28 +320,8 @@ Dérivée : y&apos; = </translation>
         <translation>Re&amp;calculer</translation>
     </message>
     <message>
-        <source>Error against the number of %1, log-log</source>
-        <translation>Erreur en fonction du nombre de %1, log-log</translation>
-    </message>
-    <message>
         <source>slope -%1</source>
         <translation>pente -%1</translation>
-    </message>
-    <message>
-        <source>No errors to plot: </source>
-        <translation>Aucune erreur à tracer : </translation>
-    </message>
-    <message>
-        <source> (expected -%1)</source>
-        <translation> (attendu -%1)</translation>
-    </message>
-    <message>
-        <source>: too few measurable errors for a slope</source>
-        <translation> : trop peu d&apos;erreurs mesurables pour une pente</translation>
-    </message>
-    <message>
-        <source>: slope </source>
-        <translation> : pente </translation>
     </message>
     <message>
         <source>Con&amp;vergence</source>
@@ -614,12 +552,6 @@ Dérivée : y&apos; = </translation>
         <translation>f et g ne se coupent pas dans [a, b].</translation>
     </message>
     <message>
-        <source>Crossings in [a, b]:
-</source>
-        <translation>Intersections dans [a, b] :
-</translation>
-    </message>
-    <message>
         <source>n odd</source>
         <translation>n impair</translation>
     </message>
@@ -740,14 +672,6 @@ Dérivée : y&apos; = </translation>
         <translation> Avec dx = 1, le champ est le champ de directions de dy/dx = dy.</translation>
     </message>
     <message>
-        <source>Understood: dy = </source>
-        <translation>Compris : dy = </translation>
-    </message>
-    <message>
-        <source>Start( </source>
-        <translation>Départ( </translation>
-    </message>
-    <message>
         <source>Enter x coordinate:</source>
         <translation>Saisir la coordonnée x :</translation>
     </message>
@@ -852,16 +776,8 @@ Dérivée : y&apos; = </translation>
         <translation>le champ de directions</translation>
     </message>
     <message>
-        <source>the curve from (</source>
-        <translation>la courbe depuis (</translation>
-    </message>
-    <message>
         <source>an integral curve</source>
         <translation>une courbe intégrale</translation>
-    </message>
-    <message>
-        <source>EndPt (</source>
-        <translation>Point final (</translation>
     </message>
     <message>
         <source>Slope Fields</source>
@@ -1032,10 +948,6 @@ Dérivée : y&apos; = </translation>
         <translation>   (le bord de la fenêtre)</translation>
     </message>
     <message>
-        <source>   leaves at x = </source>
-        <translation>   sort en x = </translation>
-    </message>
-    <message>
         <source>near a</source>
         <translation>près de a</translation>
     </message>
@@ -1050,10 +962,6 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>the point a</source>
         <translation>le point a</translation>
-    </message>
-    <message>
-        <source>Limits by ε and δ of </source>
-        <translation>Limites par ε et δ de </translation>
     </message>
     <message>
         <source>This screen shows what the limit of f(x) as x approaches a means: for every ε &gt; 0 there is a δ &gt; 0 such that every x with 0 &lt; |x - a| &lt; δ has |f(x) - L| &lt; ε.  You choose ε; the screen finds the largest δ.</source>
@@ -1140,18 +1048,6 @@ Dérivée : y&apos; = </translation>
         <translation>ERREUR !  0/0</translation>
     </message>
     <message>
-        <source>slope = </source>
-        <translation>pente = </translation>
-    </message>
-    <message>
-        <source>Slope =</source>
-        <translation>Pente =</translation>
-    </message>
-    <message>
-        <source>the tangent at x = </source>
-        <translation>la tangente en x = </translation>
-    </message>
-    <message>
         <source>Enter an x value to check</source>
         <translation>Saisissez une valeur de x à vérifier</translation>
     </message>
@@ -1190,10 +1086,6 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>There are some accuracy considerations when using [Find c].  The slopes are compared to the nearest 0.001.  The calculated slope from the end points may differ from the slope of the tangent line.  Some MVT points may be missed due the accuracy when scannning through the function for the points.  This usually does not happen unless your interval is wide and there are rapid fluctuations like sin(20x).</source>
         <translation>La précision compte quand on utilise [Trouver c]. Les pentes sont comparées à 0,001 près. La pente calculée à partir des extrémités peut différer de la pente de la tangente. Certains points du théorème peuvent être manqués à cause de la précision du balayage de la fonction. Cela n&apos;arrive en général que si l&apos;intervalle est large et qu&apos;il y a des oscillations rapides comme sin(20x).</translation>
-    </message>
-    <message>
-        <source>Mean value theorem for </source>
-        <translation>Théorème des accroissements finis pour </translation>
     </message>
     <message>
         <source>Secant from %1 to %2, %3.</source>
@@ -1248,10 +1140,6 @@ Dérivée : y&apos; = </translation>
         <translation> (trop grand)</translation>
     </message>
     <message>
-        <source>the guess x = </source>
-        <translation>l&apos;estimation x = </translation>
-    </message>
-    <message>
         <source>This guess failed due to zero for the slope</source>
         <translation>Cette estimation a échoué car la pente est nulle</translation>
     </message>
@@ -1294,14 +1182,6 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>Zoom in or change the window and Apply again.</source>
         <translation>Zoomez ou changez la fenêtre et appliquez de nouveau.</translation>
-    </message>
-    <message>
-        <source>Newton&apos;s method on </source>
-        <translation>Méthode de Newton sur </translation>
-    </message>
-    <message>
-        <source>No guesses yet; first guess box: </source>
-        <translation>Pas encore d&apos;estimations ; case de la première estimation : </translation>
     </message>
     <message>
         <source>the first guess</source>
@@ -1368,32 +1248,12 @@ Dérivée : y&apos; = </translation>
         <translation>Maximum dépassé</translation>
     </message>
     <message>
-        <source>(undefined at t = </source>
-        <translation>(non définie en t = </translation>
-    </message>
-    <message>
-        <source>the point at t = </source>
-        <translation>le point en t = </translation>
-    </message>
-    <message>
-        <source>the curve </source>
-        <translation>la courbe </translation>
-    </message>
-    <message>
-        <source> for t from </source>
-        <translation> pour t de </translation>
-    </message>
-    <message>
         <source>the parametric curve</source>
         <translation>la courbe paramétrée</translation>
     </message>
     <message>
         <source>Type a parametric curve</source>
         <translation>Taper une courbe paramétrée</translation>
-    </message>
-    <message>
-        <source>Understood: x = </source>
-        <translation>Compris : x = </translation>
     </message>
     <message>
         <source>This screen allows you to graph parametric equations by defining the function for the x value and another equation for the y value.  The x and y values are functions of the variable t.</source>
@@ -1572,24 +1432,12 @@ Dérivée : y&apos; = </translation>
         <translation>Nombre non pair</translation>
     </message>
     <message>
-        <source>undefined at x = </source>
-        <translation>non définie en x = </translation>
-    </message>
-    <message>
         <source>= error!</source>
         <translation>= erreur !</translation>
     </message>
     <message>
         <source>Working</source>
         <translation>Calcul en cours</translation>
-    </message>
-    <message>
-        <source> bars</source>
-        <translation> rectangles</translation>
-    </message>
-    <message>
-        <source> bars of </source>
-        <translation> rectangles de </translation>
     </message>
     <message>
         <source>= too large</source>
@@ -1720,14 +1568,6 @@ Dérivée : y&apos; = </translation>
         <translation>Équation de la droite</translation>
     </message>
     <message>
-        <source>, not a number</source>
-        <translation>, pas un nombre</translation>
-    </message>
-    <message>
-        <source>the secant from x = </source>
-        <translation>la sécante depuis x = </translation>
-    </message>
-    <message>
         <source>This screen is to demonstrate the classic slope of the tangent line problem.  You may select any function from the menu.  Choose values for the A,B,...,E variables for your function and Plotto.</source>
         <translation>Cet écran sert à illustrer le problème classique de la pente de la tangente. Vous pouvez choisir n&apos;importe quelle fonction dans le menu. Choisissez les valeurs des variables A,B,...,E de votre fonction et cliquez sur Plotto.</translation>
     </message>
@@ -1754,18 +1594,6 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>Clicking or scrolling the slider will change delta x and graph the secant line when releasing the mouse button.  You may see the points and the equation for each new change of the slider.  Notice the x-dx, x=  , and x+dx at the bottom of the slider.  This should help to know which way your secant line is going.</source>
         <translation>Cliquer sur le curseur ou le faire glisser change delta x et trace la sécante au relâchement du bouton de la souris. Vous voyez les points et l&apos;équation à chaque nouveau changement du curseur. Remarquez x-dx, x=  et x+dx sous le curseur. Cela aide à savoir dans quel sens va votre sécante.</translation>
-    </message>
-    <message>
-        <source>Tangent problem for </source>
-        <translation>Problème de la tangente pour </translation>
-    </message>
-    <message>
-        <source>, Delta x = </source>
-        <translation>, Delta x = </translation>
-    </message>
-    <message>
-        <source>Secant through </source>
-        <translation>Sécante par </translation>
     </message>
     <message>
         <source>No exact tangent: x = %1 is not a number.</source>
@@ -1828,10 +1656,6 @@ Dérivée : y&apos; = </translation>
         <translation>famille %1</translation>
     </message>
     <message>
-        <source>No Taylor polynomial: </source>
-        <translation>Pas de polynôme de Taylor : </translation>
-    </message>
-    <message>
         <source>No Taylor polynomial of degree %1 about a = %2: %3.</source>
         <translation>Pas de polynôme de Taylor de degré %1 en a = %2 : %3.</translation>
     </message>
@@ -1866,14 +1690,6 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>the centre a</source>
         <translation>le centre a</translation>
-    </message>
-    <message>
-        <source>Taylor polynomials of </source>
-        <translation>Polynômes de Taylor de </translation>
-    </message>
-    <message>
-        <source>No terms yet; centre box: </source>
-        <translation>Pas encore de termes ; case du centre : </translation>
     </message>
     <message>
         <source>Degree %1. Terms: </source>
@@ -2108,10 +1924,6 @@ Dérivée : y&apos; = </translation>
         <translation>Ajouter à la leçon</translation>
     </message>
     <message>
-        <source>The step was not added: </source>
-        <translation>L&apos;étape n&apos;a pas été ajoutée : </translation>
-    </message>
-    <message>
         <source>The lesson has no steps yet: add a screen with Tools, Add This Screen to the Lesson.</source>
         <translation>La leçon n&apos;a pas encore d&apos;étapes : ajoutez un écran avec Outils, Ajouter cet écran à la leçon.</translation>
     </message>
@@ -2170,10 +1982,6 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>The lesson has no steps.</source>
         <translation>La leçon n&apos;a pas d&apos;étapes.</translation>
-    </message>
-    <message>
-        <source>: answers</source>
-        <translation> : réponses</translation>
     </message>
     <message>
         <source>Area=</source>
@@ -2254,6 +2062,866 @@ Dérivée : y&apos; = </translation>
     <message>
         <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
         <translation>L&apos;étape %1 ne peut pas être affichée : ses valeurs %2 (erreur d&apos;exécution %3).</translation>
+    </message>
+    <message>
+        <source>Euler</source>
+        <translation>Euler</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 2</source>
+        <translation>Runge-Kutta 2</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 4</source>
+        <translation>Runge-Kutta 4</translation>
+    </message>
+    <message>
+        <source>nothing typed: type a function, for example x^2 - 4 at %1</source>
+        <translation>rien n&apos;est saisi : saisissez une fonction, par exemple x^2 - 4 à la position %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;)&apos; at %1</source>
+        <translation>&apos;)&apos; inattendu à la position %1</translation>
+    </message>
+    <message>
+        <source>too deeply nested at %1</source>
+        <translation>imbrication trop profonde à la position %1</translation>
+    </message>
+    <message>
+        <source>missing a term after &apos;%1&apos; at %2</source>
+        <translation>il manque un terme après &apos;%1&apos; à la position %2</translation>
+    </message>
+    <message>
+        <source>missing a term at %1</source>
+        <translation>il manque un terme à la position %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;)&apos; at %1</source>
+        <translation>il manque un terme avant &apos;)&apos; à la position %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;%1&apos; at %2</source>
+        <translation>il manque un terme avant &apos;%1&apos; à la position %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;)&apos; at %1</source>
+        <translation>il manque &apos;)&apos; à la position %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (each function takes one argument) at %1</source>
+        <translation>&apos;,&apos; inattendue (chaque fonction prend un seul argument) à la position %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (write decimals with a point, and each function takes one argument) at %1</source>
+        <translation>&apos;,&apos; inattendue (écrivez les décimales avec un point ; chaque fonction prend un seul argument) à la position %1</translation>
+    </message>
+    <message>
+        <source>unexpected character &apos;%1&apos; at %2</source>
+        <translation>caractère inattendu &apos;%1&apos; à la position %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;*&apos;: write %1*%2 for a product at %3</source>
+        <translation>il manque &apos;*&apos; : écrivez %1*%2 pour un produit à la position %3</translation>
+    </message>
+    <message>
+        <source>a number needs a digit at %1</source>
+        <translation>un nombre demande un chiffre à la position %1</translation>
+    </message>
+    <message>
+        <source>number too large at %1</source>
+        <translation>nombre trop grand à la position %1</translation>
+    </message>
+    <message>
+        <source>missing &apos;(&apos; after &apos;%1&apos; at %2</source>
+        <translation>il manque &apos;(&apos; après &apos;%1&apos; à la position %2</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2 (the coefficients are the capitals A to F)</source>
+        <translation>nom inconnu &apos;%1&apos; à la position %2 (les coefficients sont les majuscules A à F)</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %4: write %2*%3 for a product</source>
+        <translation>nom inconnu &apos;%1&apos; à la position %4 : écrivez %2*%3 pour un produit</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2</source>
+        <translation>nom inconnu &apos;%1&apos; à la position %2</translation>
+    </message>
+    <message>
+        <source>too long: at most %1 characters</source>
+        <translation>trop long : au plus %1 caractères</translation>
+    </message>
+    <message>
+        <source>cannot be evaluated</source>
+        <translation>ne peut pas être évaluée</translation>
+    </message>
+    <message>
+        <source>no derivative: it cannot be evaluated</source>
+        <translation>pas de dérivée : elle ne peut pas être évaluée</translation>
+    </message>
+    <message>
+        <source>no derivative: the expression is undefined everywhere or cannot be differentiated</source>
+        <translation>pas de dérivée : l&apos;expression n&apos;est définie nulle part ou ne peut pas être dérivée</translation>
+    </message>
+    <message>
+        <source>no derivative: part of the expression is 0 where it divides or is a base</source>
+        <translation>pas de dérivée : une partie de l&apos;expression vaut 0 là où elle divise ou sert de base</translation>
+    </message>
+    <message>
+        <source>no derivative: it uses a function that cannot be differentiated here</source>
+        <translation>pas de dérivée : elle utilise une fonction qui ne peut pas être dérivée ici</translation>
+    </message>
+    <message>
+        <source>no function chosen</source>
+        <translation>aucune fonction choisie</translation>
+    </message>
+    <message>
+        <source>an exponent of %1 is too large to work out exactly</source>
+        <translation>un exposant de %1 est trop grand pour un calcul exact</translation>
+    </message>
+    <message>
+        <source>part of the expression is 0 where it divides or is a base</source>
+        <translation>une partie de l&apos;expression vaut 0 là où elle divise ou sert de base</translation>
+    </message>
+    <message>
+        <source>the expression cannot be worked out exactly</source>
+        <translation>l&apos;expression ne peut pas être calculée exactement</translation>
+    </message>
+    <message>
+        <source>the coefficient is too large for double precision</source>
+        <translation>le coefficient est trop grand pour la double précision</translation>
+    </message>
+    <message>
+        <source>f(a) does not exist</source>
+        <translation>f(a) n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>f^(%1)(a) does not exist</source>
+        <translation>f^(%1)(a) n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>the derivative grows too long to work out</source>
+        <translation>la dérivée devient trop longue à calculer</translation>
+    </message>
+    <message>
+        <source>a must be a number.</source>
+        <translation>a doit être un nombre.</translation>
+    </message>
+    <message>
+        <source>Both sides tend to %1: L = %1 at a = %2 (estimated from x = a +- h, h halving to %3 times max(1, |a|); the last values agree to %4).</source>
+        <translation>Les deux côtés tendent vers %1 : L = %1 en a = %2 (estimé à partir de x = a +- h, h divisé par deux jusqu&apos;à %3 fois max(1, |a|) ; les dernières valeurs concordent à %4 près).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the right of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f n&apos;est définie qu&apos;à droite de a près de a ; ce côté tend vers %1 : L = %1 en a = %2 (une limite à droite).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the left of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f n&apos;est définie qu&apos;à gauche de a près de a ; ce côté tend vers %1 : L = %1 en a = %2 (une limite à gauche).</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no limit there.</source>
+        <translation>f n&apos;est définie d&apos;aucun côté près de a = %1 : pas de limite en ce point.</translation>
+    </message>
+    <message>
+        <source>The left side %1 and the right side %2: no limit at a = %3.</source>
+        <translation>Le côté gauche %1 et le côté droit %2 : pas de limite en a = %3.</translation>
+    </message>
+    <message>
+        <source>tends to infinity</source>
+        <translation>tend vers l&apos;infini</translation>
+    </message>
+    <message>
+        <source>tends to -infinity</source>
+        <translation>tend vers -l&apos;infini</translation>
+    </message>
+    <message>
+        <source>tends to %1</source>
+        <extracomment>what one side of a does as x nears a (&quot;The left side tends to 1 and ...&quot;)</extracomment>
+        <translation>tend vers %1</translation>
+    </message>
+    <message>
+        <source>to infinity</source>
+        <translation>vers l&apos;infini</translation>
+    </message>
+    <message>
+        <source>to -infinity</source>
+        <translation>vers -l&apos;infini</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <extracomment>the right side&apos;s clause when the left side&apos;s said &quot;tends&quot; (&quot;... and the right side to 2&quot;)</extracomment>
+        <translation>vers %1</translation>
+    </message>
+    <message>
+        <source>does not settle</source>
+        <translation>ne se stabilise pas</translation>
+    </message>
+    <message>
+        <source>is undefined</source>
+        <translation>n&apos;est pas défini</translation>
+    </message>
+    <message>
+        <source>ε must be a positive number.</source>
+        <translation>ε doit être un nombre positif.</translation>
+    </message>
+    <message>
+        <source>a and L must be numbers.</source>
+        <translation>a et L doivent être des nombres.</translation>
+    </message>
+    <message>
+        <source>a = %1 is not inside the window from %2 to %3: move a or widen the window to look for δ.</source>
+        <translation>a = %1 n&apos;est pas dans la fenêtre de %2 à %3 : déplacez a ou élargissez la fenêtre pour chercher δ.</translation>
+    </message>
+    <message>
+        <source>ε = %1 is below what rounding in f lets the computer tell apart from L = %2 (it must be at least %3): no δ is looked for.</source>
+        <translation>ε = %1 est en dessous de ce que l&apos;arrondi de f permet à l&apos;ordinateur de distinguer de L = %2 (il doit valoir au moins %3) : aucun δ n&apos;est cherché.</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no δ can be looked for.</source>
+        <translation>f n&apos;est définie d&apos;aucun côté près de a = %1 : aucun δ ne peut être cherché.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no δ works: points arbitrarily close to a leave the band (even x = %2 has |f(x) - L| = %3, not below ε).</source>
+        <translation>Pour ε = %1 aucun δ ne convient : des points arbitrairement proches de a sortent de la bande (même x = %2 a |f(x) - L| = %3, pas en dessous de ε).</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no x of the window leaves the band: δ = %2 is the distance from a to the window&apos;s nearer edge.</source>
+        <translation>Pour ε = %1 aucun x de la fenêtre ne sort de la bande : δ = %2 est la distance de a au bord le plus proche de la fenêtre.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 the largest δ is %2: the graph first leaves the band at x = %3 (f = %4).</source>
+        <translation>Pour ε = %1 le plus grand δ est %2 : le graphe sort de la bande pour la première fois en x = %3 (f = %4).</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the right of a: only x where it is defined count.</source>
+        <translation>%1 f n&apos;est pas définie à droite de a : seuls comptent les x où elle est définie.</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the left of a: only x where it is defined count.</source>
+        <translation>%1 f n&apos;est pas définie à gauche de a : seuls comptent les x où elle est définie.</translation>
+    </message>
+    <message>
+        <source>%1 f is undefined at some x of the window: they are not in its domain and do not count.</source>
+        <translation>%1 f n&apos;est pas définie en certains x de la fenêtre : ils ne sont pas dans son domaine et ne comptent pas.</translation>
+    </message>
+    <message>
+        <source>x = %1 (f = g at a scanned point)</source>
+        <translation>x = %1 (f = g en un point balayé)</translation>
+    </message>
+    <message>
+        <source>x = %1 (sign change, TOMS 748)</source>
+        <translation>x = %1 (changement de signe, TOMS 748)</translation>
+    </message>
+    <message>
+        <source>x = %1 (touch without sign change, Brent minimum of |f - g|)</source>
+        <translation>x = %1 (contact sans changement de signe, minimum de Brent de |f - g|)</translation>
+    </message>
+    <message>
+        <source>x = %1 to %2 (f = g all along)</source>
+        <translation>x = %1 à %2 (f = g tout du long)</translation>
+    </message>
+    <message>
+        <source>a curve is not defined everywhere on [a, b]</source>
+        <translation>une courbe n&apos;est pas définie partout sur [a, b]</translation>
+    </message>
+    <message>
+        <source>f - g jumps across 0 without crossing it near x = %1</source>
+        <translation>f - g saute par-dessus 0 sans le traverser près de x = %1</translation>
+    </message>
+    <message>
+        <source>the integral of f - g does not settle between x = %1 and x = %2 (f - g is unbounded there, or oscillates faster than the adaptive rule can follow)</source>
+        <translation>l&apos;intégrale de f - g ne se stabilise pas entre x = %1 et x = %2 (f - g n&apos;y est pas bornée, ou oscille plus vite que la règle adaptative ne peut suivre)</translation>
+    </message>
+    <message>
+        <source>No area: %1.</source>
+        <translation>Pas d&apos;aire : %1.</translation>
+    </message>
+    <message>
+        <source>Signed area %1 (adaptive Gauss-Kronrod, 61 points, split at the crossings)</source>
+        <translation>Aire algébrique %1 (Gauss-Kronrod adaptatif, 61 points, découpée aux croisements)</translation>
+    </message>
+    <message>
+        <source>no value: %1</source>
+        <translation>pas de valeur : %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <extracomment>a convergence table&apos;s cell: the error is below the reference&apos;s own accuracy %1</extracomment>
+        <translation>inférieure à %1</translation>
+    </message>
+    <message>
+        <source>(reference)</source>
+        <extracomment>a convergence table&apos;s cell: the row&apos;s value is the reference itself</extracomment>
+        <translation>(référence)</translation>
+    </message>
+    <message>
+        <source>round-off</source>
+        <extracomment>a convergence table&apos;s cell in place of a ratio, explained by the round-off note under the table</extracomment>
+        <translation>arrondi</translation>
+    </message>
+    <message>
+        <source>round-off: an error below %1 is mostly the rounding of double-precision arithmetic over the steps, not the method&apos;s own error, so its ratio is not shown.</source>
+        <translation>arrondi : une erreur inférieure à %1 vient surtout de l&apos;arrondi de l&apos;arithmétique en double précision au fil des pas, non de l&apos;erreur propre de la méthode ; son rapport n&apos;est donc pas affiché.</translation>
+    </message>
+    <message>
+        <source>slope %1</source>
+        <extracomment>the label of a reference line of slope -%1 on the log-log plot</extracomment>
+        <translation>pente %1</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>pas de valeur</translation>
+    </message>
+    <message>
+        <source>undefined at x = %1</source>
+        <translation>non définie en x = %1</translation>
+    </message>
+    <message>
+        <source>error value</source>
+        <translation>valeur d&apos;erreur</translation>
+    </message>
+    <message>
+        <source>The function is not defined everywhere on the interval (for example at x = %1): the integral does not exist there.</source>
+        <translation>La fonction n&apos;est pas définie partout sur l&apos;intervalle (par exemple en x = %1) : l&apos;intégrale n&apos;y existe pas.</translation>
+    </message>
+    <message>
+        <source>The function is unbounded on the interval: the integral does not exist there.</source>
+        <translation>La fonction n&apos;est pas bornée sur l&apos;intervalle : l&apos;intégrale n&apos;y existe pas.</translation>
+    </message>
+    <message>
+        <source>Exact value %1 (adaptive Gauss-Kronrod, 61 points)</source>
+        <translation>Valeur exacte %1 (Gauss-Kronrod adaptatif, 61 points)</translation>
+    </message>
+    <message>
+        <source>The integral cannot be computed: %1.</source>
+        <translation>L&apos;intégrale ne peut pas être calculée : %1.</translation>
+    </message>
+    <message>
+        <source>Reference endpoint y = %1 (adaptive Runge-Kutta-Fehlberg 7(8) in extended precision; accurate to %2)</source>
+        <translation>Point final de référence y = %1 (Runge-Kutta-Fehlberg 7(8) adaptatif en précision étendue ; précis à %2 près)</translation>
+    </message>
+    <message>
+        <source>The curve meets a vertical slope before the end x: there is no endpoint to compare with.</source>
+        <translation>La courbe rencontre une pente verticale avant le x final : il n&apos;y a pas de point final à comparer.</translation>
+    </message>
+    <message>
+        <source>The reference cannot be computed: %1.</source>
+        <translation>La référence ne peut pas être calculée : %1.</translation>
+    </message>
+    <message>
+        <source>The adaptive integration could not reach the end x (the slope grows without bound).</source>
+        <translation>L&apos;intégration adaptative n&apos;a pas pu atteindre le x final (la pente croît sans borne).</translation>
+    </message>
+    <message>
+        <source>%1 (%2 steps)</source>
+        <extracomment>a row of the step methods&apos; table: the step h (%1) and how many steps reach the end x (%2)</extracomment>
+        <translation>%1 (%2 pas)</translation>
+    </message>
+    <message>
+        <source>meets a vertical slope</source>
+        <translation>rencontre une pente verticale</translation>
+    </message>
+    <message>
+        <source>leaves the window</source>
+        <translation>sort de la fenêtre</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>which of two typed texts a refusal is about (&quot;dy: missing &apos;)&apos; at 3&quot;): %1 names the text (dy, dx, x(t), y(t)) and %2 is the refusal</extracomment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The window&apos;s limits are not numbers in order.</source>
+        <translation>Les limites de la fenêtre ne sont pas des nombres dans l&apos;ordre.</translation>
+    </message>
+    <message>
+        <source>Zoomed out as far as the graph goes: the window is at most 1E+12 wide and high.</source>
+        <translation>Dézoomé autant que le graphe le permet : la fenêtre mesure au plus 1E+12 de large et de haut.</translation>
+    </message>
+    <message>
+        <source>Zoomed in as far as the arithmetic can show: a closer window would draw rounding noise.</source>
+        <translation>Zoomé autant que l&apos;arithmétique peut le montrer : une fenêtre plus proche tracerait du bruit d&apos;arrondi.</translation>
+    </message>
+    <message>
+        <source>raise or lower %1</source>
+        <translation>augmenter ou diminuer %1</translation>
+    </message>
+    <message>
+        <source>Drawn: %1.</source>
+        <translation>Tracé : %1.</translation>
+    </message>
+    <message>
+        <source>the typed function y = %1</source>
+        <translation>la fonction saisie y = %1</translation>
+    </message>
+    <message>
+        <source>%1 with %2</source>
+        <extracomment>a function and its coefficients&apos; values (&quot;y = A*x^2 with A = 1, B = 0&quot;)</extracomment>
+        <translation>%1 avec %2</translation>
+    </message>
+    <message>
+        <source>Playing %1.</source>
+        <translation>Lecture de %1.</translation>
+    </message>
+    <message>
+        <source>Understood: y = %1
+Derivative: y&apos; = %2</source>
+        <translation>Compris : y = %1
+Dérivée : y&apos; = %2</translation>
+    </message>
+    <message>
+        <source>undefined: no f(x) at x = %1</source>
+        <translation>non définie : pas de f(x) en x = %1</translation>
+    </message>
+    <message>
+        <source>no slope: f&apos;(x) is undefined at x = %1</source>
+        <translation>pas de pente : f&apos;(x) n&apos;est pas définie en x = %1</translation>
+    </message>
+    <message>
+        <source> Not drawn at this window: %1.</source>
+        <translation> Non tracé dans cette fenêtre : %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be drawn from here: %1.</source>
+        <translation>Impossible à tracer d&apos;ici : %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be taken: %1</source>
+        <translation>Impossible à prendre : %1</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <extracomment>a convergence table&apos;s cell: the error of the value above it</extracomment>
+        <translation>erreur %1</translation>
+    </message>
+    <message>
+        <source>ratio %1</source>
+        <extracomment>a convergence table&apos;s cell: the previous row&apos;s error over this row&apos;s</extracomment>
+        <translation>rapport %1</translation>
+    </message>
+    <message>
+        <source>Error against the number of partitions, log-log</source>
+        <translation>Erreur en fonction du nombre de subdivisions, log-log</translation>
+    </message>
+    <message>
+        <source>steps</source>
+        <extracomment>the horizontal axis of the step methods&apos; convergence plot</extracomment>
+        <translation>pas</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <extracomment>the vertical axis of a convergence plot</extracomment>
+        <translation>erreur</translation>
+    </message>
+    <message>
+        <source>%1 error</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s errors</extracomment>
+        <translation>erreur de %1</translation>
+    </message>
+    <message>
+        <source>%1 ratio</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s ratios of successive errors</extracomment>
+        <translation>rapport de %1</translation>
+    </message>
+    <message>
+        <source>No errors to plot: %1</source>
+        <translation>Pas d&apos;erreurs à tracer : %1</translation>
+    </message>
+    <message>
+        <source>%1: too few measurable errors for a slope</source>
+        <translation>%1 : trop peu d&apos;erreurs mesurables pour une pente</translation>
+    </message>
+    <message>
+        <source>%1: slope %2 (expected -%3)</source>
+        <translation>%1 : pente %2 (attendue -%3)</translation>
+    </message>
+    <message>
+        <source>%1: slope %2</source>
+        <translation>%1 : pente %2</translation>
+    </message>
+    <message>
+        <source>g(x) = %1 cannot be read: %2.</source>
+        <translation>g(x) = %1 ne peut pas être lue : %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not defined at x = %2</source>
+        <translation>%1 n&apos;est pas définie en x = %2</translation>
+    </message>
+    <message>
+        <source>%1 is not defined from x = %2 to x = %3</source>
+        <translation>%1 n&apos;est pas définie de x = %2 à x = %3</translation>
+    </message>
+    <message>
+        <source>Crossings in [a, b]:
+%1</source>
+        <translation>Croisements dans [a, b] :
+%1</translation>
+    </message>
+    <message>
+        <source>Understood: dy = %1,  dx = %2</source>
+        <translation>Compris : dy = %1,  dx = %2</translation>
+    </message>
+    <message>
+        <source>Start( %1 , %2 ) </source>
+        <translation>Départ( %1 , %2 ) </translation>
+    </message>
+    <message>
+        <source>the curve from (%1,%2)</source>
+        <translation>la courbe depuis (%1,%2)</translation>
+    </message>
+    <message>
+        <source>EndPt (%1,%2</source>
+        <translation>Point final (%1,%2</translation>
+    </message>
+    <message>
+        <source>Type numbers for a, L and ε.</source>
+        <translation>Saisissez des nombres pour a, L et ε.</translation>
+    </message>
+    <message>
+        <source>The window&apos;s x limits must be numbers, the minimum below the maximum.</source>
+        <translation>Les limites en x de la fenêtre doivent être des nombres, le minimum sous le maximum.</translation>
+    </message>
+    <message>
+        <source>   leaves at x = %1</source>
+        <translation>   sort en x = %1</translation>
+    </message>
+    <message>
+        <source>ε = %1   no δ</source>
+        <translation>ε = %1   aucun δ</translation>
+    </message>
+    <message>
+        <source>Limits by ε and δ of %1, a = %2, L = %3, ε = %4.</source>
+        <translation>Limites par ε et δ de %1, a = %2, L = %3, ε = %4.</translation>
+    </message>
+    <message>
+        <source>slope = %1</source>
+        <translation>pente = %1</translation>
+    </message>
+    <message>
+        <source>Slope =%1</source>
+        <translation>Pente =%1</translation>
+    </message>
+    <message>
+        <source>the tangent at x = %1</source>
+        <translation>la tangente en x = %1</translation>
+    </message>
+    <message>
+        <source>Mean value theorem for %1 on [%2, %3].</source>
+        <translation>Théorème des accroissements finis pour %1 sur [%2, %3].</translation>
+    </message>
+    <message>
+        <source>the guess x = %1</source>
+        <translation>l&apos;estimation x = %1</translation>
+    </message>
+    <message>
+        <source>Newton&apos;s method on %1.</source>
+        <translation>Méthode de Newton sur %1.</translation>
+    </message>
+    <message>
+        <source>No guesses yet; first guess box: %1.</source>
+        <translation>Pas encore d&apos;estimations ; case de la première estimation : %1.</translation>
+    </message>
+    <message>
+        <source>Guesses: %1.</source>
+        <translation>Estimations : %1.</translation>
+    </message>
+    <message>
+        <source>(undefined at t = %1)</source>
+        <translation>(non définie en t = %1)</translation>
+    </message>
+    <message>
+        <source>the point at t = %1</source>
+        <translation>le point en t = %1</translation>
+    </message>
+    <message>
+        <source>the curve %1, %2 for t from %3 to %4</source>
+        <translation>la courbe %1, %2 pour t de %3 à %4</translation>
+    </message>
+    <message>
+        <source>Understood: x = %1,  y = %2</source>
+        <translation>Compris : x = %1,  y = %2</translation>
+    </message>
+    <message>
+        <source>%1 bars</source>
+        <extracomment>a sum&apos;s bars as drawn (&quot;Left Endpoint bars&quot;)</extracomment>
+        <translation>rectangles %1</translation>
+    </message>
+    <message>
+        <source>%1 bars of %2</source>
+        <translation>rectangles %1 de %2</translation>
+    </message>
+    <message>
+        <source>Delta x = %1</source>
+        <translation>Delta x = %1</translation>
+    </message>
+    <message>
+        <source>Delta x = %1, not a number</source>
+        <translation>Delta x = %1, pas un nombre</translation>
+    </message>
+    <message>
+        <source>the secant from x = %1</source>
+        <translation>la sécante depuis x = %1</translation>
+    </message>
+    <message>
+        <source>Tangent problem for %1 at x = %2, Delta x = %3.</source>
+        <translation>Problème de la tangente pour %1 en x = %2, Delta x = %3.</translation>
+    </message>
+    <message>
+        <source>Secant through %1: %2.</source>
+        <translation>Sécante par %1 : %2.</translation>
+    </message>
+    <message>
+        <source>No Taylor polynomial: %1.</source>
+        <translation>Pas de polynôme de Taylor : %1.</translation>
+    </message>
+    <message>
+        <source>Taylor polynomials of %1.</source>
+        <translation>Polynômes de Taylor de %1.</translation>
+    </message>
+    <message>
+        <source>No terms yet; centre box: %1.</source>
+        <translation>Pas encore de termes ; case du centre : %1.</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>the last of a list of screens (&quot;..., Newton&apos;s method and Taylor polynomials&quot;)</extracomment>
+        <translation>et %1</translation>
+    </message>
+    <message>
+        <source>A launcher opens %1 demonstration screens: %2.</source>
+        <translation>Un lanceur ouvre %1 écrans de démonstration : %2.</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <extracomment>a sum&apos;s rule (left endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <extracomment>a sum&apos;s rule (right endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Trapezoid</source>
+        <translation>Trapèzes</translation>
+    </message>
+    <message>
+        <source>Simpson</source>
+        <translation>Simpson</translation>
+    </message>
+    <message>
+        <source>The step was not added: %1.</source>
+        <translation>L&apos;étape n&apos;a pas été ajoutée : %1.</translation>
+    </message>
+    <message>
+        <source>Calculus demonstrations for the classroom. %1
+Qt&apos;s standard options (-platform, -style, ...) are accepted.</source>
+        <translation>Démonstrations d&apos;analyse pour la classe. %1
+Les options standard de Qt (-platform, -style, ...) sont acceptées.</translation>
+    </message>
+    <message>
+        <source>lesson</source>
+        <extracomment>the name of the command line&apos;s argument in `plotto --help`</extracomment>
+        <translation>leçon</translation>
+    </message>
+    <message>
+        <source>A lesson to open (a .plotto file).</source>
+        <translation>Une leçon à ouvrir (un fichier .plotto).</translation>
+    </message>
+    <message>
+        <source>[lesson]</source>
+        <translation>[leçon]</translation>
+    </message>
+    <message>
+        <source>Lists the demonstration screens, one a line in teaching order, separated by tabs: key, button, menu entry, classic or addition (an addition opens from More Demonstrations), the entry&apos;s Alt letter.</source>
+        <translation>Liste les écrans de démonstration, un par ligne dans l&apos;ordre d&apos;enseignement, séparés par des tabulations : clé, bouton, entrée de menu, classique ou ajout (un ajout s&apos;ouvre depuis Autres démonstrations), la lettre Alt de l&apos;entrée.</translation>
+    </message>
+    <message>
+        <source>Opens a screen at the start: %1.</source>
+        <translation>Ouvre un écran au démarrage : %1.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <extracomment>the value of --screen in `plotto --help`</extracomment>
+        <translation>nom</translation>
+    </message>
+    <message>
+        <source>Writes the lesson as a worksheet to a PDF file, one step a page, and ends, with no window shown.</source>
+        <translation>Écrit la leçon comme fiche d&apos;exercices dans un fichier PDF, une étape par page, et se termine sans afficher de fenêtre.</translation>
+    </message>
+    <message>
+        <source>file.pdf</source>
+        <translation>fichier.pdf</translation>
+    </message>
+    <message>
+        <source>With --worksheet: leaves the results as boxes to fill in, and writes the answers to a second file (NAME-answers.pdf).</source>
+        <translation>Avec --worksheet : laisse les résultats en cases à remplir et écrit les réponses dans un second fichier (NOM-answers.pdf).</translation>
+    </message>
+    <message>
+        <source>Shows the program in a language: %1 (English is the default; without this, the language chosen in Tools, Language, else the desktop&apos;s).</source>
+        <translation>Affiche le programme dans une langue : %1 (l&apos;anglais par défaut ; sans cette option, la langue choisie dans Outils, Langue, sinon celle du bureau).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <extracomment>the value of --lang in `plotto --help`</extracomment>
+        <translation>code</translation>
+    </message>
+    <message>
+        <source>addition</source>
+        <extracomment>a screen&apos;s kind in `plotto --screens`: one of the seed&apos;s eight, or one added since</extracomment>
+        <translation>ajout</translation>
+    </message>
+    <message>
+        <source>classic</source>
+        <translation>classique</translation>
+    </message>
+    <message>
+        <source>%1: answers</source>
+        <translation>%1 : réponses</translation>
+    </message>
+    <message>
+        <source>%1, and %2 or %3, both the natural logarithm</source>
+        <translation>%1, et %2 ou %3, tous deux le logarithme népérien</translation>
+    </message>
+    <message>
+        <source>A to E</source>
+        <translation>A à E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Règle</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Algébrique : f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Absolue : |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A à F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>sort en x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Nouveau terme</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Borne de Lagrange</translation>
+    </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 vaut %2. Appuyez pour augmenter de un ; l&apos;action de diminution diminue de un.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 contient %2, qui n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 bandes est le maximum que cet écran additionne.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>l&apos;écran n&apos;a pas de contrôle nommé &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>la case &apos;%1&apos; ne peut pas prendre %2</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>la barre &apos;%1&apos; ne peut pas prendre cette position</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; est cochée ou non : true ou false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>l&apos;écran n&apos;a pas d&apos;entrée de menu &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>l&apos;écran n&apos;a pas de bouton &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Ce n&apos;est pas une leçon : %1 au caractère %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>La leçon n&apos;a pas de numéro de version valide.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Étape %1 : écran inconnu &apos;%2&apos; (les écrans sont %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Étape %1 : une action ne nomme aucun bouton à cliquer ni entrée de menu à choisir.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>La leçon ne peut pas être écrite dans %1 : %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>La leçon n&apos;a pas pu être enregistrée dans %1 : %2. Rien n&apos;y a été modifié.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>La leçon %1 ne peut pas être lue : %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 est trop grand pour être une leçon.</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilisation : %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Arguments :</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Affiche l&apos;aide sur les options de la ligne de commande.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Affiche l&apos;aide avec les options propres à Qt.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Affiche les informations de version.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Option inconnue &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Options inconnues : %1.</translation>
     </message>
 </context>
 </TS>

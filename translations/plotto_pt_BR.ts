@@ -92,20 +92,12 @@
         <translation>Gráfico</translation>
     </message>
     <message>
-        <source>raise or lower </source>
-        <translation>aumentar ou diminuir </translation>
-    </message>
-    <message>
         <source>Window: x from %1 to %2, y from %3 to %4.</source>
         <translation>Janela: x de %1 a %2, y de %3 a %4.</translation>
     </message>
     <message>
         <source>And %1 more drawings.</source>
         <translation>E mais %1 desenhos.</translation>
-    </message>
-    <message>
-        <source>the typed function y = </source>
-        <translation>a função digitada y = </translation>
     </message>
     <message>
         <source>y = 0 (no function chosen)</source>
@@ -204,10 +196,6 @@
         <translation>Ainda não há nada desenhado para ouvir.</translation>
     </message>
     <message>
-        <source>Playing </source>
-        <translation>Tocando </translation>
-    </message>
-    <message>
         <source>No sound device: the curve cannot be heard here. Left and Right still walk along it.</source>
         <translation>Nenhum dispositivo de som: a curva não pode ser ouvida aqui. Esquerda e Direita continuam percorrendo-a.</translation>
     </message>
@@ -260,26 +248,8 @@
         <translation>Digite uma função y = f(x)</translation>
     </message>
     <message>
-        <source>Understood: y = </source>
-        <translation>Entendido: y = </translation>
-    </message>
-    <message>
-        <source>
-Derivative: y&apos; = </source>
-        <translation>
-Derivada: y&apos; = </translation>
-    </message>
-    <message>
         <source>This screen does not graph a function y = f(x).</source>
         <translation>Esta tela não faz o gráfico de uma função y = f(x).</translation>
-    </message>
-    <message>
-        <source>undefined: no f(x) at x = </source>
-        <translation>indefinida: não há f(x) em x = </translation>
-    </message>
-    <message>
-        <source>no slope: f&apos;(x) is undefined at x = </source>
-        <translation>sem inclinação: f&apos;(x) não está definida em x = </translation>
     </message>
     <message>
         <source>cannot be computed: the numbers are too large</source>
@@ -310,16 +280,8 @@ Derivada: y&apos; = </translation>
         <translation>Avan&amp;çar</translation>
     </message>
     <message>
-        <source> Not drawn at this window: </source>
-        <translation> Não desenhado nesta janela: </translation>
-    </message>
-    <message>
         <source> Some drawings made before cannot be drawn again at a new window: press the screen&apos;s buttons to draw them here.</source>
         <translation> Alguns desenhos feitos antes não podem ser refeitos em uma nova janela: pressione os botões da tela para desenhá-los aqui.</translation>
-    </message>
-    <message>
-        <source>Cannot be drawn from here: </source>
-        <translation>Não pode ser desenhado daqui: </translation>
     </message>
     <message>
         <source>The window&apos;s limits are not numbers: type them first.</source>
@@ -350,10 +312,6 @@ Derivada: y&apos; = </translation>
         <translation>Visualização</translation>
     </message>
     <message>
-        <source>Cannot be taken: </source>
-        <translation>Não pode ser aceita: </translation>
-    </message>
-    <message>
         <source>Error against the number of steps, log-log</source>
         <translation>Erro em função do número de passos, log-log</translation>
     </message>
@@ -362,28 +320,8 @@ Derivada: y&apos; = </translation>
         <translation>Re&amp;calcular</translation>
     </message>
     <message>
-        <source>Error against the number of %1, log-log</source>
-        <translation>Erro em função do número de %1, log-log</translation>
-    </message>
-    <message>
         <source>slope -%1</source>
         <translation>inclinação -%1</translation>
-    </message>
-    <message>
-        <source>No errors to plot: </source>
-        <translation>Nenhum erro para plotar: </translation>
-    </message>
-    <message>
-        <source> (expected -%1)</source>
-        <translation> (esperado -%1)</translation>
-    </message>
-    <message>
-        <source>: too few measurable errors for a slope</source>
-        <translation>: poucos erros mensuráveis para uma inclinação</translation>
-    </message>
-    <message>
-        <source>: slope </source>
-        <translation>: inclinação </translation>
     </message>
     <message>
         <source>Con&amp;vergence</source>
@@ -614,12 +552,6 @@ Derivada: y&apos; = </translation>
         <translation>f e g não se cruzam em [a, b].</translation>
     </message>
     <message>
-        <source>Crossings in [a, b]:
-</source>
-        <translation>Interseções em [a, b]:
-</translation>
-    </message>
-    <message>
         <source>n odd</source>
         <translation>n ímpar</translation>
     </message>
@@ -740,14 +672,6 @@ Derivada: y&apos; = </translation>
         <translation> Com dx = 1 o campo é o campo de direções de dy/dx = dy.</translation>
     </message>
     <message>
-        <source>Understood: dy = </source>
-        <translation>Entendido: dy = </translation>
-    </message>
-    <message>
-        <source>Start( </source>
-        <translation>Início( </translation>
-    </message>
-    <message>
         <source>Enter x coordinate:</source>
         <translation>Digite a coordenada x:</translation>
     </message>
@@ -852,16 +776,8 @@ Derivada: y&apos; = </translation>
         <translation>o campo de direções</translation>
     </message>
     <message>
-        <source>the curve from (</source>
-        <translation>a curva a partir de (</translation>
-    </message>
-    <message>
         <source>an integral curve</source>
         <translation>uma curva integral</translation>
-    </message>
-    <message>
-        <source>EndPt (</source>
-        <translation>Ponto final (</translation>
     </message>
     <message>
         <source>Slope Fields</source>
@@ -1032,10 +948,6 @@ Derivada: y&apos; = </translation>
         <translation>   (a borda da janela)</translation>
     </message>
     <message>
-        <source>   leaves at x = </source>
-        <translation>   sai em x = </translation>
-    </message>
-    <message>
         <source>near a</source>
         <translation>perto de a</translation>
     </message>
@@ -1050,10 +962,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>the point a</source>
         <translation>o ponto a</translation>
-    </message>
-    <message>
-        <source>Limits by ε and δ of </source>
-        <translation>Limites por ε e δ de </translation>
     </message>
     <message>
         <source>This screen shows what the limit of f(x) as x approaches a means: for every ε &gt; 0 there is a δ &gt; 0 such that every x with 0 &lt; |x - a| &lt; δ has |f(x) - L| &lt; ε.  You choose ε; the screen finds the largest δ.</source>
@@ -1140,18 +1048,6 @@ Derivada: y&apos; = </translation>
         <translation>ERRO!  0/0</translation>
     </message>
     <message>
-        <source>slope = </source>
-        <translation>inclinação = </translation>
-    </message>
-    <message>
-        <source>Slope =</source>
-        <translation>Inclinação =</translation>
-    </message>
-    <message>
-        <source>the tangent at x = </source>
-        <translation>a tangente em x = </translation>
-    </message>
-    <message>
         <source>Enter an x value to check</source>
         <translation>Digite um valor de x para verificar</translation>
     </message>
@@ -1190,10 +1086,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>There are some accuracy considerations when using [Find c].  The slopes are compared to the nearest 0.001.  The calculated slope from the end points may differ from the slope of the tangent line.  Some MVT points may be missed due the accuracy when scannning through the function for the points.  This usually does not happen unless your interval is wide and there are rapid fluctuations like sin(20x).</source>
         <translation>Há algumas questões de precisão ao usar [Achar c]. As inclinações são comparadas com precisão de 0,001. A inclinação calculada a partir dos extremos pode diferir da inclinação da reta tangente. Alguns pontos do TVM podem ser perdidos por causa da precisão ao percorrer a função em busca dos pontos. Isso geralmente não acontece, a menos que o intervalo seja largo e haja oscilações rápidas como em sin(20x).</translation>
-    </message>
-    <message>
-        <source>Mean value theorem for </source>
-        <translation>Teorema do valor médio para </translation>
     </message>
     <message>
         <source>Secant from %1 to %2, %3.</source>
@@ -1248,10 +1140,6 @@ Derivada: y&apos; = </translation>
         <translation> (grande demais)</translation>
     </message>
     <message>
-        <source>the guess x = </source>
-        <translation>a estimativa x = </translation>
-    </message>
-    <message>
         <source>This guess failed due to zero for the slope</source>
         <translation>Esta estimativa falhou porque a inclinação é zero</translation>
     </message>
@@ -1294,14 +1182,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Zoom in or change the window and Apply again.</source>
         <translation>Amplie ou mude a janela e aplique de novo.</translation>
-    </message>
-    <message>
-        <source>Newton&apos;s method on </source>
-        <translation>Método de Newton em </translation>
-    </message>
-    <message>
-        <source>No guesses yet; first guess box: </source>
-        <translation>Ainda não há estimativas; caixa da primeira estimativa: </translation>
     </message>
     <message>
         <source>the first guess</source>
@@ -1368,32 +1248,12 @@ Derivada: y&apos; = </translation>
         <translation>Máximo excedido</translation>
     </message>
     <message>
-        <source>(undefined at t = </source>
-        <translation>(indefinida em t = </translation>
-    </message>
-    <message>
-        <source>the point at t = </source>
-        <translation>o ponto em t = </translation>
-    </message>
-    <message>
-        <source>the curve </source>
-        <translation>a curva </translation>
-    </message>
-    <message>
-        <source> for t from </source>
-        <translation> para t de </translation>
-    </message>
-    <message>
         <source>the parametric curve</source>
         <translation>a curva paramétrica</translation>
     </message>
     <message>
         <source>Type a parametric curve</source>
         <translation>Digite uma curva paramétrica</translation>
-    </message>
-    <message>
-        <source>Understood: x = </source>
-        <translation>Entendido: x = </translation>
     </message>
     <message>
         <source>This screen allows you to graph parametric equations by defining the function for the x value and another equation for the y value.  The x and y values are functions of the variable t.</source>
@@ -1572,24 +1432,12 @@ Derivada: y&apos; = </translation>
         <translation>Partes não pares</translation>
     </message>
     <message>
-        <source>undefined at x = </source>
-        <translation>indefinida em x = </translation>
-    </message>
-    <message>
         <source>= error!</source>
         <translation>= erro!</translation>
     </message>
     <message>
         <source>Working</source>
         <translation>Calculando</translation>
-    </message>
-    <message>
-        <source> bars</source>
-        <translation> barras</translation>
-    </message>
-    <message>
-        <source> bars of </source>
-        <translation> barras de </translation>
     </message>
     <message>
         <source>= too large</source>
@@ -1720,14 +1568,6 @@ Derivada: y&apos; = </translation>
         <translation>Equação da reta</translation>
     </message>
     <message>
-        <source>, not a number</source>
-        <translation>, não é um número</translation>
-    </message>
-    <message>
-        <source>the secant from x = </source>
-        <translation>a secante a partir de x = </translation>
-    </message>
-    <message>
         <source>This screen is to demonstrate the classic slope of the tangent line problem.  You may select any function from the menu.  Choose values for the A,B,...,E variables for your function and Plotto.</source>
         <translation>Esta tela serve para demonstrar o problema clássico da inclinação da reta tangente. Você pode escolher qualquer função no menu. Escolha valores para as variáveis A,B,...,E da sua função e clique em Plotto.</translation>
     </message>
@@ -1754,18 +1594,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Clicking or scrolling the slider will change delta x and graph the secant line when releasing the mouse button.  You may see the points and the equation for each new change of the slider.  Notice the x-dx, x=  , and x+dx at the bottom of the slider.  This should help to know which way your secant line is going.</source>
         <translation>Clicar no controle deslizante ou arrastá-lo muda delta x e traça a reta secante ao soltar o botão do mouse. Você vê os pontos e a equação a cada nova mudança do controle. Observe x-dx, x=  e x+dx embaixo do controle. Isso ajuda a saber para que lado sua reta secante está indo.</translation>
-    </message>
-    <message>
-        <source>Tangent problem for </source>
-        <translation>Problema da tangente para </translation>
-    </message>
-    <message>
-        <source>, Delta x = </source>
-        <translation>, Delta x = </translation>
-    </message>
-    <message>
-        <source>Secant through </source>
-        <translation>Secante por </translation>
     </message>
     <message>
         <source>No exact tangent: x = %1 is not a number.</source>
@@ -1828,10 +1656,6 @@ Derivada: y&apos; = </translation>
         <translation>família %1</translation>
     </message>
     <message>
-        <source>No Taylor polynomial: </source>
-        <translation>Sem polinômio de Taylor: </translation>
-    </message>
-    <message>
         <source>No Taylor polynomial of degree %1 about a = %2: %3.</source>
         <translation>Sem polinômio de Taylor de grau %1 em torno de a = %2: %3.</translation>
     </message>
@@ -1866,14 +1690,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>the centre a</source>
         <translation>o centro a</translation>
-    </message>
-    <message>
-        <source>Taylor polynomials of </source>
-        <translation>Polinômios de Taylor de </translation>
-    </message>
-    <message>
-        <source>No terms yet; centre box: </source>
-        <translation>Ainda não há termos; caixa do centro: </translation>
     </message>
     <message>
         <source>Degree %1. Terms: </source>
@@ -2108,10 +1924,6 @@ Derivada: y&apos; = </translation>
         <translation>Adicionar à lição</translation>
     </message>
     <message>
-        <source>The step was not added: </source>
-        <translation>O passo não foi adicionado: </translation>
-    </message>
-    <message>
         <source>The lesson has no steps yet: add a screen with Tools, Add This Screen to the Lesson.</source>
         <translation>A lição ainda não tem passos: adicione uma tela com Ferramentas, Adicionar esta tela à lição.</translation>
     </message>
@@ -2170,10 +1982,6 @@ Derivada: y&apos; = </translation>
     <message>
         <source>The lesson has no steps.</source>
         <translation>A lição não tem passos.</translation>
-    </message>
-    <message>
-        <source>: answers</source>
-        <translation>: respostas</translation>
     </message>
     <message>
         <source>Area=</source>
@@ -2254,6 +2062,866 @@ Derivada: y&apos; = </translation>
     <message>
         <source>Step %1 cannot be shown: its values %2 (run-time error %3).</source>
         <translation>O passo %1 não pode ser mostrado: seus valores %2 (erro em tempo de execução %3).</translation>
+    </message>
+    <message>
+        <source>Euler</source>
+        <translation>Euler</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 2</source>
+        <translation>Runge-Kutta 2</translation>
+    </message>
+    <message>
+        <source>Runge-Kutta 4</source>
+        <translation>Runge-Kutta 4</translation>
+    </message>
+    <message>
+        <source>nothing typed: type a function, for example x^2 - 4 at %1</source>
+        <translation>nada digitado: digite uma função, por exemplo x^2 - 4 na posição %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;)&apos; at %1</source>
+        <translation>&apos;)&apos; inesperado na posição %1</translation>
+    </message>
+    <message>
+        <source>too deeply nested at %1</source>
+        <translation>aninhamento profundo demais na posição %1</translation>
+    </message>
+    <message>
+        <source>missing a term after &apos;%1&apos; at %2</source>
+        <translation>falta um termo depois de &apos;%1&apos; na posição %2</translation>
+    </message>
+    <message>
+        <source>missing a term at %1</source>
+        <translation>falta um termo na posição %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;)&apos; at %1</source>
+        <translation>falta um termo antes de &apos;)&apos; na posição %1</translation>
+    </message>
+    <message>
+        <source>missing a term before &apos;%1&apos; at %2</source>
+        <translation>falta um termo antes de &apos;%1&apos; na posição %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;)&apos; at %1</source>
+        <translation>falta &apos;)&apos; na posição %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (each function takes one argument) at %1</source>
+        <translation>&apos;,&apos; inesperada (cada função recebe um único argumento) na posição %1</translation>
+    </message>
+    <message>
+        <source>unexpected &apos;,&apos; (write decimals with a point, and each function takes one argument) at %1</source>
+        <translation>&apos;,&apos; inesperada (escreva os decimais com ponto; cada função recebe um único argumento) na posição %1</translation>
+    </message>
+    <message>
+        <source>unexpected character &apos;%1&apos; at %2</source>
+        <translation>caractere inesperado &apos;%1&apos; na posição %2</translation>
+    </message>
+    <message>
+        <source>missing &apos;*&apos;: write %1*%2 for a product at %3</source>
+        <translation>falta &apos;*&apos;: escreva %1*%2 para um produto na posição %3</translation>
+    </message>
+    <message>
+        <source>a number needs a digit at %1</source>
+        <translation>um número precisa de um algarismo na posição %1</translation>
+    </message>
+    <message>
+        <source>number too large at %1</source>
+        <translation>número grande demais na posição %1</translation>
+    </message>
+    <message>
+        <source>missing &apos;(&apos; after &apos;%1&apos; at %2</source>
+        <translation>falta &apos;(&apos; depois de &apos;%1&apos; na posição %2</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2 (the coefficients are the capitals A to F)</source>
+        <translation>nome desconhecido &apos;%1&apos; na posição %2 (os coeficientes são as maiúsculas A a F)</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %4: write %2*%3 for a product</source>
+        <translation>nome desconhecido &apos;%1&apos; na posição %4: escreva %2*%3 para um produto</translation>
+    </message>
+    <message>
+        <source>unknown name &apos;%1&apos; at %2</source>
+        <translation>nome desconhecido &apos;%1&apos; na posição %2</translation>
+    </message>
+    <message>
+        <source>too long: at most %1 characters</source>
+        <translation>longo demais: no máximo %1 caracteres</translation>
+    </message>
+    <message>
+        <source>cannot be evaluated</source>
+        <translation>não pode ser avaliada</translation>
+    </message>
+    <message>
+        <source>no derivative: it cannot be evaluated</source>
+        <translation>sem derivada: ela não pode ser avaliada</translation>
+    </message>
+    <message>
+        <source>no derivative: the expression is undefined everywhere or cannot be differentiated</source>
+        <translation>sem derivada: a expressão não está definida em nenhum ponto ou não pode ser derivada</translation>
+    </message>
+    <message>
+        <source>no derivative: part of the expression is 0 where it divides or is a base</source>
+        <translation>sem derivada: uma parte da expressão é 0 onde divide ou é uma base</translation>
+    </message>
+    <message>
+        <source>no derivative: it uses a function that cannot be differentiated here</source>
+        <translation>sem derivada: ela usa uma função que não pode ser derivada aqui</translation>
+    </message>
+    <message>
+        <source>no function chosen</source>
+        <translation>nenhuma função escolhida</translation>
+    </message>
+    <message>
+        <source>an exponent of %1 is too large to work out exactly</source>
+        <translation>um expoente de %1 é grande demais para ser calculado exatamente</translation>
+    </message>
+    <message>
+        <source>part of the expression is 0 where it divides or is a base</source>
+        <translation>uma parte da expressão é 0 onde divide ou é uma base</translation>
+    </message>
+    <message>
+        <source>the expression cannot be worked out exactly</source>
+        <translation>a expressão não pode ser calculada exatamente</translation>
+    </message>
+    <message>
+        <source>the coefficient is too large for double precision</source>
+        <translation>o coeficiente é grande demais para a precisão dupla</translation>
+    </message>
+    <message>
+        <source>f(a) does not exist</source>
+        <translation>f(a) não existe</translation>
+    </message>
+    <message>
+        <source>f^(%1)(a) does not exist</source>
+        <translation>f^(%1)(a) não existe</translation>
+    </message>
+    <message>
+        <source>the derivative grows too long to work out</source>
+        <translation>a derivada fica longa demais para ser calculada</translation>
+    </message>
+    <message>
+        <source>a must be a number.</source>
+        <translation>a deve ser um número.</translation>
+    </message>
+    <message>
+        <source>Both sides tend to %1: L = %1 at a = %2 (estimated from x = a +- h, h halving to %3 times max(1, |a|); the last values agree to %4).</source>
+        <translation>Os dois lados tendem a %1: L = %1 em a = %2 (estimado a partir de x = a +- h, com h dividido ao meio até %3 vezes max(1, |a|); os últimos valores concordam até %4).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the right of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f só está definida à direita de a perto de a; esse lado tende a %1: L = %1 em a = %2 (um limite lateral).</translation>
+    </message>
+    <message>
+        <source>f is defined only on the left of a near it; that side tends to %1: L = %1 at a = %2 (a one-sided limit).</source>
+        <translation>f só está definida à esquerda de a perto de a; esse lado tende a %1: L = %1 em a = %2 (um limite lateral).</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no limit there.</source>
+        <translation>f não está definida perto de a = %1 em nenhum dos lados: não há limite ali.</translation>
+    </message>
+    <message>
+        <source>The left side %1 and the right side %2: no limit at a = %3.</source>
+        <translation>O lado esquerdo %1 e o lado direito %2: não há limite em a = %3.</translation>
+    </message>
+    <message>
+        <source>tends to infinity</source>
+        <translation>tende ao infinito</translation>
+    </message>
+    <message>
+        <source>tends to -infinity</source>
+        <translation>tende a -infinito</translation>
+    </message>
+    <message>
+        <source>tends to %1</source>
+        <extracomment>what one side of a does as x nears a (&quot;The left side tends to 1 and ...&quot;)</extracomment>
+        <translation>tende a %1</translation>
+    </message>
+    <message>
+        <source>to infinity</source>
+        <translation>ao infinito</translation>
+    </message>
+    <message>
+        <source>to -infinity</source>
+        <translation>a -infinito</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <extracomment>the right side&apos;s clause when the left side&apos;s said &quot;tends&quot; (&quot;... and the right side to 2&quot;)</extracomment>
+        <translation>a %1</translation>
+    </message>
+    <message>
+        <source>does not settle</source>
+        <translation>não se estabiliza</translation>
+    </message>
+    <message>
+        <source>is undefined</source>
+        <translation>não está definido</translation>
+    </message>
+    <message>
+        <source>ε must be a positive number.</source>
+        <translation>ε deve ser um número positivo.</translation>
+    </message>
+    <message>
+        <source>a and L must be numbers.</source>
+        <translation>a e L devem ser números.</translation>
+    </message>
+    <message>
+        <source>a = %1 is not inside the window from %2 to %3: move a or widen the window to look for δ.</source>
+        <translation>a = %1 não está dentro da janela de %2 a %3: mova a ou amplie a janela para procurar δ.</translation>
+    </message>
+    <message>
+        <source>ε = %1 is below what rounding in f lets the computer tell apart from L = %2 (it must be at least %3): no δ is looked for.</source>
+        <translation>ε = %1 está abaixo do que o arredondamento de f permite ao computador distinguir de L = %2 (deve ser pelo menos %3): nenhum δ é procurado.</translation>
+    </message>
+    <message>
+        <source>f is not defined near a = %1 on either side: no δ can be looked for.</source>
+        <translation>f não está definida perto de a = %1 em nenhum dos lados: nenhum δ pode ser procurado.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no δ works: points arbitrarily close to a leave the band (even x = %2 has |f(x) - L| = %3, not below ε).</source>
+        <translation>Para ε = %1 nenhum δ serve: pontos arbitrariamente próximos de a saem da faixa (até x = %2 tem |f(x) - L| = %3, não abaixo de ε).</translation>
+    </message>
+    <message>
+        <source>For ε = %1 no x of the window leaves the band: δ = %2 is the distance from a to the window&apos;s nearer edge.</source>
+        <translation>Para ε = %1 nenhum x da janela sai da faixa: δ = %2 é a distância de a até a borda mais próxima da janela.</translation>
+    </message>
+    <message>
+        <source>For ε = %1 the largest δ is %2: the graph first leaves the band at x = %3 (f = %4).</source>
+        <translation>Para ε = %1 o maior δ é %2: o gráfico sai da faixa pela primeira vez em x = %3 (f = %4).</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the right of a: only x where it is defined count.</source>
+        <translation>%1 f não está definida à direita de a: só contam os x onde ela está definida.</translation>
+    </message>
+    <message>
+        <source>%1 f is not defined to the left of a: only x where it is defined count.</source>
+        <translation>%1 f não está definida à esquerda de a: só contam os x onde ela está definida.</translation>
+    </message>
+    <message>
+        <source>%1 f is undefined at some x of the window: they are not in its domain and do not count.</source>
+        <translation>%1 f não está definida em alguns x da janela: eles não estão no seu domínio e não contam.</translation>
+    </message>
+    <message>
+        <source>x = %1 (f = g at a scanned point)</source>
+        <translation>x = %1 (f = g em um ponto varrido)</translation>
+    </message>
+    <message>
+        <source>x = %1 (sign change, TOMS 748)</source>
+        <translation>x = %1 (mudança de sinal, TOMS 748)</translation>
+    </message>
+    <message>
+        <source>x = %1 (touch without sign change, Brent minimum of |f - g|)</source>
+        <translation>x = %1 (toque sem mudança de sinal, mínimo de Brent de |f - g|)</translation>
+    </message>
+    <message>
+        <source>x = %1 to %2 (f = g all along)</source>
+        <translation>x = %1 a %2 (f = g em todo o trecho)</translation>
+    </message>
+    <message>
+        <source>a curve is not defined everywhere on [a, b]</source>
+        <translation>uma curva não está definida em todo o [a, b]</translation>
+    </message>
+    <message>
+        <source>f - g jumps across 0 without crossing it near x = %1</source>
+        <translation>f - g salta por cima de 0 sem cruzá-lo perto de x = %1</translation>
+    </message>
+    <message>
+        <source>the integral of f - g does not settle between x = %1 and x = %2 (f - g is unbounded there, or oscillates faster than the adaptive rule can follow)</source>
+        <translation>a integral de f - g não se estabiliza entre x = %1 e x = %2 (f - g é ilimitada ali, ou oscila mais rápido do que a regra adaptativa consegue acompanhar)</translation>
+    </message>
+    <message>
+        <source>No area: %1.</source>
+        <translation>Sem área: %1.</translation>
+    </message>
+    <message>
+        <source>Signed area %1 (adaptive Gauss-Kronrod, 61 points, split at the crossings)</source>
+        <translation>Área com sinal %1 (Gauss-Kronrod adaptativo, 61 pontos, dividida nos cruzamentos)</translation>
+    </message>
+    <message>
+        <source>no value: %1</source>
+        <translation>sem valor: %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <extracomment>a convergence table&apos;s cell: the error is below the reference&apos;s own accuracy %1</extracomment>
+        <translation>abaixo de %1</translation>
+    </message>
+    <message>
+        <source>(reference)</source>
+        <extracomment>a convergence table&apos;s cell: the row&apos;s value is the reference itself</extracomment>
+        <translation>(referência)</translation>
+    </message>
+    <message>
+        <source>round-off</source>
+        <extracomment>a convergence table&apos;s cell in place of a ratio, explained by the round-off note under the table</extracomment>
+        <translation>arredondamento</translation>
+    </message>
+    <message>
+        <source>round-off: an error below %1 is mostly the rounding of double-precision arithmetic over the steps, not the method&apos;s own error, so its ratio is not shown.</source>
+        <translation>arredondamento: um erro abaixo de %1 é sobretudo o arredondamento da aritmética de precisão dupla ao longo dos passos, não o erro do próprio método, por isso sua razão não é mostrada.</translation>
+    </message>
+    <message>
+        <source>slope %1</source>
+        <extracomment>the label of a reference line of slope -%1 on the log-log plot</extracomment>
+        <translation>inclinação %1</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>sem valor</translation>
+    </message>
+    <message>
+        <source>undefined at x = %1</source>
+        <translation>indefinida em x = %1</translation>
+    </message>
+    <message>
+        <source>error value</source>
+        <translation>valor de erro</translation>
+    </message>
+    <message>
+        <source>The function is not defined everywhere on the interval (for example at x = %1): the integral does not exist there.</source>
+        <translation>A função não está definida em todo o intervalo (por exemplo em x = %1): ali a integral não existe.</translation>
+    </message>
+    <message>
+        <source>The function is unbounded on the interval: the integral does not exist there.</source>
+        <translation>A função é ilimitada no intervalo: ali a integral não existe.</translation>
+    </message>
+    <message>
+        <source>Exact value %1 (adaptive Gauss-Kronrod, 61 points)</source>
+        <translation>Valor exato %1 (Gauss-Kronrod adaptativo, 61 pontos)</translation>
+    </message>
+    <message>
+        <source>The integral cannot be computed: %1.</source>
+        <translation>A integral não pode ser calculada: %1.</translation>
+    </message>
+    <message>
+        <source>Reference endpoint y = %1 (adaptive Runge-Kutta-Fehlberg 7(8) in extended precision; accurate to %2)</source>
+        <translation>Ponto final de referência y = %1 (Runge-Kutta-Fehlberg 7(8) adaptativo em precisão estendida; exato até %2)</translation>
+    </message>
+    <message>
+        <source>The curve meets a vertical slope before the end x: there is no endpoint to compare with.</source>
+        <translation>A curva encontra uma inclinação vertical antes do x final: não há ponto final para comparar.</translation>
+    </message>
+    <message>
+        <source>The reference cannot be computed: %1.</source>
+        <translation>A referência não pode ser calculada: %1.</translation>
+    </message>
+    <message>
+        <source>The adaptive integration could not reach the end x (the slope grows without bound).</source>
+        <translation>A integração adaptativa não conseguiu chegar ao x final (a inclinação cresce sem limite).</translation>
+    </message>
+    <message>
+        <source>%1 (%2 steps)</source>
+        <extracomment>a row of the step methods&apos; table: the step h (%1) and how many steps reach the end x (%2)</extracomment>
+        <translation>%1 (%2 passos)</translation>
+    </message>
+    <message>
+        <source>meets a vertical slope</source>
+        <translation>encontra uma inclinação vertical</translation>
+    </message>
+    <message>
+        <source>leaves the window</source>
+        <translation>sai da janela</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>which of two typed texts a refusal is about (&quot;dy: missing &apos;)&apos; at 3&quot;): %1 names the text (dy, dx, x(t), y(t)) and %2 is the refusal</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The window&apos;s limits are not numbers in order.</source>
+        <translation>Os limites da janela não são números em ordem.</translation>
+    </message>
+    <message>
+        <source>Zoomed out as far as the graph goes: the window is at most 1E+12 wide and high.</source>
+        <translation>Afastado até onde o gráfico vai: a janela tem no máximo 1E+12 de largura e de altura.</translation>
+    </message>
+    <message>
+        <source>Zoomed in as far as the arithmetic can show: a closer window would draw rounding noise.</source>
+        <translation>Aproximado até onde a aritmética consegue mostrar: uma janela mais próxima desenharia ruído de arredondamento.</translation>
+    </message>
+    <message>
+        <source>raise or lower %1</source>
+        <translation>aumentar ou diminuir %1</translation>
+    </message>
+    <message>
+        <source>Drawn: %1.</source>
+        <translation>Desenhado: %1.</translation>
+    </message>
+    <message>
+        <source>the typed function y = %1</source>
+        <translation>a função digitada y = %1</translation>
+    </message>
+    <message>
+        <source>%1 with %2</source>
+        <extracomment>a function and its coefficients&apos; values (&quot;y = A*x^2 with A = 1, B = 0&quot;)</extracomment>
+        <translation>%1 com %2</translation>
+    </message>
+    <message>
+        <source>Playing %1.</source>
+        <translation>Tocando %1.</translation>
+    </message>
+    <message>
+        <source>Understood: y = %1
+Derivative: y&apos; = %2</source>
+        <translation>Entendido: y = %1
+Derivada: y&apos; = %2</translation>
+    </message>
+    <message>
+        <source>undefined: no f(x) at x = %1</source>
+        <translation>indefinida: não há f(x) em x = %1</translation>
+    </message>
+    <message>
+        <source>no slope: f&apos;(x) is undefined at x = %1</source>
+        <translation>sem inclinação: f&apos;(x) não está definida em x = %1</translation>
+    </message>
+    <message>
+        <source> Not drawn at this window: %1.</source>
+        <translation> Não desenhado nesta janela: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be drawn from here: %1.</source>
+        <translation>Não pode ser desenhado daqui: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be taken: %1</source>
+        <translation>Não pode ser aceita: %1</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <extracomment>a convergence table&apos;s cell: the error of the value above it</extracomment>
+        <translation>erro %1</translation>
+    </message>
+    <message>
+        <source>ratio %1</source>
+        <extracomment>a convergence table&apos;s cell: the previous row&apos;s error over this row&apos;s</extracomment>
+        <translation>razão %1</translation>
+    </message>
+    <message>
+        <source>Error against the number of partitions, log-log</source>
+        <translation>Erro em função do número de partições, log-log</translation>
+    </message>
+    <message>
+        <source>steps</source>
+        <extracomment>the horizontal axis of the step methods&apos; convergence plot</extracomment>
+        <translation>passos</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <extracomment>the vertical axis of a convergence plot</extracomment>
+        <translation>erro</translation>
+    </message>
+    <message>
+        <source>%1 error</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s errors</extracomment>
+        <translation>erro de %1</translation>
+    </message>
+    <message>
+        <source>%1 ratio</source>
+        <extracomment>a convergence table&apos;s heading over a method&apos;s ratios of successive errors</extracomment>
+        <translation>razão de %1</translation>
+    </message>
+    <message>
+        <source>No errors to plot: %1</source>
+        <translation>Não há erros para traçar: %1</translation>
+    </message>
+    <message>
+        <source>%1: too few measurable errors for a slope</source>
+        <translation>%1: poucos erros mensuráveis para uma inclinação</translation>
+    </message>
+    <message>
+        <source>%1: slope %2 (expected -%3)</source>
+        <translation>%1: inclinação %2 (esperada -%3)</translation>
+    </message>
+    <message>
+        <source>%1: slope %2</source>
+        <translation>%1: inclinação %2</translation>
+    </message>
+    <message>
+        <source>g(x) = %1 cannot be read: %2.</source>
+        <translation>g(x) = %1 não pode ser lida: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not defined at x = %2</source>
+        <translation>%1 não está definida em x = %2</translation>
+    </message>
+    <message>
+        <source>%1 is not defined from x = %2 to x = %3</source>
+        <translation>%1 não está definida de x = %2 a x = %3</translation>
+    </message>
+    <message>
+        <source>Crossings in [a, b]:
+%1</source>
+        <translation>Cruzamentos em [a, b]:
+%1</translation>
+    </message>
+    <message>
+        <source>Understood: dy = %1,  dx = %2</source>
+        <translation>Entendido: dy = %1,  dx = %2</translation>
+    </message>
+    <message>
+        <source>Start( %1 , %2 ) </source>
+        <translation>Início( %1 , %2 ) </translation>
+    </message>
+    <message>
+        <source>the curve from (%1,%2)</source>
+        <translation>a curva a partir de (%1,%2)</translation>
+    </message>
+    <message>
+        <source>EndPt (%1,%2</source>
+        <translation>Ponto final (%1,%2</translation>
+    </message>
+    <message>
+        <source>Type numbers for a, L and ε.</source>
+        <translation>Digite números para a, L e ε.</translation>
+    </message>
+    <message>
+        <source>The window&apos;s x limits must be numbers, the minimum below the maximum.</source>
+        <translation>Os limites x da janela devem ser números, o mínimo abaixo do máximo.</translation>
+    </message>
+    <message>
+        <source>   leaves at x = %1</source>
+        <translation>   sai em x = %1</translation>
+    </message>
+    <message>
+        <source>ε = %1   no δ</source>
+        <translation>ε = %1   nenhum δ</translation>
+    </message>
+    <message>
+        <source>Limits by ε and δ of %1, a = %2, L = %3, ε = %4.</source>
+        <translation>Limites por ε e δ de %1, a = %2, L = %3, ε = %4.</translation>
+    </message>
+    <message>
+        <source>slope = %1</source>
+        <translation>inclinação = %1</translation>
+    </message>
+    <message>
+        <source>Slope =%1</source>
+        <translation>Inclinação =%1</translation>
+    </message>
+    <message>
+        <source>the tangent at x = %1</source>
+        <translation>a tangente em x = %1</translation>
+    </message>
+    <message>
+        <source>Mean value theorem for %1 on [%2, %3].</source>
+        <translation>Teorema do valor médio para %1 em [%2, %3].</translation>
+    </message>
+    <message>
+        <source>the guess x = %1</source>
+        <translation>a estimativa x = %1</translation>
+    </message>
+    <message>
+        <source>Newton&apos;s method on %1.</source>
+        <translation>Método de Newton em %1.</translation>
+    </message>
+    <message>
+        <source>No guesses yet; first guess box: %1.</source>
+        <translation>Ainda não há estimativas; caixa da primeira estimativa: %1.</translation>
+    </message>
+    <message>
+        <source>Guesses: %1.</source>
+        <translation>Estimativas: %1.</translation>
+    </message>
+    <message>
+        <source>(undefined at t = %1)</source>
+        <translation>(indefinida em t = %1)</translation>
+    </message>
+    <message>
+        <source>the point at t = %1</source>
+        <translation>o ponto em t = %1</translation>
+    </message>
+    <message>
+        <source>the curve %1, %2 for t from %3 to %4</source>
+        <translation>a curva %1, %2 para t de %3 a %4</translation>
+    </message>
+    <message>
+        <source>Understood: x = %1,  y = %2</source>
+        <translation>Entendido: x = %1,  y = %2</translation>
+    </message>
+    <message>
+        <source>%1 bars</source>
+        <extracomment>a sum&apos;s bars as drawn (&quot;Left Endpoint bars&quot;)</extracomment>
+        <translation>barras de %1</translation>
+    </message>
+    <message>
+        <source>%1 bars of %2</source>
+        <translation>barras de %1 de %2</translation>
+    </message>
+    <message>
+        <source>Delta x = %1</source>
+        <translation>Delta x = %1</translation>
+    </message>
+    <message>
+        <source>Delta x = %1, not a number</source>
+        <translation>Delta x = %1, não é um número</translation>
+    </message>
+    <message>
+        <source>the secant from x = %1</source>
+        <translation>a secante a partir de x = %1</translation>
+    </message>
+    <message>
+        <source>Tangent problem for %1 at x = %2, Delta x = %3.</source>
+        <translation>Problema da tangente para %1 em x = %2, Delta x = %3.</translation>
+    </message>
+    <message>
+        <source>Secant through %1: %2.</source>
+        <translation>Secante por %1: %2.</translation>
+    </message>
+    <message>
+        <source>No Taylor polynomial: %1.</source>
+        <translation>Sem polinômio de Taylor: %1.</translation>
+    </message>
+    <message>
+        <source>Taylor polynomials of %1.</source>
+        <translation>Polinômios de Taylor de %1.</translation>
+    </message>
+    <message>
+        <source>No terms yet; centre box: %1.</source>
+        <translation>Ainda não há termos; caixa do centro: %1.</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>the last of a list of screens (&quot;..., Newton&apos;s method and Taylor polynomials&quot;)</extracomment>
+        <translation>e %1</translation>
+    </message>
+    <message>
+        <source>A launcher opens %1 demonstration screens: %2.</source>
+        <translation>Um lançador abre %1 telas de demonstração: %2.</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <extracomment>a sum&apos;s rule (left endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Esquerda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <extracomment>a sum&apos;s rule (right endpoints) in the convergence table and the area grid</extracomment>
+        <translation>Direita</translation>
+    </message>
+    <message>
+        <source>Trapezoid</source>
+        <translation>Trapézios</translation>
+    </message>
+    <message>
+        <source>Simpson</source>
+        <translation>Simpson</translation>
+    </message>
+    <message>
+        <source>The step was not added: %1.</source>
+        <translation>O passo não foi adicionado: %1.</translation>
+    </message>
+    <message>
+        <source>Calculus demonstrations for the classroom. %1
+Qt&apos;s standard options (-platform, -style, ...) are accepted.</source>
+        <translation>Demonstrações de cálculo para a sala de aula. %1
+As opções padrão do Qt (-platform, -style, ...) são aceitas.</translation>
+    </message>
+    <message>
+        <source>lesson</source>
+        <extracomment>the name of the command line&apos;s argument in `plotto --help`</extracomment>
+        <translation>lição</translation>
+    </message>
+    <message>
+        <source>A lesson to open (a .plotto file).</source>
+        <translation>Uma lição a abrir (um arquivo .plotto).</translation>
+    </message>
+    <message>
+        <source>[lesson]</source>
+        <translation>[lição]</translation>
+    </message>
+    <message>
+        <source>Lists the demonstration screens, one a line in teaching order, separated by tabs: key, button, menu entry, classic or addition (an addition opens from More Demonstrations), the entry&apos;s Alt letter.</source>
+        <translation>Lista as telas de demonstração, uma por linha na ordem de ensino, separadas por tabulações: chave, botão, item de menu, clássica ou adição (uma adição abre em Mais demonstrações), a letra Alt do item.</translation>
+    </message>
+    <message>
+        <source>Opens a screen at the start: %1.</source>
+        <translation>Abre uma tela no início: %1.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <extracomment>the value of --screen in `plotto --help`</extracomment>
+        <translation>nome</translation>
+    </message>
+    <message>
+        <source>Writes the lesson as a worksheet to a PDF file, one step a page, and ends, with no window shown.</source>
+        <translation>Escreve a lição como folha de exercícios em um arquivo PDF, um passo por página, e termina sem mostrar janela.</translation>
+    </message>
+    <message>
+        <source>file.pdf</source>
+        <translation>arquivo.pdf</translation>
+    </message>
+    <message>
+        <source>With --worksheet: leaves the results as boxes to fill in, and writes the answers to a second file (NAME-answers.pdf).</source>
+        <translation>Com --worksheet: deixa os resultados como caixas a preencher e escreve as respostas em um segundo arquivo (NOME-answers.pdf).</translation>
+    </message>
+    <message>
+        <source>Shows the program in a language: %1 (English is the default; without this, the language chosen in Tools, Language, else the desktop&apos;s).</source>
+        <translation>Mostra o programa em um idioma: %1 (o inglês é o padrão; sem esta opção, o idioma escolhido em Ferramentas, Idioma, senão o da área de trabalho).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <extracomment>the value of --lang in `plotto --help`</extracomment>
+        <translation>código</translation>
+    </message>
+    <message>
+        <source>addition</source>
+        <extracomment>a screen&apos;s kind in `plotto --screens`: one of the seed&apos;s eight, or one added since</extracomment>
+        <translation>adição</translation>
+    </message>
+    <message>
+        <source>classic</source>
+        <translation>clássica</translation>
+    </message>
+    <message>
+        <source>%1: answers</source>
+        <translation>%1: respostas</translation>
+    </message>
+    <message>
+        <source>%1, and %2 or %3, both the natural logarithm</source>
+        <translation>%1, e %2 ou %3, ambos o logaritmo natural</translation>
+    </message>
+    <message>
+        <source>A to E</source>
+        <translation>A a E</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regra</translation>
+    </message>
+    <message>
+        <source>Signed: f - g</source>
+        <translation>Com sinal: f - g</translation>
+    </message>
+    <message>
+        <source>Unsigned: |f - g|</source>
+        <translation>Sem sinal: |f - g|</translation>
+    </message>
+    <message>
+        <source>A to F</source>
+        <translation>A a F</translation>
+    </message>
+    <message>
+        <source>leaves at x =</source>
+        <translation>sai em x =</translation>
+    </message>
+    <message>
+        <source>New term</source>
+        <translation>Novo termo</translation>
+    </message>
+    <message>
+        <source>Lagrange bound</source>
+        <translation>Cota de Lagrange</translation>
+    </message>
+    <message>
+        <source>%1 is %2. Press to raise by one; the decrease action lowers by one.</source>
+        <translation>%1 é %2. Pressione para aumentar em um; a ação de diminuir reduz em um.</translation>
+    </message>
+    <message>
+        <source>%1 holds %2, which is not a number.</source>
+        <translation>%1 contém %2, que não é um número.</translation>
+    </message>
+    <message>
+        <source>%1 strips is the most this screen sums.</source>
+        <translation>%1 faixas é o máximo que esta tela soma.</translation>
+    </message>
+    <message>
+        <source>the screen has no control named &apos;%1&apos;</source>
+        <translation>a tela não tem nenhum controle chamado &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the box &apos;%1&apos; cannot take %2</source>
+        <translation>a caixa &apos;%1&apos; não aceita %2</translation>
+    </message>
+    <message>
+        <source>the scroll bar &apos;%1&apos; cannot take that position</source>
+        <translation>a barra &apos;%1&apos; não aceita essa posição</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is ticked or not: true or false</source>
+        <translation>&apos;%1&apos; está marcada ou não: true ou false</translation>
+    </message>
+    <message>
+        <source>the screen has no menu entry &apos;%1&apos;</source>
+        <translation>a tela não tem nenhum item de menu &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>the screen has no button &apos;%1&apos;</source>
+        <translation>a tela não tem nenhum botão &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>This is not a lesson: %1 at character %2.</source>
+        <translation>Isto não é uma lição: %1 no caractere %2.</translation>
+    </message>
+    <message>
+        <source>The lesson has no valid version number.</source>
+        <translation>A lição não tem um número de versão válido.</translation>
+    </message>
+    <message>
+        <source>Step %1: unknown screen &apos;%2&apos; (the screens are %3).</source>
+        <translation>Passo %1: tela desconhecida &apos;%2&apos; (as telas são %3).</translation>
+    </message>
+    <message>
+        <source>Step %1: an action names no button to click or menu entry to choose.</source>
+        <translation>Passo %1: uma ação não nomeia nenhum botão a clicar nem item de menu a escolher.</translation>
+    </message>
+    <message>
+        <source>The lesson cannot be written to %1: %2.</source>
+        <translation>A lição não pode ser gravada em %1: %2.</translation>
+    </message>
+    <message>
+        <source>The lesson could not be saved to %1: %2. Nothing was changed there.</source>
+        <translation>A lição não pôde ser salva em %1: %2. Nada foi alterado ali.</translation>
+    </message>
+    <message>
+        <source>The lesson %1 cannot be read: %2.</source>
+        <translation>A lição %1 não pode ser lida: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be a lesson.</source>
+        <translation>%1 é grande demais para ser uma lição.</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opções]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Mostra a ajuda sobre as opções da linha de comando.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Mostra a ajuda incluindo as opções próprias do Qt.</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostra as informações da versão.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opção desconhecida &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opções desconhecidas: %1.</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The language rules: which shipped language a locale stands for, which one the program starts in,
-// the decimal separator of shown numbers and of typed ones, and a caption too long for its control.
+// the decimal separator of shown numbers and of typed ones, a caption too long for its control, and
+// funclib's sentences shown in the language.
+#include <functional>
+
 #include <QCoreApplication>
 #include <QPushButton>
 #include <gtest/gtest.h>
 
+#include "funclib/EpsilonDelta.h"
+#include "funclib/FunctionSource.h"
+#include "funclib/TypedExpression.h"
 #include "graphwin/Controls.h"
 #include "graphwin/FormStyle.h"
 #include "graphwin/Language.h"
@@ -121,6 +127,45 @@ TEST(Language, ACaptionTooLongForItsButtonShowsWholeInTheTooltip)
     button.resize(2000, 30);
     QCoreApplication::processEvents();
     EXPECT_EQ(button.toolTip(), QString());
+}
+
+// funclib writes English; the screen shows the sentence in the language, the place and the typed
+// text kept, a number with the language's separator, a refusal inside a refusal translated too.
+TEST(Language, FunclibsSentencesShowInTheLanguageWithTheirPlacesAndNumbers)
+{
+    const auto refusal = [](const char* text) {
+        std::string error;
+        FuncGlobals::TypedExpression::compile(text, {"x"}, error);
+        return error;
+    };
+    const auto ratesRefusal = [](const char* dy) {
+        std::string error;
+        FuncGlobals::TypedRates::make(dy, "1", error);
+        return error;
+    };
+    struct Row {
+        const char* name;
+        const char* code;
+        std::function<std::string()> english;
+        const char* shown;
+    };
+    const Row rows[] = {
+        {"English unchanged", "en", [&] { return refusal("sinn(x)"); }, "unknown name 'sinn' at 1"},
+        {"a name and its place", "de", [&] { return refusal("sinn(x)"); }, "unbekannter Name 'sinn' an Stelle 1"},
+        // "(x + 1" has 6 characters: the missing bracket is at the end, place 7.
+        {"the end of the text", "fr", [&] { return refusal("(x + 1"); }, "il manque ')' à la position 7"},
+        {"two arguments in order", "es", [&] { return refusal("2x"); }, "falta '*': escriba 2*x para un producto en 2"},
+        {"a refusal inside a refusal", "pt_BR", [&] { return ratesRefusal("x +"); },
+         "dy: falta um termo depois de '+' na posição 4"},
+        {"numbers with a decimal comma", "de", [] { return limits::largestDelta({}, 5, 0, 0.5, -1.5, 2.5).words; },
+         "a = 5 liegt nicht im Fenster von -1,5 bis 2,5: verschieben Sie a oder vergrößern Sie das Fenster, um δ "
+         "zu suchen."},
+        {"a text of no template", "de", [] { return std::string("x^2 - 4"); }, "x^2 - 4"},
+    };
+    for (const Row& row : rows) {
+        InLanguage language(row.code);
+        EXPECT_EQ(i18n::words(row.english()), QString::fromUtf8(row.shown)) << row.name;
+    }
 }
 
 }  // namespace

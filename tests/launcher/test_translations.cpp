@@ -10,9 +10,12 @@
 #include <QMenuBar>
 #include <gtest/gtest.h>
 
+#include "funclib/Words.h"
+#include "graphwin/Controls.h"
 #include "graphwin/FormStyle.h"
 #include "graphwin/Language.h"
 #include "launcher/frmGraphingCalc.h"
+#include "screens/ConvergenceWindow.h"
 #include "screens/Lesson.h"
 #include "screens/ScreenRegistry.h"
 #include "screens/frmNewton.h"
@@ -50,9 +53,8 @@ void expectDistinctLetters(const QList<QAction*>& actions, const std::string& wh
         const QChar letter = altLetter(a->text());
         if (!letter.isNull()) {
             const auto [at, fresh] = taken.emplace(letter, a->text());
-            EXPECT_TRUE(fresh)
-                << where << ": '" << a->text().toStdString() << "' and '" << at->second.toStdString() << "' share Alt+"
-                << QString(letter).toStdString();
+            EXPECT_TRUE(fresh) << where << ": '" << a->text().toStdString() << "' and '" << at->second.toStdString()
+                               << "' share Alt+" << QString(letter).toStdString();
         }
         if (a->menu())
             expectDistinctLetters(a->menu()->actions(), where + " > " + a->text().toStdString());
@@ -87,10 +89,12 @@ TEST(Translations, NoTwoEntriesOfAMenuShareAnAltLetterInAnyLanguage)
 }
 
 // Every caption of every form fits its control, or shows whole in its tooltip (the style draws it
-// shortened), at the smallest and the largest zoom of a form, in every language.
+// shortened), at the smallest and the largest zoom of a form, in every language; a grid's headings
+// too (German "Schätzung Nr." is wider than the Newton grid's column at the smallest zoom).
 TEST(Translations, EveryCaptionFitsOrShowsWholeInItsTooltip)
 {
     ScriptedDialogs script;
+    int shortenedHeadings = 0;
     for (const char* code : kLanguages) {
         InLanguage language(code);
         for (const screens::Entry& row : screens::all()) {
@@ -107,10 +111,35 @@ TEST(Translations, EveryCaptionFitsOrShowsWholeInItsTooltip)
                         << code << " " << row.key << " at zoom " << zoom << ": " << w->objectName().toStdString()
                         << " '" << whole.toStdString() << "' has " << caption::room(w) << " px";
                 }
+                for (const Grid* grid : screen->surface->findChildren<Grid*>())
+                    for (int c = 0; c < grid->columnCount() && grid->isVisible(); ++c) {
+                        const bool fits = grid->cellFits(0, c);
+                        shortenedHeadings += !fits;
+                        EXPECT_TRUE(fits || grid->cellTip(0, c) == grid->cell(0, c))
+                            << code << " " << row.key << " at zoom " << zoom << ": heading '"
+                            << grid->cell(0, c).toStdString() << "'";
+                    }
             }
             screen->hide();
         }
     }
+    EXPECT_GT(shortenedHeadings, 0);
+}
+
+// The convergence table of the step methods in German: its headings, and its summary made from
+// funclib's English with the run-time error's classic text kept.
+TEST(Translations, TheConvergenceTableSpeaksTheLanguage)
+{
+    InLanguage language("de");
+    ConvergenceWindow window(nullptr, QStringLiteral("t"), [] {
+        return Convergence::stepsWithout(FuncGlobals::words::fill(FuncGlobals::words::referenceFault, {"Overflow"}));
+    });
+    window.recompute();
+    EXPECT_EQ(
+        window.shownCells().front(),
+        QStringList({"h", "Euler", "Fehler Euler", "Verhältnis Euler", "Runge-Kutta 2", "Fehler Runge-Kutta 2",
+                     "Verhältnis Runge-Kutta 2", "Runge-Kutta 4", "Fehler Runge-Kutta 4", "Verhältnis Runge-Kutta 4"}));
+    EXPECT_EQ(window.summary()->text(), QStringLiteral("Die Referenz kann nicht berechnet werden: Overflow."));
 }
 
 // Newton's method on x^2 - 2 from 1: the next guess is 1 - (1 - 2)/2 = 1.5, the one after it
