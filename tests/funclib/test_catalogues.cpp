@@ -36,12 +36,8 @@ TEST(ExplicitCatalogue, ValuesAndCaptionBounds)
 {
     const double x = 1.5;
     // Family `id` with A to E at x = 1.5.
-    struct Value {
-        const char* name;
-        int id;
-        double a, b, c, d, e, expected;
-    };
-    const Value cases[] = {
+    // clang-format off
+    const struct { const char* name; int id; double a, b, c, d, e, expected; } cases[] = {
         {"(3 - 3)^2 + 4", 1, 1, 2, 3, 4, 0, 4.0},
         {"2x^2 - x + 3", 2, 2, -1, 3, 0, 0, 2 * 2.25 - 1.5 + 3},
         {"2(3 - 1)^3 + 1", 3, 2, 2, 1, 1, 0, 2 * 8.0 + 1},
@@ -58,7 +54,8 @@ TEST(ExplicitCatalogue, ValuesAndCaptionBounds)
         {"power", 14, 2, 0.5, 3, 0, 0, 2 * std::sqrt(1.5) + 3},
         {"exponential of base B", 15, 2, 4, 3, 0, 0, 2 * 8.0 + 3},
     };
-    for (const Value& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         select(c.id, c.a, c.b, c.c, c.d, c.e);
         FunctionCount = DerivativeCount = 0;
@@ -88,13 +85,8 @@ TEST(ExplicitCatalogue, DerivativesMatchTheSlopeOfTheValues)
 TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
 {
     // The value and the slope of family `id` with A to D at x, and the errors each raises (0: none).
-    struct Edge {
-        const char* name;
-        int id;
-        double a, b, c, d, x, y, slope;
-        int yError = 0, slopeError = 0;
-    };
-    const Edge cases[] = {
+    // clang-format off
+    struct { const char* name; int id; double a, b, c, d, x, y, slope; int yError = 0, slopeError = 0; } cases[] = {
         {"parabola", 1, 1, 2, 3, 4, 1, 5, -4},
         {"tangent: the slope of Dx is left out (1, not 6)", 7, 1, 1, 0, 5, 0, 0, 1},
         {"power at x = 0 with B > 1", 14, 1, 2, 7, 0, 0, 7, 0},
@@ -120,7 +112,8 @@ TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
         {"reciprocal: value overflows, slope divides by 0", 10, 1e300, 1, 0, 0, 1e-300, 0, 0, rt::Overflow,
          rt::DivisionByZero},
     };
-    for (const Edge& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         select(c.id, c.a, c.b, c.c, c.d);
         double y = 0, slope = 0;
@@ -134,8 +127,8 @@ TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
 TEST(RateCatalogue, ValuesOfBothColumns)
 {
     const double x = 1.5, y = -0.5;
-    const struct { int family; double dy, dx; } cases[] = {
-        // dy, dx with A, B, C = 2, 3, 0.5 and D, E, F = -1, 4, 1.5
+    // The family, dy and dx with A, B, C = 2, 3, 0.5 and D, E, F = -1, 4, 1.5.
+    const std::tuple<int, double, double> cases[] = {
         {1, 2 * x + 3 * y + 0.5, -x + 4 * y + 1.5},
         {2, 2 * x + 3 * std::sin(0.5 * x), -x + 4 * std::sin(1.5 * x)},
         {3, 2 * x + 3 * std::cos(0.5 * x), -x + 4 * std::cos(1.5 * x)},
@@ -194,8 +187,8 @@ TEST(RateCatalogue, ZeroCoefficientsHandWorkedStepsAndFaults)
 TEST(ParametricCatalogue, ValuesOfBothCatalogues)
 {
     const double T = 0.5;
-    // A, B, C = 2, 3, 0.25 and D, E, F = -1, 0.5, 4
-    const struct { int family; double x, y; } cases[] = {
+    // The family, x and y with A, B, C = 2, 3, 0.25 and D, E, F = -1, 0.5, 4.
+    const std::tuple<int, double, double> cases[] = {
         {1, 2 * T * T + 3 * T + 0.25, -T * T + 0.5 * T + 4},
         {2, 2 * T * T * T + 3 * T + 0.25, -T * T * T + 0.5 * T + 4},
         {3, 2 * T * T * T + 3 * T * T + 0.25 * T, -T * T * T + 0.5 * T * T + 4 * T},
