@@ -33,7 +33,7 @@ TEST(DrawingSurface, ShapesColourThePixelsUnderTheirTwipsAndAreRecorded)
     EXPECT_EQ(std::pair(s.CurrentX, s.CurrentY), std::pair(1e12, 2000.0));
     s.Line(1e300, -1e300, 2e300, -5e299, kBlue);  // entirely outside
     s.Line(1500, 1500, std::numeric_limits<double>::quiet_NaN(), 0, kBlue);
-    const struct { double x, y; QRgb colour; } pixels[] = {
+    const std::tuple<double, double, QRgb> pixels[] = {
         {1500, 1500, kRed},  {1514, 1514, kRed}, {1515, 1500, kWhite},  // 15 twips to a pixel
         {300, 600, kBlue},   {1200, 600, kBlue}, {1215, 600, kWhite},  {750, 750, kRed},
         {750, 1200, kWhite}, {0, 2000, kRed},    {5990, 2000, kRed},   {1500, 1400, kWhite}};
@@ -177,17 +177,15 @@ TEST(DrawWidthScope, PutsBackTheWidthThereWasHoweverTheScopeEnds)
 
 TEST(GraphWindow, MapsTheWindowOntoTheSquareAndBack)
 {
-    struct Case {
-        const char* name;
-        double left, xmin, xmax, ymin, ymax;
-        std::int32_t xOrigin, yOrigin;
-    } cases[] = {
+    // clang-format off
+    struct { const char* name; double left, xmin, xmax, ymin, ymax; std::int32_t xOrigin, yOrigin; } cases[] = {
         {"the default window", 2400, -10, 10, -10, 10, 5600, 3300},
         {"a window right of the origin", 2400, 1, 5, 0, 4, 800, 6500},
         {"another square's left edge", 1560, -2, 2, -1, 3, 4760, 4900},
         {"an origin rounded down", 2400, -3, 4, -2, 5, 5142, 4671},
     };
-    for (const Case& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         GraphWindow g;
         g.Left = c.left;
