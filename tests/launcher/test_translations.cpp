@@ -50,33 +50,25 @@ void expectDistinctLetters(const QList<QAction*>& actions, const std::string& wh
         const QChar letter = altLetter(a->text());
         if (!letter.isNull()) {
             const auto [at, fresh] = taken.emplace(letter, a->text());
-            EXPECT_TRUE(fresh)
-                << where << ": '" << a->text().toStdString() << "' and '" << at->second.toStdString() << "' share Alt+"
-                << QString(letter).toStdString();
+            EXPECT_TRUE(fresh) << where << ": '" << a->text().toStdString() << "' and '" << at->second.toStdString()
+                               << "' share Alt+" << QString(letter).toStdString();
         }
         if (a->menu())
             expectDistinctLetters(a->menu()->actions(), where + " > " + a->text().toStdString());
     }
 }
 
-TEST(Translations, EachLanguageIsInstalledAndTheLauncherSpeaksIt)
+// Each language is installed and the launcher speaks it: English shows the seed's title, every other
+// language a title of its own from its catalogue; and no two entries of a menu share an Alt letter.
+TEST(Translations, EachLanguageIsInstalledAndNoTwoEntriesOfAMenuShareAnAltLetter)
 {
+    ScriptedDialogs script;
     const QString english = frmGraphingCalc().windowTitle();
     for (const char* code : kLanguages) {
         InLanguage language(code);
         frmGraphingCalc launcher;
-        // English shows the seed's title; every other language a title of its own from its catalogue.
         EXPECT_EQ(launcher.windowTitle() == english, std::string(code) == "en") << code;
         EXPECT_EQ(launcher.mnuLanguages.size(), i18n::languages().size());
-    }
-}
-
-TEST(Translations, NoTwoEntriesOfAMenuShareAnAltLetterInAnyLanguage)
-{
-    ScriptedDialogs script;
-    for (const char* code : kLanguages) {
-        InLanguage language(code);
-        frmGraphingCalc launcher;
         expectDistinctLetters(launcher.menuBar->actions(), std::string(code) + " launcher");
         for (const screens::Entry& row : screens::all()) {
             const std::unique_ptr<GraphScreen> screen = row.make();
@@ -118,16 +110,13 @@ TEST(Translations, EveryCaptionFitsOrShowsWholeInItsTooltip)
 // language's decimal comma is read as a number.
 TEST(Translations, NewtonsGuessesShowTheLanguagesDecimalSeparator)
 {
-    struct Row {
-        const char* code;
-        const char* typedGuess;
-        const char* second;
-    };
-    const Row rows[] = {
+    // clang-format off
+    const struct { const char* code; const char* typedGuess; const char* second; } rows[] = {
         {"en", "1", "1.5"}, {"es", "1", "1,5"}, {"fr", "1,0", "1,5"}, {"de", "1,0", "1,5"}, {"pt_BR", "1", "1,5"},
     };
+    // clang-format on
     ScriptedDialogs script;
-    for (const Row& r : rows) {
+    for (const auto& r : rows) {
         InLanguage language(r.code);
         frmNewton newton;
         newton.Form_Activate();

@@ -43,12 +43,7 @@ Outcome plotto(const QStringList& arguments)
 QString tool(const char* name, const QStringList& arguments)
 {
     const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
-    if (path.isEmpty())
-        return {};
-    QProcess p;
-    p.start(path, arguments);
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
+    return path.isEmpty() ? QString() : toolOutput(path, arguments);
 }
 
 int pages(const QString& pdf)
@@ -66,35 +61,24 @@ QString example(const char* name) { return QStringLiteral(PLOTTO_SOURCE_DIR "/ex
 // digit inside a name stay.
 TEST(Worksheet, TheBlanksOfALineOfResults)
 {
-    struct Case {
-        const char* name;
-        QString line, given, blank;
-    };
     const QString family = QStringLiteral("y = Ax^2 + Bx + C with A = 1, B = 0, C = -4");
-    const Case cases[] = {
-        {"a sum",
-         QStringLiteral("Left Endpoint (ticked): =  5.5"),
-         {},
+    const QString newton = QStringLiteral("Newton's method on ") + family;
+    const QString none = QStringLiteral("Area under the curve from -2 to 2 with 8 partitions.");
+    // clang-format off
+    const struct { const char* name; QString line, given, blank; } cases[] = {
+        {"a sum", QStringLiteral("Left Endpoint (ticked): =  5.5"), {},
          QStringLiteral("Left Endpoint (ticked): =  ") + kBox},
-        {"a list",
-         QStringLiteral("Guesses: 1: 2; 2: 2.1; 3: -2.09e-3."),
-         {},
+        {"a list", QStringLiteral("Guesses: 1: 2; 2: 2.1; 3: -2.09e-3."), {},
          QStringLiteral("Guesses: 1: %1; 2: %1; 3: %1.").arg(kBox)},
-        {"names and powers",
-         QStringLiteral("P_7 at x^2 is x3 = 0.25"),
-         {},
+        {"names and powers", QStringLiteral("P_7 at x^2 is x3 = 0.25"), {},
          QStringLiteral("P_7 at x^2 is x3 = ") + kBox},
-        {"the function given", QStringLiteral("Newton's method on ") + family + QStringLiteral(": c = 1.5"), family,
-         QStringLiteral("Newton's method on ") + family + QStringLiteral(": c = ") + kBox},
+        {"the function given", newton + QStringLiteral(": c = 1.5"), family, newton + QStringLiteral(": c = ") + kBox},
         {"a decimal comma", QStringLiteral("Vermutungen: 1: 2; 2: 2,1; 3: 2,09."), {},
          QStringLiteral("Vermutungen: 1: %1; 2: %1; 3: %1.").arg(kBox)},
         {"a whole number before a full stop", QStringLiteral("c = 2."), {}, QStringLiteral("c = ") + kBox + "."},
-        {"no result",
-         QStringLiteral("Area under the curve from -2 to 2 with 8 partitions."),
-         {},
-         QStringLiteral("Area under the curve from -2 to 2 with 8 partitions.")},
-    };
-    for (const Case& c : cases) {
+        {"no result", none, {}, none}};
+    // clang-format on
+    for (const auto& c : cases) {
         EXPECT_EQ(worksheet::blanked(c.line, true, c.given), c.blank) << c.name;
         EXPECT_EQ(worksheet::blanked(c.line, false, c.given), c.line) << c.name;
     }
@@ -138,27 +122,17 @@ TEST(Worksheet, WhatGoesWrongIsSaidWithItsStatus)
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
     broken.write("{\"format\": \"plotto-lesson\", \"version\": 2, \"steps\": [");
     broken.close();
-    struct Case {
-        const char* name;
-        QStringList arguments;
-        int status;
-        const char* says;
-    };
-    const QString out = dir.filePath(QStringLiteral("w.pdf"));
-    const Case cases[] = {
-        {"no such lesson",
-         {dir.filePath(QStringLiteral("none.plotto")), QStringLiteral("--worksheet"), out},
-         1,
-         "Cannot read the lesson"},
-        {"not a lesson", {broken.fileName(), QStringLiteral("--worksheet"), out}, 1, "This is not a lesson"},
-        {"no folder to write in",
-         {example("newtons-method.plotto"), QStringLiteral("--worksheet"), dir.filePath(QStringLiteral("no/w.pdf"))},
-         1,
-         "Could not write"},
-        {"no lesson", {QStringLiteral("--worksheet"), out}, 2, "needs a lesson"},
-        {"blank alone", {example("newtons-method.plotto"), QStringLiteral("--blank")}, 2, "--blank goes with"},
-    };
-    for (const Case& c : cases) {
+    const QString out = dir.filePath(QStringLiteral("w.pdf")), worksheet = QStringLiteral("--worksheet");
+    const QString newton = example("newtons-method.plotto");
+    // clang-format off
+    const struct { const char* name; QStringList arguments; int status; const char* says; } cases[] = {
+        {"no such lesson", {dir.filePath(QStringLiteral("none.plotto")), worksheet, out}, 1, "Cannot read the lesson"},
+        {"not a lesson", {broken.fileName(), worksheet, out}, 1, "This is not a lesson"},
+        {"no folder to write in", {newton, worksheet, dir.filePath(QStringLiteral("no/w.pdf"))}, 1, "Could not write"},
+        {"no lesson", {worksheet, out}, 2, "needs a lesson"},
+        {"blank alone", {newton, QStringLiteral("--blank")}, 2, "--blank goes with"}};
+    // clang-format on
+    for (const auto& c : cases) {
         const Outcome r = plotto(c.arguments);
         EXPECT_EQ(r.status, c.status) << c.name;
         EXPECT_TRUE(r.err.contains(QLatin1String(c.says))) << c.name << ": " << r.err.toStdString();
