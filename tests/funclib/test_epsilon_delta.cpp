@@ -77,10 +77,8 @@ TEST(EpsilonDelta, NoDeltaWherePointsArbitrarilyCloseLeaveTheBand)
     // clang-format off
     const struct { const char* name; const char* f; double a, L, eps; } rows[] = {
         {"a jump, L between the sides", "x/abs(x)", 0, 0, 0.5},
-        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5},
-        {"a pole", "1/x", 0, 0, 0.5},
-        {"an oscillation", "sin(1/x)", 0, 0, 0.5},
-        {"a wrong L", "2*x + 3", 1, 6, 0.5},
+        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5}, {"a pole", "1/x", 0, 0, 0.5},
+        {"an oscillation", "sin(1/x)", 0, 0, 0.5}, {"a wrong L", "2*x + 3", 1, 6, 0.5},
         {"an L just outside the band", "x^2", 2, 4.5, 0.5},
     };
     // clang-format on
@@ -99,8 +97,7 @@ TEST(EpsilonDelta, WhatIsNotSearchedIsSaid)
 {
     // clang-format off
     const struct { const char* name; double a, eps; const char* says; } rows[] = {
-        {"eps 0", 1, 0, "ε must be a positive number."},
-        {"eps negative", 1, -0.5, "ε must be a positive number."},
+        {"eps 0", 1, 0, "ε must be a positive number."}, {"eps negative", 1, -0.5, "ε must be a positive number."},
         {"eps not a number", 1, NAN, "ε must be a positive number."},
         {"a outside the window", 12, 0.5, "a = 12 is not inside the window from -10 to 10"},
         {"a on its edge", 10, 0.5, "a = 10 is not inside the window"},
@@ -122,8 +119,7 @@ TEST(EpsilonDelta, TheLimitFromBothSides)
     const struct { const char* name; const char* f; double a; bool exists; double limit; const char* words; } rows[] = {
         {"sin(x)/x at 0", "sin(x)/x", 0, true, 1, nullptr},
         {"(x^2 - 1)/(x - 1) at 1", "(x^2 - 1)/(x - 1)", 1, true, 2, nullptr},
-        {"2x + 3 at 1", "2*x + 3", 1, true, 5, nullptr},
-        {"x^2 at 2", "x^2", 2, true, 4, nullptr},
+        {"2x + 3 at 1", "2*x + 3", 1, true, 5, nullptr}, {"x^2 at 2", "x^2", 2, true, 4, nullptr},
         {"(1 - cos x)/x^2 at 0", "(1 - cos(x))/x^2", 0, true, 0.5, nullptr},
         {"sqrt(x) at 0, from the right only", "sqrt(x)", 0, true, 0, nullptr},
         {"a jump", "x/abs(x)", 0, false, 0, "The left side tends to -1 and the right side to 1: no limit at a = 0."},

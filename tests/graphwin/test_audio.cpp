@@ -107,8 +107,7 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
     EXPECT_EQ(low->y, 1);
     EXPECT_TRUE(low->index == 2 || low->index == 3) << low->index;
     // A curve with no sign change, turn or y-axis: nothing, and nothing on an empty or gappy curve.
-    const std::vector<audio::Point> rising{{1, 1}, {2, 2}, {3, 3}};
-    EXPECT_FALSE(audio::nearestFeature(rising, 1));
+    EXPECT_FALSE(audio::nearestFeature({{1, 1}, {2, 2}, {3, 3}}, 1));
     EXPECT_FALSE(audio::nearestFeature({}, 0));
     const double gap = std::nan("");
     EXPECT_FALSE(audio::nearestFeature({{1, -1}, {2, gap}, {3, 1}}, 0)) << "no root across a gap";

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The drawing surface: pixels under twip points, recorded shapes, clipping and pens; and at every
 // size the same twips under a press and the picture drawn again.
+#include <array>
+
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -40,10 +42,9 @@ TEST(DrawingSurface, ShapesColourThePixelsUnderTheirTwipsAndAreRecorded)
     for (const auto& [x, y, colour] : pixels)
         EXPECT_EQ(s.pixel(x, y), colour) << x << ", " << y;
     ASSERT_EQ(s.ops().size(), 6u);  // lines outside are recorded too
-    EXPECT_EQ(s.ops()[0].kind, DrawOp::PSet);
     const DrawOp& step = s.ops()[1];
-    EXPECT_EQ(step.kind, DrawOp::Line);
-    EXPECT_EQ(std::tuple(step.x1, step.y1, step.x2, step.y2, step.color), std::tuple(300, 600, 1200, 600, kBlue));
+    EXPECT_EQ(std::tuple(s.ops()[0].kind, step.kind, step.x1, step.y1, step.x2, step.y2, step.color),
+              std::tuple(DrawOp::PSet, DrawOp::Line, 300, 600, 1200, 600, kBlue));
 
     s.setDrawWidth(3);
     s.PSet(3000, 1500, kRed);
@@ -70,8 +71,7 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
     s.Line(300, 600, 1200, 600, kRed);
     s.Line(150, 1500, 1500, 2800, kRed);
     s.Circle(1500, 1500, 450, kRed);
-    s.CurrentX = 200;
-    s.CurrentY = 2200;
+    s.CurrentX = 200, s.CurrentY = 2200;
     s.Print(QStringLiteral("y = x^2"));
     s.clearArea(1000, 1000, 200, 200);
     const QImage before = grab(s);
@@ -92,9 +92,7 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
 // paths where one begins where the last ended, and never joined to the batch before.
 TEST(Zoom, KeptBatchesOfSegmentsAreDrawnAgainAsTheyWereDrawnOneByOne)
 {
-    struct Segment {
-        double x1, y1, x2, y2;
-    };
+    using Segment = std::array<double, 4>;  // from (x1, y1) to (x2, y2)
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const std::vector<std::pair<QRgb, std::vector<Segment>>> batches = {
         {kRed, {{300, 300, 1200, 900}, {1200, 900, 1500, 300}, {1500, 300, 1507, 301}}},
@@ -107,8 +105,8 @@ TEST(Zoom, KeptBatchesOfSegmentsAreDrawnAgainAsTheyWereDrawnOneByOne)
     for (DrawingSurface* s : {&one, &batched})
         for (const auto& [colour, segments] : batches) {
             DrawingSurface::Batch b(*s, colour);
-            for (const Segment& g : segments)
-                b.line(g.x1, g.y1, g.x2, g.y2);
+            for (const auto& [x1, y1, x2, y2] : segments)
+                b.line(x1, y1, x2, y2);
         }
     for (double zoom : {1.0, 2.0, 0.5, 3.25}) {
         one.setZoom(zoom);

@@ -30,12 +30,10 @@ TEST(GraphView, AZoomKeepsItsPointWhereItIsAndScalesTheWindow)
         EXPECT_NEAR((c.x - z.xmin) / z.width(), (c.x - c.from.xmin) / c.from.width(), 1e-12) << c.name;
         EXPECT_NEAR((c.y - z.ymin) / z.height(), (c.y - c.from.ymin) / c.from.height(), 1e-12) << c.name;
     }
-    const Limits panned = view::panBy({-10, 10, -5, 5}, 2.5, -1);
-    EXPECT_EQ(panned, (Limits{-7.5, 12.5, -6, 4}));
+    EXPECT_EQ(view::panBy({-10, 10, -5, 5}, 2.5, -1), (Limits{-7.5, 12.5, -6, 4}));
     EXPECT_EQ(view::boxBetween(3, -1, -2, 4), (Limits{-2, 3, -1, 4}));
-    EXPECT_DOUBLE_EQ(view::wheelFactor(120), 1.25);
-    EXPECT_DOUBLE_EQ(view::wheelFactor(-120), 0.8);
-    EXPECT_DOUBLE_EQ(view::wheelFactor(240), 1.5625);
+    for (const auto& [notches, factor] : {std::pair(120, 1.25), std::pair(-120, 0.8), std::pair(240, 1.5625)})
+        EXPECT_DOUBLE_EQ(view::wheelFactor(notches), factor) << notches;
 }
 
 TEST(GraphView, LimitsAreWrittenForReadingWithinATenthOfAPixelAndReadBackExactly)
@@ -71,8 +69,7 @@ TEST(GraphView, WindowsTheArithmeticCannotShowAreRefusedInWords)
     // The start of the refusal, "" for a window that can be shown.
     // clang-format off
     const struct { const char* name; Limits limits; const char* says; } cases[] = {
-        {"the default", {-10, 10, -10, 10}, ""},
-        {"a close window near 1", {0.99999, 1.00001, 0.99999, 1.00001}, ""},
+        {"the default", {-10, 10, -10, 10}, ""}, {"a close window near 1", {0.99999, 1.00001, 0.99999, 1.00001}, ""},
         {"too close to tell apart near 1", {1 - 1e-9, 1 + 1e-9, -1, 1}, "Zoomed in as far"},
         {"too close near 0", {-1e-11, 1e-11, -1, 1}, "Zoomed in as far"},
         {"too wide", {-1e13, 1e13, -1, 1}, "Zoomed out as far"},

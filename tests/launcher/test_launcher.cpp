@@ -100,12 +100,10 @@ TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
         GraphScreen& screen = l.screen(row);
         EXPECT_EQ(screens::of(screen), &row);
         EXPECT_EQ(entry->text(), QString::fromUtf8(row.entry));
-        auto* button = [&]() -> QPushButton* {
-            for (QPushButton* b : l.findChildren<QPushButton*>())
-                if (b->text() == QString::fromUtf8(row.button))
-                    return b;
-            return nullptr;
-        }();
+        QPushButton* button = nullptr;
+        for (QPushButton* b : l.findChildren<QPushButton*>())
+            if (!button && b->text() == QString::fromUtf8(row.button))
+                button = b;
         EXPECT_EQ(button == nullptr, bool(kind)) << row.key;
         int shown = 0;
         for (int way = kind; way < 2; ++way) {
@@ -115,16 +113,14 @@ TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
         }
         EXPECT_EQ(shown, 2 - kind) << row.key;
     }
-    EXPECT_EQ(next[0], menus[0].size());
-    EXPECT_EQ(next[1], menus[1].size());
+    EXPECT_EQ(std::pair(next[0], next[1]), std::pair(menus[0].size(), menus[1].size())) << "every entry opens a row";
     // The additions' menu stands between Selections and Lessons.
     const QList<QAction*> bar = l.menuBar->actions();
     EXPECT_EQ(bar.indexOf(l.mnuMore), bar.indexOf(l.mnuSelect) + 1);
     EXPECT_EQ(bar.indexOf(l.mnuLessons), bar.indexOf(l.mnuMore) + 1);
-    auto read = [](const char* file) {
-        QFile f(QStringLiteral(PLOTTO_SOURCE_DIR "/packaging/") + QString::fromLatin1(file));
-        EXPECT_TRUE(f.open(QIODevice::ReadOnly)) << file;
-        return QString::fromUtf8(f.readAll()).simplified();
+    auto read = [](const char* file) {  // empty when it cannot be read, which the checks then show
+        return QString::fromUtf8(fileBytes(QStringLiteral(PLOTTO_SOURCE_DIR "/packaging/") + QLatin1String(file)))
+            .simplified();
     };
     EXPECT_TRUE(read("org.example.plotto.metainfo.xml").contains(screens::summary()))
         << screens::summary().toStdString();

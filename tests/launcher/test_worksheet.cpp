@@ -106,12 +106,12 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
         plotto({example("newtons-method.plotto"), QStringLiteral("--worksheet"), sheet, QStringLiteral("--blank")});
     ASSERT_EQ(blank.status, 0) << blank.err.toStdString();
     const QString students = tool("pdftotext", {sheet, QStringLiteral("-")});
-    const QString answers =
-        tool("pdftotext", {dir.filePath(QStringLiteral("students-answers.pdf")), QStringLiteral("-")});
+    const QString answersPdf = dir.filePath(QStringLiteral("students-answers.pdf"));
+    const QString answers = tool("pdftotext", {answersPdf, QStringLiteral("-")});
     EXPECT_FALSE(students.contains(QStringLiteral("2.09456812110419")));
     EXPECT_TRUE(students.contains(QStringLiteral("x^3 - 2*x - 5"))) << "the function stays";
     EXPECT_TRUE(answers.contains(QStringLiteral("2.09456812110419")));
-    EXPECT_EQ(pages(sheet), pages(dir.filePath(QStringLiteral("students-answers.pdf"))));
+    EXPECT_EQ(pages(sheet), pages(answersPdf));
 }
 
 // What goes wrong is said, with a status a script can test: 1 for a file, 2 for the command line.
@@ -144,8 +144,7 @@ TEST(Worksheet, WhatGoesWrongIsSaidWithItsStatus)
 // show as they are; without a program to run, or a lesson, it says so.
 TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     frmGraphingCalc launcher;
     QTemporaryDir dir;
     const QString out = dir.filePath(QStringLiteral("sheet.pdf"));
@@ -177,5 +176,4 @@ TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
     launcher.mnuExportWorksheet_Click();
     ASSERT_EQ(script.shown.size(), 1u);
     EXPECT_TRUE(script.shown[0].second.contains(QStringLiteral("cannot start")));
-    setDialogScript(nullptr);
 }

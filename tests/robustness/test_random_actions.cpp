@@ -66,8 +66,7 @@ struct Control {
 struct Walk {
     std::mt19937_64 rng;
     DialogScript script;
-    std::vector<std::function<std::unique_ptr<GraphScreen>()>> factories;
-    std::vector<std::unique_ptr<GraphScreen>> screens;
+    std::vector<std::unique_ptr<GraphScreen>> screens;  // one of each registered screen, in the registry's order
     std::vector<std::vector<Control>> controls;
     std::vector<std::string> log;
     std::map<int, long> errorsByNumber;  // the allowed errors met, for the closing line
@@ -76,12 +75,8 @@ struct Walk {
     long damagedLessons = 0, refusedSteps = 0;  // damaged examples opened, and their steps refused in words
     QTemporaryDir lessonDir;  // where the walk saves and opens its lessons
 
-    explicit Walk(std::uint64_t seed) : rng(seed)
+    explicit Walk(std::uint64_t seed) : rng(seed), screens(screens::all().size()), controls(screens.size())
     {
-        for (const screens::Entry& entry : screens::all())
-            factories.push_back(entry.make);
-        screens.resize(factories.size());
-        controls.resize(factories.size());
         restartFresh();
     }
 
@@ -99,7 +94,7 @@ struct Walk {
         FuncGlobals::Coefficients = {};
         FuncGlobals::DxFuncId = FuncGlobals::DyFuncId = FuncGlobals::XtFuncId = FuncGlobals::YtFuncId = 0;
         rt::resetRnd();
-        for (std::size_t i = 0; i < factories.size(); ++i)
+        for (std::size_t i = 0; i < screens.size(); ++i)
             start(i);
     }
 
@@ -116,7 +111,7 @@ struct Walk {
     // A freshly loaded screen with the list of its controls.
     void start(std::size_t i)
     {
-        screens[i] = factories[i]();
+        screens[i] = screens::all()[i].make();
         GraphScreen& s = *screens[i];
         std::vector<Control>& list = controls[i];
         list.clear();
