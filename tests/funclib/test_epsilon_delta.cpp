@@ -21,10 +21,8 @@ limits::Values typed(const char* text)
     EXPECT_TRUE(f) << text << ": " << error;
     return [f](const std::vector<double>& xs) {
         std::vector<double> ys;
-        for (double x : xs) {
-            const double y = f->value(x);
-            ys.push_back(std::isfinite(y) ? y : NAN);
-        }
+        for (double x : xs)
+            ys.push_back(std::isfinite(f->value(x)) ? f->value(x) : NAN);
         return ys;
     };
 }

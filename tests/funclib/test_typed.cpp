@@ -70,12 +70,10 @@ TEST(TypedExpression, ValuesAndExactDerivatives)
         {"huge constant power folded, not expanded", "9^(9^9) + x", 1, kNaN, kNaN}};
     // clang-format on
     for (const auto& c : cases) {
-        auto f = read(c.text);
-        if (!f)
+        const TypedFunction typed{read(c.text)};
+        if (!typed.f)
             continue;
-        expectValue(c.value, (*f)(c.x), std::string(c.name) + " value");
-        TypedFunction typed;
-        typed.f = std::move(f);
+        expectValue(c.value, typed.value(c.x), std::string(c.name) + " value");
         expectValue(c.slope, typed.slope(c.x), std::string(c.name) + " slope");
     }
 }

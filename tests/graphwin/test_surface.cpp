@@ -188,10 +188,9 @@ TEST(GraphWindow, MapsTheWindowOntoTheSquareAndBack)
         GraphWindow g;
         g.Left = c.left;
         g.set(c.xmin, c.xmax, c.ymin, c.ymax);
-        EXPECT_EQ(g.XOrigin, c.xOrigin);
-        EXPECT_EQ(g.YOrigin, c.yOrigin);
-        EXPECT_EQ(g.firstColumn(), static_cast<std::int32_t>(c.left) + 1);
-        EXPECT_EQ(g.lastColumn(), static_cast<std::int32_t>(c.left) + 6399);
+        EXPECT_EQ(std::pair(g.XOrigin, g.YOrigin), std::pair(c.xOrigin, c.yOrigin));
+        const auto left = static_cast<std::int32_t>(c.left);
+        EXPECT_EQ(std::pair(g.firstColumn(), g.lastColumn()), std::pair(left + 1, left + 6399));
         // The edges of the square in the world, within the rounding of the origins (a twip).
         const double twipX = (c.xmax - c.xmin) / 6400, twipY = (c.ymax - c.ymin) / 6400;
         EXPECT_NEAR(g.worldLeft(), c.xmin, twipX);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The launcher: opening each screen modally from its button and its menu entry, finding it as it was
 // left, the one report of a run-time error inside a screen, and Quit.
-#include <map>
-
 #include <QFile>
 #include <QLabel>
 #include <QLayout>
@@ -10,7 +8,6 @@
 #include <QMenuBar>
 #include <QResizeEvent>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
@@ -19,17 +16,6 @@
 #include "screens/ScreenRegistry.h"
 #include "screens/frmClasses.h"
 #include "tests/screens/ScreenFixture.h"
-
-namespace {
-// Runs `inside` while the screen is shown modally, then leaves it by its Exit button.
-void whileShown(GraphScreen& screen, std::function<void()> inside)
-{
-    QTimer::singleShot(0, &screen, [&screen, inside] {
-        inside();
-        screen.cmdExit->click();
-    });
-}
-}  // namespace
 
 TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
 {
@@ -69,8 +55,8 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
         std::size_t drawn = 0;
         whileShown(grapher, [&] { drawn = grapher.surface->ops().size(); });
         l.mnuGrapher->trigger();
-        EXPECT_EQ(drawn, 2u + 21 + 31);
-        EXPECT_EQ(std::pair(grapher.txtXmax->text(), int(FuncGlobals::FunctionId)), std::pair(QStringLiteral("20"), 3));
+        EXPECT_EQ(std::tuple(drawn, grapher.txtXmax->text(), int(FuncGlobals::FunctionId)),
+                  std::tuple(2u + 21 + 31, QStringLiteral("20"), 3));
         EXPECT_TRUE(script.errors.empty());
         whileShown(grapher, [&] { grapher.txtXmax->setText(QStringLiteral("-10")); });
         l.cmdFuncClasses->click();  // equal limits: the one report, from inside the modal screen
@@ -134,18 +120,16 @@ TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
             << row.key;
     // The added menu's Alt letter opens it alone: no menu or button of the window shares it (the
     // classic launcher's own letters, two of which it shares, stay as they are).
-    std::map<QChar, QStringList> letters;
-    QStringList captions;
+    const QKeySequence more = QKeySequence::mnemonic(l.mnuMore->text());
+    ASSERT_FALSE(more.isEmpty());
+    QStringList sharing;
     for (QAction* menu : l.menuBar->actions())
-        captions << menu->text();
+        if (QKeySequence::mnemonic(menu->text()) == more)
+            sharing << menu->text();
     for (QPushButton* b : l.findChildren<QPushButton*>())
-        captions << b->text();
-    for (const QString& caption : captions)
-        if (const qsizetype at = caption.indexOf(QLatin1Char('&')); at >= 0 && at + 1 < caption.size())
-            letters[caption.at(at + 1).toLower()] << caption;
-    const QString more = l.mnuMore->text();
-    ASSERT_GE(more.indexOf(QLatin1Char('&')), 0);
-    EXPECT_EQ(letters[more.at(more.indexOf(QLatin1Char('&')) + 1).toLower()], QStringList{more});
+        if (QKeySequence::mnemonic(b->text()) == more)
+            sharing << b->text();
+    EXPECT_EQ(sharing, QStringList{l.mnuMore->text()});
     EXPECT_TRUE(script.errors.empty());
 }
 
@@ -158,8 +142,7 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
     std::vector<int> ends;
     setProgramEndHandler([&](int code) { ends.push_back(code); });
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("colleague.plotto"));
-    QFile file(path);
+    QFile file(dir.filePath(QStringLiteral("colleague.plotto")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     // Step 2: equal x-limits, so that Plotto! divides by the window's width of 0 (error 11); step 3:
     // A = 1e308 on A(Bx - C)^2 + D, whose values at |x| near 10 pass the largest double (error 6).
@@ -174,7 +157,7 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
         frmClasses& grapher = l.classesScreen();
         QStringList seen;  // the lesson's place and whether the screen was shown
         QString said;
-        QTimer::singleShot(0, &grapher, [&] {
+        whileShown(grapher, [&] {
             // Before the first step and past the last there is nothing to move to.
             grapher.mnuPreviousStep->trigger();
             for (int step = 1; step <= 5; ++step) {
@@ -183,9 +166,8 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
                 seen << grapher.lblLessonPlace->text() + (grapher.isVisible() ? " shown" : " hidden");
             }
             said = grapher.announcement();  // the step shown whole is said
-            grapher.cmdExit->click();
         });
-        l.openLesson(path);
+        l.openLesson(file.fileName());
         EXPECT_EQ(seen, QStringList({"Step 1 of 4 shown", "Step 2 of 4 shown", "Step 3 of 4 shown", "Step 4 of 4 shown",
                                      "Step 4 of 4 shown"}));
         EXPECT_EQ(said, QStringLiteral("Step 4 of 4."));

@@ -8,7 +8,6 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "graphwin/Dialogs.h"
@@ -91,7 +90,8 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
 {
     QTemporaryDir dir;
     const QString out = dir.filePath(QStringLiteral("newton.pdf"));
-    const Outcome full = plotto({example("newtons-method.plotto"), QStringLiteral("--worksheet"), out});
+    const QString newton = example("newtons-method.plotto");
+    const Outcome full = plotto({newton, QStringLiteral("--worksheet"), out});
     ASSERT_EQ(full.status, 0) << full.err.toStdString();
     if (tool("pdfinfo", {out}).isEmpty())
         GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
@@ -102,8 +102,7 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
         EXPECT_TRUE(text.contains(QLatin1String(seen))) << seen;
 
     const QString sheet = dir.filePath(QStringLiteral("students.pdf"));
-    const Outcome blank =
-        plotto({example("newtons-method.plotto"), QStringLiteral("--worksheet"), sheet, QStringLiteral("--blank")});
+    const Outcome blank = plotto({newton, QStringLiteral("--worksheet"), sheet, QStringLiteral("--blank")});
     ASSERT_EQ(blank.status, 0) << blank.err.toStdString();
     const QString students = tool("pdftotext", {sheet, QStringLiteral("-")});
     const QString answersPdf = dir.filePath(QStringLiteral("students-answers.pdf"));
@@ -157,12 +156,11 @@ TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
     // On the lesson's first screen, from its Tools menu, as a teacher would.
     frmRiemann& sums = launcher.riemannScreen();
     QString before, after;
-    QTimer::singleShot(0, &sums, [&] {
+    whileShown(sums, [&] {
         before = sums.txtParts->text() + sums.lblLeftE->text();
         script.shown.clear();
         sums.mnuExportWorksheet->trigger();
         after = sums.txtParts->text() + sums.lblLeftE->text();
-        sums.cmdExit->click();
     });
     launcher.openLesson(example("the-definite-integral.plotto"));
     EXPECT_TRUE(QFile::exists(out));
