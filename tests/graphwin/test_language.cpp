@@ -32,8 +32,8 @@ TEST(Language, LocaleNamesStandForTheShippedLanguages)
 TEST(Language, TheAskedLanguageThenTheRememberedOneThenTheDesktopsThenEnglish)
 {
     // clang-format off
-    const struct { const char* name; const char* asked; const char* remembered; QStringList desktop; const char* chosen; }
-    rows[] = {
+    const struct { const char* name; const char* asked; const char* remembered; QStringList desktop; const char* chosen;
+    } rows[] = {
         {"--lang wins", "fr", "de", {QStringLiteral("es_ES.UTF-8")}, "fr"},
         {"an unknown --lang falls through", "xx", "de", {}, "de"},
         {"the remembered choice beats the desktop", "", "pt_BR", {QStringLiteral("de_DE.UTF-8")}, "pt_BR"},
