@@ -24,41 +24,29 @@ void rates(int dy, int dx, CoefficientSet k)
     DxFuncId = static_cast<std::int16_t>(dx);
     Coefficients = k;
 }
-void families(int x, int y, CoefficientSet k)
-{
-    XtFuncId = static_cast<std::int16_t>(x);
-    YtFuncId = static_cast<std::int16_t>(y);
-    Coefficients = k;
-}
 }  // namespace
 
 TEST(ExplicitCatalogue, ValuesAndCaptionBounds)
 {
     const double x = 1.5;
     // Family `id` with A to E at x = 1.5.
-    struct Value {
-        const char* name;
-        int id;
-        double a, b, c, d, e, expected;
-    };
-    const Value cases[] = {
-        {"(3 - 3)^2 + 4", 1, 1, 2, 3, 4, 0, 4.0},
-        {"2x^2 - x + 3", 2, 2, -1, 3, 0, 0, 2 * 2.25 - 1.5 + 3},
-        {"2(3 - 1)^3 + 1", 3, 2, 2, 1, 1, 0, 2 * 8.0 + 1},
-        {"cubic", 4, 1, 2, 3, 4, 0, 3.375 + 2 * 2.25 + 4.5 + 4},
+    // clang-format off
+    const struct { const char* name; int id; double a, b, c, d, e, expected; } cases[] = {
+        {"(3 - 3)^2 + 4", 1, 1, 2, 3, 4, 0, 4.0}, {"2x^2 - x + 3", 2, 2, -1, 3, 0, 0, 2 * 2.25 - 1.5 + 3},
+        {"2(3 - 1)^3 + 1", 3, 2, 2, 1, 1, 0, 2 * 8.0 + 1}, {"cubic", 4, 1, 2, 3, 4, 0, 3.375 + 2 * 2.25 + 4.5 + 4},
         {"sine", 5, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::sin(5.5) + 5},
         {"cosine", 6, 2, 3, 1, 4, 5, 4 * 1.5 + 2 * std::cos(5.5) + 5},
         {"tangent", 7, 2, 0.5, 0.1, 4, 5, 4 * 1.5 + 2 * std::tan(0.85) + 5},
         {"logarithm", 8, 2, 2, 1, 3, 0, 2 * std::log(4.0) + 3},
-        {"exponential", 9, 2, 1, -1, 3, 0, 2 * std::exp(0.5) + 3},
-        {"reciprocal", 10, 6, 2, 1, 3, 0, 6.0 / 4 + 3},
+        {"exponential", 9, 2, 1, -1, 3, 0, 2 * std::exp(0.5) + 3}, {"reciprocal", 10, 6, 2, 1, 3, 0, 6.0 / 4 + 3},
         {"fourth power", 11, 2, 2, 1, 3, 0, 2 * 16.0 + 3},
         {"quartic", 12, 1, 2, 3, 4, 5, 5.0625 + 2 * 3.375 + 3 * 2.25 + 6 + 5},
         {"x sine", 13, 2, 3, 1, 4, 5, 2 * 1.5 * std::sin(5.5) + 6 + 5},
         {"power", 14, 2, 0.5, 3, 0, 0, 2 * std::sqrt(1.5) + 3},
         {"exponential of base B", 15, 2, 4, 3, 0, 0, 2 * 8.0 + 3},
     };
-    for (const Value& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         select(c.id, c.a, c.b, c.c, c.d, c.e);
         FunctionCount = DerivativeCount = 0;
@@ -88,13 +76,8 @@ TEST(ExplicitCatalogue, DerivativesMatchTheSlopeOfTheValues)
 TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
 {
     // The value and the slope of family `id` with A to D at x, and the errors each raises (0: none).
-    struct Edge {
-        const char* name;
-        int id;
-        double a, b, c, d, x, y, slope;
-        int yError = 0, slopeError = 0;
-    };
-    const Edge cases[] = {
+    // clang-format off
+    struct { const char* name; int id; double a, b, c, d, x, y, slope; int yError = 0, slopeError = 0; } cases[] = {
         {"parabola", 1, 1, 2, 3, 4, 1, 5, -4},
         {"tangent: the slope of Dx is left out (1, not 6)", 7, 1, 1, 0, 5, 0, 0, 1},
         {"power at x = 0 with B > 1", 14, 1, 2, 7, 0, 0, 7, 0},
@@ -106,12 +89,9 @@ TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
         {"power: 0 to the power 0, slope 0^-1", 14, 1, 0, 0, 0, 0, 0, 0, 0, rt::DivisionByZero},
         {"exponential of base 0", 15, 1, 0, 7, 0, 2, 0, 0},
         {"exponential of a negative base", 15, 1, -2, 7, 0, 2, 0, 0},
-        {"ln 0: undefined, 0 without an error", 8, 1, 1, 0, 3, 0, 0, 0},
-        {"ln of a negative", 8, 1, 1, 0, 3, -4, 0, 0},
-        {"reciprocal at its pole", 10, 1, 2, -4, 3, 2, 0, 0},
-        {"no family 0", 0, 1, 1, 1, 1, 2, 0, 0},
-        {"no family 16", 16, 1, 1, 1, 1, 2, 0, 0},
-        {"no family -3", -3, 1, 1, 1, 1, 2, 0, 0},
+        {"ln 0: undefined, 0 without an error", 8, 1, 1, 0, 3, 0, 0, 0}, {"ln of a negative", 8, 1, 1, 0, 3, -4, 0, 0},
+        {"reciprocal at its pole", 10, 1, 2, -4, 3, 2, 0, 0}, {"no family 0", 0, 1, 1, 1, 1, 2, 0, 0},
+        {"no family 16", 16, 1, 1, 1, 1, 2, 0, 0}, {"no family -3", -3, 1, 1, 1, 1, 2, 0, 0},
         {"e^1000 overflows", 9, 1, 1, 0, 0, 1000, 0, 0, rt::Overflow, rt::Overflow},
         {"the inner term overflows before exp", 9, 1, 1e300, 0, 0, -1e10, 0, 0, rt::Overflow, rt::Overflow},
         {"quartic value overflows, its slope does not", 12, 1, 1, 1, 0, 1e80, 0, 4e240 + 3e160 + 2e80 + 1,
@@ -120,7 +100,8 @@ TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
         {"reciprocal: value overflows, slope divides by 0", 10, 1e300, 1, 0, 0, 1e-300, 0, 0, rt::Overflow,
          rt::DivisionByZero},
     };
-    for (const Edge& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         select(c.id, c.a, c.b, c.c, c.d);
         double y = 0, slope = 0;
@@ -134,8 +115,8 @@ TEST(ExplicitCatalogue, EdgesUndefinedPointsAndFaults)
 TEST(RateCatalogue, ValuesOfBothColumns)
 {
     const double x = 1.5, y = -0.5;
-    const struct { int family; double dy, dx; } cases[] = {
-        // dy, dx with A, B, C = 2, 3, 0.5 and D, E, F = -1, 4, 1.5
+    // The family, dy and dx with A, B, C = 2, 3, 0.5 and D, E, F = -1, 4, 1.5.
+    const std::tuple<int, double, double> cases[] = {
         {1, 2 * x + 3 * y + 0.5, -x + 4 * y + 1.5},
         {2, 2 * x + 3 * std::sin(0.5 * x), -x + 4 * std::sin(1.5 * x)},
         {3, 2 * x + 3 * std::cos(0.5 * x), -x + 4 * std::cos(1.5 * x)},
@@ -194,8 +175,8 @@ TEST(RateCatalogue, ZeroCoefficientsHandWorkedStepsAndFaults)
 TEST(ParametricCatalogue, ValuesOfBothCatalogues)
 {
     const double T = 0.5;
-    // A, B, C = 2, 3, 0.25 and D, E, F = -1, 0.5, 4
-    const struct { int family; double x, y; } cases[] = {
+    // The family, x and y with A, B, C = 2, 3, 0.25 and D, E, F = -1, 0.5, 4.
+    const std::tuple<int, double, double> cases[] = {
         {1, 2 * T * T + 3 * T + 0.25, -T * T + 0.5 * T + 4},
         {2, 2 * T * T * T + 3 * T + 0.25, -T * T * T + 0.5 * T + 4},
         {3, 2 * T * T * T + 3 * T * T + 0.25 * T, -T * T * T + 0.5 * T * T + 4 * T},
@@ -210,11 +191,11 @@ TEST(ParametricCatalogue, ValuesOfBothCatalogues)
         {12, 2 / (3 * T + 0.25), -1 / (0.5 * T + 4)},
     };
     for (const auto& [id, x, y] : cases) {
-        families(id, id, {2, 3, 0.25, -1, 0.5, 4});
+        XtFuncId = YtFuncId = static_cast<std::int16_t>(id);
+        Coefficients = {2, 3, 0.25, -1, 0.5, 4};
         EXPECT_NEAR(XtFunc(0.5f), x, 1e-12) << id;
         EXPECT_NEAR(YtFunc(0.5f), y, 1e-12) << id;
-        EXPECT_STRNE(XtCaption(id), "") << id;
-        EXPECT_STRNE(YtCaption(id), "") << id;
+        EXPECT_TRUE(*XtCaption(id) && *YtCaption(id)) << id;
     }
     EXPECT_STREQ(XtCaption(13), "");
     EXPECT_STREQ(YtCaption(0), "");

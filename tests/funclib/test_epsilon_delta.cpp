@@ -21,10 +21,8 @@ limits::Values typed(const char* text)
     EXPECT_TRUE(f) << text << ": " << error;
     return [f](const std::vector<double>& xs) {
         std::vector<double> ys;
-        for (double x : xs) {
-            const double y = f->value(x);
-            ys.push_back(std::isfinite(y) ? y : NAN);
-        }
+        for (double x : xs)
+            ys.push_back(std::isfinite(f->value(x)) ? f->value(x) : NAN);
         return ys;
     };
 }
@@ -36,13 +34,8 @@ DeltaSearch delta(const char* f, double a, double L, double eps)
 
 TEST(EpsilonDelta, LargestDeltaAgainstWhereTheGraphMeetsTheBand)
 {
-    const struct {
-        const char* name;
-        const char* f;
-        double a, L, eps, delta;
-        bool edge;
-        int undefinedSides;
-    } rows[] = {
+    // clang-format off
+    const struct { const char* name; const char* f; double a, L, eps, delta; bool edge; int undefinedSides; } rows[] = {
         // 2(1 + t) + 3 - 5 = 2t reaches 0.5 at t = 0.25, on both sides.
         {"2x + 3 at 1", "2*x + 3", 1, 5, 0.5, 0.25, false, 0},
         // (2 + t)^2 = 4.5 on the right comes before (2 - t)^2 = 3.5 on the left.
@@ -57,6 +50,7 @@ TEST(EpsilonDelta, LargestDeltaAgainstWhereTheGraphMeetsTheBand)
         // The jump is inside the band 0 +- 2.
         {"x/abs(x) with a wide band", "x/abs(x)", 0, 0, 2, 10, true, 0},
     };
+    // clang-format on
     for (const auto& r : rows) {
         const DeltaSearch d = delta(r.f, r.a, r.L, r.eps);
         ASSERT_EQ(d.outcome, DeltaSearch::Outcome::Found) << r.name << ": " << d.words;
@@ -78,18 +72,14 @@ TEST(EpsilonDelta, LargestDeltaAgainstWhereTheGraphMeetsTheBand)
 
 TEST(EpsilonDelta, NoDeltaWherePointsArbitrarilyCloseLeaveTheBand)
 {
-    const struct {
-        const char* name;
-        const char* f;
-        double a, L, eps;
-    } rows[] = {
+    // clang-format off
+    const struct { const char* name; const char* f; double a, L, eps; } rows[] = {
         {"a jump, L between the sides", "x/abs(x)", 0, 0, 0.5},
-        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5},
-        {"a pole", "1/x", 0, 0, 0.5},
-        {"an oscillation", "sin(1/x)", 0, 0, 0.5},
-        {"a wrong L", "2*x + 3", 1, 6, 0.5},
+        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5}, {"a pole", "1/x", 0, 0, 0.5},
+        {"an oscillation", "sin(1/x)", 0, 0, 0.5}, {"a wrong L", "2*x + 3", 1, 6, 0.5},
         {"an L just outside the band", "x^2", 2, 4.5, 0.5},
     };
+    // clang-format on
     for (const auto& r : rows) {
         const DeltaSearch d = delta(r.f, r.a, r.L, r.eps);
         EXPECT_EQ(d.outcome, DeltaSearch::Outcome::NoDelta) << r.name << ": " << d.words;
@@ -103,18 +93,15 @@ TEST(EpsilonDelta, NoDeltaWherePointsArbitrarilyCloseLeaveTheBand)
 
 TEST(EpsilonDelta, WhatIsNotSearchedIsSaid)
 {
-    const struct {
-        const char* name;
-        double a, eps;
-        const char* says;
-    } rows[] = {
-        {"eps 0", 1, 0, "ε must be a positive number."},
-        {"eps negative", 1, -0.5, "ε must be a positive number."},
+    // clang-format off
+    const struct { const char* name; double a, eps; const char* says; } rows[] = {
+        {"eps 0", 1, 0, "ε must be a positive number."}, {"eps negative", 1, -0.5, "ε must be a positive number."},
         {"eps not a number", 1, NAN, "ε must be a positive number."},
         {"a outside the window", 12, 0.5, "a = 12 is not inside the window from -10 to 10"},
         {"a on its edge", 10, 0.5, "a = 10 is not inside the window"},
         {"eps lost in rounding", 1, 1e-12, "ε = 1e-12 is below what rounding in f"},
     };
+    // clang-format on
     for (const auto& r : rows) {
         const DeltaSearch d = delta("2*x + 3", r.a, 5, r.eps);
         EXPECT_EQ(d.outcome, DeltaSearch::Outcome::Refused) << r.name;
@@ -125,18 +112,12 @@ TEST(EpsilonDelta, WhatIsNotSearchedIsSaid)
 
 TEST(EpsilonDelta, TheLimitFromBothSides)
 {
-    const struct {
-        const char* name;
-        const char* f;
-        double a;
-        bool exists;
-        double limit;
-        const char* words;  // the sentence, where there is no limit
-    } rows[] = {
+    // The limit where it exists, the sentence where there is none.
+    // clang-format off
+    const struct { const char* name; const char* f; double a; bool exists; double limit; const char* words; } rows[] = {
         {"sin(x)/x at 0", "sin(x)/x", 0, true, 1, nullptr},
         {"(x^2 - 1)/(x - 1) at 1", "(x^2 - 1)/(x - 1)", 1, true, 2, nullptr},
-        {"2x + 3 at 1", "2*x + 3", 1, true, 5, nullptr},
-        {"x^2 at 2", "x^2", 2, true, 4, nullptr},
+        {"2x + 3 at 1", "2*x + 3", 1, true, 5, nullptr}, {"x^2 at 2", "x^2", 2, true, 4, nullptr},
         {"(1 - cos x)/x^2 at 0", "(1 - cos(x))/x^2", 0, true, 0.5, nullptr},
         {"sqrt(x) at 0, from the right only", "sqrt(x)", 0, true, 0, nullptr},
         {"a jump", "x/abs(x)", 0, false, 0, "The left side tends to -1 and the right side to 1: no limit at a = 0."},
@@ -148,6 +129,7 @@ TEST(EpsilonDelta, TheLimitFromBothSides)
         {"nowhere defined", "sqrt(-1 - x^2)", 3, false, 0,
          "f is not defined near a = 3 on either side: no limit there."},
     };
+    // clang-format on
     for (const auto& r : rows) {
         const limits::LimitEstimate e = limits::estimateLimit(typed(r.f), r.a);
         EXPECT_EQ(e.exists, r.exists) << r.name << ": " << e.words;

@@ -25,13 +25,8 @@ std::vector<std::string> termsOf(TaylorSeries s, int n)
 
 TEST(Taylor, TermsOfTheTextbookSeries)
 {
-    const CoefficientSet one{1, 1, 0, 0, 0, 0};
-    struct Row {
-        const char* name;
-        TaylorSeries series;
-        std::vector<std::string> terms;
-    };
-    Row rows[] = {
+    // clang-format off
+    struct { const char* name; TaylorSeries series; std::vector<std::string> terms; } rows[] = {
         {"sin at 0", TaylorSeries::ofText("sin(x)", 0, {}), {"0", "x", "0", "-x^3/6", "0", "x^5/120"}},
         {"exp at 0", TaylorSeries::ofText("e^x", 0, {}), {"1", "x", "x^2/2", "x^3/6", "x^4/24"}},
         {"ln at 1", TaylorSeries::ofText("ln(x)", 1, {}), {"0", "(x - 1)", "-(x - 1)^2/2", "(x - 1)^3/3"}},
@@ -40,30 +35,26 @@ TEST(Taylor, TermsOfTheTextbookSeries)
         {"family 5 (A sin(Bx + C) + Dx + E)",
          TaylorSeries::ofFamily(5, 0, {1, 2, 0, 0, 0, 0}),
          {"0", "2x", "0", "-4x^3/3"}},
-        {"family 9 (A e^(Bx + C) + D)", TaylorSeries::ofFamily(9, 0, one), {"1", "x", "x^2/2"}},
+        {"family 9 (A e^(Bx + C) + D)", TaylorSeries::ofFamily(9, 0, {1, 1, 0, 0, 0, 0}), {"1", "x", "x^2/2"}},
         {"cos at 1, not rational", TaylorSeries::ofText("cos(x)", 1, {}), {"0.540302", "-0.841471(x - 1)"}},
     };
-    for (Row& r : rows)
+    // clang-format on
+    for (auto& r : rows)
         EXPECT_EQ(termsOf(std::move(r.series), static_cast<int>(r.terms.size()) - 1), r.terms) << r.name;
 }
 
 TEST(Taylor, PolynomialsAgainstTheSeriesWrittenOut)
 {
-    struct Row {
-        const char* name;
-        const char* f;
-        double centre;
-        int degree;
-        double x, expected;
-    };
     const double h = 0.5;
-    const Row rows[] = {
+    // clang-format off
+    const struct { const char* name; const char* f; double centre; int degree; double x, expected; } rows[] = {
         {"cos, degree 6", "cos(x)", 0, 6, h, 1 - h * h / 2 + std::pow(h, 4) / 24 - std::pow(h, 6) / 720},
         {"exp, degree 3", "e^x", 0, 3, h, 1 + h + h * h / 2 + h * h * h / 6},
         {"ln at 1, degree 3", "ln(x)", 1, 3, 1 + h, h - h * h / 2 + h * h * h / 3},
         {"sqrt at 4, degree 2", "sqrt(x)", 4, 2, 4 + h, 2 + h / 4 - h * h / 64},
     };
-    for (const Row& r : rows) {
+    // clang-format on
+    for (const auto& r : rows) {
         TaylorSeries s = TaylorSeries::ofText(r.f, r.centre, {});
         s.term(r.degree);
         EXPECT_NEAR(s.polynomial(r.degree, r.x), r.expected, 1e-15) << r.name;
@@ -78,21 +69,15 @@ TEST(Taylor, PolynomialsAgainstTheSeriesWrittenOut)
 
 TEST(Taylor, WhereTheFunctionOrADerivativeDoesNotExist)
 {
-    struct Row {
-        const char* name;
-        const char* f;
-        double centre;
-        int firstMissing;
-        const char* why;
-    };
-    const Row rows[] = {
-        {"ln at 0", "ln(x)", 0, 0, "f(a) does not exist"},
-        {"1/x at 0", "1/x", 0, 0, "f(a) does not exist"},
+    // clang-format off
+    const struct { const char* name; const char* f; double centre; int firstMissing; const char* why; } rows[] = {
+        {"ln at 0", "ln(x)", 0, 0, "f(a) does not exist"}, {"1/x at 0", "1/x", 0, 0, "f(a) does not exist"},
         {"sqrt at 0", "sqrt(x)", 0, 1, "f^(1)(a) does not exist"},
         {"sqrt at -1", "sqrt(x)", -1, 0, "f(a) does not exist"},
         {"x^(5/2) at 0", "x^(5/2)", 0, 3, "f^(3)(a) does not exist"},
     };
-    for (const Row& r : rows) {
+    // clang-format on
+    for (const auto& r : rows) {
         TaylorSeries s = TaylorSeries::ofText(r.f, r.centre, {});
         for (int k = 0; k <= r.firstMissing + 1; ++k)
             EXPECT_EQ(s.term(k).state == TaylorTerm::State::Undefined, k >= r.firstMissing) << r.name << " at " << k;

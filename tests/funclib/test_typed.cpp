@@ -4,9 +4,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <tuple>
 
@@ -17,6 +14,7 @@
 #include "funclib/StepMethods.h"
 #include "funclib/TypedFunctions.h"
 #include "fuzz/TypedProperties.h"
+#include "tests/TestSupport.h"
 
 using namespace FuncGlobals;
 
@@ -42,94 +40,64 @@ void expectValue(double expected, double actual, const std::string& what)
 
 }  // namespace
 
-struct ValueCase {
-    const char* name;
-    const char* text;
-    double x;
-    double value;  // NaN: a gap
-    double slope;  // NaN: no derivative there
-};
-
 TEST(TypedExpression, ValuesAndExactDerivatives)
 {
     Coefficients = {2, 3, 0.5, -1, 4, 0};
-    const double e = std::exp(1.0), pi = std::acos(-1.0);
-    const ValueCase cases[] = {
+    const double e = std::exp(1.0), pi = std::acos(-1.0), s1 = std::sin(1.0), c1 = std::cos(1.0);
+    // The value and the slope at x; NaN: a gap, or no derivative there.
+    // clang-format off
+    const struct { const char* name; const char* text; double x, value, slope; } cases[] = {
         {"textbook cubic", "x^3 - 2*x - 5", 2, -1, 10},
         {"coefficients inside", "A*sin(B*x + C) + D*x + E", 0.25, 2 * std::sin(1.25) - 0.25 + 4,
          6 * std::cos(1.25) - 1},
-        {"power before unary minus", "-x^2", 3, -9, -6},
-        {"power groups to the right", "2^3^2", 0, 512, 0},
+        {"power before unary minus", "-x^2", 3, -9, -6}, {"power groups to the right", "2^3^2", 0, 512, 0},
         {"numbers folded before x", "(5 - 3)*x + 6/4*x + 2^3*x", 4, 46, 11.5},
-        {"a power of a power", "(x^2)^3", 2, 64, 192},
-        {"negative exponent", "2^-x", 1, 0.5, -0.5 * std::log(2.0)},
+        {"a power of a power", "(x^2)^3", 2, 64, 192}, {"negative exponent", "2^-x", 1, 0.5, -0.5 * std::log(2.0)},
         {"gaussian", "exp(-x^2)", 1, std::exp(-1.0), -2 * std::exp(-1.0)},
         {"sinc", "sin(x)/x", 0.5, std::sin(0.5) / 0.5, std::cos(0.5) / 0.5 - std::sin(0.5) / 0.25},
-        {"sinc at 0 is a gap", "sin(x)/x", 0, kNaN, kNaN},
-        {"ln is natural", "ln(x)", e, 1, 1 / e},
-        {"log is natural too", "log(x)", e * e, 2, 1 / (e * e)},
-        {"ln of a negative is a gap", "ln(x)", -1, kNaN, kNaN},
+        {"sinc at 0 is a gap", "sin(x)/x", 0, kNaN, kNaN}, {"ln is natural", "ln(x)", e, 1, 1 / e},
+        {"log is natural too", "log(x)", e * e, 2, 1 / (e * e)}, {"ln of a negative is a gap", "ln(x)", -1, kNaN, kNaN},
         {"semicircle", "sqrt(4 - x^2)", 1, std::sqrt(3.0), -1 / std::sqrt(3.0)},
-        {"outside the semicircle", "sqrt(4 - x^2)", 3, kNaN, kNaN},
-        {"abs left", "abs(x)", -2, 2, -1},
-        {"abs right", "abs(x)", 2, 2, 1},
-        {"abs corner has no slope", "abs(x)", 0, 0, kNaN},
-        {"witch of Agnesi", "1/(1 + x^2)", 1, 0.5, -0.5},
-        {"pole is a gap", "1/x", 0, kNaN, kNaN},
-        {"overflow is a gap", "exp(x)", 1000, kNaN, kNaN},
-        {"constants", "e^x + pi", 0, 1 + pi, 1},
-        {"capitalised function names", "Sin(x) + LN(x)", 1, std::sin(1.0), std::cos(1.0) + 1},
-        {"reciprocal trigonometry", "sec(x) + csc(x) + cot(x)", 1,
-         1 / std::cos(1.0) + 1 / std::sin(1.0) + 1 / std::tan(1.0),
-         std::tan(1.0) / std::cos(1.0) - 1 / (std::sin(1.0) * std::tan(1.0)) - 1 / std::pow(std::sin(1.0), 2)},
-        {"python power", "x**2", 3, 9, 6},
-        {"decimal exponent", "1.5e1*x", 2, 30, 15},
+        {"outside the semicircle", "sqrt(4 - x^2)", 3, kNaN, kNaN}, {"abs left", "abs(x)", -2, 2, -1},
+        {"abs right", "abs(x)", 2, 2, 1}, {"abs corner has no slope", "abs(x)", 0, 0, kNaN},
+        {"witch of Agnesi", "1/(1 + x^2)", 1, 0.5, -0.5}, {"pole is a gap", "1/x", 0, kNaN, kNaN},
+        {"overflow is a gap", "exp(x)", 1000, kNaN, kNaN}, {"constants", "e^x + pi", 0, 1 + pi, 1},
+        {"capitalised function names", "Sin(x) + LN(x)", 1, s1, c1 + 1},
+        {"reciprocal trigonometry", "sec(x) + csc(x) + cot(x)", 1, 1 / c1 + 1 / s1 + 1 / std::tan(1.0),
+         std::tan(1.0) / c1 - 1 / (s1 * std::tan(1.0)) - 1 / std::pow(s1, 2)},
+        {"python power", "x**2", 3, 9, 6}, {"decimal exponent", "1.5e1*x", 2, 30, 15},
         {"blanks anywhere", "  x  *  x ", 4, 16, 8},
-        {"huge constant power folded, not expanded", "9^(9^9) + x", 1, kNaN, kNaN},
-    };
-    for (const ValueCase& c : cases) {
-        auto f = read(c.text);
-        if (!f)
+        {"huge constant power folded, not expanded", "9^(9^9) + x", 1, kNaN, kNaN}};
+    // clang-format on
+    for (const auto& c : cases) {
+        const TypedFunction typed{read(c.text)};
+        if (!typed.f)
             continue;
-        expectValue(c.value, (*f)(c.x), std::string(c.name) + " value");
-        TypedFunction typed;
-        typed.f = std::move(f);
+        expectValue(c.value, typed.value(c.x), std::string(c.name) + " value");
         expectValue(c.slope, typed.slope(c.x), std::string(c.name) + " slope");
     }
 }
 
-struct RefusalCase {
-    const char* text;
-    const char* message;
-};
-
 TEST(TypedExpression, RefusesWithReasonAndPlace)
 {
-    const RefusalCase cases[] = {
-        {"sinn(x)", "unknown name 'sinn' at 1"},
-        {"sin(x + (1 - x)", "missing ')' at 16"},
-        {"(x + 1", "missing ')' at 7"},
-        {"x + 1)", "unexpected ')' at 6"},
+    // clang-format off
+    const std::pair<const char*, const char*> cases[] = {
+        {"sinn(x)", "unknown name 'sinn' at 1"}, {"sin(x + (1 - x)", "missing ')' at 16"},
+        {"(x + 1", "missing ')' at 7"}, {"x + 1)", "unexpected ')' at 6"},
         {"2x", "missing '*': write 2*x for a product at 2"},
         {"3 sin(x)", "missing '*': write 3*sin for a product at 3"},
-        {"x(x + 1)", "missing '*': write x*( for a product at 2"},
-        {"x +", "missing a term after '+' at 4"},
-        {"x * / 2", "missing a term before '/' at 5"},
-        {"", "nothing typed: type a function, for example x^2 - 4 at 1"},
-        {"sin x", "missing '(' after 'sin' at 5"},
-        {"y + 1", "unknown name 'y' at 1"},
+        {"x(x + 1)", "missing '*': write x*( for a product at 2"}, {"x +", "missing a term after '+' at 4"},
+        {"x * / 2", "missing a term before '/' at 5"}, {"", "nothing typed: type a function, for example x^2 - 4 at 1"},
+        {"sin x", "missing '(' after 'sin' at 5"}, {"y + 1", "unknown name 'y' at 1"},
         {"a*x", "unknown name 'a' at 1 (the coefficients are the capitals A to F)"},
-        {"Ax", "unknown name 'Ax' at 1: write A*x for a product"},
-        {"x # 2", "unexpected character '#' at 3"},
-        {"x × 2", "unexpected character '×' at 3"},
-        {"max(x, 2)", "unknown name 'max' at 1"},
-        {"sin(x, 2)", "unexpected ',' (each function takes one argument) at 6"},
-        {"1e999", "number too large at 1"},
-    };
-    for (const RefusalCase& c : cases) {
+        {"Ax", "unknown name 'Ax' at 1: write A*x for a product"}, {"x # 2", "unexpected character '#' at 3"},
+        {"x × 2", "unexpected character '×' at 3"}, {"max(x, 2)", "unknown name 'max' at 1"},
+        {"sin(x, 2)", "unexpected ',' (each function takes one argument) at 6"}, {"1e999", "number too large at 1"}};
+    // clang-format on
+    for (const auto& [text, message] : cases) {
         std::string error;
-        EXPECT_FALSE(TypedExpression::compile(c.text, {"x"}, error)) << c.text;
-        EXPECT_EQ(error, c.message) << c.text;
+        EXPECT_FALSE(TypedExpression::compile(text, {"x"}, error)) << text;
+        EXPECT_EQ(error, message) << text;
     }
     std::string error;
     EXPECT_FALSE(TypedExpression::compile(std::string(TypedExpression::MaxLength + 1, 'x'), {"x"}, error));
@@ -157,31 +125,22 @@ TEST(TypedExpression, UnderstoodTextShowsTheOrderOfOperations)
 // term, and the same order inside brackets; and the text shown reads back as the same function.
 TEST(TypedExpression, DerivativesAreShownInTextbookOrder)
 {
-    const struct {
-        const char* typed;
-        const char* shown;
-    } cases[] = {
-        {"x^3 - 2*x - 5", "3*x^2 - 2"},
-        {"5 - x^4 + 3*x", "-4*x^3 + 3"},
-        {"x^2 - x", "2*x - 1"},
-        {"sin(x) + x^2", "2*x + cos(x)"},
-        {"(x - 1)^3", "3*(x - 1)^2"},
-        {"exp(-x)", "-exp(-x)"},
-        {"1/x", "-x^(-2)"},
-        {"ln(x^2)", "2*x^(-1)"},
-        {"7", "0"},
-    };
-    for (const auto& c : cases) {
-        auto f = read(c.typed);
-        ASSERT_TRUE(f && f->derivative()) << c.typed;
-        EXPECT_EQ(f->derivativeText(), c.shown) << c.typed;
+    // clang-format off
+    const std::pair<const char*, const char*> cases[] = {
+        {"x^3 - 2*x - 5", "3*x^2 - 2"}, {"5 - x^4 + 3*x", "-4*x^3 + 3"}, {"x^2 - x", "2*x - 1"},
+        {"sin(x) + x^2", "2*x + cos(x)"}, {"(x - 1)^3", "3*(x - 1)^2"}, {"exp(-x)", "-exp(-x)"}, {"1/x", "-x^(-2)"},
+        {"ln(x^2)", "2*x^(-1)"}, {"7", "0"}};
+    // clang-format on
+    for (const auto& [typed, text] : cases) {
+        auto f = read(typed);
+        ASSERT_TRUE(f && f->derivative()) << typed;
+        EXPECT_EQ(f->derivativeText(), text) << typed;
         auto shown = read(f->derivativeText());
-        ASSERT_TRUE(shown) << c.shown;
+        ASSERT_TRUE(shown) << text;
         for (double x : {0.5, 1.5, 3.0})
-            EXPECT_NEAR((*shown)(x), (*f->derivative())(x), 1e-12 * (1 + std::fabs((*shown)(x)))) << c.typed;
+            EXPECT_NEAR((*shown)(x), (*f->derivative())(x), 1e-12 * (1 + std::fabs((*shown)(x)))) << typed;
     }
 }
-
 // Every row of the table of functions, by each name it may be typed by: the byte code computes the
 // row's value, undefined outside its domain; x*f(x) has an exact derivative that agrees with a
 // central difference, is written with the table's names and reads back as the same function; a
@@ -229,11 +188,10 @@ TEST(TypedFunctions, EveryRowReadsEvaluatesAndDifferentiates)
         }
         // The domain: finite for every finite argument or not, as the row says; and f(x) - f(x), whose
         // exact derivative is 0, has a slope exactly where it has a value.
-        bool finite = true;
-        for (double x : {1e300, -1e300, 1000.0, -1000.0})
-            finite = finite && std::isfinite(row.value(x));
+        const double far[] = {1e300, -1e300, 1000.0, -1000.0};
         if (!row.definedAt) {
-            EXPECT_EQ(finite, !row.overflows) << name;
+            EXPECT_EQ(std::all_of(far, far + 4, [&](double x) { return std::isfinite(row.value(x)); }), !row.overflows)
+                << name;
         }
         auto nothing = read(name + "(x) - " + name + "(x)");
         ASSERT_TRUE(nothing && nothing->derivative()) << name;
@@ -286,11 +244,9 @@ TEST(TypedSources, DispatchFallsBackToTheFamilies)
     FunctionId = 2;
     Coefficients = {1, 0, 1, 0, 0, 0};  // family 2: x^2 + 1
     TypedExplicit = nullptr;
-    EXPECT_EQ(ExplicitValue(3), 10);
-    EXPECT_EQ(ExplicitSlope(3), 6);
+    EXPECT_EQ(std::pair(ExplicitValue(3), ExplicitSlope(3)), std::pair(10.0, 6.0));
     TypedExplicit = typed.get();
-    EXPECT_EQ(ExplicitValue(3), 5);
-    EXPECT_EQ(ExplicitSlope(3), 6);
+    EXPECT_EQ(std::pair(ExplicitValue(3), ExplicitSlope(3)), std::pair(5.0, 6.0));
     EXPECT_FALSE(ExplicitDefined(std::nan("")));
     EXPECT_EQ(YFunc(3), 10);  // the family procedure itself is untouched by the typed selection
     TypedExplicit = nullptr;
@@ -299,8 +255,8 @@ TEST(TypedSources, DispatchFallsBackToTheFamilies)
     auto rates = TypedRates::make("x", "1", error);
     ASSERT_TRUE(rates);
     TypedRate = rates.get();
-    EXPECT_EQ(StepMethods::step(StepMethods::byKey("rk2"), 0, 0, 1), 0.5);
-    EXPECT_EQ(StepMethods::step(StepMethods::byKey("rk4"), 0, 0, 1), 0.5);
+    for (const char* key : {"rk2", "rk4"})
+        EXPECT_EQ(StepMethods::step(StepMethods::byKey(key), 0, 0, 1), 0.5) << key;
     auto firstStageVertical = TypedRates::make("1", "x", error);
     TypedRate = firstStageVertical.get();
     EXPECT_TRUE(std::isnan(StepMethods::step(StepMethods::byKey("rk4"), 0, 0, 1)));  // dx = 0 at the first stage
@@ -327,34 +283,17 @@ TEST(TypedSources, DispatchFallsBackToTheFamilies)
 
 TEST(TypedProperties, HoldForTheSeedsAndEveryKeptFinding)
 {
-    int replayed = 0;
-    for (const char* folder : {"fuzz/typed-seeds", "fuzz/typed-regressions"}) {
-        const std::filesystem::path dir = std::filesystem::path(PLOTTO_SOURCE_DIR) / folder;
-        if (!std::filesystem::exists(dir))
-            continue;
-        for (const auto& entry : std::filesystem::directory_iterator(dir)) {
-            std::ifstream in(entry.path(), std::ios::binary);
-            const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-            EXPECT_EQ(fuzzing::checkTypedText(text), "") << entry.path();
-            ++replayed;
-        }
-    }
-    EXPECT_GE(replayed, 15);
+    const std::filesystem::path fuzz = std::filesystem::path(PLOTTO_SOURCE_DIR) / "fuzz";
+    EXPECT_GE(replayEach({fuzz / "typed-seeds", fuzz / "typed-regressions"}, fuzzing::checkTypedText), 15);
 }
 
 TEST(ExplicitSnapshot, EvaluatesWhatWasInUseAndPutsBackWhatIsInUseNow)
 {
-    using namespace FuncGlobals;
     using What = ExplicitSnapshot::What;
     struct Restore {
         std::int16_t id = FunctionId;
         CoefficientSet k = Coefficients;
-        ~Restore()
-        {
-            FunctionId = id;
-            Coefficients = k;
-            TypedExplicit = nullptr;
-        }
+        ~Restore() { FunctionId = id, Coefficients = k, TypedExplicit = nullptr; }
     } restore;
     FunctionId = 8;  // y = A*Ln(Bx + C) + D
     Coefficients = {2, 1, 0, 1, 0, 0};
@@ -376,10 +315,8 @@ TEST(ExplicitSnapshot, EvaluatesWhatWasInUseAndPutsBackWhatIsInUseNow)
     EXPECT_DOUBLE_EQ(slope.at(0.5), 4);  // (2 ln x)' = 2 / x
     EXPECT_DOUBLE_EQ(pole.at(4), 1);
     EXPECT_TRUE(std::isnan(pole.at(3)));
-    EXPECT_EQ(FunctionId, 1);
-    EXPECT_EQ(Coefficients.A, 5);
-    EXPECT_EQ(Coefficients.F, 5);
-    EXPECT_EQ(TypedExplicit, nullptr);
+    EXPECT_EQ(std::tuple(int(FunctionId), Coefficients.A, Coefficients.F, TypedExplicit),
+              std::tuple(1, 5.0, 5.0, static_cast<const TypedFunction*>(nullptr)));
     // A family's overflow is a gap in a snapshot, never a run-time error.
     FunctionId = 9;  // y = A*e^(Bx + C) + D
     Coefficients = {1, 1, 0, 0, 0, 0};

@@ -66,43 +66,28 @@ TEST(AudioTrace, ParabolaClicksAtItsRootsAndSoundsLowBetween)
     EXPECT_NEAR(clicks[1], 2, 0.05 + 1e-9);
 }
 
-namespace {
-
-struct FeatureCase {
-    const char* name;
-    double (*f)(double);
-    double from;  // where the walk stands
-    bool refined;  // the curve's function is known (an explicit curve)
-    audio::Feature::Kind kind;
-    double x, y, tolerance;
-};
-
-}  // namespace
-
 TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
 {
-    const FeatureCase cases[] = {
-        {"x^2 - 4 near 3: the root at 2", [](double x) { return x * x - 4; }, 3, true, audio::Feature::Root, 2, 0,
+    using audio::Feature;
+    double (*parabola)(double) = [](double x) { return x * x - 4; };
+    // Where the walk stands (from), and whether the curve's function is known (an explicit curve).
+    // clang-format off
+    const struct { const char* name; double (*f)(double); double from; bool refined; Feature::Kind kind;
+                   double x, y, tolerance; } cases[] = {
+        {"x^2 - 4 near 3: the root at 2", parabola, 3, true, Feature::Root, 2, 0, 1e-12},
+        {"x^2 - 4 near -2.6: the root at -2", parabola, -2.6, true, Feature::Root, -2, 0, 1e-12},
+        {"x^2 - 4 near 0.3: the minimum", parabola, 0.3, true, Feature::Minimum, 0, -4, 1e-6},
+        {"drawn points only: root found between them", parabola, 3, false, Feature::Root, 2, 0, 3e-3},
+        {"a maximum of -(x-1)^2 + 5", [](double x) { return -(x - 1) * (x - 1) + 5; }, 1.4, true, Feature::Maximum, 1,
+         5, 1e-6},
+        {"e^x crosses no axis but the y-axis", [](double x) { return std::exp(x); }, 3, true, Feature::YIntercept, 0, 1,
          1e-12},
-        {"x^2 - 4 near -2.6: the root at -2", [](double x) { return x * x - 4; }, -2.6, true, audio::Feature::Root, -2,
-         0, 1e-12},
-        {"x^2 - 4 near 0.3: the minimum", [](double x) { return x * x - 4; }, 0.3, true, audio::Feature::Minimum, 0, -4,
-         1e-6},
-        {"drawn points only: root found between them", [](double x) { return x * x - 4; }, 3, false,
-         audio::Feature::Root, 2, 0, 3e-3},
-        {"a maximum of -(x-1)^2 + 5", [](double x) { return -(x - 1) * (x - 1) + 5; }, 1.4, true,
-         audio::Feature::Maximum, 1, 5, 1e-6},
-        {"e^x crosses no axis but the y-axis", [](double x) { return std::exp(x); }, 3, true,
-         audio::Feature::YIntercept, 0, 1, 1e-12},
         {"1/x changes sign at its pole: no root there", [](double x) { return 1 / (x - 0.01); }, 0.3, true,
-         audio::Feature::YIntercept, 0, -100, 1e-9},
+         Feature::YIntercept, 0, -100, 1e-9},
     };
-    for (const FeatureCase& c : cases) {
-        std::vector<audio::Point> points;
-        for (int i = 0; i < 427; ++i) {
-            const double x = -10 + 20.0 * i / 426;
-            points.push_back({x, c.f(x)});
-        }
+    // clang-format on
+    for (const auto& c : cases) {
+        const std::vector<audio::Point> points = sampled(c.f, 427);
         std::size_t at = 0;
         while (at + 1 < points.size() && points[at].x < c.from)
             ++at;
@@ -118,54 +103,42 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
     const std::vector<audio::Point> valley{{1, 3}, {2, 2}, {3, 1}, {4, 1}, {5, 2}, {6, 3}};
     const auto low = audio::nearestFeature(valley, 5);
     ASSERT_TRUE(low);
-    EXPECT_EQ(low->kind, audio::Feature::Minimum);
+    EXPECT_EQ(low->kind, Feature::Minimum);
     EXPECT_EQ(low->y, 1);
     EXPECT_TRUE(low->index == 2 || low->index == 3) << low->index;
     // A curve with no sign change, turn or y-axis: nothing, and nothing on an empty or gappy curve.
-    const std::vector<audio::Point> rising{{1, 1}, {2, 2}, {3, 3}};
-    EXPECT_FALSE(audio::nearestFeature(rising, 1));
+    EXPECT_FALSE(audio::nearestFeature({{1, 1}, {2, 2}, {3, 3}}, 1));
     EXPECT_FALSE(audio::nearestFeature({}, 0));
     const double gap = std::nan("");
     EXPECT_FALSE(audio::nearestFeature({{1, -1}, {2, gap}, {3, 1}}, 0)) << "no root across a gap";
-    EXPECT_FALSE(audio::nearestFeature({{1, 1}, {2, 2}, {3, gap}, {4, 3}, {5, 4}, {6, 5}}, 4)) << "no turn across a gap";
+    EXPECT_FALSE(audio::nearestFeature({{1, 1}, {2, 2}, {3, gap}, {4, 3}, {5, 4}, {6, 5}}, 4))
+        << "no turn across a gap";
 }
 
 TEST(AudioTrace, CoordinatesSaidToThePrecisionOfAPixel)
 {
-    struct Case {
-        double value, resolution;
-        const char* said;
-    } cases[] = {
-        {1.25, 0.047, "1.25"},
-        {3.5625, 0.047, "3.56"},
-        {2.0000000001, 0.047, "2"},
-        {-0.0001, 0.047, "0"},
-        {-1.5, 0.047, "-1.5"},
-        {1234.5678, 4.7, "1235"},
-        {0.001234, 4.7e-5, "0.00123"},
-        {7, 0, "7"},
-        {std::nan(""), 0.05, "undefined"},
-        {3e12, 1, "3e+12"},
-        {5e-10, 1e-12, "5e-10"},
-    };
-    for (const Case& c : cases)
+    // clang-format off
+    const struct { double value, resolution; const char* said; } cases[] = {
+        {1.25, 0.047, "1.25"}, {3.5625, 0.047, "3.56"}, {2.0000000001, 0.047, "2"}, {-0.0001, 0.047, "0"},
+        {-1.5, 0.047, "-1.5"}, {1234.5678, 4.7, "1235"}, {0.001234, 4.7e-5, "0.00123"}, {7, 0, "7"},
+        {std::nan(""), 0.05, "undefined"}, {3e12, 1, "3e+12"}, {5e-10, 1e-12, "5e-10"}};
+    // clang-format on
+    for (const auto& c : cases)
         EXPECT_EQ(audio::spoken(c.value, c.resolution), c.said) << c.value << " at " << c.resolution;
 }
 
 TEST(TracePlayer, EncodesTheSamplesInTheDevicesFormat)
 {
     const std::vector<float> stereo = {0.5f, -0.5f, 2.0f, -2.0f};  // two frames, the second beyond full scale
-    const struct {
-        const char* name;
-        QAudioFormat::SampleFormat type;
-        int channels, rate;
-        std::vector<double> expected;
+    // clang-format off
+    const struct { const char* name; QAudioFormat::SampleFormat type; int channels, rate; std::vector<double> expected;
     } cases[] = {
         {"16-bit stereo", QAudioFormat::Int16, 2, 8000, {16000, -16000, 32000, -32000}},
         {"float mono: the left ear", QAudioFormat::Float, 1, 8000, {0.5, 1}},
         {"8-bit at twice the rate", QAudioFormat::UInt8, 2, 16000, {191, 64, 191, 64, 255, 1, 255, 1}},
         {"32-bit, three channels, half the rate", QAudioFormat::Int32, 3, 4000, {1073741500, -1073741500, -1073741500}},
     };
+    // clang-format on
     for (const auto& c : cases) {
         QAudioFormat format;
         format.setSampleFormat(c.type);

@@ -135,19 +135,14 @@ TEST(DoubleClick, ItsSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
 
 TEST(FullScreenKey, ReturnsToTheStateBefore)
 {
-    struct Case {
-        const char* name;
-        Qt::WindowStates before;
-    };
-    const Case cases[] = {{"normal", Qt::WindowNoState}, {"maximized", Qt::WindowMaximized}};
-    for (const Case& c : cases) {
+    for (const Qt::WindowStates before : {Qt::WindowStates(Qt::WindowNoState), Qt::WindowStates(Qt::WindowMaximized)}) {
         QWidget window;
-        window.setWindowState(c.before);
+        window.setWindowState(before);
         window.show();
         toggleFullScreen(&window);
-        EXPECT_TRUE(window.windowState() & Qt::WindowFullScreen) << c.name;
+        EXPECT_TRUE(window.windowState() & Qt::WindowFullScreen) << "from state " << before.toInt();
         toggleFullScreen(&window);
-        EXPECT_EQ(window.windowState(), c.before) << c.name;
+        EXPECT_EQ(window.windowState(), before);
     }
 }
 

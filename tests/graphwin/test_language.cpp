@@ -25,39 +25,21 @@ struct InLanguage {
 
 TEST(Language, LocaleNamesStandForTheShippedLanguages)
 {
-    struct Row {
-        const char* locale;
-        const char* shipped;
-    };
-    const Row rows[] = {
-        {"de_DE.UTF-8", "de"},
-        {"de_AT", "de"},
-        {"es", "es"},
-        {"es_MX.UTF-8", "es"},
-        {"fr_CA@euro", "fr"},
-        {"pt_BR.UTF-8", "pt_BR"},
-        {"pt", "pt_BR"},
-        {"pt-BR", "pt_BR"},
-        {"en_GB.UTF-8", "en"},
-        {"C", ""},
-        {"POSIX", ""},
-        {"ja_JP.UTF-8", ""},
-        {"", ""},
-    };
-    for (const Row& r : rows)
-        EXPECT_EQ(i18n::shippedFor(QString::fromLatin1(r.locale)), QString::fromLatin1(r.shipped)) << r.locale;
+    // clang-format off
+    const std::pair<const char*, const char*> rows[] = {
+        {"de_DE.UTF-8", "de"}, {"de_AT", "de"}, {"es", "es"}, {"es_MX.UTF-8", "es"}, {"fr_CA@euro", "fr"},
+        {"pt_BR.UTF-8", "pt_BR"}, {"pt", "pt_BR"}, {"pt-BR", "pt_BR"}, {"en_GB.UTF-8", "en"}, {"C", ""},
+        {"POSIX", ""}, {"ja_JP.UTF-8", ""}, {"", ""}};
+    // clang-format on
+    for (const auto& [locale, shipped] : rows)
+        EXPECT_EQ(i18n::shippedFor(QString::fromLatin1(locale)), QString::fromLatin1(shipped)) << locale;
 }
 
 TEST(Language, TheAskedLanguageThenTheRememberedOneThenTheDesktopsThenEnglish)
 {
-    struct Row {
-        const char* name;
-        const char* asked;
-        const char* remembered;
-        QStringList desktop;
-        const char* chosen;
-    };
-    const Row rows[] = {
+    // clang-format off
+    const struct { const char* name; const char* asked; const char* remembered; QStringList desktop; const char* chosen;
+    } rows[] = {
         {"--lang wins", "fr", "de", {QStringLiteral("es_ES.UTF-8")}, "fr"},
         {"an unknown --lang falls through", "xx", "de", {}, "de"},
         {"the remembered choice beats the desktop", "", "pt_BR", {QStringLiteral("de_DE.UTF-8")}, "pt_BR"},
@@ -65,7 +47,8 @@ TEST(Language, TheAskedLanguageThenTheRememberedOneThenTheDesktopsThenEnglish)
         {"nothing shipped: English", "", "", {QStringLiteral("ja_JP.UTF-8")}, "en"},
         {"nothing at all: English", "", "", {}, "en"},
     };
-    for (const Row& r : rows)
+    // clang-format on
+    for (const auto& r : rows)
         EXPECT_EQ(i18n::choose(QString::fromLatin1(r.asked), QString::fromLatin1(r.remembered), r.desktop),
                   QString::fromLatin1(r.chosen))
             << r.name;
@@ -73,24 +56,17 @@ TEST(Language, TheAskedLanguageThenTheRememberedOneThenTheDesktopsThenEnglish)
 
 TEST(Language, ShownNumbersTakeTheLanguagesSeparatorAndTypedCommasReadAsPoints)
 {
-    struct Row {
-        const char* classic;
-        const char* german;  // as shown in German (English shows the classic text unchanged)
-    };
-    const Row rows[] = {
-        {"1.5", "1,5"},
-        {" .25", " ,25"},
-        {"-3.5E+20", "-3,5E+20"},
-        {"12", "12"},
-        {"x = 2.", "x = 2."},
-        {"Newton's Method. Go", "Newton's Method. Go"},
-        {"(1.5,-2.25)", "(1,5,-2,25)"},
-    };
-    for (const Row& r : rows)
-        EXPECT_EQ(i18n::decimals(QString::fromLatin1(r.classic)), QString::fromLatin1(r.classic)) << r.classic;
-    InLanguage german("de");
-    for (const Row& r : rows)
-        EXPECT_EQ(i18n::decimals(QString::fromLatin1(r.classic)), QString::fromLatin1(r.german)) << r.classic;
+    // As shown in English (the classic text unchanged) and in German.
+    // clang-format off
+    const std::pair<const char*, const char*> rows[] = {
+        {"1.5", "1,5"}, {" .25", " ,25"}, {"-3.5E+20", "-3,5E+20"}, {"12", "12"}, {"x = 2.", "x = 2."},
+        {"Newton's Method. Go", "Newton's Method. Go"}, {"(1.5,-2.25)", "(1,5,-2,25)"}};
+    // clang-format on
+    for (const auto& [classic, german] : rows)
+        EXPECT_EQ(i18n::decimals(QString::fromLatin1(classic)), QString::fromLatin1(classic)) << classic;
+    InLanguage language("de");
+    for (const auto& [classic, german] : rows)
+        EXPECT_EQ(i18n::decimals(QString::fromLatin1(classic)), QString::fromLatin1(german)) << classic;
     EXPECT_EQ(i18n::typedDecimals(QStringLiteral("1,5")), QStringLiteral("1.5"));
     EXPECT_EQ(i18n::typedDecimals(QStringLiteral("1.5")), QStringLiteral("1.5"));
 }
@@ -117,13 +93,13 @@ TEST(Language, ACaptionTooLongForItsButtonShowsWholeInTheTooltip)
     caption::watch(&button);
     EXPECT_TRUE(caption::fits(&button));
     EXPECT_EQ(button.toolTip(), QString());
-    button.setText(QStringLiteral("A caption far too long for a button forty pixels wide"));
+    const QString whole = QStringLiteral("A caption far too long for a button forty pixels wide");
+    button.setText(whole);
     button.resize(40, 30);
     QCoreApplication::processEvents();
     EXPECT_FALSE(caption::fits(&button));
-    EXPECT_EQ(button.toolTip(), QStringLiteral("A caption far too long for a button forty pixels wide"));
-    // The text itself stays whole, for the screen reader.
-    EXPECT_EQ(button.text(), QStringLiteral("A caption far too long for a button forty pixels wide"));
+    EXPECT_EQ(std::pair(button.toolTip(), button.text()), std::pair(whole, whole))
+        << "the text itself stays whole, for the screen reader";
     button.resize(2000, 30);
     QCoreApplication::processEvents();
     EXPECT_EQ(button.toolTip(), QString());

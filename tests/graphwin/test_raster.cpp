@@ -143,13 +143,12 @@ TEST(Raster, ABatchOfOneColourIsItsShapesDrawnOneByOne)
             for (int i = 0, n = 1 + static_cast<int>(rng() % 40); i < n; ++i) {
                 // Mostly short vertical runs in a few columns, so that they touch, overlap or leave gaps.
                 const double x = chain ? endX : i % 4 ? static_cast<double>(rng() % 5) + 0.5 : coordinate(rng, W);
-                const double y1 = chain ? endY : coordinate(rng, H), y2 = chain ? near(y1)
-                                                                          : i % 5
-                                                                              ? y1 + static_cast<double>(rng() % 7) - 3
-                                                                              : coordinate(rng, H);
+                const double y1 = chain ? endY : coordinate(rng, H);
+                const double y2 = chain   ? near(y1)
+                                  : i % 5 ? y1 + static_cast<double>(rng() % 7) - 3
+                                          : coordinate(rng, H);
                 const double x2 = chain ? near(x) : i % 6 ? x : coordinate(rng, W);
-                endX = x2;
-                endY = y2;
+                endX = x2, endY = y2;
                 writer.line(x, y1, x2, y2);
                 referenceLine(ref, x, y1, x2, y2, pen);
                 if (i % 9 == 0) {

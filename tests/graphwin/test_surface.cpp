@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The drawing surface: pixels under twip points, recorded shapes, clipping and pens; and at every
 // size the same twips under a press and the picture drawn again.
+#include <array>
+
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -33,17 +35,16 @@ TEST(DrawingSurface, ShapesColourThePixelsUnderTheirTwipsAndAreRecorded)
     EXPECT_EQ(std::pair(s.CurrentX, s.CurrentY), std::pair(1e12, 2000.0));
     s.Line(1e300, -1e300, 2e300, -5e299, kBlue);  // entirely outside
     s.Line(1500, 1500, std::numeric_limits<double>::quiet_NaN(), 0, kBlue);
-    const struct { double x, y; QRgb colour; } pixels[] = {
+    const std::tuple<double, double, QRgb> pixels[] = {
         {1500, 1500, kRed},  {1514, 1514, kRed}, {1515, 1500, kWhite},  // 15 twips to a pixel
         {300, 600, kBlue},   {1200, 600, kBlue}, {1215, 600, kWhite},  {750, 750, kRed},
         {750, 1200, kWhite}, {0, 2000, kRed},    {5990, 2000, kRed},   {1500, 1400, kWhite}};
     for (const auto& [x, y, colour] : pixels)
         EXPECT_EQ(s.pixel(x, y), colour) << x << ", " << y;
     ASSERT_EQ(s.ops().size(), 6u);  // lines outside are recorded too
-    EXPECT_EQ(s.ops()[0].kind, DrawOp::PSet);
     const DrawOp& step = s.ops()[1];
-    EXPECT_EQ(step.kind, DrawOp::Line);
-    EXPECT_EQ(std::tuple(step.x1, step.y1, step.x2, step.y2, step.color), std::tuple(300, 600, 1200, 600, kBlue));
+    EXPECT_EQ(std::tuple(s.ops()[0].kind, step.kind, step.x1, step.y1, step.x2, step.y2, step.color),
+              std::tuple(DrawOp::PSet, DrawOp::Line, 300, 600, 1200, 600, kBlue));
 
     s.setDrawWidth(3);
     s.PSet(3000, 1500, kRed);
@@ -70,8 +71,7 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
     s.Line(300, 600, 1200, 600, kRed);
     s.Line(150, 1500, 1500, 2800, kRed);
     s.Circle(1500, 1500, 450, kRed);
-    s.CurrentX = 200;
-    s.CurrentY = 2200;
+    s.CurrentX = 200, s.CurrentY = 2200;
     s.Print(QStringLiteral("y = x^2"));
     s.clearArea(1000, 1000, 200, 200);
     const QImage before = grab(s);
@@ -92,9 +92,7 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
 // paths where one begins where the last ended, and never joined to the batch before.
 TEST(Zoom, KeptBatchesOfSegmentsAreDrawnAgainAsTheyWereDrawnOneByOne)
 {
-    struct Segment {
-        double x1, y1, x2, y2;
-    };
+    using Segment = std::array<double, 4>;  // from (x1, y1) to (x2, y2)
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const std::vector<std::pair<QRgb, std::vector<Segment>>> batches = {
         {kRed, {{300, 300, 1200, 900}, {1200, 900, 1500, 300}, {1500, 300, 1507, 301}}},
@@ -107,8 +105,8 @@ TEST(Zoom, KeptBatchesOfSegmentsAreDrawnAgainAsTheyWereDrawnOneByOne)
     for (DrawingSurface* s : {&one, &batched})
         for (const auto& [colour, segments] : batches) {
             DrawingSurface::Batch b(*s, colour);
-            for (const Segment& g : segments)
-                b.line(g.x1, g.y1, g.x2, g.y2);
+            for (const auto& [x1, y1, x2, y2] : segments)
+                b.line(x1, y1, x2, y2);
         }
     for (double zoom : {1.0, 2.0, 0.5, 3.25}) {
         one.setZoom(zoom);
@@ -177,25 +175,22 @@ TEST(DrawWidthScope, PutsBackTheWidthThereWasHoweverTheScopeEnds)
 
 TEST(GraphWindow, MapsTheWindowOntoTheSquareAndBack)
 {
-    struct Case {
-        const char* name;
-        double left, xmin, xmax, ymin, ymax;
-        std::int32_t xOrigin, yOrigin;
-    } cases[] = {
+    // clang-format off
+    struct { const char* name; double left, xmin, xmax, ymin, ymax; std::int32_t xOrigin, yOrigin; } cases[] = {
         {"the default window", 2400, -10, 10, -10, 10, 5600, 3300},
         {"a window right of the origin", 2400, 1, 5, 0, 4, 800, 6500},
         {"another square's left edge", 1560, -2, 2, -1, 3, 4760, 4900},
         {"an origin rounded down", 2400, -3, 4, -2, 5, 5142, 4671},
     };
-    for (const Case& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         GraphWindow g;
         g.Left = c.left;
         g.set(c.xmin, c.xmax, c.ymin, c.ymax);
-        EXPECT_EQ(g.XOrigin, c.xOrigin);
-        EXPECT_EQ(g.YOrigin, c.yOrigin);
-        EXPECT_EQ(g.firstColumn(), static_cast<std::int32_t>(c.left) + 1);
-        EXPECT_EQ(g.lastColumn(), static_cast<std::int32_t>(c.left) + 6399);
+        EXPECT_EQ(std::pair(g.XOrigin, g.YOrigin), std::pair(c.xOrigin, c.yOrigin));
+        const auto left = static_cast<std::int32_t>(c.left);
+        EXPECT_EQ(std::pair(g.firstColumn(), g.lastColumn()), std::pair(left + 1, left + 6399));
         // The edges of the square in the world, within the rounding of the origins (a twip).
         const double twipX = (c.xmax - c.xmin) / 6400, twipY = (c.ymax - c.ymin) / 6400;
         EXPECT_NEAR(g.worldLeft(), c.xmin, twipX);

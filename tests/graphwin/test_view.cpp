@@ -14,18 +14,15 @@ using view::Limits;
 
 TEST(GraphView, AZoomKeepsItsPointWhereItIsAndScalesTheWindow)
 {
-    struct Case {
-        const char* name;
-        Limits from;
-        double x, y, factor;
-    };
-    const Case cases[] = {
+    // clang-format off
+    const struct { const char* name; Limits from; double x, y, factor; } cases[] = {
         {"in about the centre", {-10, 10, -10, 10}, 0, 0, 2},
         {"in about a corner point", {-10, 10, -10, 10}, 7.5, -3, 1.25},
         {"out about a point off the centre", {1.9, 2.1, -0.1, 0.1}, 2.05, 0.01, 0.5},
         {"in about a point outside the window", {0, 1, 0, 1}, 5, 5, 4},
     };
-    for (const Case& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         const Limits z = view::zoomAbout(c.from, c.x, c.y, c.factor);
         EXPECT_NEAR(z.width(), c.from.width() / c.factor, 1e-12) << c.name;
         EXPECT_NEAR(z.height(), c.from.height() / c.factor, 1e-12) << c.name;
@@ -33,28 +30,23 @@ TEST(GraphView, AZoomKeepsItsPointWhereItIsAndScalesTheWindow)
         EXPECT_NEAR((c.x - z.xmin) / z.width(), (c.x - c.from.xmin) / c.from.width(), 1e-12) << c.name;
         EXPECT_NEAR((c.y - z.ymin) / z.height(), (c.y - c.from.ymin) / c.from.height(), 1e-12) << c.name;
     }
-    const Limits panned = view::panBy({-10, 10, -5, 5}, 2.5, -1);
-    EXPECT_EQ(panned, (Limits{-7.5, 12.5, -6, 4}));
+    EXPECT_EQ(view::panBy({-10, 10, -5, 5}, 2.5, -1), (Limits{-7.5, 12.5, -6, 4}));
     EXPECT_EQ(view::boxBetween(3, -1, -2, 4), (Limits{-2, 3, -1, 4}));
-    EXPECT_DOUBLE_EQ(view::wheelFactor(120), 1.25);
-    EXPECT_DOUBLE_EQ(view::wheelFactor(-120), 0.8);
-    EXPECT_DOUBLE_EQ(view::wheelFactor(240), 1.5625);
+    for (const auto& [notches, factor] : {std::pair(120, 1.25), std::pair(-120, 0.8), std::pair(240, 1.5625)})
+        EXPECT_DOUBLE_EQ(view::wheelFactor(notches), factor) << notches;
 }
 
 TEST(GraphView, LimitsAreWrittenForReadingWithinATenthOfAPixelAndReadBackExactly)
 {
-    struct Case {
-        const char* name;
-        Limits from;
-        double pixels;
-    };
-    const Case cases[] = {
+    // clang-format off
+    const struct { const char* name; Limits from; double pixels; } cases[] = {
         {"a wheel notch from the default", view::zoomAbout({-10, 10, -10, 10}, 1.2345678, -3.3333333, 1.25), 427},
         {"a small window far from the origin", {1234.56789012, 1234.56789345, -0.00012345678, 0.00012345679}, 427},
         {"a wide window", {-123456789.123, 987654321.987, -5e9, 5e9}, 1000},
         {"limits at zero", {0, 1e-3, -1e-7, 0}, 427},
     };
-    for (const Case& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         const Limits r = view::readable(c.from, c.pixels);
         const double px = c.from.width() / c.pixels, py = c.from.height() / c.pixels;
         EXPECT_LE(std::fabs(r.xmin - c.from.xmin), px / 10) << c.name;
@@ -74,14 +66,10 @@ TEST(GraphView, LimitsAreWrittenForReadingWithinATenthOfAPixelAndReadBackExactly
 
 TEST(GraphView, WindowsTheArithmeticCannotShowAreRefusedInWords)
 {
-    struct Case {
-        const char* name;
-        Limits limits;
-        const char* says;  // the start of the refusal, "" for a window that can be shown
-    };
-    const Case cases[] = {
-        {"the default", {-10, 10, -10, 10}, ""},
-        {"a close window near 1", {0.99999, 1.00001, 0.99999, 1.00001}, ""},
+    // The start of the refusal, "" for a window that can be shown.
+    // clang-format off
+    const struct { const char* name; Limits limits; const char* says; } cases[] = {
+        {"the default", {-10, 10, -10, 10}, ""}, {"a close window near 1", {0.99999, 1.00001, 0.99999, 1.00001}, ""},
         {"too close to tell apart near 1", {1 - 1e-9, 1 + 1e-9, -1, 1}, "Zoomed in as far"},
         {"too close near 0", {-1e-11, 1e-11, -1, 1}, "Zoomed in as far"},
         {"too wide", {-1e13, 1e13, -1, 1}, "Zoomed out as far"},
@@ -89,7 +77,8 @@ TEST(GraphView, WindowsTheArithmeticCannotShowAreRefusedInWords)
         {"not a number", {std::nan(""), 1, -1, 1}, "The window's limits are not numbers in order"},
         {"infinite", {-INFINITY, 1, -1, 1}, "The window's limits are not numbers in order"},
     };
-    for (const Case& c : cases) {
+    // clang-format on
+    for (const auto& c : cases) {
         const auto why = view::refusal(c.limits);
         EXPECT_EQ(why.value_or("").rfind(c.says, 0), 0u) << c.name << ": " << why.value_or("(shown)");
         EXPECT_EQ(why.has_value(), std::string(c.says) != "") << c.name;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The launcher: opening each screen modally from its button and its menu entry, finding it as it was
 // left, the one report of a run-time error inside a screen, and Quit.
-#include <map>
-
 #include <QFile>
 #include <QLabel>
 #include <QLayout>
@@ -10,26 +8,14 @@
 #include <QMenuBar>
 #include <QResizeEvent>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
 #include "graphwin/Dialogs.h"
 #include "launcher/frmGraphingCalc.h"
-#include "tests/screens/ScreenFixture.h"
 #include "screens/ScreenRegistry.h"
 #include "screens/frmClasses.h"
-
-namespace {
-// Runs `inside` while the screen is shown modally, then leaves it by its Exit button.
-void whileShown(GraphScreen& screen, std::function<void()> inside)
-{
-    QTimer::singleShot(0, &screen, [&screen, inside] {
-        inside();
-        screen.cmdExit->click();
-    });
-}
-}  // namespace
+#include "tests/screens/ScreenFixture.h"
 
 TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
 {
@@ -38,33 +24,17 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
     setProgramEndHandler([&](int code) { ends.push_back(code); });
     {
         frmGraphingCalc l;
-        const struct { QPushButton* button; QAction* action; GraphScreen* screen; } entries[] = {
-            {l.cmdFuncClasses, l.mnuGrapher, &l.classesScreen()},
-            {l.cmdSums, l.mnuRiemann, &l.riemannScreen()},
-            {l.cmdAnimate, l.mnuAnimate, &l.animateScreen()},
-            {l.cmdSlopeField, l.mnuSlopeField, &l.slopeFieldScreen()},
-            {l.cmdNewton, l.mnuNewton, &l.newtonScreen()},
-            {l.cmdTangent, l.mnuTangent, &l.tangentScreen()},
-            {l.cmdMVT, l.mnuMVT, &l.mvtScreen()},
-            {l.cmdParam, l.mnuParam, &l.paramScreen()}};
-        for (const auto& [button, action, screen] : entries) {
-            int shown = 0;
-            for (int way = 0; way < 2; ++way) {
-                whileShown(*screen, [&, s = screen] { shown += s->isVisible() && s->isModal(); });
-                way ? action->trigger() : button->click();
-                EXPECT_FALSE(screen->isVisible());
-            }
-            EXPECT_EQ(shown, 2) << screen->windowTitle().toStdString();
-        }
         EXPECT_EQ(l.mnuSelect->menu()->actions().size(), 8);
         EXPECT_EQ(l.mnuFile->menu()->actions(), (QList<QAction*>{l.mnuAbout, l.Sep1, l.mnuExit}));
         const auto* heading = l.findChild<QLabel*>();  // above the buttons, in the window's layout
-        EXPECT_TRUE(heading && heading->text() == QStringLiteral("Choose a demonstration") && l.layout()->indexOf(heading) >= 0);
+        EXPECT_TRUE(heading && heading->text() == QStringLiteral("Choose a demonstration") &&
+                    l.layout()->indexOf(heading) >= 0);
         l.resize(l.size() * 2);  // everything grows with the window: fonts, menus and buttons
         QResizeEvent grown(l.size(), l.size() / 2);
         QCoreApplication::sendEvent(&l, &grown);
-        EXPECT_EQ(std::tuple(l.font().pointSizeF(), l.mnuSelect->menu()->font().pointSizeF(), l.cmdSums->minimumWidth()),
-                  std::tuple(22.0, 22.0, 480));
+        EXPECT_EQ(
+            std::tuple(l.font().pointSizeF(), l.mnuSelect->menu()->font().pointSizeF(), l.cmdSums->minimumWidth()),
+            std::tuple(22.0, 22.0, 480));
         QWidget* tab = l.cmdFuncClasses;  // Tab runs through the buttons in teaching order, Quit last
         for (QPushButton* next :
              {l.cmdAnimate, l.cmdSums, l.cmdNewton, l.cmdSlopeField, l.cmdTangent, l.cmdMVT, l.cmdParam, l.cmdExit}) {
@@ -85,8 +55,8 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
         std::size_t drawn = 0;
         whileShown(grapher, [&] { drawn = grapher.surface->ops().size(); });
         l.mnuGrapher->trigger();
-        EXPECT_EQ(drawn, 2u + 21 + 31);
-        EXPECT_EQ(std::pair(grapher.txtXmax->text(), int(FuncGlobals::FunctionId)), std::pair(QStringLiteral("20"), 3));
+        EXPECT_EQ(std::tuple(drawn, grapher.txtXmax->text(), int(FuncGlobals::FunctionId)),
+                  std::tuple(2u + 21 + 31, QStringLiteral("20"), 3));
         EXPECT_TRUE(script.errors.empty());
         whileShown(grapher, [&] { grapher.txtXmax->setText(QStringLiteral("-10")); });
         l.cmdFuncClasses->click();  // equal limits: the one report, from inside the modal screen
@@ -100,9 +70,9 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
     setProgramEndHandler(nullptr);
 }
 
-// Every row of the screen registry opens a screen of the row's class: a seed's from its button and
-// its Selections entry, an addition's from its More Demonstrations entry (and has no button); the
-// words the software centre and the manual page give name every screen.
+// Every row of the screen registry opens a screen of the row's class, modally, and Exit closes it: a
+// seed's from its button and its Selections entry, an addition's from its More Demonstrations entry
+// (and has no button); the words the software centre and the manual page give name every screen.
 TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
 {
     ScriptedDialogs script;
@@ -116,53 +86,50 @@ TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
         GraphScreen& screen = l.screen(row);
         EXPECT_EQ(screens::of(screen), &row);
         EXPECT_EQ(entry->text(), QString::fromUtf8(row.entry));
-        auto* button = [&]() -> QPushButton* {
-            for (QPushButton* b : l.findChildren<QPushButton*>())
-                if (b->text() == QString::fromUtf8(row.button))
-                    return b;
-            return nullptr;
-        }();
+        QPushButton* button = nullptr;
+        for (QPushButton* b : l.findChildren<QPushButton*>())
+            if (!button && b->text() == QString::fromUtf8(row.button))
+                button = b;
         EXPECT_EQ(button == nullptr, bool(kind)) << row.key;
         int shown = 0;
         for (int way = kind; way < 2; ++way) {
-            whileShown(screen, [&] { shown += screen.isVisible(); });
+            whileShown(screen, [&] { shown += screen.isVisible() && screen.isModal(); });
             way ? entry->trigger() : button->click();
+            EXPECT_FALSE(screen.isVisible()) << row.key << ": left by its Exit button";
         }
         EXPECT_EQ(shown, 2 - kind) << row.key;
     }
-    EXPECT_EQ(next[0], menus[0].size());
-    EXPECT_EQ(next[1], menus[1].size());
+    EXPECT_EQ(std::pair(next[0], next[1]), std::pair(menus[0].size(), menus[1].size())) << "every entry opens a row";
     // The additions' menu stands between Selections and Lessons.
     const QList<QAction*> bar = l.menuBar->actions();
     EXPECT_EQ(bar.indexOf(l.mnuMore), bar.indexOf(l.mnuSelect) + 1);
     EXPECT_EQ(bar.indexOf(l.mnuLessons), bar.indexOf(l.mnuMore) + 1);
-    auto read = [](const char* file) {
-        QFile f(QStringLiteral(PLOTTO_SOURCE_DIR "/packaging/") + QString::fromLatin1(file));
-        EXPECT_TRUE(f.open(QIODevice::ReadOnly)) << file;
-        return QString::fromUtf8(f.readAll()).simplified();
+    auto read = [](const char* file) {  // empty when it cannot be read, which the checks then show
+        return QString::fromUtf8(fileBytes(QStringLiteral(PLOTTO_SOURCE_DIR "/packaging/") + QLatin1String(file)))
+            .simplified();
     };
-    EXPECT_TRUE(read("org.example.plotto.metainfo.xml").contains(screens::summary())) << screens::summary().toStdString();
+    EXPECT_TRUE(read("org.example.plotto.metainfo.xml").contains(screens::summary()))
+        << screens::summary().toStdString();
     const QString manual = read("plotto.6");
     EXPECT_TRUE(manual.contains(
         QStringLiteral("opens %1 demonstration screens").arg(screens::countInWords(int(screens::all().size())))));
     for (const screens::Entry& row : screens::all())
-        EXPECT_TRUE(manual.contains(QStringLiteral(".TP .B ") + QString::fromUtf8(row.button).remove(QLatin1Char('&'))
-                                        .replace(QLatin1Char('-'), QStringLiteral("\\-"))))
+        EXPECT_TRUE(manual.contains(
+            QStringLiteral(".TP .B ") +
+            QString::fromUtf8(row.button).remove(QLatin1Char('&')).replace(QLatin1Char('-'), QStringLiteral("\\-"))))
             << row.key;
     // The added menu's Alt letter opens it alone: no menu or button of the window shares it (the
     // classic launcher's own letters, two of which it shares, stay as they are).
-    std::map<QChar, QStringList> letters;
-    QStringList captions;
+    const QKeySequence more = QKeySequence::mnemonic(l.mnuMore->text());
+    ASSERT_FALSE(more.isEmpty());
+    QStringList sharing;
     for (QAction* menu : l.menuBar->actions())
-        captions << menu->text();
+        if (QKeySequence::mnemonic(menu->text()) == more)
+            sharing << menu->text();
     for (QPushButton* b : l.findChildren<QPushButton*>())
-        captions << b->text();
-    for (const QString& caption : captions)
-        if (const qsizetype at = caption.indexOf(QLatin1Char('&')); at >= 0 && at + 1 < caption.size())
-            letters[caption.at(at + 1).toLower()] << caption;
-    const QString more = l.mnuMore->text();
-    ASSERT_GE(more.indexOf(QLatin1Char('&')), 0);
-    EXPECT_EQ(letters[more.at(more.indexOf(QLatin1Char('&')) + 1).toLower()], QStringList{more});
+        if (QKeySequence::mnemonic(b->text()) == more)
+            sharing << b->text();
+    EXPECT_EQ(sharing, QStringList{l.mnuMore->text()});
     EXPECT_TRUE(script.errors.empty());
 }
 
@@ -175,8 +142,7 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
     std::vector<int> ends;
     setProgramEndHandler([&](int code) { ends.push_back(code); });
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("colleague.plotto"));
-    QFile file(path);
+    QFile file(dir.filePath(QStringLiteral("colleague.plotto")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     // Step 2: equal x-limits, so that Plotto! divides by the window's width of 0 (error 11); step 3:
     // A = 1e308 on A(Bx - C)^2 + D, whose values at |x| near 10 pass the largest double (error 6).
@@ -189,41 +155,33 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
     {
         frmGraphingCalc l;
         frmClasses& grapher = l.classesScreen();
-        std::vector<std::pair<QString, bool>> seen;  // the lesson's place and whether the screen was shown
+        QStringList seen;  // the lesson's place and whether the screen was shown
         QString said;
-        QTimer::singleShot(0, &grapher, [&] {
+        whileShown(grapher, [&] {
             // Before the first step and past the last there is nothing to move to.
             grapher.mnuPreviousStep->trigger();
-            seen.emplace_back(grapher.lblLessonPlace->text(), grapher.isVisible());
-            for (int step = 2; step <= 5; ++step) {
-                grapher.mnuNextStep->trigger();
-                seen.emplace_back(grapher.lblLessonPlace->text(), grapher.isVisible());
+            for (int step = 1; step <= 5; ++step) {
+                if (step > 1)
+                    grapher.mnuNextStep->trigger();
+                seen << grapher.lblLessonPlace->text() + (grapher.isVisible() ? " shown" : " hidden");
             }
             said = grapher.announcement();  // the step shown whole is said
-            grapher.cmdExit->click();
         });
-        l.openLesson(path);
-        const std::vector<std::pair<QString, bool>> expected = {
-            {QStringLiteral("Step 1 of 4"), true}, {QStringLiteral("Step 2 of 4"), true},
-            {QStringLiteral("Step 3 of 4"), true}, {QStringLiteral("Step 4 of 4"), true},
-            {QStringLiteral("Step 4 of 4"), true}};
-        EXPECT_EQ(seen, expected);
+        l.openLesson(file.fileName());
+        EXPECT_EQ(seen, QStringList({"Step 1 of 4 shown", "Step 2 of 4 shown", "Step 3 of 4 shown", "Step 4 of 4 shown",
+                                     "Step 4 of 4 shown"}));
         EXPECT_EQ(said, QStringLiteral("Step 4 of 4."));
-        std::vector<QString> boxes;
+        QStringList boxes;
         for (const auto& [title, prompt] : script.shown)
-            boxes.push_back(prompt);
-        EXPECT_EQ(boxes, (std::vector<QString>{
-                             QStringLiteral("Step 2 cannot be shown: its values divide by zero (run-time error 11)."),
-                             QStringLiteral("Step 3 cannot be shown: its values overflow (run-time error 6).")}));
-        EXPECT_TRUE(script.errors.empty());
-        EXPECT_TRUE(ends.empty());
+            boxes << prompt;
+        EXPECT_EQ(boxes, QStringList({"Step 2 cannot be shown: its values divide by zero (run-time error 11).",
+                                      "Step 3 cannot be shown: its values overflow (run-time error 6)."}));
+        EXPECT_TRUE(script.errors.empty() && ends.empty());
         // The refused step's A went back to what it was; the last step's window is shown.
-        EXPECT_EQ(std::tuple(grapher.txtXmin->text(), grapher.txtXmax->text(), grapher.txtA->text()),
-                  std::tuple(QStringLiteral("-3"), QStringLiteral("3"), QStringLiteral("1")));
+        EXPECT_EQ(texts({grapher.txtXmin, grapher.txtXmax, grapher.txtA}), QStringLiteral("-3|3|1"));
         // Outside the lesson the same values clicked by a person still meet the classic report.
         whileShown(grapher, [&] {
-            grapher.txtXmin->setText(QStringLiteral("5"));
-            grapher.txtXmax->setText(QStringLiteral("5"));
+            type({grapher.txtXmin, grapher.txtXmax}, "5|5");
             grapher.cmdPlotto->click();
         });
         l.cmdFuncClasses->click();

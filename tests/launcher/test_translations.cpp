@@ -61,24 +61,17 @@ void expectDistinctLetters(const QList<QAction*>& actions, const std::string& wh
     }
 }
 
-TEST(Translations, EachLanguageIsInstalledAndTheLauncherSpeaksIt)
+// Each language is installed and the launcher speaks it: English shows the seed's title, every other
+// language a title of its own from its catalogue; and no two entries of a menu share an Alt letter.
+TEST(Translations, EachLanguageIsInstalledAndNoTwoEntriesOfAMenuShareAnAltLetter)
 {
+    ScriptedDialogs script;
     const QString english = frmGraphingCalc().windowTitle();
     for (const char* code : kLanguages) {
         InLanguage language(code);
         frmGraphingCalc launcher;
-        // English shows the seed's title; every other language a title of its own from its catalogue.
         EXPECT_EQ(launcher.windowTitle() == english, std::string(code) == "en") << code;
         EXPECT_EQ(launcher.mnuLanguages.size(), i18n::languages().size());
-    }
-}
-
-TEST(Translations, NoTwoEntriesOfAMenuShareAnAltLetterInAnyLanguage)
-{
-    ScriptedDialogs script;
-    for (const char* code : kLanguages) {
-        InLanguage language(code);
-        frmGraphingCalc launcher;
         expectDistinctLetters(launcher.menuBar->actions(), std::string(code) + " launcher");
         for (const screens::Entry& row : screens::all()) {
             const std::unique_ptr<GraphScreen> screen = row.make();
@@ -147,27 +140,22 @@ TEST(Translations, TheConvergenceTableSpeaksTheLanguage)
 // language's decimal comma is read as a number.
 TEST(Translations, NewtonsGuessesShowTheLanguagesDecimalSeparator)
 {
-    struct Row {
-        const char* code;
-        const char* typedGuess;
-        const char* second;
-    };
-    const Row rows[] = {
-        {"en", "1", "1.5"}, {"es", "1", "1,5"}, {"fr", "1,0", "1,5"}, {"de", "1,0", "1,5"}, {"pt_BR", "1", "1,5"},
-    };
+    // The language, the first guess as typed, and the second guess as shown.
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"en", "1", "1.5"}, {"es", "1", "1,5"}, {"fr", "1,0", "1,5"}, {"de", "1,0", "1,5"}, {"pt_BR", "1", "1,5"}};
     ScriptedDialogs script;
-    for (const Row& r : rows) {
-        InLanguage language(r.code);
+    for (const auto& [code, typedGuess, second] : rows) {
+        InLanguage language(code);
         frmNewton newton;
         newton.Form_Activate();
-        ASSERT_EQ(newton.setTypedFunction(QStringLiteral("x^2 - 2")), QString()) << r.code;
-        newton.txtGuess->setText(QString::fromLatin1(r.typedGuess));
+        ASSERT_EQ(newton.setTypedFunction(QStringLiteral("x^2 - 2")), QString()) << code;
+        newton.txtGuess->setText(QString::fromLatin1(typedGuess));
         for (int click = 0; click < 3; ++click)  // each click writes the guess it used in its row
             newton.cmdApply_Click();
-        EXPECT_EQ(newton.grdGuess->cell(2, 1), QString::fromLatin1(r.second)) << r.code;
+        EXPECT_EQ(newton.grdGuess->cell(2, 1), QString::fromLatin1(second)) << code;
         const QString third = newton.grdGuess->cell(3, 1);
-        EXPECT_TRUE(third.startsWith(QString::fromLatin1(r.second).left(2) + QStringLiteral("41666")))
-            << r.code << " " << third.toStdString();
+        EXPECT_TRUE(third.startsWith(QString::fromLatin1(second).left(2) + QStringLiteral("41666")))
+            << code << " " << third.toStdString();
     }
 }
 

@@ -8,7 +8,6 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "graphwin/Dialogs.h"
@@ -43,12 +42,7 @@ Outcome plotto(const QStringList& arguments)
 QString tool(const char* name, const QStringList& arguments)
 {
     const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
-    if (path.isEmpty())
-        return {};
-    QProcess p;
-    p.start(path, arguments);
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
+    return path.isEmpty() ? QString() : toolOutput(path, arguments);
 }
 
 int pages(const QString& pdf)
@@ -66,35 +60,24 @@ QString example(const char* name) { return QStringLiteral(PLOTTO_SOURCE_DIR "/ex
 // digit inside a name stay.
 TEST(Worksheet, TheBlanksOfALineOfResults)
 {
-    struct Case {
-        const char* name;
-        QString line, given, blank;
-    };
     const QString family = QStringLiteral("y = Ax^2 + Bx + C with A = 1, B = 0, C = -4");
-    const Case cases[] = {
-        {"a sum",
-         QStringLiteral("Left Endpoint (ticked): =  5.5"),
-         {},
+    const QString newton = QStringLiteral("Newton's method on ") + family;
+    const QString none = QStringLiteral("Area under the curve from -2 to 2 with 8 partitions.");
+    // clang-format off
+    const struct { const char* name; QString line, given, blank; } cases[] = {
+        {"a sum", QStringLiteral("Left Endpoint (ticked): =  5.5"), {},
          QStringLiteral("Left Endpoint (ticked): =  ") + kBox},
-        {"a list",
-         QStringLiteral("Guesses: 1: 2; 2: 2.1; 3: -2.09e-3."),
-         {},
+        {"a list", QStringLiteral("Guesses: 1: 2; 2: 2.1; 3: -2.09e-3."), {},
          QStringLiteral("Guesses: 1: %1; 2: %1; 3: %1.").arg(kBox)},
-        {"names and powers",
-         QStringLiteral("P_7 at x^2 is x3 = 0.25"),
-         {},
+        {"names and powers", QStringLiteral("P_7 at x^2 is x3 = 0.25"), {},
          QStringLiteral("P_7 at x^2 is x3 = ") + kBox},
-        {"the function given", QStringLiteral("Newton's method on ") + family + QStringLiteral(": c = 1.5"), family,
-         QStringLiteral("Newton's method on ") + family + QStringLiteral(": c = ") + kBox},
+        {"the function given", newton + QStringLiteral(": c = 1.5"), family, newton + QStringLiteral(": c = ") + kBox},
         {"a decimal comma", QStringLiteral("Vermutungen: 1: 2; 2: 2,1; 3: 2,09."), {},
          QStringLiteral("Vermutungen: 1: %1; 2: %1; 3: %1.").arg(kBox)},
         {"a whole number before a full stop", QStringLiteral("c = 2."), {}, QStringLiteral("c = ") + kBox + "."},
-        {"no result",
-         QStringLiteral("Area under the curve from -2 to 2 with 8 partitions."),
-         {},
-         QStringLiteral("Area under the curve from -2 to 2 with 8 partitions.")},
-    };
-    for (const Case& c : cases) {
+        {"no result", none, {}, none}};
+    // clang-format on
+    for (const auto& c : cases) {
         EXPECT_EQ(worksheet::blanked(c.line, true, c.given), c.blank) << c.name;
         EXPECT_EQ(worksheet::blanked(c.line, false, c.given), c.line) << c.name;
     }
@@ -107,7 +90,8 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
 {
     QTemporaryDir dir;
     const QString out = dir.filePath(QStringLiteral("newton.pdf"));
-    const Outcome full = plotto({example("newtons-method.plotto"), QStringLiteral("--worksheet"), out});
+    const QString newton = example("newtons-method.plotto");
+    const Outcome full = plotto({newton, QStringLiteral("--worksheet"), out});
     ASSERT_EQ(full.status, 0) << full.err.toStdString();
     if (tool("pdfinfo", {out}).isEmpty())
         GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
@@ -118,16 +102,15 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
         EXPECT_TRUE(text.contains(QLatin1String(seen))) << seen;
 
     const QString sheet = dir.filePath(QStringLiteral("students.pdf"));
-    const Outcome blank =
-        plotto({example("newtons-method.plotto"), QStringLiteral("--worksheet"), sheet, QStringLiteral("--blank")});
+    const Outcome blank = plotto({newton, QStringLiteral("--worksheet"), sheet, QStringLiteral("--blank")});
     ASSERT_EQ(blank.status, 0) << blank.err.toStdString();
     const QString students = tool("pdftotext", {sheet, QStringLiteral("-")});
-    const QString answers =
-        tool("pdftotext", {dir.filePath(QStringLiteral("students-answers.pdf")), QStringLiteral("-")});
+    const QString answersPdf = dir.filePath(QStringLiteral("students-answers.pdf"));
+    const QString answers = tool("pdftotext", {answersPdf, QStringLiteral("-")});
     EXPECT_FALSE(students.contains(QStringLiteral("2.09456812110419")));
     EXPECT_TRUE(students.contains(QStringLiteral("x^3 - 2*x - 5"))) << "the function stays";
     EXPECT_TRUE(answers.contains(QStringLiteral("2.09456812110419")));
-    EXPECT_EQ(pages(sheet), pages(dir.filePath(QStringLiteral("students-answers.pdf"))));
+    EXPECT_EQ(pages(sheet), pages(answersPdf));
 }
 
 // What goes wrong is said, with a status a script can test: 1 for a file, 2 for the command line.
@@ -138,27 +121,17 @@ TEST(Worksheet, WhatGoesWrongIsSaidWithItsStatus)
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
     broken.write("{\"format\": \"plotto-lesson\", \"version\": 2, \"steps\": [");
     broken.close();
-    struct Case {
-        const char* name;
-        QStringList arguments;
-        int status;
-        const char* says;
-    };
-    const QString out = dir.filePath(QStringLiteral("w.pdf"));
-    const Case cases[] = {
-        {"no such lesson",
-         {dir.filePath(QStringLiteral("none.plotto")), QStringLiteral("--worksheet"), out},
-         1,
-         "Cannot read the lesson"},
-        {"not a lesson", {broken.fileName(), QStringLiteral("--worksheet"), out}, 1, "This is not a lesson"},
-        {"no folder to write in",
-         {example("newtons-method.plotto"), QStringLiteral("--worksheet"), dir.filePath(QStringLiteral("no/w.pdf"))},
-         1,
-         "Could not write"},
-        {"no lesson", {QStringLiteral("--worksheet"), out}, 2, "needs a lesson"},
-        {"blank alone", {example("newtons-method.plotto"), QStringLiteral("--blank")}, 2, "--blank goes with"},
-    };
-    for (const Case& c : cases) {
+    const QString out = dir.filePath(QStringLiteral("w.pdf")), worksheet = QStringLiteral("--worksheet");
+    const QString newton = example("newtons-method.plotto");
+    // clang-format off
+    const struct { const char* name; QStringList arguments; int status; const char* says; } cases[] = {
+        {"no such lesson", {dir.filePath(QStringLiteral("none.plotto")), worksheet, out}, 1, "Cannot read the lesson"},
+        {"not a lesson", {broken.fileName(), worksheet, out}, 1, "This is not a lesson"},
+        {"no folder to write in", {newton, worksheet, dir.filePath(QStringLiteral("no/w.pdf"))}, 1, "Could not write"},
+        {"no lesson", {worksheet, out}, 2, "needs a lesson"},
+        {"blank alone", {newton, QStringLiteral("--blank")}, 2, "--blank goes with"}};
+    // clang-format on
+    for (const auto& c : cases) {
         const Outcome r = plotto(c.arguments);
         EXPECT_EQ(r.status, c.status) << c.name;
         EXPECT_TRUE(r.err.contains(QLatin1String(c.says))) << c.name << ": " << r.err.toStdString();
@@ -170,8 +143,7 @@ TEST(Worksheet, WhatGoesWrongIsSaidWithItsStatus)
 // show as they are; without a program to run, or a lesson, it says so.
 TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
 {
-    DialogScript script;
-    setDialogScript(&script);
+    ScriptedDialogs script;
     frmGraphingCalc launcher;
     QTemporaryDir dir;
     const QString out = dir.filePath(QStringLiteral("sheet.pdf"));
@@ -184,12 +156,11 @@ TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
     // On the lesson's first screen, from its Tools menu, as a teacher would.
     frmRiemann& sums = launcher.riemannScreen();
     QString before, after;
-    QTimer::singleShot(0, &sums, [&] {
+    whileShown(sums, [&] {
         before = sums.txtParts->text() + sums.lblLeftE->text();
         script.shown.clear();
         sums.mnuExportWorksheet->trigger();
         after = sums.txtParts->text() + sums.lblLeftE->text();
-        sums.cmdExit->click();
     });
     launcher.openLesson(example("the-definite-integral.plotto"));
     EXPECT_TRUE(QFile::exists(out));
@@ -203,5 +174,4 @@ TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
     launcher.mnuExportWorksheet_Click();
     ASSERT_EQ(script.shown.size(), 1u);
     EXPECT_TRUE(script.shown[0].second.contains(QStringLiteral("cannot start")));
-    setDialogScript(nullptr);
 }

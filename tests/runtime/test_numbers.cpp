@@ -78,17 +78,9 @@ TEST(Numbers, WritingNumbers)
 TEST(Numbers, ConversionsAndCheckedArithmetic)
 {
     // Each case: the value it gives, or 0 and the run-time error it raises.
-#define CASE(expression, value, error)                                                                                 \
-    {                                                                                                                  \
-#expression, [] { return static_cast<double>(expression); }, value, error                                      \
-    }
     // clang-format off
-    const struct {
-        const char* what;
-        std::function<double()> f;
-        double value;
-        int error;
-    } cases[] = {
+#define CASE(expression, value, error) {#expression, [] { return static_cast<double>(expression); }, value, error}
+    const struct { const char* what; std::function<double()> f; double value; int error; } cases[] = {
         CASE(Int(-8.4), -9, 0), CASE(Int(8.9), 8, 0), CASE(Int(-3.0), -3, 0), CASE(CInt(0.5), 0, 0),
         CASE(CInt(1.5), 2, 0), CASE(CInt(2.5), 2, 0), CASE(CInt(-2.5), -2, 0), CASE(CInt(2.6), 3, 0),
         CASE(CInt(32767.4), 32767, 0), CASE(CInt(-32768.5), -32768, 0), CASE(CInt(32767.5), 0, Overflow),
@@ -116,13 +108,11 @@ TEST(Numbers, ConversionsAndCheckedArithmetic)
 
 TEST(RuntimeErrors, TheClassicNumbersMessagesAndBounds)
 {
-    const std::pair<int, const char*> classic[] = {{5, "Invalid procedure call or argument"},
-                                                   {6, "Overflow"},
-                                                   {9, "Subscript out of range"},
-                                                   {11, "Division by zero"},
-                                                   {13, "Type mismatch"},
-                                                   {380, "Invalid property value"},
-                                                   {7, "Application-defined or object-defined error"}};
+    // clang-format off
+    const std::pair<int, const char*> classic[] = {{5, "Invalid procedure call or argument"}, {6, "Overflow"},
+        {9, "Subscript out of range"}, {11, "Division by zero"}, {13, "Type mismatch"}, {380, "Invalid property value"},
+        {7, "Application-defined or object-defined error"}};
+    // clang-format on
     for (const auto& [number, message] : classic) {
         EXPECT_STREQ(errorMessage(number), message) << number;
         EXPECT_EQ(errorOf([n = number] { rt::raise(n); }), number);

@@ -17,6 +17,7 @@
 #include <QProcess>
 #include <QSignalBlocker>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
@@ -146,6 +147,16 @@ template <class S, class F>
 std::function<void(GraphScreen&)> on(F act)
 {
     return [act](GraphScreen& s) { act(static_cast<S&>(s)); };
+}
+
+// Runs `inside` once the screen is shown modally (by the launcher's button, menu entry or lesson that
+// the test then uses), then leaves it by its Exit button.
+inline void whileShown(GraphScreen& screen, std::function<void()> inside)
+{
+    QTimer::singleShot(0, &screen, [&screen, inside] {
+        inside();
+        screen.cmdExit->click();
+    });
 }
 
 // Scripted dialogs for one test, put back however the test ends (a failed ASSERT included), with the
