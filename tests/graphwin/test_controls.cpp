@@ -133,6 +133,30 @@ TEST(DoubleClick, ItsSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
         << "a release after a double click clicks no more";
 }
 
+// A raised error is held by the innermost hold, the first one only, by either way of reporting it;
+// a hold gone puts back the one around it, and with none the classic report comes.
+TEST(ErrorHold, TheInnermostHoldKeepsTheFirstErrorAndPutsBackTheOuterOne)
+{
+    DialogScript script;
+    setDialogScript(&script);
+    QWidget source;
+    {
+        RuntimeErrorHold outer;
+        {
+            RuntimeErrorHold inner;
+            reportRuntimeError(rt::RuntimeError(rt::Overflow));
+            reportRuntimeErrorFrom(&source, rt::RuntimeError(rt::DivisionByZero));
+            EXPECT_EQ(std::pair(inner.first(), outer.first()), std::pair(6, 0));
+        }
+        reportRuntimeErrorFrom(&source, rt::RuntimeError(rt::DivisionByZero));
+        EXPECT_EQ(outer.first(), 11);
+    }
+    EXPECT_TRUE(script.errors.empty());
+    reportRuntimeError(rt::RuntimeError(rt::Overflow));
+    EXPECT_EQ(script.errors, std::vector<int>{6});
+    setDialogScript(nullptr);
+}
+
 TEST(FullScreenKey, ReturnsToTheStateBefore)
 {
     for (const Qt::WindowStates before : {Qt::WindowStates(Qt::WindowNoState), Qt::WindowStates(Qt::WindowMaximized)}) {

@@ -163,10 +163,12 @@ TEST(Launcher, ALessonStepThatRaisesIsRefusedAndTheLessonGoesOn)
             for (int step = 1; step <= 5; ++step) {
                 if (step > 1)
                     grapher.mnuNextStep->trigger();
-                seen << grapher.lblLessonPlace->text() + (grapher.isVisible() ? " shown" : " hidden");
+                seen << grapher.lblLessonPlace->text() + (grapher.isVisible() ? " shown" : " hidden") +
+                            (grapher.mnuNextStep->isEnabled() && grapher.mnuPreviousStep->isEnabled() ? "" : " stuck");
             }
             said = grapher.announcement();  // the step shown whole is said
         });
+        EXPECT_FALSE(grapher.mnuNextStep->isEnabled() || grapher.mnuPreviousStep->isEnabled()) << "no lesson yet";
         l.openLesson(file.fileName());
         EXPECT_EQ(seen, QStringList({"Step 1 of 4 shown", "Step 2 of 4 shown", "Step 3 of 4 shown", "Step 4 of 4 shown",
                                      "Step 4 of 4 shown"}));
