@@ -194,11 +194,17 @@ void makeNamesUnique(const std::vector<QWidget*>& controls)
 
 QString colourName(int number)
 {
-    static const char* const names[16] = {"black",     "blue",          "green",        "cyan",
-                                          "red",       "magenta",       "yellow",       "white",
-                                          "grey",      "light blue",    "light green",  "light cyan",
-                                          "light red", "light magenta", "light yellow", "bright white"};
-    return number >= 0 && number < 16 ? QString::fromLatin1(names[number]) : QString();
+    // The colour a curve is drawn in, as the description of the graph says it ("..., in blue").
+    static const char* const names[16] = {
+        QT_TRANSLATE_NOOP("Plotto", "black"),        QT_TRANSLATE_NOOP("Plotto", "blue"),
+        QT_TRANSLATE_NOOP("Plotto", "green"),        QT_TRANSLATE_NOOP("Plotto", "cyan"),
+        QT_TRANSLATE_NOOP("Plotto", "red"),          QT_TRANSLATE_NOOP("Plotto", "magenta"),
+        QT_TRANSLATE_NOOP("Plotto", "yellow"),       QT_TRANSLATE_NOOP("Plotto", "white"),
+        QT_TRANSLATE_NOOP("Plotto", "grey"),         QT_TRANSLATE_NOOP("Plotto", "light blue"),
+        QT_TRANSLATE_NOOP("Plotto", "light green"),  QT_TRANSLATE_NOOP("Plotto", "light cyan"),
+        QT_TRANSLATE_NOOP("Plotto", "light red"),    QT_TRANSLATE_NOOP("Plotto", "light magenta"),
+        QT_TRANSLATE_NOOP("Plotto", "light yellow"), QT_TRANSLATE_NOOP("Plotto", "bright white")};
+    return number >= 0 && number < 16 ? Plotto::tr(names[number]) : QString();
 }
 
 void installAccessibleInterfaces()

@@ -449,7 +449,7 @@ QString notNumbers(std::initializer_list<std::pair<QString, const QLineEdit*>> b
 {
     QStringList said;
     for (const auto& [name, box] : boxes)
-        if (!rt::TryVal(box->text().toStdString()))
+        if (!rt::TryVal(i18n::typedDecimals(box->text()).toStdString()))
             said << Plotto::tr("%1 holds %2, which is not a number.").arg(name, box->text());
     return said.join(QLatin1Char(' '));
 }

@@ -246,7 +246,8 @@ void GraphScreen::plotFunction() { plotExplicit(FuncGlobals::ExplicitSnapshot::W
 
 void GraphScreen::plotExplicit(FuncGlobals::ExplicitSnapshot::What what, const QString& name)
 {
-    noteDrawn(name + QStringLiteral(", in ") + colourName(rt::Mod(FuncGlobals::FunctionId, 7)));
+    //: a drawn curve and the colour it is drawn in: "y = x^2, in blue"
+    noteDrawn(Plotto::tr("%1, in %2").arg(name, colourName(rt::Mod(FuncGlobals::FunctionId, 7))));
     const bool typed = typedInUse();
     keepDrawing(
         name,

@@ -87,7 +87,7 @@ void frmAnimate::cmdAnimate_Click()
 {
     using rt::Chk;
     const std::int16_t n = steps();
-    const double end = rt::CDbl(txtEnd->text().toStdString());
+    const double end = rt::CDbl(i18n::typedDecimals(txtEnd->text()).toStdString());
     // The difference goes through its text and back before the division.
     const double inc = rt::Div(rt::Val(rt::Str(Chk(end - txtStart->value()))), n);
     if (continuous()) {

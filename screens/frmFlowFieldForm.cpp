@@ -94,7 +94,7 @@ frmFlowField::frmFlowField() : GraphScreen(flowConfig())
                                              {Plotto::tr("Ymax"), txtYmax}});
         if (!unusable.isEmpty())
             return Convergence::stepsWithout(unusable.toStdString());
-        auto number = [](const QLineEdit* box) { return *rt::TryVal(box->text().toStdString()); };
+        auto number = [](const QLineEdit* box) { return *rt::TryVal(i18n::typedDecimals(box->text()).toStdString()); };
         return Convergence::steps(number(startX_), number(startY_), number(endX_), number(stepH_), 6,
                                   {number(txtXmin), number(txtXmax), number(txtYmin), number(txtYmax)});
     });

@@ -221,14 +221,14 @@ void frmNewton::describeResults(QStringList& lines) const
                                 : Plotto::tr("Guesses: %1.").arg(guesses.join(QStringLiteral("; "))));
     if (const auto gap = newton::lastGap(this->guesses()))
         lines << Plotto::tr("The last two guesses are %1 apart; View, Zoom to the Steps shows the last steps.")
-                     .arg(QString::number(*gap, 'g', 3));
+                     .arg(i18n::decimals(QString::number(*gap, 'g', 3)));
 }
 
 std::vector<double> frmNewton::guesses() const
 {
     std::vector<double> out;
     for (int r = 1; r < grdGuess->rowCount() && !grdGuess->cell(r, 1).isEmpty(); ++r)
-        if (const auto x = rt::TryVal(grdGuess->cell(r, 1).toStdString()))
+        if (const auto x = rt::TryVal(i18n::typedDecimals(grdGuess->cell(r, 1)).toStdString()))
             out.push_back(*x);
     if (!NewSequence && !out.empty())
         if (const auto next = txtGuess->number())

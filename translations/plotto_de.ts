@@ -2884,6 +2884,75 @@ Die Standardoptionen von Qt (-platform, -style, ...) werden akzeptiert.</transla
         <source>%1 is too large to be a lesson.</source>
         <translation>%1 ist zu groß für eine Lektion.</translation>
     </message>
+    <message>
+        <source>black</source>
+        <translation>schwarz</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>blau</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>grün</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>cyan</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>rot</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>gelb</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>weiß</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>grau</translation>
+    </message>
+    <message>
+        <source>light blue</source>
+        <translation>hellblau</translation>
+    </message>
+    <message>
+        <source>light green</source>
+        <translation>hellgrün</translation>
+    </message>
+    <message>
+        <source>light cyan</source>
+        <translation>hellcyan</translation>
+    </message>
+    <message>
+        <source>light red</source>
+        <translation>hellrot</translation>
+    </message>
+    <message>
+        <source>light magenta</source>
+        <translation>hellmagenta</translation>
+    </message>
+    <message>
+        <source>light yellow</source>
+        <translation>hellgelb</translation>
+    </message>
+    <message>
+        <source>bright white</source>
+        <translation>strahlend weiß</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <extracomment>a drawn curve and the colour it is drawn in: &quot;y = x^2, in blue&quot;</extracomment>
+        <translation>%1, in %2</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

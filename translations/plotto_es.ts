@@ -2884,6 +2884,75 @@ Se aceptan las opciones estándar de Qt (-platform, -style, ...).</translation>
         <source>%1 is too large to be a lesson.</source>
         <translation>%1 es demasiado grande para ser una lección.</translation>
     </message>
+    <message>
+        <source>black</source>
+        <translation>negro</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>azul</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>verde</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>cian</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>rojo</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>amarillo</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>blanco</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>gris</translation>
+    </message>
+    <message>
+        <source>light blue</source>
+        <translation>azul claro</translation>
+    </message>
+    <message>
+        <source>light green</source>
+        <translation>verde claro</translation>
+    </message>
+    <message>
+        <source>light cyan</source>
+        <translation>cian claro</translation>
+    </message>
+    <message>
+        <source>light red</source>
+        <translation>rojo claro</translation>
+    </message>
+    <message>
+        <source>light magenta</source>
+        <translation>magenta claro</translation>
+    </message>
+    <message>
+        <source>light yellow</source>
+        <translation>amarillo claro</translation>
+    </message>
+    <message>
+        <source>bright white</source>
+        <translation>blanco brillante</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <extracomment>a drawn curve and the colour it is drawn in: &quot;y = x^2, in blue&quot;</extracomment>
+        <translation>%1, en %2</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

@@ -2884,6 +2884,75 @@ Les options standard de Qt (-platform, -style, ...) sont acceptées.</translatio
         <source>%1 is too large to be a lesson.</source>
         <translation>%1 est trop grand pour être une leçon.</translation>
     </message>
+    <message>
+        <source>black</source>
+        <translation>noir</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>bleu</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>vert</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>cyan</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>rouge</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>jaune</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>blanc</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>gris</translation>
+    </message>
+    <message>
+        <source>light blue</source>
+        <translation>bleu clair</translation>
+    </message>
+    <message>
+        <source>light green</source>
+        <translation>vert clair</translation>
+    </message>
+    <message>
+        <source>light cyan</source>
+        <translation>cyan clair</translation>
+    </message>
+    <message>
+        <source>light red</source>
+        <translation>rouge clair</translation>
+    </message>
+    <message>
+        <source>light magenta</source>
+        <translation>magenta clair</translation>
+    </message>
+    <message>
+        <source>light yellow</source>
+        <translation>jaune clair</translation>
+    </message>
+    <message>
+        <source>bright white</source>
+        <translation>blanc brillant</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <extracomment>a drawn curve and the colour it is drawn in: &quot;y = x^2, in blue&quot;</extracomment>
+        <translation>%1, en %2</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

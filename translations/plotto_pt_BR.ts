@@ -2884,6 +2884,75 @@ As opções padrão do Qt (-platform, -style, ...) são aceitas.</translation>
         <source>%1 is too large to be a lesson.</source>
         <translation>%1 é grande demais para ser uma lição.</translation>
     </message>
+    <message>
+        <source>black</source>
+        <translation>preto</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>azul</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>verde</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>ciano</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>vermelho</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>amarelo</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>branco</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>cinza</translation>
+    </message>
+    <message>
+        <source>light blue</source>
+        <translation>azul-claro</translation>
+    </message>
+    <message>
+        <source>light green</source>
+        <translation>verde-claro</translation>
+    </message>
+    <message>
+        <source>light cyan</source>
+        <translation>ciano-claro</translation>
+    </message>
+    <message>
+        <source>light red</source>
+        <translation>vermelho-claro</translation>
+    </message>
+    <message>
+        <source>light magenta</source>
+        <translation>magenta-claro</translation>
+    </message>
+    <message>
+        <source>light yellow</source>
+        <translation>amarelo-claro</translation>
+    </message>
+    <message>
+        <source>bright white</source>
+        <translation>branco brilhante</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <extracomment>a drawn curve and the colour it is drawn in: &quot;y = x^2, in blue&quot;</extracomment>
+        <translation>%1, em %2</translation>
+    </message>
 </context>
 <context>
     <name>QCommandLineParser</name>

@@ -140,15 +140,21 @@ TEST(Translations, TheConvergenceTableSpeaksTheLanguage)
 // language's decimal comma is read as a number.
 TEST(Translations, NewtonsGuessesShowTheLanguagesDecimalSeparator)
 {
-    // The language, the first guess as typed, and the second guess as shown.
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"en", "1", "1.5"}, {"es", "1", "1,5"}, {"fr", "1,0", "1,5"}, {"de", "1,0", "1,5"}, {"pt_BR", "1", "1,5"}};
+    // The language, the first guess as typed, the second guess as shown, and the description's words
+    // for the curve's colour and the gap 17/12 - 577/408 between the last two guesses.
+    const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
+        {"en", "1", "1.5", "in blue 0.00245"},
+        {"es", "1", "1,5", "en azul 0,00245"},
+        {"fr", "1,0", "1,5", "en bleu 0,00245"},
+        {"de", "1,0", "1,5", "in blau 0,00245"},
+        {"pt_BR", "1", "1,5", "em azul 0,00245"}};
     ScriptedDialogs script;
-    for (const auto& [code, typedGuess, second] : rows) {
+    for (const auto& [code, typedGuess, second, said] : rows) {
         InLanguage language(code);
         frmNewton newton;
         newton.Form_Activate();
         ASSERT_EQ(newton.setTypedFunction(QStringLiteral("x^2 - 2")), QString()) << code;
+        newton.cmdPlotto_Click();
         newton.txtGuess->setText(QString::fromLatin1(typedGuess));
         for (int click = 0; click < 3; ++click)  // each click writes the guess it used in its row
             newton.cmdApply_Click();
@@ -156,6 +162,11 @@ TEST(Translations, NewtonsGuessesShowTheLanguagesDecimalSeparator)
         const QString third = newton.grdGuess->cell(3, 1);
         EXPECT_TRUE(third.startsWith(QString::fromLatin1(second).left(2) + QStringLiteral("41666")))
             << code << " " << third.toStdString();
+        const QString described = newton.describe();
+        for (const QString& word : QString::fromUtf8(said).split(QLatin1Char(' ')).mid(1))
+            EXPECT_TRUE(described.contains(word))
+                << code << ": " << word.toStdString() << " in " << described.toStdString();
+        EXPECT_TRUE(described.contains(QString::fromUtf8(said).section(QLatin1Char(' '), 0, 1))) << code;
     }
 }
 
