@@ -268,13 +268,28 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
     rt::cleanVectorStateForHotLoop();
     if (typed) {
         // A typed function leaves a gap where it is undefined (NaN) or beyond what the window can map.
-        try {
-            rt::For16(first, last, 1, [&](std::int16_t c) {
-                const double ty = graph.plainRow(evaluate(graph.worldX(c)));
+        // It is evaluated a block of columns at a time; a column the window cannot map ends the plot
+        // there, with the columns before it drawn.
+        const auto columns = what == FuncGlobals::ExplicitSnapshot::What::Value ? FuncGlobals::ExplicitValues
+                                                                                : FuncGlobals::ExplicitSlopes;
+        constexpr int kBlock = 256;
+        double xs[kBlock], ys[kBlock];
+        bool mapped = true;
+        for (std::int32_t c0 = first; c0 <= last && mapped; c0 += kBlock) {
+            int m = 0;
+            try {
+                for (; m < kBlock && c0 + m <= last; ++m)
+                    xs[m] = graph.worldX(c0 + m);
+            } catch (const rt::RuntimeError&) {
+                mapped = false;
+            }
+            columns(xs, ys, static_cast<std::size_t>(m));
+            for (int k = 0; k < m; ++k) {
+                const double ty = graph.plainRow(ys[k]);
                 if (GraphWindow::rowInside(ty))
-                    points.point(c, ty);
-            });
-        } catch (const rt::RuntimeError&) { }
+                    points.point(c0 + k, ty);
+            }
+        }
         return;
     }
     rt::For16(first, last, 1, [&](std::int16_t c) {
