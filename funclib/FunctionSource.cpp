@@ -2,7 +2,9 @@
 #include "funclib/FunctionSource.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -89,6 +91,23 @@ void ExplicitSlopes(const double* xs, double* ys, std::size_t n)
         d->values(xs, ys, n);
     else
         std::fill(ys, ys + n, std::numeric_limits<double>::quiet_NaN());
+}
+
+ExplicitAhead::ExplicitAhead(std::vector<double> xs)
+{
+    if (!TypedExplicit)
+        return;
+    xs_ = std::move(xs);
+    ys_.resize(xs_.size());
+    ExplicitValues(xs_.data(), ys_.data(), xs_.size());
+}
+
+double ExplicitAhead::operator()(double x)
+{
+    // The same bits: 0 and -0 are different points to a function.
+    if (next_ < xs_.size() && std::bit_cast<std::uint64_t>(xs_[next_]) == std::bit_cast<std::uint64_t>(x))
+        return ys_[next_++];
+    return ExplicitValue(x);
 }
 
 double CurveX(const float& t) { return TypedParametric ? (*TypedParametric->x)(t) : XtFunc(t); }

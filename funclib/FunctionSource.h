@@ -70,6 +70,21 @@ void ExplicitSlopes(const double* xs, double* ys, std::size_t n);
 double RateDy(const double& x, const double& y);
 double RateDx(const double& x, const double& y);
 
+// The explicit function in use at points known beforehand (the points a sum asks for, in its order).
+// A typed function's values there are computed in one column when it is made; asked at the next of
+// those points it answers from the column, and asked anywhere else it evaluates there, so that
+// either way the answer is ExplicitValue(x) bit for bit. With a family in use it evaluates each
+// point as it is asked (raising where YFunc raises).
+class ExplicitAhead {
+public:
+    explicit ExplicitAhead(std::vector<double> xs);
+    double operator()(double x);
+
+private:
+    std::vector<double> xs_, ys_;
+    std::size_t next_ = 0;
+};
+
 // x(t) and y(t): the typed curve in use, else XtFunc and YtFunc.
 double CurveX(const float& t);
 double CurveY(const float& t);
