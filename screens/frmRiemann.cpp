@@ -336,6 +336,7 @@ void frmRiemann::cmdParts_Click()
                     Plotto::tr(m.caption) + Plotto::tr(" bars"),
                     [this, &m, L = parts.L, R = parts.R, dx = parts.dx, n, done] {
                         Parts drawn{*this, L, R, dx, n, static_cast<double>(graph.YOrigin), {}};
+                        drawn.heights.reserve(static_cast<std::size_t>(std::max(n, 0)) + 1);
                         DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(m.colour)));
                         done->first = m.sum(drawn, batch);
                         done->second = std::move(drawn.heights);
