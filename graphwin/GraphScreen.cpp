@@ -292,12 +292,28 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
         }
         return;
     }
-    rt::For16(first, last, 1, [&](std::int16_t c) {
-        const double x = graph.worldX(c);
-        const double y = evaluate(x);
-        const double ty = graph.row(y);
+    // A family's values: the rows in plain arithmetic up to the first that is not finite (see
+    // plainRows), each drawn as it comes, so that a run-time error of the family comes at the same
+    // column with the same columns drawn; from that column on, the checked loop, which raises where its
+    // first check fails. A slope is not worked out twice at a column (YPrimeFunc counts its calls).
+    const auto draw = [&](std::int32_t c, double ty) {
         if (GraphWindow::rowInside(ty))
             points.point(c, ty);
+    };
+    std::int32_t from = first;
+    if (what == FuncGlobals::ExplicitSnapshot::What::Value) {
+        from = graph.plainRows(
+            first, last, [evaluate](double x) { return evaluate(x); }, draw);
+        if (from > last) {
+            if (last == INT16_MAX)  // where the counted loop's next step would overflow
+                rt::raise(rt::Overflow);
+            return;
+        }
+    }
+    rt::For16(static_cast<std::int16_t>(from), last, 1, [&](std::int16_t c) {
+        const double x = graph.worldX(c);
+        const double y = evaluate(x);
+        draw(c, graph.row(y));
     });
 }
 
