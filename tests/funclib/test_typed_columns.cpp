@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/FunctionSource.h"
 #include "funclib/TypedColumn.h"
 #include "funclib/TypedExpression.h"
 #include "funclib/TypedFunctions.h"
@@ -99,4 +100,22 @@ TEST(TypedColumns, SameAsPointByPoint)
             }
         }
     }
+}
+
+// Values worked out ahead answer only at exactly the points predicted, in order (0 and -0 are
+// different points); anywhere else, and for a family, the point is evaluated as it is asked.
+TEST(TypedColumns, AheadAnswersOnlyAtThePointsPredicted)
+{
+    std::string error;
+    const auto cube = TypedFunction::make("x^3", error);
+    TypedExplicit = cube.get();
+    ExplicitAhead ahead({0.5, -0.0, 2});
+    for (const double x : {0.5, 0.0, -0.0, 3.0, 2.0})
+        EXPECT_TRUE(same(ExplicitValue(x), ahead(x))) << x << ": " << ahead(x);
+    TypedExplicit = nullptr;
+    FunctionId = 1;
+    Coefficients = {1, 0, 0, 0, 0, 0};
+    ExplicitAhead family({3.0});
+    EXPECT_EQ(family(3.0), YFunc(3.0));
+    EXPECT_EQ(family(0.5), YFunc(0.5));
 }
