@@ -8,6 +8,7 @@
 #include "graphwin/GraphScreen.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include <QAbstractButton>
@@ -293,17 +294,37 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
         return;
     }
     // A family's values: the rows in plain arithmetic up to the first that is not finite (see
-    // plainRows), each drawn as it comes, so that a run-time error of the family comes at the same
-    // column with the same columns drawn; from that column on, the checked loop, which raises where its
-    // first check fails. A slope is not worked out twice at a column (YPrimeFunc counts its calls).
-    const auto draw = [&](std::int32_t c, double ty) {
-        if (GraphWindow::rowInside(ty))
-            points.point(c, ty);
-    };
+    // plainRows), gathered in chunks and each chunk dotted in one call (a pixel the column before wrote
+    // is not written again; rowInside's bottom row is included: the run ends at the next row after
+    // it); a run-time error of the family dots the rows before it first, so that it comes at the same
+    // column with the same columns drawn. From the first row that is not finite on, the checked loop,
+    // which raises where its first check fails. A slope is not worked out twice at a column
+    // (YPrimeFunc counts its calls): it goes through the checked loop only.
     std::int32_t from = first;
     if (what == FuncGlobals::ExplicitSnapshot::What::Value) {
-        from = graph.plainRows(
-            first, last, [evaluate](double x) { return evaluate(x); }, draw);
+        const double below = std::nextafter(static_cast<double>(GraphWindow::Bottom), HUGE_VAL);
+        const auto count = static_cast<std::size_t>(std::max(last - first + 1, 0));
+        std::array<double, 512> rows;
+        std::size_t n = 0;
+        std::int32_t chunk = first;
+        const auto dot = [&] {
+            points.runColumns(chunk, rows.data(), n, GraphWindow::Top, below, count);
+            chunk += static_cast<std::int32_t>(n);
+            n = 0;
+        };
+        try {
+            from = graph.plainRows(
+                first, last, [evaluate](double x) { return evaluate(x); },
+                [&](std::int32_t, double row) {
+                    rows[n++] = row;
+                    if (n == rows.size())
+                        dot();
+                });
+        } catch (const rt::RuntimeError&) {
+            dot();
+            throw;
+        }
+        dot();
         if (from > last) {
             if (last == INT16_MAX)  // where the counted loop's next step would overflow
                 rt::raise(rt::Overflow);
@@ -313,7 +334,9 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
     rt::For16(static_cast<std::int16_t>(from), last, 1, [&](std::int16_t c) {
         const double x = graph.worldX(c);
         const double y = evaluate(x);
-        draw(c, graph.row(y));
+        const double ty = graph.row(y);
+        if (GraphWindow::rowInside(ty))
+            points.point(c, ty);
     });
 }
 
