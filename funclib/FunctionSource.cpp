@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "funclib/FunctionSource.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -71,8 +74,64 @@ bool ExplicitDefined(const double& x) { return TypedExplicit ? !std::isnan(Typed
 double RateDy(const double& x, const double& y) { return TypedRate ? (*TypedRate->dy)(x, y) : DyFunc(x, y); }
 double RateDx(const double& x, const double& y) { return TypedRate ? (*TypedRate->dx)(x, y) : DxFunc(x, y); }
 
+void ExplicitValues(const double* xs, double* ys, std::size_t n)
+{
+    if (TypedExplicit)
+        TypedExplicit->f->values(xs, ys, n);
+    else
+        for (std::size_t i = 0; i < n; ++i)
+            ys[i] = YFunc(xs[i]);
+}
+
+void ExplicitSlopes(const double* xs, double* ys, std::size_t n)
+{
+    if (!TypedExplicit)
+        for (std::size_t i = 0; i < n; ++i)
+            ys[i] = YPrimeFunc(xs[i]);
+    else if (const TypedExpression* d = TypedExplicit->f->derivative())
+        d->values(xs, ys, n);
+    else
+        std::fill(ys, ys + n, std::numeric_limits<double>::quiet_NaN());
+}
+
+ExplicitAhead::ExplicitAhead(std::vector<double> xs)
+{
+    if (!TypedExplicit)
+        return;
+    xs_ = std::move(xs);
+    ys_.resize(xs_.size());
+    ExplicitValues(xs_.data(), ys_.data(), xs_.size());
+}
+
+double ExplicitAhead::operator()(double x)
+{
+    // The same bits: 0 and -0 are different points to a function.
+    if (next_ < xs_.size() && std::bit_cast<std::uint64_t>(xs_[next_]) == std::bit_cast<std::uint64_t>(x))
+        return ys_[next_++];
+    return ExplicitValue(x);
+}
+
 double CurveX(const float& t) { return TypedParametric ? (*TypedParametric->x)(t) : XtFunc(t); }
 double CurveY(const float& t) { return TypedParametric ? (*TypedParametric->y)(t) : YtFunc(t); }
+
+void CurvePoints(const float* ts, double* xs, double* ys, std::size_t n)
+{
+    if (!TypedParametric) {
+        for (std::size_t i = 0; i < n; ++i) {
+            xs[i] = XtFunc(ts[i]);
+            ys[i] = YtFunc(ts[i]);
+        }
+        return;
+    }
+    // The t column in doubles, a block at a time (each float is exactly a double).
+    double column[256];
+    for (std::size_t start = 0; start < n; start += std::size(column)) {
+        const std::size_t m = std::min(std::size(column), n - start);
+        std::copy(ts + start, ts + start + m, column);
+        TypedParametric->x->values(column, xs + start, m);
+        TypedParametric->y->values(column, ys + start, m);
+    }
+}
 
 ExplicitSnapshot::ExplicitSnapshot(What what, std::shared_ptr<const TypedFunction> typed)
     : what_(what), id_(FunctionId), coefficients_(Coefficients), typed_(std::move(typed))

@@ -5,6 +5,7 @@
 // procedures below and does not need to know which it has. A family keeps its rules (an undefined
 // point is 0, overflows raise the run-time errors); a typed function never raises and yields NaN
 // wherever it is undefined or not finite, which the screens draw as a gap and report in words.
+#include <cstddef>
 #include <limits>
 #include <memory>
 #include <string>
@@ -59,14 +60,37 @@ inline double ExplicitSlope(const double& x) { return TypedExplicit ? TypedExpli
 // True where the function in use is defined at x (YDefined for a family).
 bool ExplicitDefined(const double& x);
 
+// ys[i] = ExplicitValue(xs[i]) (ExplicitSlope) for i < n. A typed function is evaluated a column at
+// a time; a family point by point in order, so that a run-time error is raised at the same point.
+void ExplicitValues(const double* xs, double* ys, std::size_t n);
+void ExplicitSlopes(const double* xs, double* ys, std::size_t n);
+
 // dy and dx at (x, y): the typed rates in use, else DyFunc and DxFunc. The steps along them are the
 // rows of funclib/StepMethods.h.
 double RateDy(const double& x, const double& y);
 double RateDx(const double& x, const double& y);
 
+// The explicit function in use at points known beforehand (the points a sum asks for, in its order).
+// A typed function's values there are computed in one column when it is made; asked at the next of
+// those points it answers from the column, and asked anywhere else it evaluates there, so that
+// either way the answer is ExplicitValue(x) bit for bit. With a family in use it evaluates each
+// point as it is asked (raising where YFunc raises).
+class ExplicitAhead {
+public:
+    explicit ExplicitAhead(std::vector<double> xs);
+    double operator()(double x);
+
+private:
+    std::vector<double> xs_, ys_;
+    std::size_t next_ = 0;
+};
+
 // x(t) and y(t): the typed curve in use, else XtFunc and YtFunc.
 double CurveX(const float& t);
 double CurveY(const float& t);
+// xs[i] = CurveX(ts[i]) and ys[i] = CurveY(ts[i]) for i < n; a typed curve a column at a time, the
+// families point by point in order (x then y at each t).
+void CurvePoints(const float* ts, double* xs, double* ys, std::size_t n);
 
 // The explicit function in use when it is made (the family with its coefficients, or the typed
 // function), kept to be evaluated later whatever is in use by then: a drawn curve heard or walked

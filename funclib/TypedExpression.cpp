@@ -11,6 +11,7 @@
 #include <muParser.h>
 
 #include "funclib/FuncGlobals.h"
+#include "funclib/TypedColumn.h"
 #include "funclib/TypedDerivative.h"
 #include "funclib/TypedFunctions.h"
 #include "funclib/TypedReader.h"
@@ -19,10 +20,11 @@
 
 namespace FuncGlobals {
 
-// The compiled byte code and the variables it reads.
+// The compiled byte code and the variables it reads, and the same code read as a column program.
 struct TypedExpression::Compiled {
     mu::Parser parser;
     mutable double u = 0, v = 0;
+    typed::ColumnProgram columns;
 };
 
 TypedExpression::TypedExpression() = default;
@@ -36,6 +38,9 @@ bool compileMuparser(TypedExpression::Compiled& c, const std::string& text, cons
 {
     try {
         c.parser.ClearFun();
+        // The sign is our own function, which the column program knows for a negation.
+        c.parser.ClearInfixOprt();
+        c.parser.DefineInfixOprt("-", &typed::negate);
         for (const TypedFunctionRow& f : typedFunctions())
             c.parser.DefineFun(f.name, f.value);
         double* bound[2] = {&c.u, &c.v};
@@ -47,6 +52,9 @@ bool compileMuparser(TypedExpression::Compiled& c, const std::string& text, cons
             c.parser.DefineVar(std::string(1, static_cast<char>('A' + i)), coefficients[i]);
         c.parser.SetExpr(text);
         c.parser.Eval();  // parses now, so that a later evaluation never throws
+        // Read after the evaluation, which leaves the finished byte code; if the program cannot
+        // take it, values() goes point by point.
+        c.columns.read(c.parser.GetByteCode(), &c.u, &c.v);
         return true;
     } catch (const mu::Parser::exception_type&) {
         return false;
@@ -119,6 +127,16 @@ double TypedExpression::operator()(double u, double v) const
     compiled_->v = v;
     const double r = compiled_->parser.Eval();
     return std::isfinite(r) ? r : std::numeric_limits<double>::quiet_NaN();
+}
+
+void TypedExpression::values(const double* u, const double* v, double* out, std::size_t n) const
+{
+    if (!compiled_->columns.empty()) {
+        compiled_->columns.run(u, v, out, n);
+        return;
+    }
+    for (std::size_t i = 0; i < n; ++i)
+        out[i] = (*this)(u[i], v ? v[i] : 0);
 }
 
 }  // namespace FuncGlobals

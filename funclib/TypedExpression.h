@@ -14,6 +14,7 @@
 // the same way. Evaluation never raises: a point where the expression is undefined or not finite
 // yields NaN, and the callers draw a gap there.
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,6 +47,12 @@ public:
     // The value at (u, v) (v is ignored for one variable) with the coefficients that
     // FuncGlobals::Coefficients holds now; NaN where the expression is undefined or not finite.
     double operator()(double u, double v = 0) const;
+
+    // out[i] = (*this)(u[i], v[i]) for i < n, bit for bit, computed a block of points at a time (the
+    // scans call this rather than operator() once a point). `v` may be null: the second variable is
+    // then 0.
+    void values(const double* u, const double* v, double* out, std::size_t n) const;
+    void values(const double* u, double* out, std::size_t n) const { values(u, nullptr, out, n); }
 
     // The exact derivative with respect to the first variable, as GiNaC simplifies it, or null
     // when it cannot be found (GiNaC refused the expression, or the result uses a function the

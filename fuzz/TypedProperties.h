@@ -4,8 +4,11 @@
 // the tests: reading never fails other than by a refusal with a place; a taken expression evaluates
 // to a finite number or NaN (never an infinity), and so does its derivative; and the understood text
 // reads back to an expression that gives the same values, so that the preview never shows a
-// different function from the one evaluated.
+// different function from the one evaluated; and the values a column at a time are the point
+// evaluator's, bit for bit, for the expression and its derivative.
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -51,6 +54,24 @@ inline std::string checkTypedText(std::string_view input)
             if (const TypedExpression* d = e->derivative(); d && std::isinf((*d)(u, v)))
                 return "infinite derivative";
         }
+    // The same points as one column (each u with each v), for the expression and its derivative.
+    const double others[] = {0.0, 2.0, -1.5};
+    double us[24], vs[24], column[24];
+    for (std::size_t i = 0; i < 24; ++i) {
+        us[i] = points[i / 3];
+        vs[i] = others[i % 3];
+    }
+    for (const TypedExpression* f : {static_cast<const TypedExpression*>(e.get()), e->derivative()}) {
+        if (!f)
+            continue;
+        f->values(us, vs, column, 24);
+        for (std::size_t i = 0; i < 24; ++i) {
+            const double point = (*f)(us[i], vs[i]);
+            if (std::isnan(point) ? !std::isnan(column[i])
+                                  : std::bit_cast<std::uint64_t>(point) != std::bit_cast<std::uint64_t>(column[i]))
+                return "a column gives another value than the point";
+        }
+    }
     return "";
 }
 

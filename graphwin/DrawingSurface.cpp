@@ -105,8 +105,7 @@ void DrawingSurface::replay()
                            toPx(batchLines_[i + 1]));
             for (std::size_t i = r.bars[0]; i < r.bars[1]; i += 5) {
                 const double* b = batchBars_.data() + i;
-                barOutline(toPx(b[0]), toPx(b[1]), toPx(b[2]), toPx(b[3]), toPx(b[4]),
-                           [&w](double x1, double y1, double x2, double y2) { w.line(x1, y1, x2, y2); });
+                w.bar(toPx(b[0]), toPx(b[1]), toPx(b[2]), toPx(b[3]), toPx(b[4]));
             }
             break;
         }

@@ -378,8 +378,7 @@ inline void DrawingSurface::Batch::bar(double a, double top1, double b, double t
             s_.batchBars_.push_back(v);
     lastX_ = b;
     lastY_ = base;
-    barOutline(s_.toPx(a), s_.toPx(top1), s_.toPx(b), s_.toPx(top2), s_.toPx(base),
-               [this](double x1, double y1, double x2, double y2) { writer_.line(x1, y1, x2, y2); });
+    writer_.bar(s_.toPx(a), s_.toPx(top1), s_.toPx(b), s_.toPx(top2), s_.toPx(base));
 }
 
 inline DrawingSurface::Batch::RunMode DrawingSurface::Batch::modeFor(std::size_t count) const

@@ -258,35 +258,6 @@ void GraphScreen::plotExplicit(FuncGlobals::ExplicitSnapshot::What what, const Q
         typed_);
 }
 
-void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool typed)
-{
-    const auto evaluate =
-        what == FuncGlobals::ExplicitSnapshot::What::Value ? FuncGlobals::ExplicitValue : FuncGlobals::ExplicitSlope;
-    const auto first = static_cast<std::int16_t>(graph.firstColumn());
-    const auto last = static_cast<std::int16_t>(graph.lastColumn());
-    FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
-    LazyBatch points(*surface, colour);
-    rt::cleanVectorStateForHotLoop();
-    if (typed) {
-        // A typed function leaves a gap where it is undefined (NaN) or beyond what the window can map.
-        try {
-            rt::For16(first, last, 1, [&](std::int16_t c) {
-                const double ty = graph.plainRow(evaluate(graph.worldX(c)));
-                if (GraphWindow::rowInside(ty))
-                    points.point(c, ty);
-            });
-        } catch (const rt::RuntimeError&) { }
-        return;
-    }
-    rt::For16(first, last, 1, [&](std::int16_t c) {
-        const double x = graph.worldX(c);
-        const double y = evaluate(x);
-        const double ty = graph.row(y);
-        if (GraphWindow::rowInside(ty))
-            points.point(c, ty);
-    });
-}
-
 void GraphScreen::cmdPlotto_Click() { plotFunction(); }
 
 void GraphScreen::cmdClean_Click() { CleanGraph(); }

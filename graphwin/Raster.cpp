@@ -153,6 +153,23 @@ void SameColourWriter::anyLine(double x1, double y1, double x2, double y2)
     pixels(t_, ax, ay, bx, by, pen_, color_);
 }
 
+void SameColourWriter::bar(double a, double top1, double b, double top2, double base)
+{
+    const double column = std::floor(a);
+    const double low = std::min({top1, top2, base}), high = std::max({top1, top2, base});
+    // Every comparison fails for NaN: such a bar goes the general way.
+    if (pen_ == 1 && column >= 0 && column == std::floor(b) && b < t_.width && low >= 0 && high < t_.height) {
+        addRun(static_cast<long>(column), static_cast<long>(low), static_cast<long>(high));
+        endX_ = b;  // where the third segment ends, as line() leaves it
+        endY_ = base;
+        endPixel_ = pixelInside(t_, b, base, pen_);
+        return;
+    }
+    line(a, base, a, top1);
+    line(a, top1, b, top2);
+    line(b, top2, b, base);
+}
+
 void SameColourWriter::addRun(long column, long from, long to)
 {
     if (columns_.empty())

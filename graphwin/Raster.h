@@ -76,6 +76,11 @@ public:
         anyLine(x1, y1, x2, y2);
     }
     void point(double x, double y) { raster::point(t_, x, y, pen_, color_); }
+    // A bar's outline in pixels: line() of (a, base)-(a, top1), (a, top1)-(b, top2) and (b, top2)-(b,
+    // base). A thin bar inside the target whose sides fall in one column of pixels (thousands of
+    // partitions across a few hundred columns) is one vertical run from its lowest end to its highest,
+    // which are exactly the pixels of the three segments.
+    void bar(double a, double top1, double b, double top2, double base);
     // The points of a run given in order, such as a line dotted column by column: each point that
     // at(i, x, y) gives, i < n (at returns false for none), as point() writes it, except that a point
     // in the pixel the run's last point wrote leaves it alone: it already has the colour (nothing of

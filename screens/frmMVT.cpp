@@ -260,9 +260,9 @@ void frmMVT::scanC(double a, double b, double last, double secantSlope, bool fil
     auto thousandths = [](double v) { return rt::Int(rt::Chk(rt::Chk(v * 1000) + 0.5)); };
     const double target = thousandths(secantSlope);
     std::int16_t count = 0;
-    rt::cleanVectorStateForHotLoop();
-    for (double x = a; x <= b;) {
-        const double slope = FuncGlobals::ExplicitSlope(x);
+    // One point of the scan, with the slope there; false where the scan ends (a step too small to
+    // move x any further would never reach b).
+    auto visit = [&](double& x, double slope) {
         if (!std::isnan(slope) && thousandths(slope) == target) {  // a typed function's gaps are skipped
             const double fx = FuncGlobals::ExplicitValue(x);
             DrawWidthScope marked(*surface, DrawingStyle::kMarkWidth);
@@ -280,9 +280,35 @@ void frmMVT::scanC(double a, double b, double last, double secantSlope, bool fil
             }
         }
         const double next = Chk(x + h);
-        if (next == x)  // a step too small to move x any further would never reach b
-            break;
+        if (next == x)
+            return false;
         x = next;
+        return true;
+    };
+    rt::cleanVectorStateForHotLoop();
+    if (!FuncGlobals::TypedExplicit) {
+        for (double x = a; x <= b;)
+            if (!visit(x, FuncGlobals::ExplicitSlope(x)))
+                break;
+        return;
+    }
+    // A typed function's slopes a block of points at a time: the points ahead are the same sums
+    // x + h, and a sum that is not finite ends the block, so that visit's check raises there.
+    constexpr std::size_t kBlock = 256;
+    double xs[kBlock], slopes[kBlock];
+    for (double x = a; x <= b;) {
+        std::size_t n = 0;
+        for (double p = x; n < kBlock && p <= b;) {
+            xs[n++] = p;
+            const double q = p + h;
+            if (q == p || !std::isfinite(q))
+                break;
+            p = q;
+        }
+        FuncGlobals::ExplicitSlopes(xs, slopes, n);
+        for (std::size_t i = 0; i < n; ++i)
+            if (!visit(x, slopes[i]))
+                return;
     }
 }
 

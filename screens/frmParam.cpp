@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 #include <limits>
 #include <utility>
 
@@ -197,18 +198,25 @@ void frmParam::plotCurve(At at, From from)
     const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
     const bool points = optPoints->isChecked();
+    const std::size_t block = typedCurve_ ? kCurveBlock : 1;
     const QString name = Plotto::tr("the curve %1, %2 for t from %3 to %4")
                              .arg(lblXPar->text(), lblYPar->text(), txtT0->text(), txtTn->text());
     // The figure is a kept step: a new window maps the same t values again.
     keepDrawing(
         Plotto::tr("the parametric curve"),
-        [this, at, from, t0, n, dt, points, name] { drawCurve(at, from, t0, n, dt, points, name); }, typedCurve_);
+        [this, at, from, block, t0, n, dt, points, name] { drawCurve(at, from, block, t0, n, dt, points, name); },
+        typedCurve_);
 }
 
 template <class At, class From>
-void frmParam::drawCurve(At at, From from, float t0, std::int16_t n, float dt, bool points, const QString& name)
+void frmParam::drawCurve(At at, From from, std::size_t block, float t0, std::int16_t n, float dt, bool points,
+                         const QString& name)
 {
-    auto [c0, r0] = at(t0);
+    std::array<float, kCurveBlock> ts;
+    std::array<double, kCurveBlock> cs, rs;
+    std::size_t mapped = 0;
+    at(&t0, 1, cs.data(), rs.data(), mapped);
+    double c0 = cs[0], r0 = rs[0];
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::XtFuncId, 7); });
     // Every k-th point is kept in the world (about 2000 in all) for the trace and the walk.
     std::vector<audio::Point> kept;
@@ -226,20 +234,40 @@ void frmParam::drawCurve(At at, From from, float t0, std::int16_t n, float dt, b
         LazyBatch figure(*surface, colour);
         ChunkedLines segments(figure);
         rt::cleanVectorStateForHotLoop();
-        for (std::int32_t i = 1; i <= n; ++i) {
-            const float t = rt::CSng(static_cast<double>(rt::CSng(static_cast<double>(i) * dt)) + t0);
-            const auto [c1, r1] = at(t);
-            keep(c1, r1);
-            if (points) {
-                if (i == 1 && from(c0, r0))
-                    figure.point(c0, r0);
-                if (inside(c1, r1))
-                    figure.point(c1, r1);
-            } else if (inside(c1, r1) && from(c0, r0)) {
-                segments.line(c0, r0, c1, r1);
+        for (std::int32_t i = 1; i <= n;) {
+            // The next values of t, then their points; a run-time error of either is raised once the
+            // points before it are drawn, as it would be point by point.
+            std::exception_ptr fault;
+            std::size_t m = 0;
+            mapped = 0;
+            try {
+                for (; m < block && i + static_cast<std::int32_t>(m) <= n; ++m)
+                    ts[m] = rt::CSng(
+                        static_cast<double>(rt::CSng(static_cast<double>(i + static_cast<std::int32_t>(m)) * dt)) + t0);
+            } catch (...) {
+                fault = std::current_exception();
             }
-            c0 = c1;
-            r0 = r1;
+            try {
+                at(ts.data(), m, cs.data(), rs.data(), mapped);
+            } catch (...) {
+                fault = std::current_exception();  // it came at a point before the t that failed
+            }
+            for (std::size_t k = 0; k < mapped; ++k, ++i) {
+                const double c1 = cs[k], r1 = rs[k];
+                keep(c1, r1);
+                if (points) {
+                    if (i == 1 && from(c0, r0))
+                        figure.point(c0, r0);
+                    if (inside(c1, r1))
+                        figure.point(c1, r1);
+                } else if (inside(c1, r1) && from(c0, r0)) {
+                    segments.line(c0, r0, c1, r1);
+                }
+                c0 = c1;
+                r0 = r1;
+            }
+            if (fault)
+                std::rethrow_exception(fault);
         }
     }
     noteTraced(drawnCurve(name, std::move(kept)));
@@ -251,8 +279,11 @@ void frmParam::cmdPlotto_Click()
     if (!typedCurve_) {
         // The families: every point mapped with the run time's checks, the first drawn wherever it is.
         plotCurve(
-            [this](float t) {
-                return std::pair{graph.column(XtFunc(t)), graph.row(YtFunc(t))};
+            [this](const float* ts, std::size_t m, double* cs, double* rs, std::size_t& mapped) {
+                for (; mapped < m; ++mapped) {
+                    cs[mapped] = graph.column(XtFunc(ts[mapped]));
+                    rs[mapped] = graph.row(YtFunc(ts[mapped]));
+                }
             },
             [](double, double) { return true; });
         return;
@@ -262,8 +293,12 @@ void frmParam::cmdPlotto_Click()
     typedGuard(
         [this] {
             plotCurve(
-                [this](float t) {
-                    return std::pair{graph.plainColumn(CurveX(t)), graph.plainRow(CurveY(t))};
+                [this](const float* ts, std::size_t m, double* cs, double* rs, std::size_t& mapped) {
+                    CurvePoints(ts, cs, rs, m);
+                    for (; mapped < m; ++mapped) {
+                        cs[mapped] = graph.plainColumn(cs[mapped]);
+                        rs[mapped] = graph.plainRow(rs[mapped]);
+                    }
                 },
                 [](double c, double r) { return std::isfinite(c) && std::isfinite(r); });
         },

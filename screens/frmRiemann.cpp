@@ -97,15 +97,37 @@ namespace {
 using RiemannSums::Result;
 using Parts = frmRiemann::Parts;
 
+// The function a sum of evenly placed points evaluates: a typed function's values at the points
+// `run(f, sink)` asks for are worked out in one column, the points found by a first run that draws
+// nothing (the random sums are not run twice: their draws would change).
+template <class Run>
+FuncGlobals::ExplicitAhead ahead(Run run)
+{
+    std::vector<double> xs;
+    if (FuncGlobals::TypedExplicit) {
+        try {
+            run([&xs](double x) { return xs.push_back(x), 0.0; }, [](auto&&...) {});
+        } catch (const rt::RuntimeError&) {  // the sum itself raises there; the points before it serve
+        }
+    }
+    return FuncGlobals::ExplicitAhead(std::move(xs));
+}
+
 Result leftSum(Parts& p, DrawingSurface::Batch& b)
 {
-    return RiemannSums::leftEndpoint(Parts::f, p.L, p.dx, p.n, p.bars(b));
+    const auto run = [&p](auto&& f, auto&& bar) { return RiemannSums::leftEndpoint(f, p.L, p.dx, p.n, bar); };
+    return run(ahead(run), p.bars(b));
 }
 Result rightSum(Parts& p, DrawingSurface::Batch& b)
 {
-    return RiemannSums::rightEndpoint(Parts::f, p.L, p.dx, p.n, p.bars(b));
+    const auto run = [&p](auto&& f, auto&& bar) { return RiemannSums::rightEndpoint(f, p.L, p.dx, p.n, bar); };
+    return run(ahead(run), p.bars(b));
 }
-Result midSum(Parts& p, DrawingSurface::Batch& b) { return RiemannSums::midpoint(Parts::f, p.L, p.dx, p.n, p.bars(b)); }
+Result midSum(Parts& p, DrawingSurface::Batch& b)
+{
+    const auto run = [&p](auto&& f, auto&& bar) { return RiemannSums::midpoint(f, p.L, p.dx, p.n, bar); };
+    return run(ahead(run), p.bars(b));
+}
 Result randomSum(Parts& p, DrawingSurface::Batch& b)
 {
     return RiemannSums::randomPoint(Parts::f, p.L, p.dx, p.n, p.bars(b));
@@ -118,7 +140,8 @@ Result riemannSum(Parts& p, DrawingSurface::Batch& b)
 Result trapezoidSum(Parts& p, DrawingSurface::Batch& batch)
 {
     const GraphWindow& g = p.screen.graph;
-    return RiemannSums::trapezoidal(Parts::f, p.L, p.dx, p.n, [&](double xa, double xb, double y1, double y2) {
+    const auto run = [&p](auto&& f, auto&& t) { return RiemannSums::trapezoidal(f, p.L, p.dx, p.n, t); };
+    return run(ahead(run), [&](double xa, double xb, double y1, double y2) {
         p.heights.push_back({(xa + xb) / 2, (y1 + y2) / 2});
         if (std::isnan(y1) || std::isnan(y2))
             return;
@@ -135,7 +158,8 @@ Result simpsonSum(Parts& p, DrawingSurface::Batch& outline)
     const GraphWindow& g = p.screen.graph;
     // A third of a partition in twips: the steps of the outline stand at a third and five thirds.
     const double s = rt::Chk(rt::Div(rt::Chk((p.dx / 3) * GraphWindow::Side), g.XRange));
-    return RiemannSums::simpson(Parts::f, p.L, p.dx, p.n, [&](double xa, double xc, double y0, double y1, double y2) {
+    const auto run = [&p](auto&& f, auto&& pair) { return RiemannSums::simpson(f, p.L, p.dx, p.n, pair); };
+    return run(ahead(run), [&](double xa, double xc, double y0, double y1, double y2) {
         p.heights.push_back({xa, y0});
         p.heights.push_back({(xa + xc) / 2, y1});
         if (std::isnan(y0) || std::isnan(y1) || std::isnan(y2))
@@ -313,6 +337,7 @@ void frmRiemann::cmdParts_Click()
                     Plotto::tr("%1 bars").arg(Plotto::tr(m.caption)),
                     [this, &m, L = parts.L, R = parts.R, dx = parts.dx, n, done] {
                         Parts drawn{*this, L, R, dx, n, static_cast<double>(graph.YOrigin), {}};
+                        drawn.heights.reserve(static_cast<std::size_t>(std::max(n, 0)) + 1);
                         DrawingSurface::Batch batch(*surface, rgbColor(rt::QBColor(m.colour)));
                         done->first = m.sum(drawn, batch);
                         done->second = std::move(drawn.heights);

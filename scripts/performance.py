@@ -34,12 +34,12 @@ PAIRS = [
 # Typed functions: (title, typed handler, the same handler with the equivalent family, target ratio),
 # both timed in the handlers' process, in the same round.
 TYPED = [
-    ("Grapher: Plotto!, A*sin(B*x + C) + D*x + E against family 5", "BM_TypedGrapherPlot", "BM_GrapherPlot/5", 2),
-    ("Sums: all seven at 32000, A*x^2 + B*x + C against family 2", "BM_TypedGraphPartitionsAllMethods", "BM_GraphPartitionsAllMethods", 2),
-    ("Mean value theorem: Find c scan, typed against family 5", "BM_TypedFindCScan", "BM_FindCScan", 2),
-    ("Slope fields: forty curves, typed A*x + B*y + C, D*x + E*y + F against family 1", "BM_TypedFortyBidirectionalCurves", "BM_FortyBidirectionalCurves", 2),
-    ("Parametric plot, 32000 points, typed against families 4 and 5", "BM_TypedParametricPlot32000/0", "BM_ParametricPlot32000/0", 2),
-    ("Parametric plot, 32000 connected, typed against families 4 and 5", "BM_TypedParametricPlot32000/1", "BM_ParametricPlot32000/1", 2),
+    ("Grapher: Plotto!, A*sin(B*x + C) + D*x + E against family 5", "BM_TypedGrapherPlot", "BM_GrapherPlot/5", 1.5),
+    ("Sums: all seven at 32000, A*x^2 + B*x + C against family 2", "BM_TypedGraphPartitionsAllMethods", "BM_GraphPartitionsAllMethods", 1.5),
+    ("Mean value theorem: Find c scan, typed against family 5", "BM_TypedFindCScan", "BM_FindCScan", 1.5),
+    ("Slope fields: forty curves, typed A*x + B*y + C, D*x + E*y + F against family 1", "BM_TypedFortyBidirectionalCurves", "BM_FortyBidirectionalCurves", 1.5),
+    ("Parametric plot, 32000 points, typed against families 4 and 5", "BM_TypedParametricPlot32000/0", "BM_ParametricPlot32000/0", 1.5),
+    ("Parametric plot, 32000 connected, typed against families 4 and 5", "BM_TypedParametricPlot32000/1", "BM_ParametricPlot32000/1", 1.5),
 ]
 
 

@@ -2,6 +2,7 @@
 // The direct pixel writer against a plain reference: for random segments and points in and around
 // a small image (inside, on the edges, in the margins, far away, huge, NaN, infinite) and every pen
 // width, the fast paths write exactly the reference's pixels and never a pixel outside the image.
+#include <array>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -127,7 +128,8 @@ TEST(Raster, SegmentsAndPointsMatchThePlainReferenceAndStayInside)
 }
 
 // Many shapes of one colour through the same-colour writer, which merges the vertical runs of a column
-// and skips the clipping of shapes wholly inside: the reference's pixels, shape by shape.
+// and skips the clipping of shapes wholly inside, and bars (a thin one is one run): the reference's
+// pixels, shape by shape.
 TEST(Raster, ABatchOfOneColourIsItsShapesDrawnOneByOne)
 {
     std::mt19937 rng(7);
@@ -154,6 +156,15 @@ TEST(Raster, ABatchOfOneColourIsItsShapesDrawnOneByOne)
                 if (i % 9 == 0) {
                     writer.point(x2, y2);
                     referencePoint(ref, x2, y2, pen);
+                }
+                if (i % 4 == 2) {  // a bar from where the last shape ended, mostly within one column
+                    const double b = x2 + static_cast<double>(rng() % 4) * 0.3, top = near(y2), base = near(top);
+                    writer.bar(x2, y2, b, top, base);
+                    for (const auto& [xa, ya, xb, yb] :
+                         {std::array{x2, base, x2, y2}, std::array{x2, y2, b, top}, std::array{b, top, b, base}})
+                        referenceLine(ref, xa, ya, xb, yb, pen);
+                    endX = b;
+                    endY = base;
                 }
             }
         }

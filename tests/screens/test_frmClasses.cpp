@@ -82,3 +82,23 @@ TEST_F(Grapher, ArithmeticFaultsEndTheActionWithTheirNumbers)
     screen->mnuFunc_Click(20);  // inside the caption table: an empty caption
     EXPECT_EQ(screen->lblFunc->text(), QString());
 }
+
+// A family that overflows partway across the window (e^(100x) beyond x = 7.0978, scaled down by A so
+// that the rows before it stay in the square): the columns up to the overflow are drawn before the
+// error is raised, the last of them too.
+TEST_F(Grapher, AnOverflowPartwayComesAfterTheColumnsBeforeItAreDrawn)
+{
+    screen->mnuFunc_Click(9);  // A * e^(Bx + C) + D
+    type({screen->txtYmin, screen->txtYmax}, "-1e9|1e9");
+    type({screen->txtA, screen->txtB, screen->txtC, screen->txtD}, "1e-300|100|0|500000000");
+    screen->cmdPlotto->click();
+    EXPECT_EQ(script.errors, (std::vector<int>{rt::Overflow}));
+    const GraphWindow& g = screen->graph;
+    const QImage lastColumns = screen->surface->picture(
+        QRectF(g.column(7.0), GraphWindow::Top, g.column(7.09) - g.column(7.0), GraphWindow::Side));
+    bool drawn = false;
+    for (int y = 0; y < lastColumns.height(); ++y)
+        for (int x = 0; x < lastColumns.width(); ++x)
+            drawn = drawn || lastColumns.pixel(x, y) == colour(rt::Mod(9, 7));
+    EXPECT_TRUE(drawn);
+}
