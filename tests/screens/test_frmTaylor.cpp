@@ -99,7 +99,8 @@ TEST_F(Taylor, ValuesAtXAgainstTheSeriesWrittenOut)
 TEST_F(Taylor, WhatIsDrawnAndNothingRaises)
 {
     build(*screen, "#5", "0", 4);  // sin x: P_3 = x - x^3/6 within 0.1 of sin x on about |x| < 1.4
-    EXPECT_GT(inColour(4), 100);  // P_3
+    EXPECT_GT(inColour(4), 100);  // P_3, in red
+    EXPECT_GT(inColour(1), 100);  // sin x, in blue
     EXPECT_GT(inColour(12), 100);  // P_2, faint
     EXPECT_GT(inColour(10), 0);  // the band
     EXPECT_TRUE(screen->everyDrawingKept());
