@@ -16,7 +16,7 @@ mkdir -p "$out" fuzz/corpus fuzz/regressions
 flags=(-std=c++20 -O1 -g -I. -fsanitize=fuzzer,address,undefined -fno-sanitize-recover=undefined)
 if [ "${TARGET:-numbers}" = typed ]; then
   mkdir -p fuzz/typed-corpus fuzz/typed-regressions
-  clang++ "${flags[@]}" $(pkg-config --cflags ginac muparser) fuzz/fuzz_typed.cpp funclib/Typed*.cpp \
+  clang++ "${flags[@]}" $(pkg-config --cflags ginac muparser) fuzz/fuzz_typed.cpp funclib/Typed*.cpp funclib/Words.cpp \
     funclib/FuncGlobals.cpp runtime/Numbers.cpp runtime/RuntimeError.cpp $(pkg-config --libs ginac muparser) \
     -o "$out/fuzz_typed"
   # CLN keeps a few bytes from its loading that the leak checker cannot follow (see tests/lsan.supp).
