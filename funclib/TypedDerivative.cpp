@@ -243,8 +243,11 @@ std::string textbook(const GiNaC::ex& e, const GiNaC::ex& x)
     using namespace GiNaC;
     if (is_a<add>(e)) {
         std::vector<ex> terms(e.begin(), e.end());
+        // Terms with x first, by falling power (compared as they are: a power may be the least int,
+        // which has no negative).
         std::stable_sort(terms.begin(), terms.end(), [&](const ex& a, const ex& b) {
-            return std::pair(!a.has(x), -powerOf(a, x)) < std::pair(!b.has(x), -powerOf(b, x));
+            const bool aConstant = !a.has(x), bConstant = !b.has(x);
+            return aConstant != bConstant ? bConstant : powerOf(a, x) > powerOf(b, x);
         });
         std::string out;
         for (const ex& t : terms) {
