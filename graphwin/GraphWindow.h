@@ -2,6 +2,7 @@
 #pragma once
 // The mapping between a screen's window limits and the twips of its 6400-twip square.
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 
 #include "runtime/Numbers.h"
@@ -59,10 +60,25 @@ struct GraphWindow {
     double plainWorldX(double column) const { return (column - XOrigin) * XRange / Side; }
     double plainWorldY(double row) const { return (YOrigin - row) * YRange / Side; }
 
-    // Twip column of world x: XOrigin + x * 6400 / XRange.
-    double column(double x) const { return rt::Chk(XOrigin + rt::Div(rt::Chk(x * Side), XRange)); }
-    // Twip row of world y: YOrigin - y * 6400 / YRange.
-    double row(double y) const { return rt::Chk(YOrigin - rt::Div(rt::Chk(y * Side), YRange)); }
+    // Twip column of world x: XOrigin + x * 6400 / XRange, and twip row of world y: YOrigin - y * 6400
+    // / YRange, with the run time's checks. They are worked out in plain arithmetic first: each check
+    // fails only on a value that is not finite (or a range that is zero or not finite), and such a
+    // value stays not finite to the result, so a finite result with a finite range is the checked
+    // result; otherwise the checked operations run and raise where the first of them fails.
+    double column(double x) const
+    {
+        const double c = plainColumn(x);
+        if (std::isfinite(c) && std::isfinite(XRange)) [[likely]]
+            return c;
+        return rt::Chk(XOrigin + rt::Div(rt::Chk(x * Side), XRange));
+    }
+    double row(double y) const
+    {
+        const double r = plainRow(y);
+        if (std::isfinite(r) && std::isfinite(YRange)) [[likely]]
+            return r;
+        return rt::Chk(YOrigin - rt::Div(rt::Chk(y * Side), YRange));
+    }
     // World x of twip column c: (c - XOrigin) * XRange / 6400, the difference formed as a 32-bit integer.
     double worldX(std::int32_t c) const
     {
@@ -72,29 +88,22 @@ struct GraphWindow {
         return rt::Chk(static_cast<double>(difference) * XRange) / Side;
     }
 
-    // The rows row(y(worldX(c))) of the columns first..last, each handed to `sink(c, row)` as it is
-    // computed: the same operations in plain arithmetic, with no check per column. Every check of
-    // worldX and row fails only on a value that is not finite, and such a value stays not finite to
-    // the row, so up to the first row that is not finite the checked loop would have raised nothing
-    // and given the same rows. Returns that column (nothing handed from it on; `first` when the window
-    // itself cannot be mapped), or last + 1: the caller's checked loop goes on from there and raises
-    // where its first check fails.
-    template <class Y, class Sink>
-    std::int32_t plainRows(std::int32_t first, std::int32_t last, Y y, Sink sink) const
+    // Whether the plain mapping stands for the checked one over the columns first..last: the ranges
+    // are finite and not zero, and every column's distance from the origin fits in 32 bits (as
+    // worldX forms it). Then every check of worldX and row fails only on a value that is not finite,
+    // and such a value stays not finite to the row: a finite row is the checked row.
+    bool plainMappable(std::int32_t first, std::int32_t last) const
     {
-        if (YRange == 0 || !std::isfinite(XRange) || !std::isfinite(YRange) ||
-            !fitsInt32(static_cast<std::int64_t>(first) - XOrigin) ||
-            !fitsInt32(static_cast<std::int64_t>(last) - XOrigin))
-            return first;
-        for (std::int32_t c = first; c <= last; ++c) {
-            const double x = static_cast<double>(static_cast<std::int64_t>(c) - XOrigin) * XRange / Side;
-            const double r = YOrigin - y(x) * Side / YRange;
-            if (!std::isfinite(r)) [[unlikely]]
-                return c;
-            sink(c, r);
-        }
-        return last + 1;
+        return YRange != 0 && std::isfinite(XRange) && std::isfinite(YRange) &&
+               fitsInt32(static_cast<std::int64_t>(first) - XOrigin) &&
+               fitsInt32(static_cast<std::int64_t>(last) - XOrigin);
     }
+    // Blocks of the plain mapping, each a loop the compiler vectorises: the world x of the n columns
+    // from `first` (plainMappable over them), and plainColumn and plainRow of n values (`to` may be
+    // `from`).
+    void plainWorldXs(std::int32_t first, std::size_t n, double* xs) const;
+    void plainColumns(const double* from, double* to, std::size_t n) const;
+    void plainRows(const double* from, double* to, std::size_t n) const;
 
 private:
     static bool fitsInt32(std::int64_t v) { return v >= INT32_MIN && v <= INT32_MAX; }

@@ -10,6 +10,7 @@
 #include "graphwin/DrawingSurface.h"
 #include "graphwin/GraphWindow.h"
 #include "runtime/RuntimeError.h"
+#include "tests/TestSupport.h"
 
 namespace {
 constexpr QRgb kRed = 0xFFFF0000u, kBlue = 0xFF0000FFu, kWhite = 0xFFFFFFFFu;
@@ -209,4 +210,14 @@ TEST(GraphWindow, MapsTheWindowOntoTheSquareAndBack)
     EXPECT_FALSE(GraphWindow::rowInside(99.99) || GraphWindow::rowInside(6500.01));
     GraphWindow flat;
     EXPECT_THROW(flat.set(1, 1, 0, 1), rt::RuntimeError) << "a window of no width divides by 0";
+    // Where a point cannot be mapped, the checks raise as they always did: a value too large to scale or
+    // to divide by the range, and a window never set (no width or height: x / 0 and 0 / 0).
+    GraphWindow wide;
+    wide.set(-1e300, 1e300, -1e-300, 1e-300);
+    const std::tuple<const GraphWindow*, double, int, int> unmapped[] = {
+        {&wide, 1e306, 6, 6}, {&wide, 1e10, 0, 6}, {&flat, 1, 11, 11}, {&flat, 0, 6, 6}};
+    for (const auto& [g, v, columnError, rowError] : unmapped) {
+        EXPECT_EQ(errorOf([&] { g->column(v); }), columnError) << v;
+        EXPECT_EQ(errorOf([&] { g->row(v); }), rowError) << v;
+    }
 }
