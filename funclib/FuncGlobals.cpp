@@ -41,6 +41,22 @@ double YFunc(const double& x)
     return y == y ? y : 0.0;
 }
 
+void YFuncs(const double* xs, double* ys, std::size_t n, std::size_t& done)
+{
+    FunctionCount = ExplicitFamilyCount;
+    if (FunctionId < 1 || FunctionId > ExplicitFamilyCount) {
+        for (; done < n; ++done)
+            ys[done] = 0.0;  // no family: undefined everywhere, which YFunc gives as 0
+        return;
+    }
+    const auto value = FamilyTables::kExplicit[FunctionId - 1].value;
+    const CoefficientSet& k = Coefficients;
+    for (; done < n; ++done) {
+        const double y = value(xs[done], k);
+        ys[done] = y == y ? y : 0.0;
+    }
+}
+
 bool YDefined(const double& x) { return !std::isnan(explicitValue(x)); }
 
 double YPrimeFunc(const double& x)

@@ -3,6 +3,7 @@
 // The function library: the catalogue of explicit families with their values and derivatives, and
 // the module state shared by every screen (the selected families and the one set of coefficients).
 // The rate families of the slope field and the parametric families keep their selectors here too.
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <string>
@@ -37,6 +38,9 @@ const char* ExplicitCaption(int id);
 // Value of the selected explicit family at x; 0 where the point is undefined or no family is
 // selected. Raises Overflow or Division by zero where the arithmetic fails.
 double YFunc(const double& x);
+// ys[k] = YFunc(xs[k]) for k from `done` to n, in order, with the family looked up once; `done` counts
+// the points worked out, so that after a run-time error it is the point where the error came.
+void YFuncs(const double* xs, double* ys, std::size_t n, std::size_t& done);
 // True where the selected family is defined at x (YFunc gives its value there, not the 0 that marks
 // an undefined point). Raises what YFunc raises.
 bool YDefined(const double& x);

@@ -74,13 +74,21 @@ bool ExplicitDefined(const double& x) { return TypedExplicit ? !std::isnan(Typed
 double RateDy(const double& x, const double& y) { return TypedRate ? (*TypedRate->dy)(x, y) : DyFunc(x, y); }
 double RateDx(const double& x, const double& y) { return TypedRate ? (*TypedRate->dx)(x, y) : DxFunc(x, y); }
 
+void ExplicitValuesFrom(const double* xs, double* ys, std::size_t n, std::size_t& done)
+{
+    if (!TypedExplicit) {
+        YFuncs(xs, ys, n, done);
+        return;
+    }
+    if (done < n)
+        TypedExplicit->f->values(xs + done, ys + done, n - done);
+    done = n;
+}
+
 void ExplicitValues(const double* xs, double* ys, std::size_t n)
 {
-    if (TypedExplicit)
-        TypedExplicit->f->values(xs, ys, n);
-    else
-        for (std::size_t i = 0; i < n; ++i)
-            ys[i] = YFunc(xs[i]);
+    std::size_t done = 0;
+    ExplicitValuesFrom(xs, ys, n, done);
 }
 
 void ExplicitSlopes(const double* xs, double* ys, std::size_t n)

@@ -63,6 +63,9 @@ bool ExplicitDefined(const double& x);
 // ys[i] = ExplicitValue(xs[i]) (ExplicitSlope) for i < n. A typed function is evaluated a column at
 // a time; a family point by point in order, so that a run-time error is raised at the same point.
 void ExplicitValues(const double* xs, double* ys, std::size_t n);
+// The same from the point `done` on, counting in `done` the points worked out (after a family's
+// run-time error, the point where it came).
+void ExplicitValuesFrom(const double* xs, double* ys, std::size_t n, std::size_t& done);
 void ExplicitSlopes(const double* xs, double* ys, std::size_t n);
 
 // dy and dx at (x, y): the typed rates in use, else DyFunc and DxFunc. The steps along them are the

@@ -3,12 +3,12 @@
 // columns at a time, a family's rows in plain arithmetic dotted a chunk at a time, with the checked
 // loop where a check could fail.
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 
 #include "funclib/FunctionSource.h"
 #include "graphwin/GraphScreen.h"
+#include "graphwin/PlainRows.h"
 #include "runtime/CountedLoop.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
@@ -49,38 +49,17 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
         }
         return;
     }
-    // A family's values: the rows in plain arithmetic up to the first that is not finite (see
-    // plainRows), gathered in chunks and each chunk dotted in one call (a pixel the column before wrote
-    // is not written again; rowInside's bottom row is included: the run ends at the next row after
-    // it); a run-time error of the family dots the rows before it first, so that it comes at the same
-    // column with the same columns drawn. From the first row that is not finite on, the checked loop,
-    // which raises where its first check fails. A slope is not worked out twice at a column
-    // (YPrimeFunc counts its calls): it goes through the checked loop only.
+    // A family's values: the rows in plain arithmetic up to the first that is not finite, a block at
+    // a time (see dotPlainRows; rowInside's bottom row is included: the run ends at the next row after
+    // it); from there on, the checked loop, which raises where its first check fails. A slope is not
+    // worked out twice at a column (YPrimeFunc counts its calls): it goes through the checked loop only.
     std::int32_t from = first;
     if (what == FuncGlobals::ExplicitSnapshot::What::Value) {
-        const double below = std::nextafter(static_cast<double>(GraphWindow::Bottom), HUGE_VAL);
-        const auto count = static_cast<std::size_t>(std::max(last - first + 1, 0));
-        std::array<double, 512> rows;
-        std::size_t n = 0;
-        std::int32_t chunk = first;
-        const auto dot = [&] {
-            points.runColumns(chunk, rows.data(), n, GraphWindow::Top, below, count);
-            chunk += static_cast<std::int32_t>(n);
-            n = 0;
+        const auto values = [](const double* xs, double* ys, std::size_t n, std::size_t& done) {
+            FuncGlobals::ExplicitValuesFrom(xs, ys, n, done);
         };
-        try {
-            from = graph.plainRows(
-                first, last, [evaluate](double x) { return evaluate(x); },
-                [&](std::int32_t, double row) {
-                    rows[n++] = row;
-                    if (n == rows.size())
-                        dot();
-                });
-        } catch (const rt::RuntimeError&) {
-            dot();
-            throw;
-        }
-        dot();
+        from = dotPlainRows(graph, points, first, last, values, GraphWindow::Top,
+                            std::nextafter(static_cast<double>(GraphWindow::Bottom), HUGE_VAL));
         if (from > last) {
             if (last == INT16_MAX)  // where the counted loop's next step would overflow
                 rt::raise(rt::Overflow);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/frmMVT.h"
 
-#include <array>
 #include <cmath>
 #include <functional>
 #include <memory>
@@ -10,6 +9,7 @@
 #include "graphwin/Dialogs.h"
 #include "graphwin/DrawingStyle.h"
 #include "graphwin/Language.h"
+#include "graphwin/PlainRows.h"
 #include "runtime/Numbers.h"
 #include "runtime/QBColor.h"
 #include "runtime/VectorState.h"
@@ -170,7 +170,7 @@ void frmMVT::slideTangent()
 }
 
 // A line dotted column by column where its row lies in the square. Where the surface batches, the
-// rows are computed in plain arithmetic and dotted a chunk at a time; from a row that is not finite on
+// rows are computed in plain arithmetic and dotted a block at a time (dotPlainRows); from a row that is not finite on
 // (or for every column when the surface draws one by one) the checked loop computes and draws
 // column by column, raising where a check fails. `y` takes x and the check to apply after each
 // operation.
@@ -181,27 +181,14 @@ void frmMVT::dotLine(int first, int last, FirstUseColour& colour, Y y)
     rt::cleanVectorStateForHotLoop();
     constexpr double kTop = GraphWindow::Top, kBottom = GraphWindow::Bottom;
     int column = first;
-    if (surface->batching()) {
-        // The rows are gathered in chunks, so that the loop computing them does nothing else, and
-        // each chunk is dotted in one call.
-        const auto count = static_cast<std::size_t>(last - first + 1);
-        std::array<double, 512> rows;
-        std::size_t n = 0;
-        int chunk = first;
-        const auto dot = [&] {
-            points.runColumns(chunk, rows.data(), n, kTop, kBottom, count);
-            chunk += static_cast<int>(n);
-            n = 0;
-        };
-        column = graph.plainRows(
-            first, last, [&y](double x) { return y(x, std::identity()); },
-            [&](int, double row) {
-                rows[n++] = row;
-                if (n == rows.size())
-                    dot();
-            });
-        dot();
-    }
+    if (surface->batching())
+        column = dotPlainRows(
+            graph, points, first, last,
+            [&y](const double* xs, double* ys, std::size_t n, std::size_t& done) {
+                for (; done < n; ++done)
+                    ys[done] = y(xs[done], std::identity());
+            },
+            kTop, kBottom);
     for (; column <= last; ++column) {
         const double row = graph.row(y(graph.worldX(column), [](double v) { return rt::Chk(v); }));
         if (DrawingSurface::Batch::dotted(row, kTop, kBottom))

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The block mappings of GraphWindow, built with vectorisation on and without contracted multiply-adds
+// (every value the same as plainWorldX and plainRow give one at a time, bit for bit).
+#include "graphwin/GraphWindow.h"
+
+void GraphWindow::plainWorldXs(std::int32_t first, std::size_t n, double* xs) const
+{
+    const std::int32_t from = first - XOrigin;  // fits: plainMappable
+    const double range = XRange;
+    for (std::size_t k = 0; k < n; ++k)
+        xs[k] = static_cast<double>(from + static_cast<std::int32_t>(k)) * range / Side;
+}
+
+void GraphWindow::plainColumns(const double* from, double* to, std::size_t n) const
+{
+    const double origin = XOrigin, range = XRange;
+    for (std::size_t k = 0; k < n; ++k)
+        to[k] = origin + from[k] * Side / range;
+}
+
+void GraphWindow::plainRows(const double* from, double* to, std::size_t n) const
+{
+    const double origin = YOrigin, range = YRange;
+    for (std::size_t k = 0; k < n; ++k)
+        to[k] = origin - from[k] * Side / range;
+}
