@@ -96,6 +96,9 @@ public:
         // its checks per shape made once for them all.
         void lines(const double* ends, std::size_t n);
         void point(double x, double y);
+        // n points, two numbers each (x, y): what point() gives for each, in order, with its checks per
+        // shape made once for them all.
+        void points(const double* xy, std::size_t n);
         // The outline of a bar standing on the row `base` (see barOutline), kept in five numbers.
         void bar(double a, double top1, double b, double top2, double base);
         // A line dotted column by column, at most `count` points in all: beginRun, then the rows in
@@ -417,7 +420,8 @@ public:
     }
 
 private:
-    friend class ChunkedLines;
+    template <std::size_t>
+    friend class ChunkedShapes;
     DrawingSurface::Batch& open()
     {
         if (!batch_)
@@ -429,34 +433,48 @@ private:
     std::optional<DrawingSurface::Batch> batch_;
 };
 
-// Segments gathered in chunks on the stack and handed to a lazy batch a chunk at a time, so that the
-// loop that computes them does nothing else. The batch opens (its colour looked up) at the first
-// segment, where line() would open it; the segments gathered when a run-time error ends the loop are
-// drawn as this goes out of scope, before the batch closes (declare it after the batch).
-class ChunkedLines {
+// Shapes gathered in chunks on the stack and handed to a lazy batch a chunk at a time, so that the
+// loop that computes them does nothing else: segments (ChunkedLines, four numbers each) or points
+// (ChunkedPoints, two). The batch opens (its colour looked up) at the first shape, where line() or
+// point() would open it; the shapes gathered when a run-time error ends the loop are drawn as this
+// goes out of scope, before the batch closes (declare it after the batch).
+template <std::size_t Values>
+class ChunkedShapes {
 public:
-    explicit ChunkedLines(LazyBatch& batch) : batch_(batch), oneByOne_(!batch.surface_.batching()) { }
-    ChunkedLines(const ChunkedLines&) = delete;
-    ChunkedLines& operator=(const ChunkedLines&) = delete;
-    ~ChunkedLines() { flush(); }
-    void line(double x1, double y1, double x2, double y2)
+    explicit ChunkedShapes(LazyBatch& batch) : batch_(batch), oneByOne_(!batch.surface_.batching()) { }
+    ChunkedShapes(const ChunkedShapes&) = delete;
+    ChunkedShapes& operator=(const ChunkedShapes&) = delete;
+    ~ChunkedShapes() { flush(); }
+    void flush()
     {
-        if (oneByOne_) {  // the plain path, segment by segment, to compare with
-            batch_.open().line(x1, y1, x2, y2);
+        if (n_ > 0) {
+            if constexpr (Values == 4)
+                batch_.open().lines(values_, n_);
+            else
+                batch_.open().points(values_, n_);
+        }
+        n_ = 0;
+    }
+
+protected:
+    // Adds one shape; where the surface does not batch (the plain path, to compare with), it is drawn
+    // at once, shape by shape.
+    void add(const double (&shape)[Values])
+    {
+        if (oneByOne_) {
+            if constexpr (Values == 4)
+                batch_.open().line(shape[0], shape[1], shape[2], shape[3]);
+            else
+                batch_.open().point(shape[0], shape[1]);
             return;
         }
         if (n_ == 0)
             batch_.open();
-        double* e = ends_ + 4 * n_;
-        e[0] = x1, e[1] = y1, e[2] = x2, e[3] = y2;
+        double* to = values_ + Values * n_;
+        for (std::size_t k = 0; k < Values; ++k)
+            to[k] = shape[k];
         if (++n_ == kChunk)
             flush();
-    }
-    void flush()
-    {
-        if (n_ > 0)
-            batch_.open().lines(ends_, n_);
-        n_ = 0;
     }
 
 private:
@@ -464,5 +482,17 @@ private:
     LazyBatch& batch_;
     bool oneByOne_;
     std::size_t n_ = 0;
-    double ends_[4 * kChunk];
+    double values_[Values * kChunk];
+};
+
+class ChunkedLines : public ChunkedShapes<4> {
+public:
+    using ChunkedShapes::ChunkedShapes;
+    void line(double x1, double y1, double x2, double y2) { add({x1, y1, x2, y2}); }
+};
+
+class ChunkedPoints : public ChunkedShapes<2> {
+public:
+    using ChunkedShapes::ChunkedShapes;
+    void point(double x, double y) { add({x, y}); }
 };

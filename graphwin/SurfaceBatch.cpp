@@ -112,6 +112,28 @@ void DrawingSurface::Batch::keepSegment(double x1, double y1, double x2, double 
     ends.push_back(corners.size());
 }
 
+void DrawingSurface::Batch::points(const double* xy, std::size_t n)
+{
+    if (n == 0)
+        return;
+    const RunMode mode = modeFor(n);
+    if (mode == RunMode::OneByOne) {
+        for (const double* p = xy; p != xy + 2 * n; p += 2)
+            point(p[0], p[1]);
+        return;
+    }
+    if (mode == RunMode::Keep)
+        s_.batchPoints_.insert(s_.batchPoints_.end(), xy, xy + 2 * n);  // within the reserved capacity
+    const double pxPerTwip = s_.pxPerTwip_;
+    writer_.pointsAfter(n, [&](std::size_t i, double& px, double& py) {
+        px = toPx(xy[2 * i], pxPerTwip);
+        py = toPx(xy[2 * i + 1], pxPerTwip);
+        return true;
+    });
+    lastX_ = xy[2 * n - 2];
+    lastY_ = xy[2 * n - 1];
+}
+
 void DrawingSurface::Batch::lines(const double* ends, std::size_t n)
 {
     if (n == 0)

@@ -198,18 +198,17 @@ void frmParam::plotCurve(At at, From from)
     const std::int16_t n = rt::CInt(rt::Int(txtTstep->value()));
     const float dt = rt::CSng(rt::Div(static_cast<double>(rt::CSng(static_cast<double>(tn) - t0)), n));
     const bool points = optPoints->isChecked();
-    const std::size_t block = typedCurve_ ? kCurveBlock : 1;
     const QString name = Plotto::tr("the curve %1, %2 for t from %3 to %4")
                              .arg(lblXPar->text(), lblYPar->text(), txtT0->text(), txtTn->text());
     // The figure is a kept step: a new window maps the same t values again.
     keepDrawing(
         Plotto::tr("the parametric curve"),
-        [this, at, from, block, t0, n, dt, points, name] { drawCurve(at, from, block, t0, n, dt, points, name); },
+        [this, at, from, t0, n, dt, points, name] { drawCurve(at, from, t0, n, dt, points, name); },
         typedCurve_);
 }
 
 template <class At, class From>
-void frmParam::drawCurve(At at, From from, std::size_t block, float t0, std::int16_t n, float dt, bool points,
+void frmParam::drawCurve(At at, From from, float t0, std::int16_t n, float dt, bool points,
                          const QString& name)
 {
     std::array<float, kCurveBlock> ts;
@@ -233,6 +232,7 @@ void frmParam::drawCurve(At at, From from, std::size_t block, float t0, std::int
     {
         LazyBatch figure(*surface, colour);
         ChunkedLines segments(figure);
+        ChunkedPoints dots(figure);
         rt::cleanVectorStateForHotLoop();
         for (std::int32_t i = 1; i <= n;) {
             // The next values of t, then their points; a run-time error of either is raised once the
@@ -241,7 +241,7 @@ void frmParam::drawCurve(At at, From from, std::size_t block, float t0, std::int
             std::size_t m = 0;
             mapped = 0;
             try {
-                for (; m < block && i + static_cast<std::int32_t>(m) <= n; ++m)
+                for (; m < kCurveBlock && i + static_cast<std::int32_t>(m) <= n; ++m)
                     ts[m] = rt::CSng(
                         static_cast<double>(rt::CSng(static_cast<double>(i + static_cast<std::int32_t>(m)) * dt)) + t0);
             } catch (...) {
@@ -257,9 +257,9 @@ void frmParam::drawCurve(At at, From from, std::size_t block, float t0, std::int
                 keep(c1, r1);
                 if (points) {
                     if (i == 1 && from(c0, r0))
-                        figure.point(c0, r0);
+                        dots.point(c0, r0);
                     if (inside(c1, r1))
-                        figure.point(c1, r1);
+                        dots.point(c1, r1);
                 } else if (inside(c1, r1) && from(c0, r0)) {
                     segments.line(c0, r0, c1, r1);
                 }
@@ -278,12 +278,38 @@ void frmParam::cmdPlotto_Click()
     using namespace FuncGlobals;
     if (!typedCurve_) {
         // The families: every point mapped with the run time's checks, the first drawn wherever it is.
+        // A block's values first, then their columns and rows in plain arithmetic, which give the
+        // checked ones wherever they are finite (with finite ranges); a point whose column or row is
+        // not finite is mapped again with the checks, which raise there. The errors come in the order
+        // of the point-by-point loop (x, its column, y, its row): an error of y(t) waits for the column
+        // of the same point.
         plotCurve(
             [this](const float* ts, std::size_t m, double* cs, double* rs, std::size_t& mapped) {
-                for (; mapped < m; ++mapped) {
-                    cs[mapped] = graph.column(XtFunc(ts[mapped]));
-                    rs[mapped] = graph.row(YtFunc(ts[mapped]));
+                double xs[kCurveBlock], ys[kCurveBlock];
+                std::size_t k = 0;
+                bool xDone = false;  // the fault came from y(t) at k, after x(t)
+                std::exception_ptr fault;
+                try {
+                    for (; k < m; ++k, xDone = false) {
+                        xs[k] = XtFunc(ts[k]);
+                        xDone = true;
+                        ys[k] = YtFunc(ts[k]);
+                    }
+                } catch (...) {
+                    fault = std::current_exception();
                 }
+                graph.plainColumns(xs, cs, k);
+                graph.plainRows(ys, rs, k);
+                const bool plain = std::isfinite(graph.XRange) && std::isfinite(graph.YRange);
+                for (; mapped < k; ++mapped)
+                    if (!plain || !std::isfinite(cs[mapped]) || !std::isfinite(rs[mapped])) [[unlikely]] {
+                        cs[mapped] = graph.column(xs[mapped]);
+                        rs[mapped] = graph.row(ys[mapped]);
+                    }
+                if (fault && xDone)
+                    graph.column(xs[k]);
+                if (fault)
+                    std::rethrow_exception(fault);
             },
             [](double, double) { return true; });
         return;

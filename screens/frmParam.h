@@ -80,16 +80,16 @@ protected:
 private:
     std::shared_ptr<const FuncGlobals::TypedCurve> typedCurve_;
     std::array<int, 2> shownCurve_{4, 5};  // the x and y families the captions show
-    static constexpr std::size_t kCurveBlock = 256;  // the points of a typed curve computed together
+    static constexpr std::size_t kCurveBlock = 256;  // the points of a curve computed together
     // The curve's plot over t: `at(ts, m, columns, rows, mapped)` gives the twip points of m values of
-    // t, counting in `mapped` those done (a family is given one t a call, so that a run-time error
-    // comes at the same point; a typed curve a block of them), and a connected segment (or the first
-    // point) is drawn only where `from` holds for its start.
+    // t, counting in `mapped` those done before a run-time error (which then comes after they are
+    // drawn, at the same point as point by point), and a connected segment (or the first point) is
+    // drawn only where `from` holds for its start.
     template <class At, class From>
     void plotCurve(At at, From from);
     void dragTrace(double toX, double toY);
     // The figure of n steps of dt from t0, as points or joined, noted for the trace as `name`.
     template <class At, class From>
-    void drawCurve(At at, From from, std::size_t block, float t0, std::int16_t n, float dt, bool points,
+    void drawCurve(At at, From from, float t0, std::int16_t n, float dt, bool points,
                    const QString& name);
 };

@@ -99,3 +99,28 @@ TEST_F(Param, ZoomOutLabelsAndTheErrorsOfTheStepCount)
     }
     EXPECT_EQ(script.errors, (std::vector<int>{rt::DivisionByZero, rt::DivisionByZero}));
 }
+
+TEST_F(Param, AFamilysOverflowComesAtItsPointWithThePointsBeforeItDrawn)
+{
+    // Families 1 (At^2 + Bt + C) and 9 (At Sin(Bt) + C: Bt overflows at t = 2 when B = 1e308, while
+    // every point before lies near the origin), t from 0 in 4 steps. Points are computed a block
+    // ahead of drawing them: an error still comes at its own point, after the points before it.
+    const struct { int x, y; const char* coefficients; const char* ts; int error; long drawn; } cases[] = {
+        {1, 1, "1|0|0|1|0|0", "0|1|4", 0, 5},
+        {9, 1, "1|1e308|0|0|0|0", "0|2|4", rt::Overflow, 4},
+        {1, 9, "0|0|0|1|1e308|0", "0|2|4", rt::Overflow, 4},
+        {9, 1, "1|1e308|0|0|0|0", "0|4|4", rt::Overflow, 2},
+    };
+    for (const auto& [x, y, coefficients, ts, error, drawn] : cases) {
+        SCOPED_TRACE(coefficients);
+        script.errors.clear();
+        screen->cmdClean_Click();
+        screen->mnuXFunc_Click(x);
+        screen->mnuYFunc_Click(y);
+        type({screen->txtA, screen->txtB, screen->txtC, screen->txtD, screen->txtE, screen->txtF}, coefficients);
+        type({screen->txtT0, screen->txtTn, screen->txtTstep}, ts);
+        screen->cmdPlotto->click();
+        EXPECT_EQ(script.errors, error ? std::vector<int>{error} : std::vector<int>{});
+        EXPECT_EQ(count(DrawOp::PSet), drawn);
+    }
+}
