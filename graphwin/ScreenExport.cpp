@@ -50,15 +50,12 @@ void remember(const graphexport::Options& o)
     s.setValue(QStringLiteral("export/dpi"), o.dpi);
 }
 
-// The options of an export or a print, asked for in a small dialog: the caption, colour or black and
-// white, the lines' width and (for a PNG) the resolution. None on Cancel.
+// The options of an export or a print, asked for in a small dialog that shows the ones last chosen:
+// the caption, colour or black and white, the lines' width and (for a PNG) the resolution. None on
+// Cancel. A test's script answers OK at once.
 std::optional<graphexport::Options> askOptions(QWidget* parent, const QString& title, bool resolution)
 {
     graphexport::Options o = rememberedOptions();
-    if (DialogScript* script = dialogScript()) {
-        script->shown.emplace_back(title, QStringLiteral("options"));
-        return o;
-    }
     QDialog dialog(parent);
     dialog.setWindowTitle(title);
     auto* form = new QFormLayout(&dialog);
@@ -85,7 +82,9 @@ std::optional<graphexport::Options> askOptions(QWidget* parent, const QString& t
     QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     form->addRow(buttons);
-    if (dialog.exec() != QDialog::Accepted)
+    if (DialogScript* script = dialogScript())
+        script->shown.emplace_back(title, QStringLiteral("options"));
+    else if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     o.caption = caption->isChecked();
     o.colour = !blackAndWhite->isChecked();

@@ -249,6 +249,12 @@ TEST(TypedSources, DispatchFallsBackToTheFamilies)
     EXPECT_EQ(std::pair(ExplicitValue(3), ExplicitSlope(3)), std::pair(5.0, 6.0));
     EXPECT_FALSE(ExplicitDefined(std::nan("")));
     EXPECT_EQ(YFunc(3), 10);  // the family procedure itself is untouched by the typed selection
+    auto underived = TypedFunction::make("x + 1/(x - x)", error);  // no derivative: its slopes are gaps
+    ASSERT_TRUE(underived) << error;
+    TypedExplicit = underived.get();
+    double xs[] = {1, 2}, slopes[] = {0, 0};
+    ExplicitSlopes(xs, slopes, 2);
+    EXPECT_TRUE(std::isnan(slopes[0]) && std::isnan(slopes[1]));
     TypedExplicit = nullptr;
 
     // dy = x with dx = 1 from (0, 0), h = 1: the same increments as the families' worked example.

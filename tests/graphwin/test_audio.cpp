@@ -49,6 +49,7 @@ TEST(AudioTrace, StraightLineRisesAndMovesLeftToRight)
     const std::size_t n = s.size() / 2, tenth = n / 10;
     EXPECT_GT(energy(s, false, 0, tenth), 10 * energy(s, true, 0, tenth));  // the left ear first
     EXPECT_GT(energy(s, true, n - tenth, n), 10 * energy(s, false, n - tenth, n));  // the right at the end
+    EXPECT_LT(energy(s, false, n - n / tones.size(), n), 1e-12) << "the last tone, at the right edge, right only";
 }
 
 TEST(AudioTrace, ParabolaClicksAtItsRootsAndSoundsLowBetween)

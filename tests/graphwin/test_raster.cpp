@@ -132,6 +132,17 @@ TEST(Raster, SegmentsAndPointsMatchThePlainReferenceAndStayInside)
 // pixels, shape by shape.
 TEST(Raster, ABatchOfOneColourIsItsShapesDrawnOneByOne)
 {
+    {  // Bars one pixel high, apart, in one column: more runs than the writer gathers for a column.
+        GuardedImage fast, ref;
+        {
+            raster::SameColourWriter writer(fast.target(), 1, kInk);
+            for (double y = 0.5; y < H; y += 2) {
+                writer.bar(1.5, y, 1.7, y, y + 0.3);
+                referenceLine(ref, 1.5, y, 1.7, y + 0.3, 1);
+            }
+        }
+        ASSERT_TRUE(sameAndGuarded(fast, ref)) << "runs in one column";
+    }
     std::mt19937 rng(7);
     for (int batch = 0; batch < 3000; ++batch) {
         const int pen = batch % 7 == 0 ? 3 : 1;

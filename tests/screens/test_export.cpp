@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -220,4 +221,20 @@ TEST(Export, BadFileNamesAreToldAndLeaveNoFile)
     EXPECT_TRUE(script.shown[1].second.contains(QStringLiteral("end it with"))) << script.shown[1].second.toStdString();
     EXPECT_EQ(script.shown[3].second, QStringLiteral("options"));
     EXPECT_TRUE(QFile::exists(dir.filePath(QStringLiteral("graph.png"))));
+    // The options' dialog shows those last chosen, and the script's OK takes them: 150 dpi, the page
+    // taller with its caption than without.
+    QSettings remembered(QStringLiteral("Plotto"), QStringLiteral("Plotto"));
+    remembered.setValue(QStringLiteral("export/dpi"), 150);
+    int height[2] = {};
+    for (const bool caption : {true, false}) {
+        remembered.setValue(QStringLiteral("export/caption"), caption);
+        remembered.sync();
+        script.answers = {dir.filePath(QStringLiteral("graph.png"))};
+        screen->mnuExportGraph_Click();
+        const QImage png(dir.filePath(QStringLiteral("graph.png")));
+        EXPECT_EQ(png.dotsPerMeterX(), 5906);
+        height[caption] = png.height();
+    }
+    EXPECT_GT(height[1], height[0]);
+    remembered.clear();
 }
