@@ -85,8 +85,9 @@ public:
     // at(i, x, y) gives, i < n (at returns false for none), as point() writes it, except that a point
     // in the pixel the run's last point wrote leaves it alone: it already has the colour (nothing of
     // another colour is drawn while the writer lives). The writer's state is held in locals for the
-    // loop. Returns the last i given, or n when none was.
-    template <class At>
+    // loop. Returns the last i given, or n when none was. With Inside, the caller vouches that every
+    // point given lies inside the target (see coversThin): no bounds are checked.
+    template <bool Inside = false, class At>
     std::size_t pointsAfter(std::size_t n, At at)
     {
         std::size_t given = n;
@@ -99,8 +100,8 @@ public:
             if (!at(i, x, y))
                 continue;
             given = i;
-            const long p = pixelInside(t, x, y, pen);
-            if (p < 0)
+            const long p = Inside ? static_cast<long>(y) * t.stride + static_cast<long>(x) : pixelInside(t, x, y, pen);
+            if (!Inside && p < 0)
                 pointOutside(t_, x, y, pen, color);  // the member: the local's address stays unknown
             else if (p != last)
                 t.bits[p] = color;
@@ -108,6 +109,11 @@ public:
         }
         lastDotted_ = last;
         return given;
+    }
+    // Whether a thin pen writes every point of [x0, x1] x [y0, y1] (pixels) inside the target.
+    bool coversThin(double x0, double x1, double y0, double y1) const
+    {
+        return pen_ <= 1 && x0 >= 0 && y0 >= 0 && x1 < static_cast<double>(t_.width) && y1 < static_cast<double>(t_.height);
     }
     // Writes the gathered vertical runs.
     void flush();

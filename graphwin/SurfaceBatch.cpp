@@ -65,10 +65,14 @@ void DrawingSurface::Batch::runColumns(int first, const double* rows, std::size_
                 point(first + static_cast<int>(i), rows[i]);
         return;
     }
-    // One loop per mode, with nothing in it but the point's own work.
+    // One loop per mode, with nothing in it but the point's own work. Where the run's columns and its
+    // rows [fromRow, toRow) lie inside the picture (as the square does at every zoom), so does every
+    // point dotted: no bounds are checked per point.
     const double pxPerTwip = s_.pxPerTwip_;  // in a register: a point outside calls out of the loop
-    auto dot = [&](auto keep) {
-        const std::size_t lastDotted = writer_.pointsAfter(n, [&](std::size_t i, double& px, double& py) {
+    const bool inside = n > 0 && writer_.coversThin(toPx(first, pxPerTwip), toPx(first + static_cast<double>(n - 1), pxPerTwip),
+                                                    toPx(fromRow, pxPerTwip), toPx(toRow, pxPerTwip));
+    auto dot = [&](auto keep, auto within) {
+        const std::size_t lastDotted = writer_.pointsAfter<decltype(within)::value>(n, [&](std::size_t i, double& px, double& py) {
             const double row = rows[i];
             if (!dotted(row, fromRow, toRow))
                 return false;
@@ -86,10 +90,16 @@ void DrawingSurface::Batch::runColumns(int first, const double* rows, std::size_
             lastY_ = rows[lastDotted];
         }
     };
+    const auto within = [&](auto keep) {
+        if (inside)
+            dot(keep, std::true_type());
+        else
+            dot(keep, std::false_type());
+    };
     if (run_ == RunMode::Keep)
-        dot(std::true_type());
+        within(std::true_type());
     else
-        dot(std::false_type());
+        within(std::false_type());
 }
 
 // A segment that begins exactly (to the bit: the sign of a zero included) where the batch's last kept

@@ -43,6 +43,7 @@ TEST_F(Animate, StepsPlotOneFramePerScrollPosition)
     screen->optSteps->setChecked(true);
     screen->vscStep->setValue(10);
     EXPECT_EQ(screen->lblSlide->text(), QStringLiteral("-1.025"));  // -1.0244 cut, not rounded
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(screen->vscStep)->text(QAccessible::Value), QStringLiteral("A = -1.025"));
     expectDescribed("Animating A of", {screen->lblSlide, screen->lblClickAnimate});
     EXPECT_TRUE(frameWithA(-2 + 10 * 4.0 / 41));
     EXPECT_EQ(FuncGlobals::Coefficients.A, 1);

@@ -104,11 +104,23 @@ TEST_F(Limits, TheHoleTheDotAndTheBandsAreDrawn)
     EXPECT_EQ(screen->txtLimit->text(), QStringLiteral("1"));
     screen->cmdFindDelta->click();
     EXPECT_EQ(circles(0, 1, blue), std::vector<double>{60});
+    const auto leave = std::count_if(ops().begin(), ops().end(), [this](const DrawOp& op) {
+        return op.kind == DrawOp::Circle && op.color == colour(4);
+    });
+    EXPECT_EQ(leave, 4) << "where f leaves the band: a dot, filled";
     // The bands' shading, a line every 45 twips across 2 eps and 2 delta at 320 twips a unit; delta
     // is where sin t / t = 1/2, t = 1.8955.
     EXPECT_NEAR(linesIn(colour(10)), 1 + 2 * 0.5 * 320 / 45, 1);
     EXPECT_NEAR(linesIn(colour(11)), 1 + 2 * 1.8955 * 320 / 45, 1);
     EXPECT_TRUE(screen->everyDrawingKept());
+    long dots = 0, off = 0;  // f itself, dotted on its values at every column but x = 0, where it is undefined
+    for (const DrawOp& op : ops())
+        if (op.kind == DrawOp::PSet && op.color == blue) {
+            const double x = screen->graph.plainWorldX(op.x1);
+            ++dots;
+            off += std::fabs(op.y1 - screen->graph.plainRow(std::sin(x) / x)) > 1e-6;
+        }
+    EXPECT_EQ(std::pair(dots, off), std::pair(6398L, 0L));
     // f is the curve the readout names: at x = 2 it gives sin 2 / 2 = 0.4546.
     const QString readout = screen->readoutAt(screen->graph.plainColumn(2), screen->graph.plainRow(0.4546));
     EXPECT_TRUE(readout.contains(QStringLiteral("sin(x)/x")) && readout.contains(QStringLiteral("0.45")))

@@ -77,6 +77,11 @@ TEST_F(MVT, SliderTangentLabelsAndColour)
         EXPECT_EQ(texts({screen->lblFindc, screen->lblSlope2}), QString::fromLatin1(labels)) << value;
     }
     EXPECT_TRUE(hasPoint(5600 + 1.5 * 320, 3300 - 2.25 * 320, colour(2)));  // the tangent touches at c
+    for (const char* answer : {"1.5", "3"}) {  // an x to check, asked by its label: outside (0, 2) it is ignored
+        script.answers = {QString::fromLatin1(answer)};
+        screen->lblFindc_Click();
+        EXPECT_EQ(screen->HscMVT->value(), 15000) << answer;
+    }
     interval("-2|0");
     screen->HscMVT->setValue(5000);
     EXPECT_EQ(screen->lblSlope2->text(), QStringLiteral("Slope =-3"));

@@ -104,6 +104,10 @@ TEST_F(Taylor, WhatIsDrawnAndNothingRaises)
     EXPECT_GT(inColour(12), 100);  // P_2, faint
     EXPECT_GT(inColour(10), 0);  // the band
     EXPECT_TRUE(screen->everyDrawingKept());
+    screen->CleanGraph();
+    for (int i = 0; i < 2; ++i)
+        screen->cmdRemoveTerm->click();  // P_1 = x in red, and P_0 = 0 before it, faint
+    EXPECT_GT(std::min(inColour(4), inColour(12)), 100);
     build(*screen, "ln(x)", "0", 3);  // f drawn, no polynomial
     screen->CleanGraph();
     screen->cmdPlotto->click();
