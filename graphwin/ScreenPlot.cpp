@@ -31,6 +31,8 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
                                                                                 : FuncGlobals::ExplicitSlopes;
         constexpr int kBlock = 256;
         double xs[kBlock], ys[kBlock];
+        const double below = std::nextafter(static_cast<double>(GraphWindow::Bottom), HUGE_VAL);  // rowInside
+        const auto count = static_cast<std::size_t>(std::max(last - first + 1, 0));
         bool mapped = true;
         for (std::int32_t c0 = first; c0 <= last && mapped; c0 += kBlock) {
             int m = 0;
@@ -41,11 +43,8 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
                 mapped = false;
             }
             columns(xs, ys, static_cast<std::size_t>(m));
-            for (int k = 0; k < m; ++k) {
-                const double ty = graph.plainRow(ys[k]);
-                if (GraphWindow::rowInside(ty))
-                    points.point(c0 + k, ty);
-            }
+            graph.plainRows(ys, ys, static_cast<std::size_t>(m));  // NaN, a gap, is never dotted
+            points.runColumns(c0, ys, static_cast<std::size_t>(m), GraphWindow::Top, below, count);
         }
         return;
     }
