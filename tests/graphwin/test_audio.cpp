@@ -109,6 +109,10 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
     EXPECT_TRUE(low->index == 2 || low->index == 3) << low->index;
     // A curve with no sign change, turn or y-axis: nothing, and nothing on an empty or gappy curve.
     EXPECT_FALSE(audio::nearestFeature({{1, 1}, {2, 2}, {3, 3}}, 1));
+    for (const std::vector<audio::Point>& line : {std::vector<audio::Point>{{1, 1}, {2, -1}}, {{1, -1}, {2, 1}}}) {
+        const auto root = audio::nearestFeature(line, 0);  // a crossing between two points, whatever they are
+        EXPECT_TRUE(root && root->kind == Feature::Root && root->x == 1.5);
+    }
     EXPECT_FALSE(audio::nearestFeature({}, 0));
     const double gap = std::nan("");
     EXPECT_FALSE(audio::nearestFeature({{1, -1}, {2, gap}, {3, 1}}, 0)) << "no root across a gap";
