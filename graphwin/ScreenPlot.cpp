@@ -20,6 +20,8 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
         what == FuncGlobals::ExplicitSnapshot::What::Value ? FuncGlobals::ExplicitValue : FuncGlobals::ExplicitSlope;
     const auto first = static_cast<std::int16_t>(graph.firstColumn());
     const auto last = static_cast<std::int16_t>(graph.lastColumn());
+    // rowInside as a run's rows [Top, below): its bottom row included, the run ends at the next row.
+    const double below = std::nextafter(static_cast<double>(GraphWindow::Bottom), HUGE_VAL);
     FirstUseColour colour([] { return rt::Mod(FuncGlobals::FunctionId, 7); });
     LazyBatch points(*surface, colour);
     rt::cleanVectorStateForHotLoop();
@@ -31,7 +33,6 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
                                                                                 : FuncGlobals::ExplicitSlopes;
         constexpr int kBlock = 256;
         double xs[kBlock], ys[kBlock];
-        const double below = std::nextafter(static_cast<double>(GraphWindow::Bottom), HUGE_VAL);  // rowInside
         const auto count = static_cast<std::size_t>(std::max(last - first + 1, 0));
         bool mapped = true;
         for (std::int32_t c0 = first; c0 <= last && mapped; c0 += kBlock) {
@@ -49,16 +50,11 @@ void GraphScreen::drawExplicit(FuncGlobals::ExplicitSnapshot::What what, bool ty
         return;
     }
     // A family's values: the rows in plain arithmetic up to the first that is not finite, a block at
-    // a time (see dotPlainRows; rowInside's bottom row is included: the run ends at the next row after
-    // it); from there on, the checked loop, which raises where its first check fails. A slope is not
+    // a time (see dotPlainRows); from there on, the checked loop, which raises where its first check fails. A slope is not
     // worked out twice at a column (YPrimeFunc counts its calls): it goes through the checked loop only.
     std::int32_t from = first;
     if (what == FuncGlobals::ExplicitSnapshot::What::Value) {
-        const auto values = [](const double* xs, double* ys, std::size_t n, std::size_t& done) {
-            FuncGlobals::ExplicitValuesFrom(xs, ys, n, done);
-        };
-        from = dotPlainRows(graph, points, first, last, values, GraphWindow::Top,
-                            std::nextafter(static_cast<double>(GraphWindow::Bottom), HUGE_VAL));
+        from = dotPlainRows(graph, points, first, last, FuncGlobals::ExplicitValuesFrom, GraphWindow::Top, below);
         if (from > last) {
             if (last == INT16_MAX)  // where the counted loop's next step would overflow
                 rt::raise(rt::Overflow);
