@@ -157,11 +157,16 @@ def main():
                         help="run again only the mutants that an earlier run survived, on today's code (each found "
                              "by its changed line wherever that line has moved); its killed mutants are carried over "
                              "as killed, so that the tests added since are counted")
+    parser.add_argument("--again", metavar="REPORT.json",
+                        help="run every mutant of an earlier run again on today's code, killed and survived alike: "
+                             "after tests were merged or shortened it shows whether they still kill what they "
+                             "killed, and which of the survivors the tests added since kill")
     parser.add_argument("--kill-map", action="store_true",
                         help="for every killed mutant, also list the test cases that fail: a case that alone "
                              "kills a mutant is one a consolidation must keep (slower)")
     args = parser.parse_args()
-    if args.seed is None and not (args.recheck or args.survivors):
+    earlier_run = args.recheck or args.survivors or args.again
+    if args.seed is None and not earlier_run:
         args.seed = int(datetime.date.today().strftime("%Y%m%d"))
     if args.seed is not None:
         print("sample seed %d" % args.seed, flush=True)
@@ -195,12 +200,12 @@ def main():
 
     results = []  # (layer, file, line, op, new, outcome, failing cases)
     started = time.time()
-    if args.recheck or args.survivors:
-        # --recheck runs the earlier run's killed mutants again, --survivors its survivors; the rest
-        # are carried over. Every mutant is found again in today's code (the line as it was at the
-        # earlier run's commit, nearest to where it was, with the same change), so that this run's
-        # results all refer to today's lines.
-        earlier = json.load(open(args.recheck or args.survivors))
+    if earlier_run:
+        # --recheck runs the earlier run's killed mutants again, --survivors its survivors (the rest
+        # are carried over), --again all of them. Every mutant is found again in today's code (the
+        # line as it was at the earlier run's commit, nearest to where it was, with the same change),
+        # so that this run's results all refer to today's lines.
+        earlier = json.load(open(earlier_run))
         args.seed = earlier["seed"]
         current = candidates(tree)
         todo = {layer: [] for layer in LAYERS}
@@ -212,7 +217,7 @@ def main():
             same = [c for c in current if c[1] == rel and c[3] == op and c[4] == new and c[2] in lines]
             if verdict == "gone" or not same:  # the line went with the code around it
                 results.append((layer, rel, number, op, new, "gone", []))
-            elif (verdict == "survived") != bool(args.survivors):
+            elif not args.again and (verdict == "survived") != bool(args.survivors):
                 results.append((layer, rel, min(same, key=lambda c: abs(c[2] - number))[2], op, new, verdict, killers))
             else:
                 todo[layer].append(min(same, key=lambda c: abs(c[2] - number)))
@@ -248,7 +253,8 @@ def main():
              subprocess.check_output(["git", "rev-parse", "--short", "HEAD"], cwd=tree, text=True).strip(),
              (time.time() - started) / 60, "; the survivors of %s carried over, its killed mutants run again"
              % os.path.basename(args.recheck) if args.recheck else "; the killed mutants of %s carried over, its "
-             "survivors run again" % os.path.basename(args.survivors) if args.survivors else ""), "",
+             "survivors run again" % os.path.basename(args.survivors) if args.survivors else "; every mutant of %s run "
+             "again" % os.path.basename(args.again) if args.again else ""), "",
              "| layer / file | mutants | killed | survived | score |", "|---|---:|---:|---:|---:|"]
     def row(name, rs):
         rs = [r for r in rs if r[5] != "gone"]  # a mutant of code that no longer exists counts for nothing
