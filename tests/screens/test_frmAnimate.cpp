@@ -82,13 +82,11 @@ TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurveAndTheStatusFollowsTheT
 TEST(AnimateCounter, StepPastTheLastSixteenBitFrameOverflowsAfterDrawingIt)
 {
     ScriptedDialogs script;
-    {
-        CountingAnimate screen;
-        screen.Form_Activate();
-        type({screen.txtSteps, screen.txtEnd, screen.txtStart}, "32767|32767|0");
-        screen.cmdAnimate->click();
-        EXPECT_EQ(script.errors, std::vector<int>{rt::Overflow});
-        EXPECT_EQ(std::tuple(screen.plots, screen.vscStep->value(), screen.lblSlide->text()),
-                  std::tuple(32768L, 32767, QStringLiteral("32767")));
-    }
+    CountingAnimate screen;  // destroyed before the script
+    screen.Form_Activate();
+    type({screen.txtSteps, screen.txtEnd, screen.txtStart}, "32767|32767|0");
+    screen.cmdAnimate->click();
+    EXPECT_EQ(script.errors, std::vector<int>{rt::Overflow});
+    EXPECT_EQ(std::tuple(screen.plots, screen.vscStep->value(), screen.lblSlide->text()),
+              std::tuple(32768L, 32767, QStringLiteral("32767")));
 }

@@ -97,10 +97,8 @@ TEST_F(Newton, AGuessOutsideTheBoxTheDerivativeAndSelectingTheGuess)
     EXPECT_EQ(screen->txtGuess->selectedText(), QStringLiteral("FirstGuess"));
 }
 
-// After one step from 1 on x^2 - 4 the two guesses are framed; after three (guesses 1, 2.5, 2.05 and
-// 2.000610 in the box): the description
-// says the last two guesses lie 2.05 - 2.00061 = 0.0494 apart, and View, Zoom to the Steps frames the
-// last three guesses with the curve's values there (2.25, 0.2025, 0.0024) and the axis, a tenth to spare.
+// From 1 on x^2 - 4 (guesses 1, 2.5, 2.05, then 2.000610 in the box) the last two lie 0.0494 apart, and
+// Zoom to the Steps frames the last three with the curve's values there and the axis, a tenth to spare.
 TEST_F(Newton, ZoomToTheStepsFramesTheLastGuessesAndTheGapIsDescribed)
 {
     const auto window = [&] {

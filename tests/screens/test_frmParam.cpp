@@ -87,9 +87,6 @@ TEST_F(Param, ZoomOutLabelsAndTheErrorsOfTheStepCount)
     EXPECT_EQ(screen->txtXmax->text(), QStringLiteral("10"));
     press(screen->lblXPar, Qt::LeftButton);
     EXPECT_EQ(FuncGlobals::XtFuncId, 5);
-    screen->mnuYFunc_Click(12);
-    press(screen->lblYPar, Qt::RightButton);
-    EXPECT_EQ(FuncGlobals::YtFuncId, 1);
     press(screen->lblT0, Qt::RightButton);
     press(screen->lblTstep, Qt::LeftButton);
     EXPECT_EQ(texts({screen->txtT0, screen->lblTmin, screen->txtTstep}), QStringLiteral("-1|-1|1001"));

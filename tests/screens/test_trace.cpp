@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Hearing a drawn curve and walking along it from the keyboard, on the screens: what each step says
-// against the curve's own values, the nearest root, the curves to choose from, the points each
-// screen hands to the trace (bars, an integral curve, a parametric curve, a derivative), silence in
-// a typed function's gap, and what a clear forgets.
+// Hearing a drawn curve and walking along it from the keyboard: what each step says against the
+// curve's values, the nearest feature, the curves to choose from, the points each screen hands to the
+// trace, silence in a typed function's gap, and what a clear forgets.
 #include <cmath>
 
 #include <QRegularExpression>
