@@ -16,7 +16,7 @@
 
 namespace {
 
-struct Scripted : ::testing::Test {
+struct Lessons : ::testing::Test {
     ScriptedDialogs script;
     void TearDown() override { forgetTypedFunctions(); }
 };
@@ -29,8 +29,6 @@ struct ScreenCase {
 };
 
 }  // namespace
-
-using Lessons = Scripted;
 
 TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
 {
