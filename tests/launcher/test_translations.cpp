@@ -62,11 +62,15 @@ void expectDistinctLetters(const QList<QAction*>& actions, const std::string& wh
 }
 
 // Each language is installed and the launcher speaks it: English shows the seed's title, every other
-// language a title of its own from its catalogue; and no two entries of a menu share an Alt letter.
-TEST(Translations, EachLanguageIsInstalledAndNoTwoEntriesOfAMenuShareAnAltLetter)
+// language a title of its own from its catalogue. No two entries of a menu share an Alt letter, and every
+// caption of every form fits its control or shows whole in its tooltip (the style draws it shortened) at the
+// smallest and the largest zoom; a grid's headings too (German "Schätzung Nr." is wider than the Newton
+// grid's column at the smallest zoom).
+TEST(Translations, EachLanguagesAltLettersAreDistinctAndEveryCaptionFitsOrShowsWholeInItsTooltip)
 {
     ScriptedDialogs script;
     const QString english = frmGraphingCalc().windowTitle();
+    int shortenedHeadings = 0;
     for (const char* code : kLanguages) {
         InLanguage language(code);
         frmGraphingCalc launcher;
@@ -77,21 +81,6 @@ TEST(Translations, EachLanguageIsInstalledAndNoTwoEntriesOfAMenuShareAnAltLetter
             const std::unique_ptr<GraphScreen> screen = row.make();
             screen->Form_Activate();
             expectDistinctLetters(screen->menuBar->actions(), std::string(code) + " " + row.key);
-        }
-    }
-}
-
-// Every caption of every form fits its control, or shows whole in its tooltip (the style draws it
-// shortened), at the smallest and the largest zoom of a form, in every language; a grid's headings
-// too (German "Schätzung Nr." is wider than the Newton grid's column at the smallest zoom).
-TEST(Translations, EveryCaptionFitsOrShowsWholeInItsTooltip)
-{
-    ScriptedDialogs script;
-    int shortenedHeadings = 0;
-    for (const char* code : kLanguages) {
-        InLanguage language(code);
-        for (const screens::Entry& row : screens::all()) {
-            const std::unique_ptr<GraphScreen> screen = row.make();
             screen->show();
             for (const double zoom : {0.5, 3.0}) {
                 screen->surface->setZoom(zoom);

@@ -20,13 +20,9 @@ namespace {
 using ScreenRow = screens::Entry;
 
 // Texts the classic reading refuses (Val reads them as 0) or overflows.
-const std::vector<QString>& hostileTexts()
-{
-    static const std::vector<QString> texts{QStringLiteral("1e400"),  QStringLiteral("999999999999999999999999"),
-                                            QStringLiteral("-1e308"), QString(400, QLatin1Char('9')),
-                                            QStringLiteral("abc"),    QString()};
-    return texts;
-}
+const QString hostileTexts[] = {QStringLiteral("1e400"),  QStringLiteral("999999999999999999999999"),
+                                QStringLiteral("-1e308"), QString(400, QLatin1Char('9')),
+                                QStringLiteral("abc"),    QString()};
 
 struct Path {
     const char* name;
@@ -91,28 +87,23 @@ const std::vector<Path>& additionPaths()
     return paths;
 }
 
-// Writes `text` into every box of the screen and of its convergence window, without running the
-// boxes' own handlers (whose classic errors belong to a person's typing).
-void fillEveryBox(GraphScreen& s, const QString& text)
-{
-    for (QLineEdit* box : s.findChildren<QLineEdit*>())
-        setQuietly(box, text);
-}
-
 }  // namespace
 
 TEST(Additions, NoPathBeyondTheClassicHandlersRaisesAClassicErrorWhateverTheBoxesHold)
 {
     for (const ScreenRow& row : screens::all())  // with its typed example and its convergence table
         for (bool typed : {false, true})
-            for (const QString& text : hostileTexts()) {
+            for (const QString& text : hostileTexts) {
                 ScriptedDialogs script;
                 const std::unique_ptr<GraphScreen> s = row.make();
                 s->Form_Activate();
                 ASSERT_TRUE(!typed || row.typeExample(*s).isEmpty()) << row.key;
                 s->cmdPlotto->click();  // something drawn, with the defaults
                 ASSERT_TRUE(script.errors.empty()) << row.key;
-                fillEveryBox(*s, text);
+                // Every box of the screen and of its convergence window, without the boxes' own handlers
+                // (whose classic errors belong to a person's typing).
+                for (QLineEdit* box : s->findChildren<QLineEdit*>())
+                    setQuietly(box, text);
                 for (const Path& path : additionPaths()) {
                     const std::string where = std::string(row.key) + (typed ? ", typed, " : ", family, ") + path.name +
                                               ", every box holding \"" + text.left(32).toStdString() + '"';
@@ -157,7 +148,7 @@ TEST(Additions, AConvergenceTableNamesTheBoxThatHoldsNoNumber)
 }
 
 // The tangent screen's description of a typed function's exact tangent says the box's text when it
-// is not a number, and the tangent itself when it is.
+// is not a number (the tangent itself, when it is, is checked with the typed functions).
 TEST(Additions, TheTangentDescriptionSaysABoxThatIsNotANumberInWords)
 {
     ScriptedDialogs script;
@@ -166,9 +157,6 @@ TEST(Additions, TheTangentDescriptionSaysABoxThatIsNotANumberInWords)
     ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^2")), QString());
     setQuietly(s.txtX, QStringLiteral("1e400"));
     EXPECT_TRUE(s.describe().contains(QStringLiteral("No exact tangent: x = 1e400 is not a number.")))
-        << s.describe().toStdString();
-    s.txtX->setText(QStringLiteral("3"));
-    EXPECT_TRUE(s.describe().contains(QStringLiteral("The exact tangent at x = 3: y = 6x + -9.")))
         << s.describe().toStdString();
     EXPECT_TRUE(script.errors.empty());
 }

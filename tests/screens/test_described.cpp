@@ -90,10 +90,12 @@ TEST(Keyboard, MnemonicsAndSteppers)
 {
     ScriptedDialogs script;
     frmGraphingCalc launcher;
+    std::unique_ptr<GraphScreen> screens[] = {make<frmClasses>(), make<frmRiemann>(), make<frmNewton>(),
+                                              make<frmFlowField>(),  make<frmTangent>(), make<frmMVT>(),
+                                              make<frmParam>(),      make<frmAnimate>()};
     std::vector<QWidget*> windows{&launcher};
-    for (QWidget* w : std::initializer_list<QWidget*>{new frmClasses, new frmRiemann, new frmNewton, new frmFlowField,
-                                                      new frmTangent, new frmMVT, new frmParam, new frmAnimate})
-        windows.push_back(w);
+    for (auto& s : screens)
+        windows.push_back(s.get());
     for (QWidget* window : windows) {
         int checked = 0;
         for (QAbstractButton* b : window->findChildren<QAbstractButton*>())
@@ -103,7 +105,7 @@ TEST(Keyboard, MnemonicsAndSteppers)
             }
         EXPECT_GT(checked, 3) << str(window->windowTitle());
     }
-    auto& grapher = static_cast<GraphScreen&>(*windows[1]);
+    GraphScreen& grapher = *screens[0];
     const Shown named(std::make_unique<frmClasses>());  // a stepper is a button named by what it does
     const auto spoken = [](QWidget* w) { return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name); };
     EXPECT_EQ(spoken(named.screen->lblA) + '|' + spoken(named.screen->lblXmaxR) + '|' + spoken(named.screen->txtYmin) +
@@ -125,9 +127,6 @@ TEST(Keyboard, MnemonicsAndSteppers)
     }
     QTest::keyClick(grapher.lblFunc, Qt::Key_Left);
     EXPECT_EQ(FuncGlobals::FunctionId, 15);
-    for (std::size_t i = 1; i < windows.size(); ++i) {  // each screen's File menu: About, a separator, Exit
-        auto* g = static_cast<GraphScreen*>(windows[i]);
+    for (auto& g : screens)  // each screen's File menu: About, a separator, Exit
         EXPECT_EQ(g->mnuFile->menu()->actions(), (QList<QAction*>{g->mnuAbout, g->sep1, g->mnuExit}));
-        delete windows[i];
-    }
 }

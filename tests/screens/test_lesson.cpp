@@ -16,7 +16,7 @@
 
 namespace {
 
-struct Scripted : ::testing::Test {
+struct Lessons : ::testing::Test {
     ScriptedDialogs script;
     void TearDown() override { forgetTypedFunctions(); }
 };
@@ -29,8 +29,6 @@ struct ScreenCase {
 };
 
 }  // namespace
-
-using Lessons = Scripted;
 
 TEST_F(Lessons, EveryScreenComesBackAsItWasSaved)
 {
@@ -317,19 +315,13 @@ TEST_F(Lessons, TheFuzzersLessonsNeverEndTheProgram)
     const std::vector<QByteArray> examples = fuzzing::exampleLessons(QStringLiteral(PLOTTO_SOURCE_DIR));
     ASSERT_EQ(examples.size(), 6u);
     fuzzing::LessonScreens screens;
-    int replayed = 0, refused = 0;
-    for (const char* folder : {"/fuzz/lesson-seeds", "/fuzz/lesson-regressions"}) {
-        const QDir dir(QStringLiteral(PLOTTO_SOURCE_DIR) + QString::fromLatin1(folder));
-        for (const QString& name : dir.entryList(QDir::Files, QDir::Name)) {
-            QFile file(dir.filePath(name));
-            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-            const QByteArray bytes = file.readAll();
-            const QByteArray text = fuzzing::damagedLesson(
-                examples, reinterpret_cast<const std::uint8_t*>(bytes.data()), static_cast<std::size_t>(bytes.size()));
-            EXPECT_EQ(fuzzing::checkLessonText(text, std::ref(screens), &refused), "") << name.toStdString();
-            ++replayed;
-        }
-    }
+    int refused = 0;
+    const int replayed = replayEach(
+        {PLOTTO_SOURCE_DIR "/fuzz/lesson-seeds", PLOTTO_SOURCE_DIR "/fuzz/lesson-regressions"}, [&](const std::string& bytes) {
+            const QByteArray text =
+                fuzzing::damagedLesson(examples, reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+            return fuzzing::checkLessonText(text, std::ref(screens), &refused);
+        });
     EXPECT_GE(replayed, 31);
     EXPECT_GE(refused, 1);
     EXPECT_TRUE(script.errors.empty());

@@ -100,17 +100,11 @@ TEST_F(TypedSums, OneOverXMeetsItsPoleInWords)
 
 TEST_F(TypedSums, ARefusedTextChangesNothingAndAFamilyComesBack)
 {
+    // The reader's messages are checked with the reader; the screen says one and keeps its function.
     const QString before = screen->lblFunc->text();
-    const std::pair<const char*, const char*> refused[] = {
-        {"sinn(x)", "unknown name 'sinn' at 1"},
-        {"sin(x + (1 - x)", "missing ')' at 16"},
-        {"2x + 1", "missing '*': write 2*x for a product at 2"},
-    };
-    for (const auto& [text, message] : refused) {
-        EXPECT_EQ(screen->setTypedFunction(QString::fromUtf8(text)), QString::fromUtf8(message));
-        EXPECT_EQ(screen->lblFunc->text(), before);
-        EXPECT_EQ(FuncGlobals::TypedExplicit, nullptr);
-    }
+    EXPECT_EQ(screen->setTypedFunction(QStringLiteral("2x + 1")), QStringLiteral("missing '*': write 2*x for a product at 2"));
+    EXPECT_EQ(screen->lblFunc->text(), before);
+    EXPECT_EQ(FuncGlobals::TypedExplicit, nullptr);
     ASSERT_EQ(screen->setTypedFunction(QStringLiteral("x")), QString());
     type({screen->txtLBound, screen->txtRBound, screen->txtParts}, "0|2|4");
     screen->chkLeft->setChecked(true);
