@@ -32,32 +32,58 @@ DeltaSearch delta(const char* f, double a, double L, double eps)
 }
 }  // namespace
 
-TEST(EpsilonDelta, LargestDeltaAgainstWhereTheGraphMeetsTheBand)
+// The largest delta against where the graph meets L +- eps, worked out by hand; no delta where points
+// arbitrarily close to a leave the band; the reason when nothing is searched.
+TEST(EpsilonDelta, LargestDeltaOrWhyThereIsNone)
 {
+    using Outcome = DeltaSearch::Outcome;
+    // The words' start; for a delta found, whether nothing leaves the band before the window's edge and
+    // how many sides of a have f undefined.
     // clang-format off
-    const struct { const char* name; const char* f; double a, L, eps, delta; bool edge; int undefinedSides; } rows[] = {
+    const struct { const char* name; const char* f; double a, L, eps; Outcome outcome; const char* says;
+                   double delta = 0; bool edge = false; int undefinedSides = 0; } rows[] = {
         // 2(1 + t) + 3 - 5 = 2t reaches 0.5 at t = 0.25, on both sides.
-        {"2x + 3 at 1", "2*x + 3", 1, 5, 0.5, 0.25, false, 0},
+        {"2x + 3 at 1", "2*x + 3", 1, 5, 0.5, Outcome::Found, "", 0.25},
         // (2 + t)^2 = 4.5 on the right comes before (2 - t)^2 = 3.5 on the left.
-        {"x^2 at 2", "x^2", 2, 4, 0.5, std::sqrt(4.5) - 2, false, 0},
+        {"x^2 at 2", "x^2", 2, 4, 0.5, Outcome::Found, "", std::sqrt(4.5) - 2},
         // sin t / t = 1/2 at the nonzero root of sin t = t/2; f(0) itself is undefined.
-        {"sin(x)/x at 0 (a hole)", "sin(x)/x", 0, 1, 0.5, 1.8954942670339809, false, 0},
-        {"x^3 at 0", "x^3", 0, 0, 0.001, 0.1, false, 0},
+        {"sin(x)/x at 0 (a hole)", "sin(x)/x", 0, 1, 0.5, Outcome::Found, "", 1.8954942670339809},
+        {"x^3 at 0", "x^3", 0, 0, 0.001, Outcome::Found, "", 0.1},
         // sqrt t = 1/2 at t = 1/4; the left side is outside the domain.
-        {"sqrt(x) at 0", "sqrt(x)", 0, 0, 0.5, 0.25, false, 1},
+        {"sqrt(x) at 0", "sqrt(x)", 0, 0, 0.5, Outcome::Found, "", 0.25, false, 1},
         // Nothing leaves the band 5 +- 100: the nearer edge, x = 10, is 9 away.
-        {"a wide band", "2*x + 3", 1, 5, 100, 9, true, 0},
+        {"a wide band", "2*x + 3", 1, 5, 100, Outcome::Found, "", 9, true},
         // The jump is inside the band 0 +- 2.
-        {"x/abs(x) with a wide band", "x/abs(x)", 0, 0, 2, 10, true, 0},
+        {"x/abs(x) with a wide band", "x/abs(x)", 0, 0, 2, Outcome::Found, "", 10, true},
+        {"a jump, L between the sides", "x/abs(x)", 0, 0, 0.5, Outcome::NoDelta,
+         "For ε = 0.5 no δ works: points arbitrarily close to a leave the band"},
+        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5, Outcome::NoDelta, ""},
+        {"a pole", "1/x", 0, 0, 0.5, Outcome::NoDelta, ""},
+        {"an oscillation", "sin(1/x)", 0, 0, 0.5, Outcome::NoDelta, ""},
+        {"a wrong L", "2*x + 3", 1, 6, 0.5, Outcome::NoDelta, ""},
+        {"an L just outside the band", "x^2", 2, 4.5, 0.5, Outcome::NoDelta, ""},
+        {"eps 0", "2*x + 3", 1, 5, 0, Outcome::Refused, "ε must be a positive number."},
+        {"eps negative", "2*x + 3", 1, 5, -0.5, Outcome::Refused, "ε must be a positive number."},
+        {"eps not a number", "2*x + 3", 1, 5, NAN, Outcome::Refused, "ε must be a positive number."},
+        {"a outside the window", "2*x + 3", 12, 5, 0.5, Outcome::Refused,
+         "a = 12 is not inside the window from -10 to 10"},
+        {"a on its edge", "2*x + 3", 10, 5, 0.5, Outcome::Refused, "a = 10 is not inside the window"},
+        {"eps lost in rounding", "2*x + 3", 1, 5, 1e-12, Outcome::Refused, "ε = 1e-12 is below what rounding in f"},
+        {"nowhere defined", "sqrt(-1 - x^2)", 0, 0, 0.5, Outcome::Refused, ""},
     };
     // clang-format on
     for (const auto& r : rows) {
         const DeltaSearch d = delta(r.f, r.a, r.L, r.eps);
-        ASSERT_EQ(d.outcome, DeltaSearch::Outcome::Found) << r.name << ": " << d.words;
-        EXPECT_NEAR(d.delta, r.delta, 1e-11 * r.delta) << r.name;
-        EXPECT_LE(d.delta, r.delta * (1 + 1e-15)) << r.name << ": a delta that works is never past the true one";
-        EXPECT_EQ(d.reachesEdge, r.edge) << r.name;
-        EXPECT_EQ(d.undefinedSides, r.undefinedSides) << r.name;
+        EXPECT_EQ(d.outcome, r.outcome) << r.name << ": " << d.words;
+        EXPECT_EQ(d.words.rfind(r.says, 0), 0u) << r.name << ": " << d.words;
+        if (r.outcome == Outcome::Found) {
+            EXPECT_NEAR(d.delta, r.delta, 1e-11 * r.delta) << r.name;
+            EXPECT_LE(d.delta, r.delta * (1 + 1e-15)) << r.name << ": a delta that works is never past the true one";
+            EXPECT_EQ(std::pair(d.reachesEdge, d.undefinedSides), std::pair(r.edge, r.undefinedSides)) << r.name;
+        } else if (r.outcome == Outcome::NoDelta) {
+            EXPECT_LT(std::fabs(d.closeX - r.a), 1e-12) << r.name;
+            EXPECT_GE(std::fabs(d.closeY - r.L), r.eps) << r.name;
+        }
     }
     const DeltaSearch x2 = delta("x^2", 2, 4, 0.5);
     EXPECT_NEAR(x2.leaveX, std::sqrt(4.5), 1e-11);
@@ -68,46 +94,6 @@ TEST(EpsilonDelta, LargestDeltaAgainstWhereTheGraphMeetsTheBand)
     const DeltaSearch ln = delta("ln(x)", 1, 0, 1);
     EXPECT_NEAR(ln.delta, 1 - std::exp(-1.0), 1e-12);
     EXPECT_NE(ln.words.find("f is undefined at some x of the window"), std::string::npos) << ln.words;
-}
-
-TEST(EpsilonDelta, NoDeltaWherePointsArbitrarilyCloseLeaveTheBand)
-{
-    // clang-format off
-    const struct { const char* name; const char* f; double a, L, eps; } rows[] = {
-        {"a jump, L between the sides", "x/abs(x)", 0, 0, 0.5},
-        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5}, {"a pole", "1/x", 0, 0, 0.5},
-        {"an oscillation", "sin(1/x)", 0, 0, 0.5}, {"a wrong L", "2*x + 3", 1, 6, 0.5},
-        {"an L just outside the band", "x^2", 2, 4.5, 0.5},
-    };
-    // clang-format on
-    for (const auto& r : rows) {
-        const DeltaSearch d = delta(r.f, r.a, r.L, r.eps);
-        EXPECT_EQ(d.outcome, DeltaSearch::Outcome::NoDelta) << r.name << ": " << d.words;
-        EXPECT_LT(std::fabs(d.closeX - r.a), 1e-12) << r.name;
-        EXPECT_GE(std::fabs(d.closeY - r.L), r.eps) << r.name;
-    }
-    EXPECT_EQ(delta("x/abs(x)", 0, 0, 0.5)
-                  .words.rfind("For ε = 0.5 no δ works: points arbitrarily close to a leave the band", 0),
-              0u);
-}
-
-TEST(EpsilonDelta, WhatIsNotSearchedIsSaid)
-{
-    // clang-format off
-    const struct { const char* name; double a, eps; const char* says; } rows[] = {
-        {"eps 0", 1, 0, "ε must be a positive number."}, {"eps negative", 1, -0.5, "ε must be a positive number."},
-        {"eps not a number", 1, NAN, "ε must be a positive number."},
-        {"a outside the window", 12, 0.5, "a = 12 is not inside the window from -10 to 10"},
-        {"a on its edge", 10, 0.5, "a = 10 is not inside the window"},
-        {"eps lost in rounding", 1, 1e-12, "ε = 1e-12 is below what rounding in f"},
-    };
-    // clang-format on
-    for (const auto& r : rows) {
-        const DeltaSearch d = delta("2*x + 3", r.a, 5, r.eps);
-        EXPECT_EQ(d.outcome, DeltaSearch::Outcome::Refused) << r.name;
-        EXPECT_EQ(d.words.rfind(r.says, 0), 0u) << r.name << ": " << d.words;
-    }
-    EXPECT_EQ(delta("sqrt(-1 - x^2)", 0, 0, 0.5).outcome, DeltaSearch::Outcome::Refused);
 }
 
 TEST(EpsilonDelta, TheLimitFromBothSides)

@@ -103,9 +103,8 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
         EXPECT_THROW(form::buildForm(&parent, {row}), std::logic_error) << what;
 }
 
-TEST(CopyKey, ABoxWithoutASelectionLeavesCtrlCToTheWindow)
+TEST_F(Controls, ABoxWithoutASelectionLeavesCtrlCToTheWindow)
 {
-    QWidget parent;
     TextBox box(&parent, QStringLiteral("12"));
     for (bool selected : {false, true}) {
         if (selected)
@@ -116,9 +115,8 @@ TEST(CopyKey, ABoxWithoutASelectionLeavesCtrlCToTheWindow)
     }
 }
 
-TEST(DoubleClick, ItsSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
+TEST_F(Controls, ADoubleClicksSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
 {
-    QWidget parent;
     ClickLabel label(&parent, QStringLiteral("A="), true);
     label.resize(40, 20);
     int presses = 0, doubles = 0, clicks = 0;
@@ -135,26 +133,22 @@ TEST(DoubleClick, ItsSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
 
 // A raised error is held by the innermost hold, the first one only, by either way of reporting it;
 // a hold gone puts back the one around it, and with none the classic report comes.
-TEST(ErrorHold, TheInnermostHoldKeepsTheFirstErrorAndPutsBackTheOuterOne)
+TEST_F(Controls, TheInnermostErrorHoldKeepsTheFirstErrorAndPutsBackTheOuterOne)
 {
-    DialogScript script;
-    setDialogScript(&script);
-    QWidget source;
     {
         RuntimeErrorHold outer;
         {
             RuntimeErrorHold inner;
             reportRuntimeError(rt::RuntimeError(rt::Overflow));
-            reportRuntimeErrorFrom(&source, rt::RuntimeError(rt::DivisionByZero));
+            reportRuntimeErrorFrom(&parent, rt::RuntimeError(rt::DivisionByZero));
             EXPECT_EQ(std::pair(inner.first(), outer.first()), std::pair(6, 0));
         }
-        reportRuntimeErrorFrom(&source, rt::RuntimeError(rt::DivisionByZero));
+        reportRuntimeErrorFrom(&parent, rt::RuntimeError(rt::DivisionByZero));
         EXPECT_EQ(outer.first(), 11);
     }
     EXPECT_TRUE(script.errors.empty());
     reportRuntimeError(rt::RuntimeError(rt::Overflow));
     EXPECT_EQ(script.errors, std::vector<int>{6});
-    setDialogScript(nullptr);
 }
 
 TEST(FullScreenKey, ReturnsToTheStateBefore)
@@ -170,15 +164,13 @@ TEST(FullScreenKey, ReturnsToTheStateBefore)
     }
 }
 
-// A grid's columns and rows, and a font in pixels, grow with the form's zoom.
-TEST(Zoomed, GridColumnsRowsAndPixelFonts)
+TEST_F(Controls, AGridsColumnsRowsAndAPixelFontGrowWithTheFormsZoom)
 {
-    QWidget window;
-    Grid grid(&window, 3, 2);
+    Grid grid(&parent, 3, 2);
     grid.setColumnWidthTwips(1, 1500);
     grid.applyZoom(2);
     EXPECT_EQ(std::pair(grid.columnWidth(1), grid.verticalHeader()->defaultSectionSize()), std::pair(200, 34));
-    FormStyle::setWindowZoom(&window, 1.5);
+    FormStyle::setWindowZoom(&parent, 1.5);
     QFont pixels;
     pixels.setPixelSize(10);
     EXPECT_EQ(FormStyle::zoomed(pixels, &grid).pixelSize(), 15);
