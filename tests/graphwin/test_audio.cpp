@@ -120,18 +120,6 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
         << "no turn across a gap";
 }
 
-TEST(AudioTrace, CoordinatesSaidToThePrecisionOfAPixel)
-{
-    // clang-format off
-    const struct { double value, resolution; const char* said; } cases[] = {
-        {1.25, 0.047, "1.25"}, {3.5625, 0.047, "3.56"}, {2.0000000001, 0.047, "2"}, {-0.0001, 0.047, "0"},
-        {-1.5, 0.047, "-1.5"}, {1234.5678, 4.7, "1235"}, {0.001234, 4.7e-5, "0.00123"}, {7, 0, "7"},
-        {std::nan(""), 0.05, "undefined"}, {3e12, 1, "3e+12"}, {5e-10, 1e-12, "5e-10"}};
-    // clang-format on
-    for (const auto& c : cases)
-        EXPECT_EQ(audio::spoken(c.value, c.resolution), c.said) << c.value << " at " << c.resolution;
-}
-
 TEST(TracePlayer, EncodesTheSamplesInTheDevicesFormat)
 {
     const std::vector<float> stereo = {0.5f, -0.5f, 2.0f, -2.0f};  // two frames, the second beyond full scale

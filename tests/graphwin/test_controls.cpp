@@ -163,27 +163,3 @@ TEST(FullScreenKey, ReturnsToTheStateBefore)
         EXPECT_EQ(window.windowState(), before);
     }
 }
-
-TEST_F(Controls, AGridsColumnsRowsAndAPixelFontGrowWithTheFormsZoom)
-{
-    Grid grid(&parent, 3, 2);
-    grid.setColumnWidthTwips(1, 1500);
-    grid.applyZoom(2);
-    EXPECT_EQ(std::pair(grid.columnWidth(1), grid.verticalHeader()->defaultSectionSize()), std::pair(200, 34));
-    FormStyle::setWindowZoom(&parent, 1.5);
-    QFont pixels;
-    pixels.setPixelSize(10);
-    EXPECT_EQ(FormStyle::zoomed(pixels, &grid).pixelSize(), 15);
-}
-
-TEST(FormStyleMarks, ATickedBoxAndAChosenOptionShowIt)
-{
-    installFormStyle();
-    QCheckBox box(QStringLiteral("Left"));
-    QRadioButton option(QStringLiteral("Euler"));
-    for (QAbstractButton* b : std::initializer_list<QAbstractButton*>{&box, &option}) {
-        const QImage off = b->grab().toImage();
-        b->setChecked(true);
-        EXPECT_NE(b->grab().toImage(), off) << b->metaObject()->className();
-    }
-}

@@ -79,27 +79,6 @@ TEST(Language, NumbersShowAndReadWithTheLanguagesSeparator)
     EXPECT_EQ(i18n::typedDecimals(QStringLiteral("1.5")), QStringLiteral("1.5"));
 }
 
-TEST(Language, ACaptionTooLongForItsButtonShowsWholeInTheTooltip)
-{
-    QWidget form;
-    QPushButton button(QStringLiteral("&Short"), &form);
-    form.show();  // a hidden widget hears of its resizing only when it is shown
-    button.resize(400, 30);
-    caption::watch(&button);
-    EXPECT_TRUE(caption::fits(&button));
-    EXPECT_EQ(button.toolTip(), QString());
-    const QString whole = QStringLiteral("A caption far too long for a button forty pixels wide");
-    button.setText(whole);
-    button.resize(40, 30);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(caption::fits(&button));
-    EXPECT_EQ(std::pair(button.toolTip(), button.text()), std::pair(whole, whole))
-        << "the text itself stays whole, for the screen reader";
-    button.resize(2000, 30);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(button.toolTip(), QString());
-}
-
 // funclib writes English; the screen shows the sentence in the language, the place and the typed
 // text kept, a number with the language's separator, a refusal inside a refusal translated too.
 TEST(Language, FunclibsSentencesShowInTheLanguageWithTheirPlacesAndNumbers)

@@ -89,33 +89,6 @@ TEST(Zoom, PressesGiveTheSameTwipsAndThePictureIsDrawnAgainAtEverySize)
     EXPECT_EQ(grab(s), before);
 }
 
-// Kept batches drawn again at another size: each batch in its own colour, its segments joined into
-// paths where one begins where the last ended, and never joined to the batch before.
-TEST(Zoom, KeptBatchesOfSegmentsAreDrawnAgainAsTheyWereDrawnOneByOne)
-{
-    using Segment = std::array<double, 4>;  // from (x1, y1) to (x2, y2)
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const std::vector<std::pair<QRgb, std::vector<Segment>>> batches = {
-        {kRed, {{300, 300, 1200, 900}, {1200, 900, 1500, 300}, {1500, 300, 1507, 301}}},
-        {kBlue, {{1507, 301, 2700, 2700}, {2700, 2700, 300, 2500}}},  // goes on from the red end
-        {kRed, {{nan, 0, 600, 600}, {600, 600, 600, 2900}, {0, 1500, 2900, 1500}, {2900, 1500, 2900, 100}}},
-        {kBlue, {{-0.0, 0, 900, 0}, {0, 0, 0, 900}}},
-    };
-    DrawingSurface one(3000, 3000), batched(3000, 3000);
-    one.setBatching(false);
-    for (DrawingSurface* s : {&one, &batched})
-        for (const auto& [colour, segments] : batches) {
-            DrawingSurface::Batch b(*s, colour);
-            for (const auto& [x1, y1, x2, y2] : segments)
-                b.line(x1, y1, x2, y2);
-        }
-    for (double zoom : {1.0, 2.0, 0.5, 3.25}) {
-        one.setZoom(zoom);
-        batched.setZoom(zoom);
-        EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000))) << zoom;
-    }
-}
-
 // Column runs in chunks: the kept store counts their dotted points as the one-by-one drawing counts
 // its points (and one more for each kept batch), and both agree at another size once full.
 TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
@@ -144,34 +117,6 @@ TEST(Zoom, ColumnRunsFillWhatIsKeptAsTheirPointsOneByOneDo)
     EXPECT_EQ(batched.picture(QRectF(0, 0, 3000, 3000)), one.picture(QRectF(0, 0, 3000, 3000)));
     batched.Cls();
     EXPECT_EQ(batched.keptOperations(), 0u) << "a clear keeps nothing";
-}
-
-TEST(DrawingSurface, TheMarkersCaptionIsWrittenOverThePicture)
-{
-    DrawingSurface s(3000, 3000);
-    const QRectF area(0, 0, 3000, 3000);
-    s.setMarker(QPointF(1500, 1500), QString(), area);
-    const QImage bare = s.grab().toImage();
-    s.setMarker(QPointF(1500, 1500), QStringLiteral("Root at x = 2, y = 0"), area);
-    EXPECT_NE(s.grab().toImage(), bare);
-}
-
-TEST(DrawWidthScope, PutsBackTheWidthThereWasHoweverTheScopeEnds)
-{
-    DrawingSurface s(3000, 3000);
-    s.setDrawWidth(2);
-    {
-        DrawWidthScope wide(s, DrawingStyle::kMarkWidth);
-        EXPECT_EQ(s.drawWidth(), 3);
-    }
-    EXPECT_EQ(s.drawWidth(), 2);
-    EXPECT_THROW(
-        {
-            DrawWidthScope wide(s, 7);
-            rt::raise(rt::Overflow);
-        },
-        rt::RuntimeError);
-    EXPECT_EQ(s.drawWidth(), 2) << "a run-time error inside leaves the width as it was";
 }
 
 TEST(GraphWindow, MapsTheWindowOntoTheSquareAndBack)

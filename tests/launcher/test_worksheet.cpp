@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lessons as worksheets: the blanks of a line of results, the program run from the command line with
-// no display (its pages, its blanks and answers, what it says of files it cannot read or write), and
-// the menu entry that runs it.
+// Lessons as worksheets: the program run from the command line with no display (its pages, its
+// blanks and answers, what it says of files it cannot read or write), and the menu entry that runs it.
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -55,34 +54,6 @@ int pages(const QString& pdf)
 QString example(const char* name) { return QStringLiteral(PLOTTO_SOURCE_DIR "/examples/") + QLatin1String(name); }
 
 }  // namespace
-
-// A number written as a result becomes a box; what the step gives, a label of a list, a power and a
-// digit inside a name stay.
-TEST(Worksheet, TheBlanksOfALineOfResults)
-{
-    const QString family = QStringLiteral("y = Ax^2 + Bx + C with A = 1, B = 0, C = -4");
-    const QString newton = QStringLiteral("Newton's method on ") + family;
-    const QString none = QStringLiteral("Area under the curve from -2 to 2 with 8 partitions.");
-    // clang-format off
-    const struct { const char* name; QString line, given, blank; } cases[] = {
-        {"a sum", QStringLiteral("Left Endpoint (ticked): =  5.5"), {},
-         QStringLiteral("Left Endpoint (ticked): =  ") + kBox},
-        {"a list", QStringLiteral("Guesses: 1: 2; 2: 2.1; 3: -2.09e-3."), {},
-         QStringLiteral("Guesses: 1: %1; 2: %1; 3: %1.").arg(kBox)},
-        {"names and powers", QStringLiteral("P_7 at x^2 is x3 = 0.25"), {},
-         QStringLiteral("P_7 at x^2 is x3 = ") + kBox},
-        {"the function given", newton + QStringLiteral(": c = 1.5"), family, newton + QStringLiteral(": c = ") + kBox},
-        {"a decimal comma", QStringLiteral("Vermutungen: 1: 2; 2: 2,1; 3: 2,09."), {},
-         QStringLiteral("Vermutungen: 1: %1; 2: %1; 3: %1.").arg(kBox)},
-        {"a whole number before a full stop", QStringLiteral("c = 2."), {}, QStringLiteral("c = ") + kBox + "."},
-        {"no result", none, {}, none}};
-    // clang-format on
-    for (const auto& c : cases) {
-        EXPECT_EQ(worksheet::blanked(c.line, true, c.given), c.blank) << c.name;
-        EXPECT_EQ(worksheet::blanked(c.line, false, c.given), c.line) << c.name;
-    }
-    EXPECT_EQ(worksheet::answersPath(QStringLiteral("/tmp/week 3.pdf")), QStringLiteral("/tmp/week 3-answers.pdf"));
-}
 
 // plotto LESSON --worksheet OUT.pdf with no display: a page a step (the Newton lesson's four), its
 // numbers as text; --blank leaves them out and writes them to the answers beside it.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The graph leaving the program: the vector drawing against the screen's own picture for every
-// screen's showcase, the three file formats as other programs read them, the page fitted for
-// printing, and what a bad file name does.
+// screen's showcase, the three file formats as other programs read them, and what a bad file name
+// does.
 #include <QDir>
 #include <QImage>
 #include <QPainter>
@@ -153,38 +153,6 @@ TEST(Export, FilesOfEachFormatAsOtherProgramsReadThem)
         toolOutput(QStandardPaths::findExecutable(QStringLiteral("pdftotext")), {pdf, QStringLiteral("-")});
     EXPECT_TRUE(text.contains(QStringLiteral("Window: x from"))) << text.toStdString();
     EXPECT_TRUE(text.contains(screen->txtXmax->text())) << text.toStdString();
-}
-
-// Printing fits the page to the paper with its shape kept: on a tall page the graph is as wide as the
-// paper, and on a wide one as tall, and square either way.
-TEST(Export, PageFittedWithItsShapeKept)
-{
-    const screens::Entry& row = *screens::find(QStringLiteral("newton"));
-    std::unique_ptr<GraphScreen> screen = row.make();
-    row.showcase(*screen);
-    graphexport::Options bare;
-    bare.caption = false;
-    const QSizeF page = graphexport::pageTwips(screen->exportedGraph(), bare);
-    struct Paper {
-        const char* name;
-        QSize size;
-    };
-    for (const Paper& paper : {Paper{"tall", {400, 900}}, Paper{"wide", {900, 400}}}) {
-        QImage image(paper.size, QImage::Format_RGB32);
-        image.fill(Qt::gray);
-        screen->printGraph(image, QRectF(QPointF(0, 0), paper.size), bare);
-        // The page is painted white over the grey paper: its white rectangle is the fitted page.
-        QRect white;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                if (image.pixel(x, y) != QColor(Qt::gray).rgb())
-                    white |= QRect(x, y, 1, 1);
-        const double k = std::min(paper.size.width() / page.width(), paper.size.height() / page.height());
-        EXPECT_NEAR(white.width(), page.width() * k, 1.5) << paper.name;
-        EXPECT_NEAR(white.height(), page.height() * k, 1.5) << paper.name;
-        EXPECT_EQ(white.top(), 0) << paper.name;
-        EXPECT_NEAR(white.center().x(), paper.size.width() / 2.0, 1.5) << paper.name;
-    }
 }
 
 // A file name that says no format, a folder that does not exist, a name that is a folder: a message

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sums without a window: the areas of y = x^2 on [0, 2] with 4 partitions worked out by hand,
-// the heights each sum hands to its sink, Simpson's refusal of an odd count, the random sums within
-// their bounds, and what a gap or the error value does to a sum.
+// the heights each sum hands to its sink, Simpson's refusal of an odd count, and what a gap or the
+// error value does to a sum.
 #include <cmath>
 #include <vector>
 
@@ -53,28 +53,6 @@ TEST(RiemannSums, AreasOfXSquaredOnZeroToTwoWithFourPartitions)
     const Result odd =
         RiemannSums::simpson(square, 0, 0.5, 3, [&](double, double, double, double, double) { ++pairs; });
     EXPECT_TRUE(odd.odd && odd.area == 0 && pairs == 0);
-}
-
-TEST(RiemannSums, RandomSumsStayWithinTheirBoundsAndCoverTheInterval)
-{
-    // x^2 rises on [0, 2]: a random point's height lies between its interval's ends, and the
-    // intervals follow one another from 0 to 2.
-    for (bool widths : {false, true}) {
-        RiemannSums::RandomPointArray points;
-        double from = 0;
-        int count = 0;
-        const auto bar = [&](double a, double b, double y) {
-            EXPECT_DOUBLE_EQ(a, from);
-            EXPECT_TRUE(a <= b && square(a) <= y && y <= square(b)) << a << " " << b << " " << y;
-            from = b;
-            ++count;
-        };
-        const Result r = widths ? RiemannSums::randomWidths(square, 0, 2, 50, points, bar)
-                                : RiemannSums::randomPoint(square, 0, 0.04, 50, bar);
-        EXPECT_EQ(count, 50);
-        EXPECT_NEAR(from, 2, 1e-12);
-        EXPECT_NEAR(r.area, 8.0 / 3, 0.5);
-    }
 }
 
 TEST(RiemannSums, GapsAndTheErrorValue)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Hearing a drawn curve and walking along it from the keyboard: what each step says against the
-// curve's values, the nearest feature, the curves to choose from, the points each screen hands to the
-// trace, silence in a typed function's gap, and what a clear forgets.
+// curve's values, the curves to choose from, the points each screen hands to the trace, silence in a
+// typed function's gap, and what a clear forgets.
 #include <cmath>
 
 #include <QRegularExpression>
-
-#include "graphwin/TracePlayer.h"
 
 #include "ScreenFixture.h"
 
@@ -24,7 +22,6 @@ struct Trace : ScreenFixture<Screen> {
 using TraceGrapher = Trace<frmClasses>;
 using TraceSums = Trace<frmRiemann>;
 using TraceField = Trace<frmFlowField>;
-using TraceCurve = Trace<frmParam>;
 
 // The x and y a step says ("x = 1.25, y = 3.56"); NaN for y when it says "undefined".
 std::pair<double, double> coordinates(const QString& said)
@@ -88,26 +85,6 @@ TEST_F(TraceGrapher, SaysAsManyDecimalsAsAPixelOfTheWindowTellsApart)
         << screen->announcement().toStdString();  // the window's right edge, n.n5
 }
 
-TEST_F(TraceGrapher, TheNearestRootOfXSquaredMinusFourFromNearThree)
-{
-    screen->txtD->setText(QStringLiteral("-4"));
-    screen->cmdPlotto->click();
-    while (coordinates(press(Qt::Key_Right)).first < 3) { }
-    EXPECT_EQ(press(Qt::Key_N), QStringLiteral("Root at x = 2, y = 0"));
-    EXPECT_NEAR(screen->surface->marker()->x(), 2400 + 12.0 / 20 * 6400, 1e-6);
-    // From the root the walk goes on from there; the next nearest feature from the middle is the turn.
-    press(Qt::Key_Home);
-    for (int i = 0; i < 5; ++i)
-        press(Qt::Key_Right, Qt::ControlModifier);
-    EXPECT_EQ(press(Qt::Key_N), QStringLiteral("Minimum at x = 0, y = -4"));
-    // A curve with nothing to find says so.
-    screen->cmdClean->click();
-    screen->txtA->setText(QStringLiteral("0"));
-    screen->txtD->setText(QStringLiteral("3"));
-    screen->cmdPlotto->click();
-    EXPECT_EQ(press(Qt::Key_N), QStringLiteral("Crosses the y-axis at x = 0, y = 3"));
-}
-
 TEST_F(TraceGrapher, UpAndDownChooseAmongTheCurvesDrawnAndAClearForgetsThem)
 {
     screen->cmdPlotto->click();
@@ -151,24 +128,6 @@ TEST_F(TraceGrapher, ATypedLogarithmIsSilentWhereItIsUndefined)
     EXPECT_EQ(press(Qt::Key_N), QStringLiteral("Root at x = 1, y = 0"));
 }
 
-TEST_F(TraceGrapher, WithoutASoundDeviceTheTraceSaysSoOnceAndChangesNothingElse)
-{
-    if (audio::hasDevice())
-        GTEST_SKIP() << "this machine has a sound device";
-    screen->mnuHearCurve_Click();
-    EXPECT_EQ(screen->announcement(), QStringLiteral("Nothing is drawn to hear yet."));
-    screen->cmdPlotto->click();
-    const long drawn = count(DrawOp::PSet);
-    screen->mnuHearCurve_Click();
-    EXPECT_TRUE(screen->announcement().startsWith(QStringLiteral("No sound device")))
-        << screen->announcement().toStdString();
-    const QString walked = press(Qt::Key_Right);
-    screen->mnuHearCurve->trigger();
-    EXPECT_EQ(screen->announcement(), walked) << "said once in a run";
-    EXPECT_EQ(count(DrawOp::PSet), drawn);
-    EXPECT_TRUE(script.errors.empty() && script.shown.empty());
-}
-
 TEST_F(TraceSums, TheTraceOfTheSumsIsTheHeightsOfTheLastMethodsBars)
 {
     // y = x^2 (A = 1, B and C 0) on [0, 2] with 4 partitions: left endpoints at 0, 0.5, 1, 1.5.
@@ -210,18 +169,4 @@ TEST_F(TraceField, TheCurveLastStartedAndShiftWithTheArrows)
     EXPECT_NEAR(back.back().x, 2, 1e-9);
     EXPECT_NEAR(back.back().y, 2, 1e-9);
     EXPECT_TRUE(back.front().x != 2 || back.front().y != 2);
-}
-
-TEST_F(TraceCurve, TheParametricCurveInT)
-{
-    screen->cmdPlotto_Click();
-    const std::vector<audio::Point> points = screen->tracePoints();
-    const std::int16_t steps = static_cast<std::int16_t>(screen->txtTstep->value());
-    ASSERT_GE(points.size(), std::min<std::size_t>(2000, static_cast<std::size_t>(steps)));
-    ASSERT_LE(points.size(), 2001u + static_cast<std::size_t>(steps) / 2000);
-    const float t0 = static_cast<float>(screen->txtT0->value());
-    // The first kept point is the curve's at t0, as the window maps it (to a twip).
-    EXPECT_NEAR(points.front().x, FuncGlobals::XtFunc(t0), 20 * screen->graph.XRange / 6400);
-    EXPECT_NEAR(points.front().y, FuncGlobals::YtFunc(t0), 20 * screen->graph.YRange / 6400);
-    EXPECT_TRUE(press(Qt::Key_Home).startsWith(QStringLiteral("x = ")));
 }
