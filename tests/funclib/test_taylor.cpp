@@ -65,6 +65,8 @@ TEST(Taylor, PolynomialsAgainstTheSeriesWrittenOut)
     EXPECT_NEAR(c.lagrangeBound(6, h), std::sin(h) * std::pow(h, 7) / 5040, 1e-18);
     // Sampled between the centre and x, not on the other side: |e^1 - P_1(1)| <= e * 1^2 / 2!.
     EXPECT_NEAR(TaylorSeries::ofText("e^x", 0, {}).lagrangeBound(1, 1), std::exp(1.0) / 2, 1e-15);
+    // Away from 0, over [a, x]: |e^2 - P_1(2)| about 1 <= e^2 * 1^2 / 2!.
+    EXPECT_NEAR(TaylorSeries::ofText("e^x", 1, {}).lagrangeBound(1, 2), std::exp(2.0) / 2, 1e-14);
 }
 
 TEST(Taylor, WhereTheFunctionOrADerivativeDoesNotExist)
@@ -83,7 +85,10 @@ TEST(Taylor, WhereTheFunctionOrADerivativeDoesNotExist)
             EXPECT_EQ(s.term(k).state == TaylorTerm::State::Undefined, k >= r.firstMissing) << r.name << " at " << k;
         EXPECT_EQ(s.term(r.firstMissing + 1).why, r.why) << r.name;
     }
-    EXPECT_EQ(TaylorSeries::ofText("sinn(x)", 0, {}).refusal(), "unknown name 'sinn' at 1");
+    TaylorSeries refused = TaylorSeries::ofText("sinn(x)", 0, {});
+    EXPECT_EQ(refused.refusal(), "unknown name 'sinn' at 1");
+    EXPECT_EQ(std::pair(refused.term(2).state, refused.term(2).why),
+              std::pair(TaylorTerm::State::Undefined, refused.refusal()));
     EXPECT_EQ(TaylorSeries::ofFamily(0, 0, {}).refusal(), "no function chosen");
     // An exponent far past what exact arithmetic can carry is refused before GiNaC works out 3^123456789
     // (gigabytes); one at the limit is worked out (x^10000 at 1: the first term 1, the second 10000).

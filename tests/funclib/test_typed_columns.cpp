@@ -73,6 +73,7 @@ TEST(TypedColumns, SameAsPointByPoint)
         {"patterns the byte code rewrites", "2*(3*x + 1) + x*x + x + x - 4*x/2 + (x - x) + 0.1*(0.3*x + 0.7)", {"x"}},
         {"every coefficient, squared and scaled", "A*x + B^2 + C^3*x - D*(E - x) + F^4 + 3*A - B*2 + 1", {"x"}},
         {"coefficients inside functions", "A*sin(B*x + C) + D*x + E", {"x"}},
+        {"a coefficient scaled and moved alone", "3*A + 1", {"x"}},
         {"gaps: roots, logarithms, poles, overflow", "sqrt(x - 1) + ln(x) + 1/x + exp(1000*x) + 1/(x - x)", {"x"}},
         {"a number only", "2^0.5 + sin(1)", {"x"}},
         {"a variable only", "t", {"t"}},
