@@ -220,6 +220,12 @@ TEST_F(Lessons, AStepThatItsScreenCannotTakeIsRefusedAndChangesNothing)
         EXPECT_EQ(lesson::check(read.lesson->steps[0], sums), QString::fromUtf8(c.says)) << c.name;
     }
     EXPECT_EQ(lesson::capture(sums).controls, before.controls);  // checking changes nothing
+    // A screen of two rates takes both typed or neither.
+    frmFlowField field;
+    const lesson::Read half = lesson::fromJson(R"({"format": "plotto-lesson", "version": 2,
+        "steps": [{"screen": "slope-field", "function": {"dyTyped": "x"}}]})");
+    ASSERT_TRUE(half.lesson);
+    EXPECT_EQ(lesson::check(half.lesson->steps[0], field), "a typed function names every part: dyTyped and dxTyped");
 }
 
 // A lesson of the first version named controls by their spoken names and buttons and menu entries by

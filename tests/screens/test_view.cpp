@@ -243,6 +243,7 @@ TEST(View, TheViewMenuZoomsGoesBackAndForwardAndReturnsToTheFirstWindow)
     const QString original = windowLimits(s);
     s.mnuViewZoomIn->trigger();
     EXPECT_EQ(windowLimits(s), QStringLiteral("-5|5|-5|5"));
+    EXPECT_EQ(s.txtXmin->cursorPosition(), 0) << "a long limit shows its sign and first digits";
     s.mnuViewZoomIn->trigger();
     s.mnuViewBack->trigger();
     EXPECT_EQ(windowLimits(s), QStringLiteral("-5|5|-5|5"));
