@@ -73,6 +73,17 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
     for (const char* seen :
          {"Step 3 of 4", "Page 4 of 4", "Window: x from", "Guesses: 1: 2; 2: 2.1; 3: 2.09456812110419", "Guess #"})
         EXPECT_TRUE(text.contains(QLatin1String(seen))) << seen;
+    // Each page holds its own step: the first under the lesson's title, the others under the title
+    // written small at the right.
+    for (int page = 1; page <= 4; ++page) {
+        const QString number = QString::number(page);
+        const QStringList lines = tool("pdftotext", {"-f", number, "-l", number, "-layout", out, "-"})
+                                      .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        ASSERT_GE(lines.size(), 2) << page;
+        EXPECT_TRUE(lines[0].trimmed().startsWith(QLatin1String("Newton's method on x"))) << page;
+        EXPECT_EQ(lines[0].startsWith(QLatin1Char('N')), page == 1) << page << ": the title's place";
+        EXPECT_TRUE(lines[1].startsWith(QStringLiteral("Step %1 of 4").arg(page))) << lines[1].toStdString();
+    }
 
     const QString sheet = dir.filePath(QStringLiteral("students.pdf"));
     const Outcome blank = plotto({newton, QStringLiteral("--worksheet"), sheet, QStringLiteral("--blank")});
