@@ -141,8 +141,9 @@ TEST_F(Area, SumsAndAreasThroughTheBoxes)
          [](auto& s) {
              s.txtStrips->setText(QStringLiteral("2"));
              s.cmdCrossings->click();
-             return column(s, 1) + '/' + column(s, 2);
+             return cells(s.grdAreas, 0, 0, 1, 2) + '/' + column(s, 1) + '/' + column(s, 2);
          },
+         "Signed: f - g|Unsigned: |f - g|/"
          "4.375|4.375|-3.4375|4.375|-0.8333333333|-0.8333333333/15.625|15.625|3.4375|15.625|14.16666667|8.166666667"},
         {"crossings listed", [](auto& s) { return find(s, "", nullptr).lblCrossings->text(); },
          "Crossings in [a, b]:\nx = -1 (f = g at a scanned point)\nx = 2 (f = g at a scanned point)"},

@@ -27,6 +27,9 @@ TEST_F(MVT, SecantOfXSquaredAndTheErrorTextOfEqualEnds)
     screen->cmdApplyMVT_Click();
     EXPECT_EQ(screen->lblSlope1->text(), QStringLiteral("ERROR!  0/0"));
     EXPECT_EQ(std::pair(screen->SecantSlope, count(DrawOp::Circle)), std::pair(2.0, 0L));  // slope unchanged
+    interval(".5|1.25");  // the points to four decimals, as many as they have
+    screen->cmdApplyMVT_Click();
+    EXPECT_EQ(texts({screen->lblPt1, screen->lblPt2}), QStringLiteral("( .5, .25)|( 1.25, 1.5625)"));
     screen->mnuFunc_Click(9);  // the secant is dotted in the family's colour, 9 mod 7
     interval("0|2");
     screen->cmdApplyMVT_Click();
