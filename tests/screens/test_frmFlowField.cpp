@@ -142,6 +142,9 @@ TEST_F(Field, PlotButtonPressesFortyOrEightyTimesWithItsShifts)
     screen->cmdPlotto_Click();
     EXPECT_TRUE(segmentFrom(2401, screen->graph.YOrigin - 320));
     EXPECT_EQ(segments().front().color, colour(3));
+    screen->cmdSetDefault->click();  // the first window and step, cleared and plotted again
+    EXPECT_EQ(windowLimits(*screen) + '|' + screen->txtDelta->text(), QStringLiteral("-10|10|-10|10|0.1"));
+    EXPECT_GT(segments().size(), 40u) << "the Plot button's presses, both ways";
 }
 
 TEST(FormulaDisplay, TheWalkDropsOnesCutsZeroTermsAndWritesOtherValues)
