@@ -77,6 +77,7 @@ TEST(ConvergenceOfSteps, TheCircleFromFourThree)
     EXPECT_NEAR(*t.exact, std::sqrt(25 - 4.5 * 4.5), 1e-9);  // on the circle of radius 5
     ASSERT_EQ(t.values.size(), 7u);
     EXPECT_EQ(std::tuple(t.rowHeadings[1], t.rowHeadings[7]), std::tuple("0.1 (5 steps)", "0.0015625 (320 steps)"));
+    EXPECT_EQ(Convergence::steps(4, 3, 4.5, 0.5, 0, {}).rowHeadings[1], "0.5 (1 steps)");  // one step: the interval
     for (std::size_t r = 2; r <= 4; ++r) {
         EXPECT_NEAR(ratio(t, r, 0), 2, 0.25) << r;
         EXPECT_NEAR(ratio(t, r, 1), 4, 0.6) << r;
