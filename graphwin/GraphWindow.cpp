@@ -24,3 +24,16 @@ void GraphWindow::plainRows(const double* from, double* to, std::size_t n) const
     for (std::size_t k = 0; k < n; ++k)
         to[k] = origin - from[k] * Side / range;
 }
+
+void GraphWindow::mapPoints(const double* xs, const double* ys, double* cs, double* rs, std::size_t n,
+                            std::size_t& mapped) const
+{
+    plainColumns(xs, cs, n);
+    plainRows(ys, rs, n);
+    const bool plain = std::isfinite(XRange) && std::isfinite(YRange);
+    for (mapped = 0; mapped < n; ++mapped)
+        if (!plain || !std::isfinite(cs[mapped]) || !std::isfinite(rs[mapped])) [[unlikely]] {
+            cs[mapped] = column(xs[mapped]);
+            rs[mapped] = row(ys[mapped]);
+        }
+}

@@ -104,6 +104,12 @@ struct GraphWindow {
     void plainWorldXs(std::int32_t first, std::size_t n, double* xs) const;
     void plainColumns(const double* from, double* to, std::size_t n) const;
     void plainRows(const double* from, double* to, std::size_t n) const;
+    // Columns and rows of n points as column and row give them one by one, worked out in blocks of
+    // plain arithmetic: a point whose plain column or row is not finite (or any point, with a range
+    // that is not finite) is mapped again with the checks, which raise there. `mapped` counts the
+    // points done; an error leaves it at the failing point, its column checked before its row.
+    void mapPoints(const double* xs, const double* ys, double* cs, double* rs, std::size_t n,
+                   std::size_t& mapped) const;
 
 private:
     static bool fitsInt32(std::int64_t v) { return v >= INT32_MIN && v <= INT32_MAX; }

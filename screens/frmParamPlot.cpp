@@ -99,11 +99,9 @@ void frmParam::cmdPlotto_Click()
     using namespace FuncGlobals;
     if (!typedCurve_) {
         // The families: every point mapped with the run time's checks, the first drawn wherever it is.
-        // A block's values first, then their columns and rows in plain arithmetic, which give the
-        // checked ones wherever they are finite (with finite ranges); a point whose column or row is
-        // not finite is mapped again with the checks, which raise there. The errors come in the order
-        // of the point-by-point loop (x, its column, y, its row): an error of y(t) waits for the column
-        // of the same point.
+        // A block's values first, then their columns and rows (the window's block mapping, checked
+        // where the plain one is not finite). The errors come in the order of the point-by-point loop
+        // (x, its column, y, its row): an error of y(t) waits for the column of the same point.
         plotCurve(
             [this](const float* ts, std::size_t m, double* cs, double* rs, std::size_t& mapped) {
                 double xs[kCurveBlock], ys[kCurveBlock];
@@ -119,14 +117,7 @@ void frmParam::cmdPlotto_Click()
                 } catch (...) {
                     fault = std::current_exception();
                 }
-                graph.plainColumns(xs, cs, k);
-                graph.plainRows(ys, rs, k);
-                const bool plain = std::isfinite(graph.XRange) && std::isfinite(graph.YRange);
-                for (; mapped < k; ++mapped)
-                    if (!plain || !std::isfinite(cs[mapped]) || !std::isfinite(rs[mapped])) [[unlikely]] {
-                        cs[mapped] = graph.column(xs[mapped]);
-                        rs[mapped] = graph.row(ys[mapped]);
-                    }
+                graph.mapPoints(xs, ys, cs, rs, k, mapped);
                 if (fault && xDone)
                     graph.column(xs[k]);
                 if (fault)
@@ -142,10 +133,9 @@ void frmParam::cmdPlotto_Click()
             plotCurve(
                 [this](const float* ts, std::size_t m, double* cs, double* rs, std::size_t& mapped) {
                     CurvePoints(ts, cs, rs, m);
-                    for (; mapped < m; ++mapped) {
-                        cs[mapped] = graph.plainColumn(cs[mapped]);
-                        rs[mapped] = graph.plainRow(rs[mapped]);
-                    }
+                    graph.plainColumns(cs, cs, m);
+                    graph.plainRows(rs, rs, m);
+                    mapped = m;
                 },
                 [](double c, double r) { return std::isfinite(c) && std::isfinite(r); });
         },
