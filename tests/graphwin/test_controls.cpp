@@ -103,6 +103,28 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
         EXPECT_THROW(form::buildForm(&parent, {row}), std::logic_error) << what;
 }
 
+// The thumb dragged scrolls at each move and changes once, where it is let go: not at all when it is
+// let go where it was taken, whatever it passed on the way.
+TEST_F(Controls, AScrollBarsDraggedThumbScrollsAsItMovesAndChangesWhereItIsLetGo)
+{
+    const struct {
+        std::vector<int> moves;
+        int scrolls, changes;
+    } drags[] = {{{30, 40}, 2, 1}, {{30, 20}, 2, 0}, {{}, 0, 0}, {{21}, 1, 1}};
+    for (const auto& drag : drags) {
+        ScrollBar bar(Qt::Horizontal, &parent);
+        bar.setValue(20);
+        int scrolls = 0, changes = 0;
+        bar.Scroll = [&] { ++scrolls; };
+        bar.Change = [&] { ++changes; };
+        bar.setSliderDown(true);
+        for (int v : drag.moves)
+            bar.setValue(v);
+        bar.setSliderDown(false);
+        EXPECT_EQ(std::pair(scrolls, changes), std::pair(drag.scrolls, drag.changes)) << drag.moves.size();
+    }
+}
+
 TEST_F(Controls, ABoxWithoutASelectionLeavesCtrlCToTheWindow)
 {
     TextBox box(&parent, QStringLiteral("12"));

@@ -72,6 +72,8 @@ TEST(GraphView, WindowsTheArithmeticCannotShowAreRefusedInWords)
         {"the default", {-10, 10, -10, 10}, ""}, {"a close window near 1", {0.99999, 1.00001, 0.99999, 1.00001}, ""},
         {"too close to tell apart near 1", {1 - 1e-9, 1 + 1e-9, -1, 1}, "Zoomed in as far"},
         {"too close near 0", {-1e-11, 1e-11, -1, 1}, "Zoomed in as far"},
+        {"exactly as narrow as shown", {0, 1e-10, 0, 1e-10}, ""},
+        {"exactly as wide as shown", {-5e11, 5e11, -5e11, 5e11}, ""},
         {"too wide", {-1e13, 1e13, -1, 1}, "Zoomed out as far"},
         {"reversed", {1, -1, -1, 1}, "The window's limits are not numbers in order"},
         {"not a number", {std::nan(""), 1, -1, 1}, "The window's limits are not numbers in order"},

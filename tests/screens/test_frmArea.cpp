@@ -55,6 +55,9 @@ TEST(AreaBetween, CrossingsAndAreasAgainstClosedForms)
         // (x - 0.3)^2 touches 0 between scanned points; Brent places it to about half the digits.
         {"(x - 0.3)^2 touching 0", "(x - 0.3)^2", "0", -1, 1.1, {0.3}, Kind::Touch, 1e-7, (0.512 + 2.197) / 3,
          (0.512 + 2.197) / 3},
+        // The same touching next to a: the least |f - g| at the second scanned point, 0.3003.
+        {"(x - 0.3)^2 touching 0 next to a", "(x - 0.3)^2", "0", 0.2993, 2.2993, {0.3}, Kind::Touch, 1e-7,
+         (std::pow(1.9993, 3) + std::pow(0.0007, 3)) / 3, (std::pow(1.9993, 3) + std::pow(0.0007, 3)) / 3},
         // clang-format on
     };
     for (const auto& row : rows) {
@@ -97,6 +100,8 @@ TEST(AreaBetween, GapsAreFoundWithTheirEnds)
         {"1/x on [-1, 1]", "1/x", "0", -1, 1, {{0, 0, 0}}, {}},
         {"sqrt x on [-1, 1], as g", "x", "sqrt(x)", -1, 1, {{1, -1, 0}}, {}},
         {"ln on [-2, 3]: from -2 to 0", "x^2", "ln(x)", -2, 3, {{1, -2, 0}}, {}},
+        {"0/0 at a only", "x/x", "0", 0, 1, {{0, 0, 0}}, {}},
+        {"0/0 at b only, as g", "1", "(x - 1)/(x - 1)", 0, 1, {{1, 1, 1}}, {}},
         {"a pole between scanned points", "1/(x - 0.3001)", "0", -1, 1, {}, 0.3001},
     };
     for (const auto& row : rows) {
