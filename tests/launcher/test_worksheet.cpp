@@ -13,6 +13,7 @@
 #include "launcher/Worksheet.h"
 #include "launcher/frmGraphingCalc.h"
 #include "screens/frmRiemann.h"
+#include "tests/Pictures.h"
 #include "tests/screens/ScreenFixture.h"
 
 namespace {
@@ -95,6 +96,24 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
     EXPECT_TRUE(students.contains(QStringLiteral("x^3 - 2*x - 5"))) << "the function stays";
     EXPECT_TRUE(answers.contains(QStringLiteral("2.09456812110419")));
     EXPECT_EQ(pages(sheet), pages(answersPdf));
+
+    // What the students get, page by page side by side: the title, each step's graph, the lines with
+    // their boxes to fill in and the table of guesses (poppler draws the pages).
+    if (const QString why = pictures::whyNotComparable(); !why.isEmpty())
+        GTEST_SKIP() << why.toStdString();
+    tool("pdftoppm", {"-r", "40", "-png", sheet, dir.filePath(QStringLiteral("page"))});
+    QImage pages(4 * 331, 468, QImage::Format_RGB32);
+    pages.fill(Qt::gray);
+    QPainter painter(&pages);
+    for (int page = 1; page <= 4; ++page)
+        painter.drawImage((page - 1) * 331, 0, QImage(dir.filePath(QStringLiteral("page-%1.png").arg(page))));
+    painter.end();
+    QProcess version;
+    version.setProcessChannelMode(QProcess::MergedChannels);
+    version.start(QStandardPaths::findExecutable(QStringLiteral("pdftoppm")), {QStringLiteral("-v")});
+    version.waitForFinished(30000);
+    const QString poppler = QString::fromUtf8(version.readAll()).section(QLatin1Char('\n'), 0, 0);
+    pictures::expectPicture(pages, QStringLiteral("worksheet-blank"), {{QStringLiteral("poppler"), poppler}});
 }
 
 // What goes wrong is said, with a status a script can test: 1 for a file, 2 for the command line.

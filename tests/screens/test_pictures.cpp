@@ -1,105 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a person sees, compared pixel for pixel with the pictures kept in tests/pictures: every screen
-// as it shows what it teaches, on the window and on an exported page in black and white, and a few
-// states that only a hand or a key reaches (the readout under the pointer, the keyboard's walk, the
-// projector's sizes, the typed entry's preview). A drawing fault that leaves every number right (a
-// pen, a frame, a label's relief, a shape left out of the page) shows only here.
+// as it shows what it teaches, on the window, in its menus and on an exported page in black and
+// white, and a few states that only a hand or a key reaches (the readout under the pointer, the
+// keyboard's walk, the projector's sizes, the typed entry's preview). A drawing fault that leaves
+// every number right (a pen, a frame, a label's relief, a shape left out of the page) shows only here.
 //
-// Text is drawn with the machine's fonts, so the pictures are compared only where a sample of the
-// program's type comes out exactly as when they were kept; elsewhere each case is skipped and says
-// why. PLOTTO_KEEP_PICTURES=1 keeps this run's pictures instead (look at each before committing it).
-// A picture that differs is written to pictures-differ/ in the test's folder, with the pixels that
-// differ in red beside it.
+// How they are kept and compared: tests/Pictures.h.
 #include <QApplication>
-#include <QDir>
-#include <QImage>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "graphwin/GraphExport.h"
 #include "launcher/frmGraphingCalc.h"
 #include "screens/ScreenRegistry.h"
+#include "tests/Pictures.h"
 #include "tests/screens/ScreenFixture.h"
 
 namespace {
 
-const QString kKept = QStringLiteral(PLOTTO_SOURCE_DIR "/tests/pictures/");
-
-bool keeping() { return qEnvironmentVariableIntValue("PLOTTO_KEEP_PICTURES") == 1; }
-
-// The program's type (the forms', the launcher's, the pages') with the signs it writes, on white.
-QImage typeSample()
-{
-    QImage image(520, 150, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter p(&image);
-    p.setPen(Qt::black);
-    const QString sample = QStringLiteral("Step 1 of 4: y' = 3*x^2 - 2, f(1.25) = -0.0469 (\u03b5, \u03b4) \u00e4\u00e9\u00df");
-    QFont bold(QStringLiteral("Times New Roman"), 10);
-    bold.setBold(true);
-    const QFont fonts[] = {QFont(QStringLiteral("Times New Roman"), 10), QFont(QStringLiteral("Times New Roman"), 11),
-                           bold, QApplication::font(), graphexport::pageFont(160)};
-    int y = 20;
-    for (const QFont& font : fonts) {
-        p.setFont(font);
-        p.drawText(4, y, sample);
-        y += 26;
-    }
-    return image;
-}
-
-// Whether the pictures can be compared here, or why not.
-QString whyNotComparable()
-{
-    if (keeping())
-        return {};
-    const QImage kept(kKept + QStringLiteral("type-sample.png"));
-    if (kept.isNull())
-        return QStringLiteral("no kept type sample: run once with PLOTTO_KEEP_PICTURES=1");
-    if (kept.text(QStringLiteral("Qt")) != QLatin1String(qVersion()))
-        return QStringLiteral("the pictures were kept with Qt %1, this is Qt %2")
-            .arg(kept.text(QStringLiteral("Qt")), QLatin1String(qVersion()));
-    if (kept.convertToFormat(QImage::Format_RGB32) != typeSample())
-        return QStringLiteral("this machine's fonts draw the program's type differently from the machine the "
-                              "pictures were kept on");
-    return {};
-}
-
-// Keeps a picture under its name, with the version of Qt that drew it.
-void keep(QImage image, const QString& name)
-{
-    image.setText(QStringLiteral("Qt"), QLatin1String(qVersion()));
-    ASSERT_TRUE(image.save(kKept + name + QStringLiteral(".png"))) << name.toStdString();
-}
-
-// Compares the widget's or image's picture with the kept one of that name (or keeps it).
-void expectPicture(const QImage& taken, const QString& name)
-{
-    const QImage image = taken.convertToFormat(QImage::Format_RGB32);
-    if (keeping())
-        return keep(image, name);
-    const QImage kept = QImage(kKept + name + QStringLiteral(".png")).convertToFormat(QImage::Format_RGB32);
-    ASSERT_FALSE(kept.isNull()) << "no kept picture " << name.toStdString();
-    ASSERT_EQ(kept.size(), image.size()) << name.toStdString();
-    QImage marked = image;
-    int differ = 0;
-    QRect where;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != kept.pixel(x, y)) {
-                ++differ;
-                where |= QRect(x, y, 1, 1);
-                marked.setPixel(x, y, qRgb(255, 0, 0));
-            }
-    if (differ == 0)
-        return;
-    QDir().mkpath(QStringLiteral("pictures-differ"));
-    image.save(QStringLiteral("pictures-differ/") + name + QStringLiteral(".png"));
-    marked.save(QStringLiteral("pictures-differ/") + name + QStringLiteral("-marked.png"));
-    ADD_FAILURE() << name.toStdString() << ": " << differ << " pixels differ from the kept picture, within (" << where.x()
-                  << ", " << where.y() << ") to (" << where.right() << ", " << where.bottom() << "); see "
-                  << QDir::current().filePath(QStringLiteral("pictures-differ")).toStdString();
-}
+using namespace pictures;
 
 QImage grabbed(QWidget& window)
 {
@@ -122,6 +43,33 @@ QImage exportedPage(const GraphScreen& screen)
     return image;
 }
 
+// The screen's menus opened one after another, side by side as the menu bar orders them.
+QImage menusOf(GraphScreen& screen)
+{
+    std::vector<QImage> opened;
+    for (QAction* entry : screen.menuBar->actions())
+        if (QMenu* menu = entry->menu()) {
+            menu->popup(QPoint(0, 0));
+            QApplication::processEvents();
+            opened.push_back(menu->grab().toImage());
+            menu->hide();
+        }
+    int width = 0, height = 0;
+    for (const QImage& m : opened) {
+        width += m.width();
+        height = std::max(height, m.height());
+    }
+    QImage image(std::max(width, 1), std::max(height, 1), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter p(&image);
+    int x = 0;
+    for (const QImage& m : opened) {
+        p.drawImage(x, 0, m);
+        x += m.width();
+    }
+    return image;
+}
+
 class Pictures : public ::testing::Test {
 protected:
     void SetUp() override
@@ -135,7 +83,7 @@ protected:
     frmGraphingCalc launcher;
 };
 
-TEST_F(Pictures, EveryScreenShowingWhatItTeachesOnTheWindowAndOnAPageInBlackAndWhite)
+TEST_F(Pictures, EveryScreenShowingWhatItTeachesOnTheWindowInItsMenusAndOnAPageInBlackAndWhite)
 {
     expectPicture(grabbed(launcher), QStringLiteral("launcher"));
     for (const screens::Entry& entry : screens::all()) {
@@ -144,6 +92,7 @@ TEST_F(Pictures, EveryScreenShowingWhatItTeachesOnTheWindowAndOnAPageInBlackAndW
         entry.showcase(screen);
         expectPicture(grabbed(screen), QString::fromLatin1(entry.key));
         expectPicture(exportedPage(screen), QString::fromLatin1(entry.key) + QStringLiteral("-page"));
+        expectPicture(menusOf(screen), QString::fromLatin1(entry.key) + QStringLiteral("-menus"));
         screen.hide();
     }
 }
