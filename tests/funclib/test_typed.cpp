@@ -87,7 +87,7 @@ TEST(TypedExpression, RefusesWithReasonAndPlace)
         {"2x", "missing '*': write 2*x for a product at 2"},
         {"3 sin(x)", "missing '*': write 3*sin for a product at 3"},
         {"x(x + 1)", "missing '*': write x*( for a product at 2"}, {"x +", "missing a term after '+' at 4"},
-        {"x - ", "missing a term after '-' at 5"},
+        {"x - ", "missing a term after '-' at 5"}, {"2*-", "missing a term after '-' at 4"},
         {"x * / 2", "missing a term before '/' at 5"}, {"", "nothing typed: type a function, for example x^2 - 4 at 1"},
         {"sin x", "missing '(' after 'sin' at 5"}, {"y + 1", "unknown name 'y' at 1"},
         {"a*x", "unknown name 'a' at 1 (the coefficients are the capitals A to F)"},

@@ -101,6 +101,15 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
         EXPECT_NEAR(found->y, c.y, c.tolerance) << c.name;
         EXPECT_LE(std::fabs(points[found->index].x - c.x), 20.0 / 426 + 1e-9) << c.name << ": walk goes to it";
     }
+    // The y-axis between two points (none at x = 0): e^x's intercept from the curve, or from the points.
+    double (*exp)(double) = [](double x) { return std::exp(x); };
+    for (bool refined : {true, false}) {
+        const auto y =
+            audio::nearestFeature(sampled(exp, 426), 300, refined ? std::function<double(double)>(exp) : nullptr);
+        ASSERT_TRUE(y) << refined;
+        EXPECT_EQ(std::pair(y->kind, y->x), std::pair(Feature::YIntercept, 0.0)) << refined;
+        EXPECT_NEAR(y->y, 1, refined ? 0 : 3e-3) << refined;
+    }
     // Drawn points only, with a turn between two columns (two equal heights): the turn is found at
     // the level run, with the run's height.
     const std::vector<audio::Point> valley{{1, 3}, {2, 2}, {3, 1}, {4, 1}, {5, 2}, {6, 3}};
@@ -120,6 +129,20 @@ TEST(AudioTrace, NearestFeatureFromWhereTheWalkStands)
     EXPECT_FALSE(audio::nearestFeature({{1, -1}, {2, gap}, {3, 1}}, 0)) << "no root across a gap";
     EXPECT_FALSE(audio::nearestFeature({{1, 1}, {2, 2}, {3, gap}, {4, 3}, {5, 4}, {6, 5}}, 4))
         << "no turn across a gap";
+}
+
+// A value is said to the decimals that a pixel of the window tells apart, without trailing zeros, and
+// in powers of ten from a thousand million up and below a thousand-millionth.
+TEST(AudioTrace, AValueIsSpokenToAPixelOrInPowersOfTen)
+{
+    const struct {
+        double value, resolution;
+        const char* says;
+    } rows[] = {{2.5, 0.01, "2.5"},          {-0.001, 0.01, "0"},       {1234.5678, 0.001, "1234.568"},
+                {3, 0, "3"},                 {1e9, 0.01, "1e+09"},      {999999999, 1, "999999999"},
+                {1e-9, 1e-9, "0.000000001"}, {9.9e-10, 1e-9, "9.9e-10"}, {std::nan(""), 0.01, "undefined"}};
+    for (const auto& r : rows)
+        EXPECT_EQ(audio::spoken(r.value, r.resolution), r.says) << r.value;
 }
 
 TEST(TracePlayer, EncodesTheSamplesInTheDevicesFormat)

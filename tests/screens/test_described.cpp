@@ -111,6 +111,14 @@ TEST(Keyboard, MnemonicsAndSteppers)
     EXPECT_EQ(spoken(named.screen->lblA) + '|' + spoken(named.screen->lblXmaxR) + '|' + spoken(named.screen->txtYmin) +
                   '|' + named.screen->txtYmin->toolTip(),
               QStringLiteral("raise or lower A|raise Xmax by one|Ymin|Ymin"));
+    // A stepper's actions for assistive technology, with their keys: press and increase raise by one
+    // (Space), decrease lowers by one (Minus).
+    QAccessibleActionInterface* actions = QAccessible::queryAccessibleInterface(named.screen->lblA)->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    QStringList bindings;
+    for (const QString& action : actions->actionNames())
+        bindings << action + QLatin1Char(' ') + actions->keyBindingsForAction(action).join(QLatin1Char(','));
+    EXPECT_EQ(bindings.join(QLatin1Char('|')), QStringLiteral("Press Space|Increase Space|Decrease Minus"));
     const struct {
         ClickLabel* label;
         Qt::Key key;

@@ -70,13 +70,21 @@ TEST_F(Grapher, PlotSetsOnePointPerColumnInsideTheSquareAndOverlaysUntilErased)
 
 TEST_F(Grapher, ArithmeticFaultsEndTheActionWithTheirNumbers)
 {
+    // e^(-2000x + C) whose row overflows at the square's first column only (e^701.2 * 6400 is past
+    // the largest double; the next column's value is 500 times smaller): the error comes there.
     screen->mnuFunc_Click(9);  // A * e^(Bx + C) + D
+    const double x0 = screen->graph.worldX(screen->graph.firstColumn());
+    type({screen->txtA, screen->txtB, screen->txtD}, "1|-2000|0");
+    screen->txtC->setText(QString::number(701.2 + 2000 * x0, 'g', 17));
+    screen->cmdPlotto->click();
+    screen->txtC->setText(QStringLiteral("0"));
     screen->txtB->setText(QStringLiteral("1000"));
     screen->cmdPlotto->click();
     screen->txtXmax->setText(QStringLiteral("10000000010"));
     screen->txtXmin->setText(QStringLiteral("1e10"));  // the origin lies too far away for a 32-bit twip
     screen->txtXmax->setText(QStringLiteral("1e10"));  // equal limits
-    EXPECT_EQ(script.errors, (std::vector<int>{rt::Overflow, rt::Overflow, rt::DivisionByZero}));
+    EXPECT_EQ(script.errors,
+              (std::vector<int>{rt::Overflow, rt::Overflow, rt::Overflow, rt::DivisionByZero}));
     EXPECT_EQ(script.shown.back().second, QStringLiteral("Run-time error '11':\n\nDivision by zero"));
     EXPECT_EQ(errorOf([&] { screen->mnuFunc_Click(21); }), rt::SubscriptOutOfRange);
     screen->mnuFunc_Click(20);  // inside the caption table: an empty caption

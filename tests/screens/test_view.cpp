@@ -182,10 +182,13 @@ TEST(View, ThePointUnderTheWheelStaysUnderItWithinAPixel)
     for (const QPointF pixel : {QPointF(250, 120), QPointF(170, 300), QPointF(400, 30)})
         for (int notch : {120, 120, -120, 240, -360}) {
             const double wx = s.graph.plainWorldX(pixel.x() * perPixel), wy = s.graph.plainWorldY(pixel.y() * perPixel);
+            const double range = s.graph.XRange;
             QWheelEvent wheel(pixel, s.surface->mapToGlobal(pixel), QPoint(), QPoint(0, notch), Qt::NoButton,
                               Qt::NoModifier, Qt::NoScrollPhase, false);
             QApplication::sendEvent(s.surface, &wheel);
             s.viewer()->flush();
+            // 1.25 a notch, in for a turn away from the user (the limits rounded to a tenth of a pixel).
+            EXPECT_NEAR(s.graph.XRange * std::pow(1.25, notch / 120.0) / range, 1, 1e-3) << notch;
             EXPECT_NEAR(s.graph.plainColumn(wx) / perPixel, pixel.x(), 1) << notch;
             EXPECT_NEAR(s.graph.plainRow(wy) / perPixel, pixel.y(), 1) << notch;
         }
