@@ -10,6 +10,7 @@
 #include <QLineSeries>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QScatterSeries>
 #include <QScrollBar>
 #include <QStandardPaths>
@@ -117,6 +118,8 @@ TEST(ConvergenceOfSteps, TheReferenceOutlastsTheFourthOrderErrorsToTheLastRow)
     Table tiny = t;
     tiny.exactAccuracy = 1e-9;
     EXPECT_EQ(tiny.cells()[7][8], "below 1e-09");
+    EXPECT_EQ(tiny.cells()[7][9], "(reference)");
+    tiny.exactAccuracy = std::fabs(*t.values[6][2].value - *t.exact);  // exactly the last error: within it too
     EXPECT_EQ(tiny.cells()[7][9], "(reference)");
 }
 
@@ -316,6 +319,12 @@ TEST(ConvergenceExport, CsvReadsBackAsTheCellsAndThePdfHoldsTheTable)
         const QString text = toolOutput(pdftotext, {dir.filePath(QStringLiteral("t.pdf")), QStringLiteral("-")});
         EXPECT_TRUE(text.contains(QStringLiteral("Convergence of the sums")));
         EXPECT_TRUE(text.contains(QString::fromStdString(window.table().cells()[0][1]))) << text.toStdString();
+        // A reader lists the document by the window's title.
+        const QString info = toolOutput(QStandardPaths::findExecutable(QStringLiteral("pdfinfo")),
+                                        {dir.filePath(QStringLiteral("t.pdf"))});
+        EXPECT_TRUE(info.contains(QRegularExpression(QStringLiteral("Title: +") +
+                                                     QRegularExpression::escape(window.windowTitle()) + '\n')))
+            << info.toStdString();
     }
     EXPECT_TRUE(window.exportTable(dir.filePath(QStringLiteral("t.txt"))).contains(QStringLiteral(".csv or .pdf")));
     EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("t.txt"))));

@@ -71,6 +71,8 @@ TEST(AreaBetween, CrossingsAndAreasAgainstClosedForms)
         EXPECT_NEAR(*r.signedArea, row.signedArea, 1e-10) << row.name;
         EXPECT_NEAR(*r.unsignedArea, row.unsignedArea, 1e-10) << row.name;
     }
+    // A crossing within a millionth of a millionth of the scale of 0 is written as 0, the edge too.
+    EXPECT_EQ(AreaBetween::shownX(1e-12, 1) + ' ' + AreaBetween::shownX(2e-12, 1), "0 2e-12");
 }
 
 // Each rule's error falls by 2^order as n doubles, on e^x - sin x over [0, 1], whose integral is

@@ -77,6 +77,13 @@ TEST_F(Limits, LimitsDeltasAndWordsThroughTheControls)
              return s.txtPoint->text() + '|' + QString::number(s.rows()) + '|' + row(s, 1, 0, 1);
          },
          "2|1|0.25|none"},
+        {"a new function clears the table and its result",
+         [](auto& s) {
+             setUp(s, "2*x + 3", "1", "5").cmdFindDelta->click();
+             setFunction(s, "x^2");
+             return QString::number(s.rows()) + '|' + s.lblResult->text();
+         },
+         "0|"},
         {"a outside the window is said, and no row is added",
          [](auto& s) {
              setUp(s, "2*x + 3", "30", "63").cmdFindDelta->click();
