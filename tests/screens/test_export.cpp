@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The graph leaving the program: the vector drawing against the screen's own picture for every
-// screen's showcase, the three file formats as other programs read them, and what a bad file name
-// does.
+// The graph leaving the program: the three file formats as other programs read them, and what a bad
+// file name does. What each screen's page looks like is compared in test_pictures.cpp.
 #include <QDir>
 #include <QImage>
 #include <QPainter>
@@ -18,40 +17,6 @@
 
 namespace {
 
-bool inked(QRgb c) { return qRed(c) < 235 || qGreen(c) < 235 || qBlue(c) < 235; }
-
-// The share of the inked pixels of `a` that have an inked pixel of `b` within `reach` pixels.
-double coveredShare(const QImage& a, const QImage& b, int reach)
-{
-    long inkedA = 0, covered = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x) {
-            if (!inked(a.pixel(x, y)))
-                continue;
-            ++inkedA;
-            bool found = false;
-            for (int dy = -reach; dy <= reach && !found; ++dy)
-                for (int dx = -reach; dx <= reach && !found; ++dx)
-                    found = b.valid(x + dx, y + dy) && inked(b.pixel(x + dx, y + dy));
-            covered += found;
-        }
-    return inkedA == 0 ? 1.0 : static_cast<double>(covered) / static_cast<double>(inkedA);
-}
-
-// The graph painted from its vectors at the screen's own resolution (a pixel is 15 twips), on the
-// pixels that the screen's picture of the same rectangle covers.
-QImage vectorAtScreenSize(const graphexport::Graph& g, QSize size)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    const double k = DrawingSurface::kTwipsPerPixel;
-    painter.translate(-std::floor(g.twips.left() / k + 1e-7), -std::floor(g.twips.top() / k + 1e-7));
-    painter.scale(1 / k, 1 / k);
-    EXPECT_TRUE(g.surface->paintVector(painter, g.twips, {}));
-    return image;
-}
-
 // The colours of the strokes and fills an SVG file uses.
 QSet<QString> svgColours(const QByteArray& svg)
 {
@@ -62,48 +27,7 @@ QSet<QString> svgColours(const QByteArray& svg)
     return colours;
 }
 
-class ExportTest : public ::testing::TestWithParam<const screens::Entry*> { };
-
 }  // namespace
-
-// Every kind of plot the screens draw: the drawing exported as vectors lies where the screen's pixels
-// lie (within a pixel, at the same size), in the same colours, so that a handout shows what the class saw.
-TEST_P(ExportTest, VectorDrawingLiesOnTheScreensPicture)
-{
-    const screens::Entry& row = *GetParam();
-    std::unique_ptr<GraphScreen> screen = row.make();
-    row.showcase(*screen);
-    const graphexport::Graph g = screen->exportedGraph();
-    const QImage shown = g.surface->picture(g.twips);
-    const QImage vector = vectorAtScreenSize(g, shown.size());
-    // Every pixel of the screen is drawn by the vectors; the vectors add only the joins between a
-    // curve's dots, and its round ends.
-    EXPECT_GE(coveredShare(shown, vector, 1), 0.995) << row.key;
-    EXPECT_GE(coveredShare(vector, shown, 2), 0.97) << row.key;
-
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("graph.svg"));
-    ASSERT_EQ(screen->exportGraph(path, {}), QString()) << row.key;
-    const QByteArray svg = fileBytes(path);
-    EXPECT_FALSE(svg.contains("<image")) << row.key << ": a picture where vectors belong";
-    // Each colour of a curve on the screen (any colour covering 30 pixels or more) is a stroke in the file.
-    QHash<QRgb, int> counts;
-    for (int y = 0; y < shown.height(); ++y)
-        for (int x = 0; x < shown.width(); ++x)
-            ++counts[shown.pixel(x, y) & 0xFFFFFFu];
-    const QSet<QString> inFile = svgColours(svg);
-    for (auto [rgb, n] : counts.asKeyValueRange()) {
-        if (n >= 30 && rgb != 0xFFFFFFu) {
-            EXPECT_TRUE(inFile.contains(QStringLiteral("#%1").arg(rgb, 6, 16, QLatin1Char('0'))))
-                << row.key << ": colour " << std::hex << rgb << " on the screen, not in the file";
-        }
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryScreen, ExportTest, ::testing::ValuesIn(screens::inTeachingOrder()),
-                         [](const auto& info) {
-                             return QString::fromLatin1(info.param->key).remove(QLatin1Char('-')).toStdString();
-                         });
 
 // The three formats as other programs read them: an SVG of paths, a one-page PDF whose text is the
 // caption, a PNG of the chosen resolution; in black and white, no colour but greys and line styles.
