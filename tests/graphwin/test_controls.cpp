@@ -124,6 +124,7 @@ TEST_F(Controls, AScrollBarsDraggedThumbScrollsAsItMovesAndChangesWhereItIsLetGo
         bar.setSliderDown(false);
         bar.setValueChecked(bar.value());  // the program writing the value the bar has: no change
         EXPECT_EQ(std::pair(scrolls, changes), std::pair(drag.scrolls, drag.changes)) << drag.moves.size();
+        EXPECT_EQ(errorOf([&] { bar.setValueChecked(100); }), rt::InvalidPropertyValue) << "past Max";
     }
 }
 

@@ -319,12 +319,15 @@ TEST(ConvergenceExport, CsvReadsBackAsTheCellsAndThePdfHoldsTheTable)
         const QString text = toolOutput(pdftotext, {dir.filePath(QStringLiteral("t.pdf")), QStringLiteral("-")});
         EXPECT_TRUE(text.contains(QStringLiteral("Convergence of the sums")));
         EXPECT_TRUE(text.contains(QString::fromStdString(window.table().cells()[0][1]))) << text.toStdString();
-        // A reader lists the document by the window's title.
+        // A reader lists the document by the window's title; the table's page lies on its side.
         const QString info = toolOutput(QStandardPaths::findExecutable(QStringLiteral("pdfinfo")),
                                         {dir.filePath(QStringLiteral("t.pdf"))});
         EXPECT_TRUE(info.contains(QRegularExpression(QStringLiteral("Title: +") +
                                                      QRegularExpression::escape(window.windowTitle()) + '\n')))
             << info.toStdString();
+        const QRegularExpressionMatch size =
+            QRegularExpression(QStringLiteral("Page size: +([\\d.]+) x ([\\d.]+)")).match(info);
+        EXPECT_TRUE(size.hasMatch() && size.captured(1).toDouble() > size.captured(2).toDouble()) << info.toStdString();
     }
     EXPECT_TRUE(window.exportTable(dir.filePath(QStringLiteral("t.txt"))).contains(QStringLiteral(".csv or .pdf")));
     EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("t.txt"))));

@@ -81,9 +81,9 @@ TEST_F(Limits, LimitsDeltasAndWordsThroughTheControls)
          [](auto& s) {
              setUp(s, "2*x + 3", "1", "5").cmdFindDelta->click();
              setFunction(s, "x^2");
-             return QString::number(s.rows()) + '|' + s.lblResult->text();
+             return QString::number(s.rows()) + '|' + row(s, 1) + '|' + s.lblResult->text();
          },
-         "0|"},
+         "0||||"},
         {"a outside the window is said, and no row is added",
          [](auto& s) {
              setUp(s, "2*x + 3", "30", "63").cmdFindDelta->click();
