@@ -101,12 +101,7 @@ TEST_F(Pictures, WhatTheHandAndTheKeysReach)
 {
     // The secants zoomed about (1, 1), with the readout under the pointer near (1.05, 1.1025).
     frmTangent& tangent = launcher.tangentScreen();
-    screens::Entry const* entry = nullptr;
-    for (const screens::Entry& e : screens::all())
-        if (QLatin1String(e.key) == QLatin1String("tangent"))
-            entry = &e;
-    ASSERT_NE(entry, nullptr);
-    entry->showcase(tangent);
+    screens::find(QStringLiteral("tangent"))->showcase(tangent);
     tangent.show();
     tangent.zoomViewAt(1, 1, std::pow(1.25, 10));
     const double perPixel = twipsPerPixel(tangent.surface);
