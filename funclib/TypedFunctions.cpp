@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
+#include <string>
 
 #include <ginac/ginac.h>
 
@@ -84,9 +85,13 @@ constexpr TypedFunctionRow kTypedFunctions[] = {
      .value = [](double a) { return std::sqrt(a); },
      .symbolic = [](const ex& a) -> ex { return sqrt(a); },
      .definedAt = [](double a) { return a >= 0; }},
+    // GiNaC's own abs differentiates through complex conjugates, whose work grows fourfold with each
+    // power of a tower (abs(2^x^x^x^...) took minutes): for a real argument u the derivative is
+    // u'*u/abs(u), undefined at the corner as it should be.
     {.name = "abs",
      .value = [](double a) { return a >= 0 ? a : -a; },  // as muparser's own abs: -0 stays -0
-     .symbolic = [](const ex& a) -> ex { return abs(a); }},
+     .derivative = [](const ex& a, const ex& fa) -> ex { return a / fa; },
+     .ofNumber = [](const ex& a) -> ex { return abs(a); }},
 };
 
 constexpr std::size_t kRows = std::size(kTypedFunctions);
@@ -113,7 +118,15 @@ unsigned serialOf(std::size_t row);
 template <std::size_t Row>
 ex ruleDerivative(const ex& a, unsigned)
 {
-    return kTypedFunctions[Row].derivative(a);
+    return kTypedFunctions[Row].derivative(a, GiNaC::function(serialOf(Row), a));
+}
+
+template <std::size_t Row>
+ex ruleEval(const ex& a)
+{
+    if (kTypedFunctions[Row].ofNumber && GiNaC::is_exactly_a<GiNaC::numeric>(a))
+        return kTypedFunctions[Row].ofNumber(a);
+    return GiNaC::function(serialOf(Row), a).hold();
 }
 
 template <std::size_t Row>
@@ -127,8 +140,12 @@ unsigned registerRule(const TypedFunctionRow& f)
 {
     if (f.symbolic)
         return 0;  // GiNaC's own function stands for it
+    // Named apart from GiNaC's own functions (it has an abs): the printers write the row's name.
     return GiNaC::function::register_new(
-        GiNaC::function_options(f.name, 1).derivative_func(ruleDerivative<Row>).conjugate_func(ruleConjugate<Row>));
+        GiNaC::function_options(std::string("typed_") + f.name, 1)
+            .eval_func(ruleEval<Row>)
+            .derivative_func(ruleDerivative<Row>)
+            .conjugate_func(ruleConjugate<Row>));
 }
 
 template <std::size_t... Row>

@@ -25,9 +25,12 @@ struct TypedFunctionRow {
     double (*value)(double a) = nullptr;  // muparser's byte code and the folding of numbers compute this
     // The function written with GiNaC's own functions, whose derivatives GiNaC knows ("1/tan(a)")...
     GiNaC::ex (*symbolic)(const GiNaC::ex& a) = nullptr;
-    // ...or, for a function GiNaC does not have, its derivative f'(a): GiNaC is then given a function
-    // of this row's name with this rule (and the chain rule does the rest).
-    GiNaC::ex (*derivative)(const GiNaC::ex& a) = nullptr;
+    // ...or, for a function GiNaC does not have (or whose derivative GiNaC writes at too great a cost),
+    // its derivative f'(a), given a and the row's own f(a): GiNaC is then given a function of this
+    // row's name with this rule (and the chain rule does the rest), and, where `ofNumber` is given,
+    // the exact value of a number (abs(-3) is 3, so 0*abs(0)^(-1) is still a division by 0).
+    GiNaC::ex (*derivative)(const GiNaC::ex& a, const GiNaC::ex& fa) = nullptr;
+    GiNaC::ex (*ofNumber)(const GiNaC::ex& number) = nullptr;
     // The domain: where it is defined (null: every real number), and whether a finite argument can
     // give a result too large for a double (exp(1000)). Where either may fail the derivative is
     // undefined wherever the function is, and a function undefined at 0 keeps a part that is 0

@@ -60,6 +60,8 @@ TEST(TypedExpression, ValuesAndExactDerivatives)
         {"semicircle", "sqrt(4 - x^2)", 1, std::sqrt(3.0), -1 / std::sqrt(3.0)},
         {"outside the semicircle", "sqrt(4 - x^2)", 3, kNaN, kNaN}, {"abs left", "abs(x)", -2, 2, -1},
         {"abs right", "abs(x)", 2, 2, 1}, {"abs corner has no slope", "abs(x)", 0, 0, kNaN},
+        {"abs of a power tower", "abs(2^x^x)", 1, 2, 2 * std::log(2.0)},
+        {"abs of a negative tower", "abs(-3^x^x)", 1, 3, 3 * std::log(3.0)},
         {"witch of Agnesi", "1/(1 + x^2)", 1, 0.5, -0.5}, {"pole is a gap", "1/x", 0, kNaN, kNaN},
         {"overflow is a gap", "exp(x)", 1000, kNaN, kNaN}, {"constants", "e^x + pi", 0, 1 + pi, 1},
         {"capitalised function names", "Sin(x) + LN(x)", 1, s1, c1 + 1},
