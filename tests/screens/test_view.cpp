@@ -12,7 +12,6 @@
 
 #include "graphwin/GraphViewer.h"
 #include "runtime/Random.h"
-#include "screens/Lesson.h"
 
 #include "ScreenFixture.h"
 
@@ -397,20 +396,6 @@ TEST(View, DraggingAPointOfTheConstructionGivesWhatTypingItGives)
         EXPECT_TRUE(sameOps(s.surface->ops(), typed.screen->surface->ops(), where)) << c.name << ": " << where;
         EXPECT_TRUE(dragged.script.errors.empty() && typed.script.errors.empty()) << c.name;
     }
-}
-
-// A lesson step captured after a zoom, opened on a fresh screen, shows the zoomed window again.
-TEST(View, ALessonStepKeepsTheWindowTheViewShows)
-{
-    Opened o(make<frmClasses>, plot);
-    GraphScreen& s = *o.screen;
-    ASSERT_TRUE(s.zoomViewAt(1, 2, 4));
-    const lesson::Step step = lesson::capture(s);
-    EXPECT_EQ(s.txtXmin->text(), QStringLiteral("-1.75"));  // a quarter of the width, about x = 1
-    Opened other(make<frmClasses>, [](GraphScreen&) {});
-    EXPECT_EQ(lesson::apply(step, *other.screen), 0);
-    EXPECT_EQ(windowLimits(*other.screen), windowLimits(s));
-    EXPECT_TRUE(o.script.errors.empty() && other.script.errors.empty());
 }
 
 // The traced point of the parametric screen follows the pointer along the curve, as the slider
