@@ -41,8 +41,6 @@ TEST(EpsilonDelta, LargestDeltaOrWhyThereIsNone)
     // clang-format off
     const struct { const char* name; const char* f; double a, L, eps; Outcome outcome; const char* says;
                    double delta = 0; bool edge = false; int undefinedSides = 0; } rows[] = {
-        // 2(1 + t) + 3 - 5 = 2t reaches 0.5 at t = 0.25, on both sides.
-        {"2x + 3 at 1", "2*x + 3", 1, 5, 0.5, Outcome::Found, "", 0.25},
         // (2 + t)^2 = 4.5 on the right comes before (2 - t)^2 = 3.5 on the left.
         {"x^2 at 2", "x^2", 2, 4, 0.5, Outcome::Found, "", std::sqrt(4.5) - 2},
         // sin t / t = 1/2 at the nonzero root of sin t = t/2; f(0) itself is undefined.
@@ -54,9 +52,8 @@ TEST(EpsilonDelta, LargestDeltaOrWhyThereIsNone)
         {"a wide band", "2*x + 3", 1, 5, 100, Outcome::Found, "", 9, true},
         // The jump is inside the band 0 +- 2.
         {"x/abs(x) with a wide band", "x/abs(x)", 0, 0, 2, Outcome::Found, "", 10, true},
-        {"a jump, L between the sides", "x/abs(x)", 0, 0, 0.5, Outcome::NoDelta,
+        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5, Outcome::NoDelta,
          "For ε = 0.5 no δ works: points arbitrarily close to a leave the band"},
-        {"a jump, L on the left side's value", "x/abs(x)", 0, -1, 0.5, Outcome::NoDelta, ""},
         {"a pole", "1/x", 0, 0, 0.5, Outcome::NoDelta, ""},
         {"an oscillation", "sin(1/x)", 0, 0, 0.5, Outcome::NoDelta, ""},
         {"a wrong L", "2*x + 3", 1, 6, 0.5, Outcome::NoDelta, ""},
@@ -64,9 +61,7 @@ TEST(EpsilonDelta, LargestDeltaOrWhyThereIsNone)
         {"eps 0", "2*x + 3", 1, 5, 0, Outcome::Refused, "ε must be a positive number."},
         {"eps negative", "2*x + 3", 1, 5, -0.5, Outcome::Refused, "ε must be a positive number."},
         {"eps not a number", "2*x + 3", 1, 5, NAN, Outcome::Refused, "ε must be a positive number."},
-        {"a outside the window", "2*x + 3", 12, 5, 0.5, Outcome::Refused,
-         "a = 12 is not inside the window from -10 to 10"},
-        {"a on its edge", "2*x + 3", 10, 5, 0.5, Outcome::Refused, "a = 10 is not inside the window"},
+        {"a on its edge", "2*x + 3", 10, 5, 0.5, Outcome::Refused, "a = 10 is not inside the window from -10 to 10"},
         {"eps lost in rounding", "2*x + 3", 1, 5, 1e-12, Outcome::Refused, "ε = 1e-12 is below what rounding in f"},
         {"nowhere defined", "sqrt(-1 - x^2)", 0, 0, 0.5, Outcome::Refused, ""},
     };
@@ -102,10 +97,8 @@ TEST(EpsilonDelta, TheLimitFromBothSides)
     const struct { const char* name; const char* f; double a; bool exists; double limit; const char* words; } rows[] = {
         {"sin(x)/x at 0", "sin(x)/x", 0, true, 1, nullptr},
         {"(x^2 - 1)/(x - 1) at 1", "(x^2 - 1)/(x - 1)", 1, true, 2, nullptr},
-        {"2x + 3 at 1", "2*x + 3", 1, true, 5, nullptr}, {"x^2 at 2", "x^2", 2, true, 4, nullptr},
         {"(1 - cos x)/x^2 at 0", "(1 - cos(x))/x^2", 0, true, 0.5, nullptr},
         {"sqrt(x) at 0, from the right only", "sqrt(x)", 0, true, 0, nullptr},
-        {"a jump", "x/abs(x)", 0, false, 0, "The left side tends to -1 and the right side to 1: no limit at a = 0."},
         {"a pole", "1/x", 0, false, 0,
          "The left side tends to -infinity and the right side to infinity: no limit at a = 0."},
         {"an oscillation", "sin(1/x)", 0, false, 0,

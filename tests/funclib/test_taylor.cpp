@@ -27,14 +27,10 @@ TEST(Taylor, TermsOfTheTextbookSeries)
 {
     // clang-format off
     struct { const char* name; TaylorSeries series; std::vector<std::string> terms; } rows[] = {
-        {"sin at 0", TaylorSeries::ofText("sin(x)", 0, {}), {"0", "x", "0", "-x^3/6", "0", "x^5/120"}},
         {"exp at 0", TaylorSeries::ofText("e^x", 0, {}), {"1", "x", "x^2/2", "x^3/6", "x^4/24"}},
-        {"ln at 1", TaylorSeries::ofText("ln(x)", 1, {}), {"0", "(x - 1)", "-(x - 1)^2/2", "(x - 1)^3/3"}},
         {"1/(1-x) at -1", TaylorSeries::ofText("1/(1 - x)", -1, {}), {"1/2", "(x + 1)/4", "(x + 1)^2/8"}},
         {"coefficients", TaylorSeries::ofText("A*x^2 + B", 0, {0.5, 3, 0, 0, 0, 0}), {"3", "0", "x^2/2", "0"}},
-        {"family 5 (A sin(Bx + C) + Dx + E)",
-         TaylorSeries::ofFamily(5, 0, {1, 2, 0, 0, 0, 0}),
-         {"0", "2x", "0", "-4x^3/3"}},
+        {"family 5", TaylorSeries::ofFamily(5, 0, {1, 2, 0, 0, 0, 0}), {"0", "2x", "0", "-4x^3/3", "0", "4x^5/15"}},
         {"family 9 (A e^(Bx + C) + D)", TaylorSeries::ofFamily(9, 0, {1, 1, 0, 0, 0, 0}), {"1", "x", "x^2/2"}},
         {"cos at 1, not rational", TaylorSeries::ofText("cos(x)", 1, {}), {"0.540302", "-0.841471(x - 1)"}},
     };
@@ -101,8 +97,7 @@ TEST(Taylor, WhereTheFunctionOrADerivativeDoesNotExist)
     // At 0 the same exponent is 0: the slope B ln 2 is worked out.
     EXPECT_NEAR(TaylorSeries::ofText("2^(B*x)", 0, k).term(1).value, 123456789 * std::log(2.0), 1e-6);
     TaylorSeries atLimit = TaylorSeries::ofText("x^(100*100)", 1, {});
-    EXPECT_EQ(atLimit.refusal(), "");
-    EXPECT_EQ(atLimit.term(1).exact, "10000");
+    EXPECT_EQ(std::pair(atLimit.refusal(), atLimit.term(1).exact), std::pair(std::string(), std::string("10000")));
 }
 
 TEST(Taylor, DegreeTwentyAndPastDoublePrecision)

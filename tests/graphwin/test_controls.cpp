@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The control wrappers: a person's change reaches the handler through the guarded entry point; the
 // program's own write calls it directly and lets a run-time error travel on.
-#include <QCheckBox>
-#include <QHeaderView>
-#include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -32,9 +29,8 @@ TEST_F(Controls, TextBoxChangesOncePerTextReportsAPersonsErrorsAndStopsEndlessCo
         box.setText(QString::fromLatin1(t));  // as a person's edit arrives
     EXPECT_EQ(std::pair(changes, box.value()), std::pair(2, 3.0));
     box.Change = [] { rt::raise(rt::DivisionByZero); };
-    box.setText(QStringLiteral("x"));  // reported, and the program goes on
+    box.setText(QStringLiteral("x"));  // reported (the launcher's test reads the report), and the program goes on
     EXPECT_EQ(script.errors, std::vector<int>{11});
-    EXPECT_EQ(script.shown.back().second, QStringLiteral("Run-time error '11':\n\nDivision by zero"));
     EXPECT_EQ(errorOf([&] { box.assign(QStringLiteral("y")); }), rt::DivisionByZero);  // the program's write
     int runs = 0;
     box.Change = [&] {  // two corrections that undo each other
@@ -70,7 +66,6 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
         {&box, Kind::Box, "7", {180, 1500, 600, 300}, {.Change = note(4)}},
     });
     // clang-format on
-    EXPECT_TRUE(ran.empty());
     EXPECT_EQ(std::tuple(first->parentWidget(), second->geometry(), second->isChecked(), first->isChecked()),
               std::tuple(static_cast<QWidget*>(frame), QRect(8, 40, 60, 20), true, false));
     EXPECT_EQ(std::tuple(bar->orientation(), bar->Min(), bar->Max(), bar->value(), bar->singleStep(), bar->pageStep(),
@@ -79,14 +74,12 @@ TEST_F(Controls, AFormTableBuildsPlacesAndWiresItsRowsAndRefusesMistakes)
     bar->setRange(0, 50);  // a range set through Qt's own API becomes Min and Max as they are
     EXPECT_EQ(std::pair(bar->Min(), bar->Max()), std::pair(0, 50));
     EXPECT_TRUE(bar->invertedAppearance() && bar->invertedControls()) << "a maximum below the minimum runs backwards";
-    EXPECT_EQ(
-        std::tuple(label->alignment(), label->accessibleName(), frame->toolTip(), box->text()),
-        std::tuple(Qt::Alignment(Qt::AlignRight), QStringLiteral("lower"), QStringLiteral("tip"), QStringLiteral("7")));
+    EXPECT_EQ(frame->toolTip(), QStringLiteral("tip"));  // the other looks are read on the screens
     first->click();
     label->activate(RightButton);
     box->setText(QStringLiteral("8"));
     bar->setValueChecked(3);
-    EXPECT_EQ(ran, (std::vector<int>{1, 12, 4, 3}));
+    EXPECT_EQ(ran, (std::vector<int>{1, 12, 4, 3}));  // and nothing from the building
 
     TextBox* typed = nullptr;
     ClickLabel* plain = nullptr;
@@ -128,16 +121,13 @@ TEST_F(Controls, AScrollBarsDraggedThumbScrollsAsItMovesAndChangesWhereItIsLetGo
     }
 }
 
-TEST_F(Controls, ABoxWithoutASelectionLeavesCtrlCToTheWindow)
+TEST_F(Controls, ABoxWithASelectionKeepsCtrlCToCopyIt)
 {
     TextBox box(&parent, QStringLiteral("12"));
-    for (bool selected : {false, true}) {
-        if (selected)
-            box.selectAll();
-        QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
-        QApplication::sendEvent(&box, &override);
-        EXPECT_EQ(override.isAccepted(), selected) << "the box keeps Ctrl+C only to copy its selection";
-    }
+    box.selectAll();
+    QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
+    QApplication::sendEvent(&box, &override);
+    EXPECT_TRUE(override.isAccepted()) << "without a selection the window copies the graph (the Copy test)";
 }
 
 TEST_F(Controls, ADoubleClicksSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
@@ -158,26 +148,6 @@ TEST_F(Controls, ADoubleClicksSecondPressStepsLikeAnyOtherAndRaisesDblClickOnce)
     QApplication::sendEvent(&label, &second);
     QTest::mouseClick(&label, Qt::LeftButton);
     EXPECT_EQ(std::tuple(presses, doubles, clicks), std::tuple(4, 2, 2));
-}
-
-// A raised error is held by the innermost hold, the first one only, by either way of reporting it;
-// a hold gone puts back the one around it, and with none the classic report comes.
-TEST_F(Controls, TheInnermostErrorHoldKeepsTheFirstErrorAndPutsBackTheOuterOne)
-{
-    {
-        RuntimeErrorHold outer;
-        {
-            RuntimeErrorHold inner;
-            reportRuntimeError(rt::RuntimeError(rt::Overflow));
-            reportRuntimeErrorFrom(&parent, rt::RuntimeError(rt::DivisionByZero));
-            EXPECT_EQ(std::pair(inner.first(), outer.first()), std::pair(6, 0));
-        }
-        reportRuntimeErrorFrom(&parent, rt::RuntimeError(rt::DivisionByZero));
-        EXPECT_EQ(outer.first(), 11);
-    }
-    EXPECT_TRUE(script.errors.empty());
-    reportRuntimeError(rt::RuntimeError(rt::Overflow));
-    EXPECT_EQ(script.errors, std::vector<int>{6});
 }
 
 TEST(FullScreenKey, ReturnsToTheStateBefore)

@@ -72,8 +72,8 @@ TEST(Launcher, OpensEachScreenModallyKeepsItsStateReportsItsErrorsAndQuits)
 
 // Every row of the screen registry opens a screen of the row's class, modally, and Exit closes it: a
 // seed's from its button and its Selections entry, an addition's from its More Demonstrations entry
-// (and has no button); the words the software centre and the manual page give name every screen.
-TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
+// (and has no button).
+TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntry)
 {
     ScriptedDialogs script;
     frmGraphingCalc l;
@@ -100,36 +100,12 @@ TEST(Launcher, EveryRegisteredScreenOpensFromItsButtonAndEntryAndIsDescribed)
         EXPECT_EQ(shown, 2 - kind) << row.key;
     }
     EXPECT_EQ(std::pair(next[0], next[1]), std::pair(menus[0].size(), menus[1].size())) << "every entry opens a row";
-    // The additions' menu stands between Selections and Lessons.
-    const QList<QAction*> bar = l.menuBar->actions();
-    EXPECT_EQ(bar.indexOf(l.mnuMore), bar.indexOf(l.mnuSelect) + 1);
-    EXPECT_EQ(bar.indexOf(l.mnuLessons), bar.indexOf(l.mnuMore) + 1);
-    auto read = [](const char* file) {  // empty when it cannot be read, which the checks then show
-        return QString::fromUtf8(fileBytes(QStringLiteral(PLOTTO_SOURCE_DIR "/packaging/") + QLatin1String(file)))
-            .simplified();
-    };
-    EXPECT_TRUE(read("org.example.plotto.metainfo.xml").contains(screens::summary()))
-        << screens::summary().toStdString();
-    const QString manual = read("plotto.6");
-    EXPECT_TRUE(manual.contains(
-        QStringLiteral("opens %1 demonstration screens").arg(screens::countInWords(int(screens::all().size())))));
-    for (const screens::Entry& row : screens::all())
-        EXPECT_TRUE(manual.contains(
-            QStringLiteral(".TP .B ") +
-            QString::fromUtf8(row.button).remove(QLatin1Char('&')).replace(QLatin1Char('-'), QStringLiteral("\\-"))))
-            << row.key;
-    // The added menu's Alt letter opens it alone: no menu or button of the window shares it (the
-    // classic launcher's own letters, two of which it shares, stay as they are).
+    // The added menu's Alt letter opens it alone: no button of the window shares it (the menus' letters
+    // are told apart in every language by the translations' test).
     const QKeySequence more = QKeySequence::mnemonic(l.mnuMore->text());
     ASSERT_FALSE(more.isEmpty());
-    QStringList sharing;
-    for (QAction* menu : l.menuBar->actions())
-        if (QKeySequence::mnemonic(menu->text()) == more)
-            sharing << menu->text();
     for (QPushButton* b : l.findChildren<QPushButton*>())
-        if (QKeySequence::mnemonic(b->text()) == more)
-            sharing << b->text();
-    EXPECT_EQ(sharing, QStringList{l.mnuMore->text()});
+        EXPECT_NE(QKeySequence::mnemonic(b->text()), more) << b->text().toStdString();
     EXPECT_TRUE(script.errors.empty());
 }
 

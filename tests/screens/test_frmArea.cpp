@@ -12,8 +12,6 @@
 #include <cmath>
 #include <numbers>
 
-#include <QTemporaryDir>
-
 #include "ScreenFixture.h"
 
 namespace {
@@ -99,8 +97,6 @@ TEST(AreaBetween, GapsAreFoundWithTheirEnds)
         std::vector<AreaBetween::Gap> gaps;
         std::optional<double> jump;
     } rows[] = {
-        {"1/x on [-1, 1]", "1/x", "0", -1, 1, {{0, 0, 0}}, {}},
-        {"sqrt x on [-1, 1], as g", "x", "sqrt(x)", -1, 1, {{1, -1, 0}}, {}},
         {"ln on [-2, 3]: from -2 to 0", "x^2", "ln(x)", -2, 3, {{1, -2, 0}}, {}},
         {"0/0 at a only", "x/x", "0", 0, 1, {{0, 0, 0}}, {}},
         {"0/0 at b only, as g", "1", "(x - 1)/(x - 1)", 0, 1, {{1, 1, 1}}, {}},
@@ -115,10 +111,7 @@ TEST(AreaBetween, GapsAreFoundWithTheirEnds)
             EXPECT_NEAR(r.gaps[k].from, row.gaps[k].from, 1e-12) << row.name;
             EXPECT_NEAR(r.gaps[k].to, row.gaps[k].to, 1e-12) << row.name;
         }
-        EXPECT_EQ(r.jumpNear.has_value(), row.jump.has_value()) << row.name;
-        if (r.jumpNear && row.jump) {
-            EXPECT_NEAR(*r.jumpNear, *row.jump, 1e-3) << row.name;
-        }
+        EXPECT_NEAR(r.jumpNear.value_or(-9), row.jump.value_or(-9), 1e-3) << row.name;  // -9: none, outside [a, b]
     }
 }
 
@@ -144,27 +137,24 @@ frmArea& find(frmArea& s, const char* f, const char* gab)
 TEST_F(Area, SumsAndAreasThroughTheBoxes)
 {
     run({
-        {"signed / unsigned, n = 2",
+        {"signed / unsigned, n = 2; n odd: Simpson refuses, a step and a doubling",
          [](auto& s) {
              s.txtStrips->setText(QStringLiteral("2"));
              s.cmdCrossings->click();
-             return cells(s.grdAreas, 0, 0, 1, 2) + '/' + column(s, 1) + '/' + column(s, 2);
-         },
-         "Signed: f - g|Unsigned: |f - g|/"
-         "4.375|4.375|-3.4375|4.375|-0.8333333333|-0.8333333333/15.625|15.625|3.4375|15.625|14.16666667|8.166666667"},
-        {"crossings listed", [](auto& s) { return find(s, "", nullptr).lblCrossings->text(); },
-         "Crossings in [a, b]:\nx = -1 (f = g at a scanned point)\nx = 2 (f = g at a scanned point)"},
-        {"n odd: Simpson refuses, a step and a doubling",
-         [](auto& s) {
+             const QString two = cells(s.grdAreas, 0, 0, 1, 2) + '/' + column(s, 1) + '/' + column(s, 2);
              s.txtStrips->setText(QStringLiteral("3"));
              s.cmdCrossings->click();
              const QString odd = s.grdAreas->cell(5, 1);
              press(s.lblStrips, Qt::RightButton);
              s.cmdDouble->click();
              press(s.lblLeft, Qt::LeftButton);
-             return odd + '|' + texts({s.txtStrips, s.txtLeft}) + '|' + s.grdAreas->cell(0, 0);
+             return two + '/' + odd + '|' + texts({s.txtStrips, s.txtLeft}) + '|' + s.grdAreas->cell(0, 0);
          },
+         "Signed: f - g|Unsigned: |f - g|/"
+         "4.375|4.375|-3.4375|4.375|-0.8333333333|-0.8333333333/15.625|15.625|3.4375|15.625|14.16666667|8.166666667/"
          "n odd|4|-1|Rule (n = 4)"},
+        {"crossings listed", [](auto& s) { return find(s, "", nullptr).lblCrossings->text(); },
+         "Crossings in [a, b]:\nx = -1 (f = g at a scanned point)\nx = 2 (f = g at a scanned point)"},
         {"a gap of f",
          [](auto& s) {
              find(s, "1/x", "0|-1|1");
@@ -223,10 +213,7 @@ TEST_F(Area, ALessonStepBringsBackTheBoxesAndTheResults)
     lesson::Lesson saved;
     saved.steps.push_back(lesson::capture(*screen));
     saved.steps.back().actions = {{QStringLiteral("cmdCrossings"), 1, {}}};
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("area.plotto"));
-    ASSERT_EQ(lesson::save(saved, path), QString());
-    const lesson::Read read = lesson::load(path);
+    const lesson::Read read = lesson::fromJson(lesson::toJson(saved));  // as a lesson file holds it
     ASSERT_TRUE(read.lesson) << read.error.toStdString();
     frmArea fresh;
     fresh.Form_Activate();
@@ -235,8 +222,7 @@ TEST_F(Area, ALessonStepBringsBackTheBoxesAndTheResults)
     screen->cmdCrossings->click();
     EXPECT_EQ(texts({fresh.txtG, fresh.txtLeft, fresh.txtRight, fresh.txtStrips, fresh.lblCrossings}),
               "cos(x)|0|3|6|Crossings in [a, b]:\nx = 0.7853981634 (sign change, TOMS 748)");
-    for (int c = 1; c <= 2; ++c)
-        EXPECT_EQ(column(fresh, c), column(*screen, c));
+    EXPECT_EQ(cells(fresh.grdAreas, 1, 6, 1, 2), cells(screen->grdAreas, 1, 6, 1, 2));
     // sin - cos on [0, 3]: [-cos x - sin x] from 0 to 3 = 1 - cos 3 - sin 3, worked out apart from the screen.
     EXPECT_NEAR(fresh.grdAreas->cell(6, 1).toDouble(), 1 - std::cos(3.0) - std::sin(3.0), 1e-9);
 }

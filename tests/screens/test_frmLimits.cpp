@@ -26,21 +26,15 @@ QString column(frmLimits& s, int c) { return cells(s.grdHalvings, 1, s.rows(), c
 TEST_F(Limits, LimitsDeltasAndWordsThroughTheControls)
 {
     run({
-        {"2x + 3 at 1: Find L, then delta for eps = 0.5",
+        {"2x + 3 at 1: Find L, then delta for eps = 0.5, then halving: delta/eps stays 1/2",
          [](auto& s) {
              setUp(s, "2*x + 3", "1", "0").cmdFindL->click();
              s.cmdFindDelta->click();
-             return s.txtLimit->text() + '|' + row(s, 1);
-         },
-         "5|0.5|0.25|0.5"},
-        {"halving: delta/eps stays 1/2",
-         [](auto& s) {
-             setUp(s, "2*x + 3", "1", "5").cmdFindDelta->click();
              for (int i = 0; i < 3; ++i)
                  s.cmdHalve->click();
-             return column(s, 0) + '/' + column(s, 2);
+             return s.txtLimit->text() + '|' + column(s, 0) + '/' + column(s, 1) + '/' + column(s, 2);
          },
-         "0.5|0.25|0.125|0.0625/0.5|0.5|0.5|0.5"},
+         "5|0.5|0.25|0.125|0.0625/0.25|0.125|0.0625|0.03125/0.5|0.5|0.5|0.5"},
         // x^2 at 1, L = 1: (1 + t)^2 = 1.5 at t = sqrt(1.5) - 1 = 0.22474487139..., before
         // (1 - t)^2 = 0.5 at 0.29289...
         {"the default family, x^2",
@@ -49,17 +43,16 @@ TEST_F(Limits, LimitsDeltasAndWordsThroughTheControls)
              return row(s, 1, 0, 1) + '|' + s.lblResult->text();
          },
          "0.5|0.2247448714|ε = 0.5   δ = 0.2247448714   leaves at x = 1.224744871"},
-        {"a jump: Find L says the sides differ and leaves L",
+        {"a jump: Find L says the sides differ and leaves L; no delta for L = 0",
          [](auto& s) {
              setUp(s, "x/abs(x)", "0", "7").cmdFindL->click();
-             return s.txtLimit->text() + '|' + s.lblStatus->text();
+             const QString found = s.txtLimit->text() + '|' + s.lblStatus->text();
+             s.txtLimit->setText(QStringLiteral("0"));
+             s.cmdFindDelta->click();
+             return found + '/' + row(s, 1, 0, 3) + '|' + s.lblResult->text() + '|' +
+                    s.lblStatus->text().section(':', 0, 0);
          },
-         "7|The left side tends to -1 and the right side to 1: no limit at a = 0."},
-        {"a jump: no delta for L = 0",
-         [](auto& s) {
-             setUp(s, "x/abs(x)", "0", "0").cmdFindDelta->click();
-             return row(s, 1, 0, 3) + '|' + s.lblResult->text() + '|' + s.lblStatus->text().section(':', 0, 0);
-         },
+         "7|The left side tends to -1 and the right side to 1: no limit at a = 0./"
          "0.5|none|--|near a|ε = 0.5   no δ|For ε = 0.5 no δ works"},
         {"the eps label: right doubles, left halves, each a row",
          [](auto& s) {
@@ -69,21 +62,16 @@ TEST_F(Limits, LimitsDeltasAndWordsThroughTheControls)
              return column(s, 0) + '/' + column(s, 1);
          },
          "1|0.5|0.25/0.5|0.25|0.125"},
-        {"a new a starts a new table",
+        {"a new a starts a new table, a new function clears it and its result",
          [](auto& s) {
              setUp(s, "2*x + 3", "1", "5").cmdFindDelta->click();
              s.cmdHalve->click();
              press(s.lblPoint, Qt::LeftButton);  // a = 2, L still 5: the graph is at 7
-             return s.txtPoint->text() + '|' + QString::number(s.rows()) + '|' + row(s, 1, 0, 1);
-         },
-         "2|1|0.25|none"},
-        {"a new function clears the table and its result",
-         [](auto& s) {
-             setUp(s, "2*x + 3", "1", "5").cmdFindDelta->click();
+             const QString newA = s.txtPoint->text() + '|' + QString::number(s.rows()) + '|' + row(s, 1, 0, 1);
              setFunction(s, "x^2");
-             return QString::number(s.rows()) + '|' + row(s, 1) + '|' + s.lblResult->text();
+             return newA + '/' + QString::number(s.rows()) + '|' + row(s, 1) + '|' + s.lblResult->text();
          },
-         "0||||"},
+         "2|1|0.25|none/0||||"},
         {"a outside the window is said, and no row is added",
          [](auto& s) {
              setUp(s, "2*x + 3", "30", "63").cmdFindDelta->click();
@@ -106,8 +94,7 @@ TEST_F(Limits, TheHoleTheDotAndTheBandsAreDrawn)
     };
     const QRgb blue = colour(1);
     // sin(x)/x is undefined at 0: an open circle at (0, 1), no dot.
-    setUp(*screen, "sin(x)/x", "0", "0");
-    screen->cmdFindL->click();
+    setUp(*screen, "sin(x)/x", "0", "0").cmdFindL->click();
     EXPECT_EQ(screen->txtLimit->text(), QStringLiteral("1"));
     screen->cmdFindDelta->click();
     EXPECT_EQ(circles(0, 1, blue), std::vector<double>{60});
@@ -134,10 +121,9 @@ TEST_F(Limits, TheHoleTheDotAndTheBandsAreDrawn)
         << readout.toStdString();
     // x^2 at 1 with L = 2: the dot at (1, 1), filled, and the circle at (1, 2).
     screen->CleanGraph();
-    setUp(*screen, "#1", "1", "2");
-    screen->cmdPlotto->click();
-    EXPECT_EQ(circles(1, 1, blue), (std::vector<double>{15, 30, 45, 60}));
-    EXPECT_EQ(circles(1, 2, blue), std::vector<double>{60});
+    setUp(*screen, "#1", "1", "2").cmdPlotto->click();
+    EXPECT_EQ(std::pair(circles(1, 1, blue), circles(1, 2, blue)),
+              std::pair(std::vector<double>{15, 30, 45, 60}, std::vector<double>{60}));
     expectDescribed("Limits by ε and δ of y = A * (Bx - C)^2 + D", {screen->lblStatus});
 }
 

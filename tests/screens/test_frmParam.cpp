@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parametric screen through its widgets: the plot as points and as lines, the step limit and the
 // slider's arithmetic, the trace, Zoom Out and the function labels.
-#include "screens/frmParam.h"
 
 #include "ScreenFixture.h"
 
@@ -11,11 +10,7 @@ TEST_F(Param, SeparatePointsOrConnectedLinesThatTestOnlyTheNewPoint)
 {
     screen->cmdPlotto->click();  // x = 4 sin 3t, y = 3 cos 2t in red: x family 4 mod 7
     EXPECT_TRUE(hasPoint(5600, 3300 - 3 * 320, colour(4)));  // t = 0: (0, 3)
-    EXPECT_EQ(std::tuple(count(DrawOp::PSet), count(DrawOp::Line)), std::tuple(1001, 44));
-    for (const DrawOp& op : ops())
-        if (op.kind == DrawOp::PSet) {
-            ASSERT_EQ(op.color, colour(4));
-        }
+    EXPECT_EQ(std::tuple(count(DrawOp::PSet), inColour(4), count(DrawOp::Line)), std::tuple(1001, 1001, 44));
     screen->cmdClean_Click();
     screen->optCont->setChecked(true);
     screen->txtXmin->setText(QStringLiteral("0"));  // the left half of the figure lies outside

@@ -63,9 +63,8 @@ TEST_F(Tangent, SecantsAndTheirLabels)
 TEST_F(Tangent, WhatIsDrawn)
 {
     screen->cmdApply->click();
-    EXPECT_TRUE(hasLine(5920, 2980, 6240, 2020));  // the chord
-    // y = 3x - 2 leaves through the top at x = 4 and through the bottom at x = -8/3.
-    EXPECT_TRUE(hasLine(6880, 100, 5600 - 8.0 / 3 * 320, 6500));
+    // The chord, and y = 3x - 2 leaving through the top at x = 4 and through the bottom at x = -8/3.
+    EXPECT_TRUE(hasLine(5920, 2980, 6240, 2020) && hasLine(6880, 100, 5600 - 8.0 / 3 * 320, 6500));
     EXPECT_EQ(linesIn(colour(4)), 2);
     expectDescribed("Secant through ( 1, 1) to ( 2, 4): y = 3x + -2.", {screen->lblPoints, screen->lblTLine});
     screen->cmdHalfDx->click();  // draws nothing

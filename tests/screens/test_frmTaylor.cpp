@@ -28,28 +28,24 @@ QString termsAndStatus(frmTaylor& s, int rows) { return column(s, 1, rows) + '|'
 TEST_F(Taylor, TermsAndWordsThroughTheButtons)
 {
     run({
-        {"sin (family 5) at 0, then a term removed",
+        {"sin (family 5) at 0, then terms removed, never below degree 0",
          [](auto& s) {
              const QString six = termsAndDegree(build(s, "#5", "0", 6), 7);
              s.cmdRemoveTerm->click();
-             return six + '/' + termsAndDegree(s, 6);
+             const QString five = termsAndDegree(s, 6);
+             for (int i = 0; i < 5; ++i)
+                 s.cmdRemoveTerm->click();
+             return six + '/' + five + '/' + s.lblDegree->text();
          },
-         "0|x|0|-x^3/6|0|x^5/120||Degree: 5/0|x|0|-x^3/6|0||Degree: 4"},
-        {"never below 0",
+         "0|x|0|-x^3/6|0|x^5/120||Degree: 5/0|x|0|-x^3/6|0||Degree: 4/Degree: 0"},
+        {"ln at 0, then stepped to 1",
          [](auto& s) {
-             build(s, "#5", "0", 1).cmdRemoveTerm->click();
-             return s.lblDegree->text();
+             const QString at0 = termsAndStatus(build(s, "ln(x)", "0", 3), 3);
+             press(s.lblCentre, Qt::LeftButton);
+             return at0 + '/' + column(s, 1, 3) + '|' + s.txtCentre->text();
          },
-         "Degree: 0"},
-        {"exp at 0", [](auto& s) { return column(build(s, "e^x", "0", 4), 1, 4); }, "1|x|x^2/2|x^3/6"},
-        {"ln at 1, stepped from 0",
-         [](auto& s) {
-             press(build(s, "ln(x)", "0", 3).lblCentre, Qt::LeftButton);
-             return column(s, 1, 3) + '|' + s.txtCentre->text();
-         },
-         "0|(x - 1)|-(x - 1)^2/2|1"},
-        {"ln at 0", [](auto& s) { return termsAndStatus(build(s, "ln(x)", "0", 2), 2); },
-         "f(a) does not exist|f(a) does not exist|No Taylor polynomial of degree 1 about a = 0: f(a) does not exist."},
+         "f(a) does not exist|f(a) does not exist|f(a) does not exist|No Taylor polynomial of degree 2 about a = 0: "
+         "f(a) does not exist./0|(x - 1)|-(x - 1)^2/2|1"},
         {"a coefficient's last digit is another series",
          [](auto& s) {
              build(s, "#2", "0", 0).txtC->setText(QStringLiteral("1"));
@@ -59,7 +55,6 @@ TEST_F(Taylor, TermsAndWordsThroughTheButtons)
              return column(s, 1, 1);
          },
          "10000001/10000000"},
-        {"sqrt at 0", [](auto& s) { return column(build(s, "sqrt(x)", "0", 2), 1, 2); }, "0|f^(1)(a) does not exist"},
         {"a refused family",
          [](auto& s) {
              type({build(s, "#10", "0", 1).txtB, s.txtC}, "0|0");
@@ -99,9 +94,7 @@ TEST_F(Taylor, ValuesAtXAgainstTheSeriesWrittenOut)
 TEST_F(Taylor, WhatIsDrawnAndNothingRaises)
 {
     build(*screen, "#5", "0", 4);  // sin x: P_3 = x - x^3/6 within 0.1 of sin x on about |x| < 1.4
-    EXPECT_GT(inColour(4), 100);  // P_3, in red
-    EXPECT_GT(inColour(1), 100);  // sin x, in blue
-    EXPECT_GT(inColour(12), 100);  // P_2, faint
+    EXPECT_GT(std::min({inColour(4), inColour(1), inColour(12)}), 100);  // P_3 in red, sin x in blue, P_2 faint
     EXPECT_GT(inColour(10), 0);  // the band
     EXPECT_TRUE(screen->everyDrawingKept());
     screen->CleanGraph();
@@ -155,6 +148,5 @@ TEST_F(Taylor, ClassicErrorsOfItsSharedControlsAreToldInWords)
     screen->txtXmin->setText(QStringLiteral("1e400"));
     const std::size_t shown = script.shown.size();
     screen->activate();
-    EXPECT_TRUE(script.errors.empty());
-    EXPECT_EQ(script.shown.size(), shown + 1);
+    EXPECT_EQ(std::pair(script.errors.empty(), script.shown.size()), std::pair(true, shown + 1));
 }

@@ -41,7 +41,8 @@ struct Projector : ScreenFixture<frmMVT> {
         DrawingSurface::setProjectorMode(false);
         ScreenFixture::TearDown();
     }
-    // The MVT screen's parabola, secant with its two circles, and the tangent at c.
+    // The MVT screen's parabola, secant with its two circles, and the tangent at c, in dark colours,
+    // with a line in light yellow, which a projector washes out.
     void draw()
     {
         screen->mnuFunc_Click(2);
@@ -50,6 +51,7 @@ struct Projector : ScreenFixture<frmMVT> {
         type({screen->txtX1, screen->txtX2}, "0|2");
         screen->cmdApplyMVT_Click();
         screen->HscMVT->setValue(5000);
+        screen->surface->Line(2500, 6000, 8700, 6000, colour(14));
     }
 };
 

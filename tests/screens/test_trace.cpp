@@ -43,7 +43,7 @@ double energy(const std::vector<float>& s, std::size_t fromFrame, std::size_t to
 
 }  // namespace
 
-TEST_F(TraceGrapher, WalkingAlongXSquaredSaysEachStep)
+TEST_F(TraceGrapher, WalkingAlongXSquaredSaysEachStepToThePixel)
 {
     screen->cmdPlotto->click();  // y = A(Bx - C)^2 + D with 1, 1, 0, 0: y = x^2
     const std::vector<audio::Point> points = screen->tracePoints();
@@ -69,13 +69,8 @@ TEST_F(TraceGrapher, WalkingAlongXSquaredSaysEachStep)
     EXPECT_NEAR(screen->surface->marker()->y(), 100, 1e-9) << "marked at the window's top";
     EXPECT_EQ(press(Qt::Key_End), QStringLiteral("x = 10, y = 100, above the window"));
     EXPECT_EQ(press(Qt::Key_Right), QStringLiteral("x = 10, y = 100, above the window")) << "it stops at the edge";
-    EXPECT_TRUE(script.errors.empty());
-}
-
-TEST_F(TraceGrapher, SaysAsManyDecimalsAsAPixelOfTheWindowTellsApart)
-{
-    screen->cmdPlotto->click();
-    const double columns = static_cast<double>(screen->tracePoints().size());
+    // As many decimals as a pixel of the window tells apart.
+    const double columns = static_cast<double>(points.size());
     const std::string edge = std::to_string(0.1 * (columns - 1.5));  // a pixel just under 0.1 wide and high
     type({screen->txtD, screen->txtXmin, screen->txtXmax, screen->txtYmin, screen->txtYmax},
          ("0.123|0|" + edge + "|0|" + edge).c_str());
@@ -83,6 +78,7 @@ TEST_F(TraceGrapher, SaysAsManyDecimalsAsAPixelOfTheWindowTellsApart)
     EXPECT_EQ(press(Qt::Key_Home), QStringLiteral("x = 0, y = 0.12"));
     EXPECT_TRUE(press(Qt::Key_End).contains(QRegularExpression(QStringLiteral("^x = \\d+\\.\\d5, "))))
         << screen->announcement().toStdString();  // the window's right edge, n.n5
+    EXPECT_TRUE(script.errors.empty());
 }
 
 TEST_F(TraceGrapher, UpAndDownChooseAmongTheCurvesDrawnAndAClearForgetsThem)
@@ -90,8 +86,7 @@ TEST_F(TraceGrapher, UpAndDownChooseAmongTheCurvesDrawnAndAClearForgetsThem)
     screen->cmdPlotto->click();
     screen->txtA->setText(QStringLiteral("2"));
     screen->cmdPlotto->click();
-    press(Qt::Key_Home);
-    EXPECT_EQ(screen->announcement(), QStringLiteral("x = -10, y = 200, above the window")) << "the last drawn";
+    EXPECT_EQ(press(Qt::Key_Home), QStringLiteral("x = -10, y = 200, above the window")) << "the last drawn";
     const QString first = press(Qt::Key_Up);
     EXPECT_TRUE(first.startsWith(QStringLiteral("Curve 1 of 2: y = A * (Bx - C)^2 + D with A = 1")))
         << first.toStdString();
@@ -100,9 +95,7 @@ TEST_F(TraceGrapher, UpAndDownChooseAmongTheCurvesDrawnAndAClearForgetsThem)
     EXPECT_TRUE(press(Qt::Key_Down).startsWith(QStringLiteral("Curve 1 of 2"))) << "round again";
 
     screen->cmdClean->click();
-    EXPECT_EQ(screen->announcement(), QString());
-    EXPECT_TRUE(screen->tracePoints().empty());
-    EXPECT_TRUE(screen->traceSamples().empty());
+    EXPECT_TRUE(screen->announcement().isEmpty() && screen->tracePoints().empty() && screen->traceSamples().empty());
     EXPECT_EQ(press(Qt::Key_Right), QStringLiteral("Nothing is drawn to walk along yet."));
     screen->cmdPlotto->click();  // drawn again after the clear: the walk goes on step by step
     const double x1 = coordinates(press(Qt::Key_Right)).first, x2 = coordinates(press(Qt::Key_Right)).first;
@@ -120,9 +113,7 @@ TEST_F(TraceGrapher, ATypedLogarithmIsSilentWhereItIsUndefined)
         EXPECT_EQ(std::isnan(p.y), p.x <= 0) << p.x;
     const std::vector<float> s = screen->traceSamples();
     const std::size_t frames = s.size() / 2;
-    ASSERT_EQ(frames, static_cast<std::size_t>(GraphScreen::kTraceSeconds * GraphScreen::kTraceRate));
-    EXPECT_EQ(energy(s, 0, frames / 2 - 200), 0.0);
-    EXPECT_GT(energy(s, frames / 2 + 200, frames), 0.0);
+    EXPECT_TRUE(energy(s, 0, frames / 2 - 200) == 0 && energy(s, frames / 2 + 200, frames) > 0);  // x <= 0 silent
     EXPECT_EQ(press(Qt::Key_Home), QStringLiteral("x = -10, y = undefined"));
     EXPECT_TRUE(screen->surface->marker()) << "a gap is still marked, on the x-axis";
     EXPECT_EQ(press(Qt::Key_N), QStringLiteral("Root at x = 1, y = 0"));
@@ -155,18 +146,15 @@ TEST_F(TraceField, TheCurveLastStartedAndShiftWithTheArrows)
     screen->Form_MouseDown(1, 0, 2400 + 3200 + 640, 3300 - 640);  // from (2, 2)
     const std::vector<audio::Point> points = screen->tracePoints();
     ASSERT_GE(points.size(), 10u);
-    EXPECT_NEAR(points.front().x, 2, 1e-9);
-    EXPECT_NEAR(points.front().y, 2, 1e-9);
+    EXPECT_LT(std::hypot(points.front().x - 2, points.front().y - 2), 1e-9);
     // The plain arrows stay the cross-hair's; with Shift they walk along the curve.
     EXPECT_FALSE(screen->exploreKey(Qt::Key_Right, Qt::NoModifier));
-    EXPECT_TRUE(screen->exploreKey(Qt::Key_Right, Qt::ShiftModifier));
     EXPECT_EQ(press(Qt::Key_Home), QStringLiteral("x = 2, y = 2"));
     EXPECT_TRUE(press(Qt::Key_Right, Qt::ShiftModifier).startsWith(QStringLiteral("x = "))) << "one step on";
     // A curve followed backwards is walked from its other end, so that it plays as it lies.
     screen->Form_MouseDown(2, 0, 2400 + 3200 + 640, 3300 - 640);  // from (2, 2)
     const std::vector<audio::Point> back = screen->tracePoints();
     ASSERT_GE(back.size(), 2u);
-    EXPECT_NEAR(back.back().x, 2, 1e-9);
-    EXPECT_NEAR(back.back().y, 2, 1e-9);
+    EXPECT_LT(std::hypot(back.back().x - 2, back.back().y - 2), 1e-9);
     EXPECT_TRUE(back.front().x != 2 || back.front().y != 2);
 }
