@@ -26,8 +26,8 @@ struct TypedFunctionRow {
     // The function written with GiNaC's own functions, whose derivatives GiNaC knows ("1/tan(a)")...
     GiNaC::ex (*symbolic)(const GiNaC::ex& a) = nullptr;
     // ...or, for a function GiNaC does not have (or whose derivative GiNaC writes at too great a cost),
-    // its derivative f'(a), given a and the row's own f(a): GiNaC is then given a function of this
-    // row's name with this rule (and the chain rule does the rest), and, where `ofNumber` is given,
+    // its derivative f'(a), given a and the row's own f(a): GiNaC is then given a function of its own
+    // for the row, with this rule (and the chain rule does the rest), and, where `ofNumber` is given,
     // the exact value of a number (abs(-3) is 3, so 0*abs(0)^(-1) is still a division by 0).
     GiNaC::ex (*derivative)(const GiNaC::ex& a, const GiNaC::ex& fa) = nullptr;
     GiNaC::ex (*ofNumber)(const GiNaC::ex& number) = nullptr;
